@@ -1,0 +1,23 @@
+#include <benchmark/benchmark.h>
+
+#include "numeric/draws.h"
+#include "topics/basics/brok_exercise.h"
+
+namespace tavrune {
+namespace {
+
+/// One exercise with its solution, drawn as the program draws it: reseeded from the clock.
+template <class State>
+void Generator(benchmark::State& bench) {
+    ClockDraws draws;
+    State state;
+    for (auto _ : bench) {
+        newExercise(state, draws);
+        benchmark::DoNotOptimize(state);
+    }
+    bench.SetItemsProcessed(bench.iterations());
+}
+BENCHMARK(Generator<BrokState>)->Name("Generator/Brok");
+
+}  // namespace
+}  // namespace tavrune

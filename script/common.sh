@@ -1,0 +1,54 @@
+# Shared by the scripts beside it; sourced, not run.
+
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+say() { printf '%s\n' "$*"; }
+
+fail() {
+    printf '%s\n' "$*" >&2
+    exit 1
+}
+
+# Installs those of the named Debian packages that are missing, and says which. Never asks.
+need() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    command -v apt-get >/dev/null || fail "These packages are missing, and there is no apt-get to install them: ${missing[*]}"
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || fail "These packages are missing, and only root or sudo can install them: ${missing[*]}"
+        as_root=(sudo)
+    fi
+    say "Installing: ${missing[*]}"
+    local log
+    log=$(mktemp)
+    if ! { "${as_root[@]}" apt-get update -qq &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"; } \
+        >"$log" 2>&1 </dev/null; then
+        tail -n 20 "$log" >&2
+        fail "These packages could not be installed: ${missing[*]}"
+    fi
+    rm -f "$log"
+}
+
+need_build() { need g++ cmake ninja-build qt6-base-dev fonts-liberation; }
+need_tests() { need libgtest-dev libgmock-dev librapidcheck-dev; }
+need_style() { need clang clang-format clang-tidy; }
+need_tour() { need xvfb openbox xdotool imagemagick x11-utils; }
+need_bench() { need libbenchmark-dev; }
+
+# Configures once and builds what has changed.
+build() {
+    local preset=$1
+    shift
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"/tmp/tavrune-configure-$$.log" 2>&1 || {
+        cat "/tmp/tavrune-configure-$$.log" >&2
+        fail "The preset $preset could not be configured."
+    }
+    rm -f "/tmp/tavrune-configure-$$.log"
+    cmake --build --preset "$preset" "$@"
+}

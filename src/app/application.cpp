@@ -1,0 +1,41 @@
+#include "app/application.h"
+
+#include <QLocale>
+#include <QMessageBox>
+#include <QStyleFactory>
+
+#include "numeric/text.h"
+
+namespace tavrune {
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    setApplicationName("Tavrune");
+    // The one style that takes the colours of state from the palette on every desktop.
+    setStyle(QStyleFactory::create("Fusion"));
+    setDecimalMark(QLocale().decimalPoint().toStdString());
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const ArithmeticFailure& failure) {
+        endAfter(failure.kind());
+        return true;
+    }
+}
+
+void Application::endAfter(ArithmeticFailure::Kind kind) {
+    if (isEnding_) {
+        return;
+    }
+    isEnding_ = true;
+    auto* const box = new QMessageBox(QMessageBox::Critical, "Tavrune", QString::fromUtf8(messageFor(kind)),
+                                      QMessageBox::Ok);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->setWindowModality(Qt::ApplicationModal);
+    connect(box, &QMessageBox::finished, this, [] { exit(1); });
+    box->show();
+}
+
+}  // namespace tavrune

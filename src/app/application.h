@@ -1,0 +1,29 @@
+#pragma once
+
+#include <functional>
+
+#include <QApplication>
+
+#include "numeric/arithmetic.h"
+
+namespace tavrune {
+
+/// The application object: the looks that all pages stand on, the decimal mark of the user's locale, and the
+/// one place where a failure of the arithmetic ends up.
+class Application : public QApplication {
+    Q_OBJECT
+
+public:
+    Application(int& argc, char** argv);
+
+    /// Passes an event on. An ArithmeticFailure that comes back is told to the user; after the message the
+    /// program ends with exit status 1.
+    bool notify(QObject* receiver, QEvent* event) override;
+
+private:
+    void endAfter(ArithmeticFailure::Kind kind);
+
+    bool isEnding_ = false;
+};
+
+}  // namespace tavrune

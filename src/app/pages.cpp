@@ -1,0 +1,68 @@
+#include "app/pages.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "shell/how_to_use.h"
+#include "shell/opstart.h"
+#include "topics/basics/brok.h"
+
+namespace tavrune {
+namespace {
+
+struct Entry {
+    PageName name;
+    std::unique_ptr<Page> (*make)(Draws&);
+};
+
+template <class Form>
+std::unique_ptr<Page> form(Draws& draws) {
+    return std::make_unique<Form>(draws);
+}
+
+template <class Passive>
+std::unique_ptr<Page> passive(Draws& /*draws*/) {
+    return std::make_unique<Passive>();
+}
+
+std::unique_ptr<Page> startPage(Draws& /*draws*/) {
+    return std::make_unique<Opstart>(QGuiApplication::primaryScreen()->size());
+}
+
+// The one list of pages: the menu, the tests and the program go through it.
+constexpr std::array kPages{
+    Entry{PageName::Opstart, startPage},
+    Entry{PageName::Form1, passive<Form1>},
+    Entry{PageName::Form2, passive<Form2>},
+    Entry{PageName::Brok, form<Brok>},
+};
+
+const Entry* find(PageName name) {
+    const auto* const entry =
+        std::find_if(kPages.begin(), kPages.end(), [name](const Entry& e) { return e.name == name; });
+    return entry == kPages.end() ? nullptr : entry;
+}
+
+}  // namespace
+
+std::vector<PageName> builtPages() {
+    std::vector<PageName> names;
+    names.reserve(kPages.size());
+    for (const Entry& entry : kPages) {
+        names.push_back(entry.name);
+    }
+    return names;
+}
+
+bool isBuilt(PageName name) { return find(name) != nullptr; }
+
+std::unique_ptr<Page> makePage(PageName name, Draws& draws) {
+    std::unique_ptr<Page> page = find(name)->make(draws);
+    page->topicMenu().disableUnbuilt(isBuilt);
+    return page;
+}
+
+}  // namespace tavrune

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+
+#include <QObject>
+#include <QPointer>
+
+#include "numeric/draws.h"
+#include "shell/frm_about.h"
+#include "shell/page.h"
+
+namespace tavrune {
+
+/// What stands on the screen: one page at a time, and the about box beside it.
+class Program : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Program(Draws& draws);
+    ~Program() override;
+
+    /// Opens a page, maximised, and unloads the one before it. Precondition: the page is built.
+    void open(PageName name);
+
+    /// Opens the about box, or raises the one that is there.
+    void openAbout();
+
+    /// Null once the user has closed the page.
+    [[nodiscard]] Page* page() const { return page_; }
+    [[nodiscard]] FrmAbout* about() const { return about_; }
+
+signals:
+    /// "Luk" in any menu: everything is to disappear at once.
+    void closeChosen();
+
+private:
+    Draws& draws_;
+    QPointer<Page> page_;
+    QPointer<FrmAbout> about_;
+};
+
+}  // namespace tavrune

@@ -1,0 +1,60 @@
+#include "controls/answer_box.h"
+
+#include <limits>
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QPalette>
+
+#include "numeric/text.h"
+
+namespace tavrune {
+namespace {
+
+QString withPoints(QString typed) { return typed.replace(',', '.'); }
+
+}  // namespace
+
+AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent), Control(this) {
+    setMaxLength(std::numeric_limits<int>::max());
+    setFont(designFont());
+    setTextMargins(0, 0, 0, 0);
+    setPaletteColour(QPalette::Text, kBlack);
+    setBackColour(kWhite);
+}
+
+double AnswerBox::value() const { return Val(content()); }
+
+void AnswerBox::setContent(std::string_view content) {
+    setText(QString::fromUtf8(content.data(), static_cast<qsizetype>(content.size())));
+}
+
+void AnswerBox::setBackColour(const QColor& colour) { setPaletteColour(QPalette::Base, colour); }
+
+void AnswerBox::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        event->accept();
+        if (!event->isAutoRepeat()) {
+            emit enterPressed();
+        }
+        return;
+    }
+    if (event->text().contains(',')) {
+        QKeyEvent point(event->type(), Qt::Key_Period, event->modifiers(), withPoints(event->text()),
+                        event->isAutoRepeat(), static_cast<quint16>(event->count()));
+        QLineEdit::keyPressEvent(&point);
+        event->setAccepted(point.isAccepted());
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void AnswerBox::inputMethodEvent(QInputMethodEvent* event) {
+    QInputMethodEvent filtered(event->preeditString(), event->attributes());
+    filtered.setCommitString(withPoints(event->commitString()), event->replacementStart(),
+                             event->replacementLength());
+    QLineEdit::inputMethodEvent(&filtered);
+    event->setAccepted(filtered.isAccepted());
+}
+
+}  // namespace tavrune

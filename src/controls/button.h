@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include <QPushButton>
+
+#include "controls/control.h"
+
+namespace tavrune {
+
+/// A command button. Enter presses it when it has the focus, as Space does; a held Enter presses once.
+class Button : public QPushButton, public Control {
+    Q_OBJECT
+
+public:
+    explicit Button(QWidget* parent = nullptr);
+
+    [[nodiscard]] std::string caption() const { return text().toStdString(); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace tavrune

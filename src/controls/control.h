@@ -1,0 +1,80 @@
+#pragma once
+
+#include <optional>
+
+#include <QColor>
+#include <QRectF>
+#include <QWidget>
+
+namespace tavrune {
+
+/// Lengths on a page are given in twips, 1440 to the inch; 15 of them are one unit of the design.
+[[nodiscard]] constexpr double fromTwips(double twips) { return twips / 15; }
+
+inline const QColor kWhite(255, 255, 255);
+inline const QColor kRed(255, 0, 0);
+inline const QColor kBlack(0, 0, 0);
+
+/// The font of every text on a page, 11 units high: gaps in captions, into which numbers are laid, fit just
+/// this one.
+[[nodiscard]] QFont designFont();
+
+/// What everything on a page has in common: a place in units of the design, and a text style. The place on
+/// the screen is made from it in `setZoom` and in the setters, and nowhere else.
+///
+/// A control's place comes from its designer file; code that moves or sizes it does so through the setters.
+class Control {
+public:
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() = default;
+
+    /// Left, top, width and height in units, within the parent.
+    [[nodiscard]] QRectF place() const;
+    void setPlace(const QRectF& place);
+    void setLeft(double left);
+    void setTop(double top);
+    void setWidth(double width);
+    void setHeight(double height);
+
+    /// The control's own flag: true also where the panel around it is hidden.
+    [[nodiscard]] bool isShown() const { return !self_->isHidden(); }
+
+    /// Height of the text in units.
+    void setTextSize(double units);
+    void setBold(bool bold);
+    void setSerif(bool serif);
+    void setUnderlined(bool underlined);
+
+    /// 1 is one device-independent pixel for each unit.
+    void setZoom(double zoom);
+    [[nodiscard]] double zoom() const { return zoom_; }
+
+    [[nodiscard]] QWidget* widget() const { return self_; }
+
+protected:
+    explicit Control(QWidget* self) : self_(self) {}
+
+    /// The font as the design has it, before any zoom.
+    [[nodiscard]] QFont unzoomedFont() const;
+
+    /// Called after the font has changed.
+    virtual void fontHasChanged() {}
+
+    void setPaletteColour(QPalette::ColorRole role, const QColor& colour);
+
+private:
+    void applyPlace();
+    void applyFont();
+
+    QWidget* self_;
+    std::optional<QRectF> place_;
+    std::optional<QFont> font_;
+    double zoom_ = 1;
+};
+
+/// Gives the focus to a control that can have it; does nothing for one that is hidden or disabled. What the
+/// control holds is selected, so that typing replaces it.
+void focusOn(QWidget* widget);
+
+}  // namespace tavrune

@@ -1,0 +1,7 @@
+#include "controls/frame.h"
+
+namespace tavrune {
+
+Frame::Frame(QWidget* parent) : QGroupBox(parent), Control(this) { setFont(designFont()); }
+
+}  // namespace tavrune

@@ -1,0 +1,69 @@
+#include "controls/line_control.h"
+
+#include <QPainter>
+#include <QPalette>
+
+namespace tavrune {
+
+LineControl::LineControl(QWidget* parent) : QWidget(parent), Control(this) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::NoFocus);
+    setColour(kBlack);
+}
+
+void LineControl::setRising(bool rising) {
+    rising_ = rising;
+    update();
+}
+
+void LineControl::setEnds(const QLineF& ends) {
+    rising_ = (ends.dx() < 0) != (ends.dy() < 0) && ends.dy() != 0;
+    QRectF box = QRectF(ends.p1(), ends.p2()).normalized();
+    box.setWidth(qMax(box.width(), thickness_));
+    box.setHeight(qMax(box.height(), thickness_));
+    setPlace(box);
+    update();
+}
+
+QLineF LineControl::ends() const {
+    const QRectF box = place();
+    if (box.height() <= thickness_) {
+        return {box.topLeft(), box.topRight()};
+    }
+    if (box.width() <= thickness_) {
+        return {box.topLeft(), box.bottomLeft()};
+    }
+    return rising_ ? QLineF(box.bottomLeft(), box.topRight()) : QLineF(box.topLeft(), box.bottomRight());
+}
+
+void LineControl::setRightEnd(double x) {
+    QRectF box = place();
+    box.setRight(x);
+    setPlace(box);
+}
+
+void LineControl::setColour(const QColor& colour) { setPaletteColour(QPalette::WindowText, colour); }
+
+void LineControl::setThickness(double units) {
+    thickness_ = units;
+    update();
+}
+
+void LineControl::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const double width = thickness_ * zoom();
+    if (this->height() <= width + 0.5 || this->width() <= width + 0.5) {
+        painter.fillRect(rect(), colour());
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour(), width));
+    const QRectF inner = QRectF(rect()).adjusted(width / 2, width / 2, -width / 2, -width / 2);
+    if (rising_) {
+        painter.drawLine(inner.bottomLeft(), inner.topRight());
+    } else {
+        painter.drawLine(inner.topLeft(), inner.bottomRight());
+    }
+}
+
+}  // namespace tavrune

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cmath>
+#include <exception>
+
+namespace tavrune {
+
+/// A failure of the arithmetic that ends the program: nothing catches it but the application object, which
+/// tells the user and leaves with exit status 1.
+class ArithmeticFailure : public std::exception {
+public:
+    enum class Kind { DivisionByZero, Overflow, TypeMismatch };
+
+    explicit ArithmeticFailure(Kind kind) : kind_(kind) {}
+
+    [[nodiscard]] Kind kind() const { return kind_; }
+
+    /// English, for a debugger; the user is told in Danish by `messageFor`.
+    [[nodiscard]] const char* what() const noexcept override;
+
+private:
+    Kind kind_;
+};
+
+/// The Danish sentence that tells the user what happened, in UTF-8.
+[[nodiscard]] const char* messageFor(ArithmeticFailure::Kind kind);
+
+/// a / b in the kind of the operands. Throws ArithmeticFailure where b is 0: Overflow for 0/0, otherwise
+/// DivisionByZero.
+template <class Number>
+[[nodiscard]] Number Divide(Number a, Number b) {
+    if (b == Number{0}) {
+        throw ArithmeticFailure(a == Number{0} ? ArithmeticFailure::Kind::Overflow
+                                               : ArithmeticFailure::Kind::DivisionByZero);
+    }
+    return a / b;
+}
+
+/// The largest whole number not above x, in the kind of x. Int(-0.5) -> -1
+[[nodiscard]] inline float Int(float x) { return std::floor(x); }
+[[nodiscard]] inline double Int(double x) { return std::floor(x); }
+
+/// x with its fraction cut off, towards zero, in the kind of x. Fix(-5.9) -> -5
+/// The result may be a negative zero, which compares and prints as 0.
+[[nodiscard]] inline float Fix(float x) { return std::trunc(x); }
+[[nodiscard]] inline double Fix(double x) { return std::trunc(x); }
+
+/// True if `divisor` divides `x` without rest. Both are whole; x may be negative, divisor is not 0.
+[[nodiscard]] inline bool isDivisible(double x, double divisor) { return std::fmod(x, divisor) == 0; }
+
+}  // namespace tavrune

@@ -1,0 +1,166 @@
+#include "shell/exercise_form.h"
+
+#include <QTimer>
+
+namespace tavrune {
+namespace {
+
+constexpr std::string_view kRightCaption = "RIGTIGT";
+constexpr std::string_view kWrongCaption = "FORKERT";
+const QColor kRightOfOne(0, 130, 0);
+const QColor kRightOfTwo(0, 128, 0);
+const QColor kWrongAtStart(192, 0, 0);
+
+void styleVerdict(Label* label) {
+    label->setAlignment(Qt::AlignCenter);
+    label->setTextColour(kWhite);
+    label->hide();
+}
+
+}  // namespace
+
+void setShown(bool shown, std::initializer_list<QWidget*> widgets) {
+    for (QWidget* widget : widgets) {
+        widget->setVisible(shown);
+    }
+}
+
+void showAll(std::initializer_list<QWidget*> widgets) { setShown(true, widgets); }
+
+void hideAll(std::initializer_list<QWidget*> widgets) { setShown(false, widgets); }
+
+ExerciseForm::ExerciseForm(PageName name, Draws& draws) : Page(name), draws_(draws) {}
+
+void ExerciseForm::buttons(const Buttons& roles) {
+    buttons_ = roles;
+    roles.giveAnswer->hide();
+    onClick(roles.newExercise, &ExerciseForm::newExercise);
+    onClick(roles.ok, &ExerciseForm::judge);
+    onClick(roles.giveAnswer, &ExerciseForm::giveAnswer);
+    onClick(roles.help, &ExerciseForm::help);
+}
+
+void ExerciseForm::verdict(const OneLabel& label) {
+    oneLabel_ = label.label;
+    right_ = wrong_ = label.label;
+    styleVerdict(label.label);
+}
+
+void ExerciseForm::verdict(const TwoLabels& labels) {
+    right_ = labels.right;
+    wrong_ = labels.wrong;
+    styleVerdict(right_);
+    styleVerdict(wrong_);
+    right_->setCaption(kRightCaption);
+    right_->setBackColour(kRightOfTwo);
+    wrong_->setCaption(kWrongCaption);
+    wrong_->setBackColour(labels.darkUntilFirstTick ? kWrongAtStart : kRed);
+}
+
+void ExerciseForm::enterChain(std::initializer_list<AnswerBox*> boxes, LastBox last) {
+    for (const auto* box = boxes.begin(); box != boxes.end(); ++box) {
+        const auto* const next = box + 1;
+        enterGoes(*box, next == boxes.end() ? after(last) : std::vector<QWidget*>{*next});
+    }
+}
+
+void ExerciseForm::enterGoes(AnswerBox* box, std::vector<QWidget*> candidates) {
+    connect(box, &AnswerBox::enterPressed, this, [targets = std::move(candidates)] {
+        for (QWidget* target : targets) {
+            if (!target->isHidden()) {
+                focusOn(target);
+                return;
+            }
+        }
+    });
+}
+
+std::vector<QWidget*> ExerciseForm::after(LastBox last) const {
+    if (last == LastBox::OkOrStay) {
+        return {buttons_.ok};
+    }
+    return {buttons_.ok, buttons_.newExercise};
+}
+
+void ExerciseForm::firstTick() {
+    giveFinalWrongColour();
+    newExercise();
+}
+
+void ExerciseForm::clearBoxes(std::initializer_list<AnswerBox*> boxes) {
+    whiten(boxes);
+    for (AnswerBox* box : boxes) {
+        box->setContent("");
+    }
+}
+
+void ExerciseForm::whiten(std::initializer_list<AnswerBox*> boxes) {
+    for (AnswerBox* box : boxes) {
+        box->mark(false);
+    }
+}
+
+void ExerciseForm::showAsking() {
+    buttons_.ok->show();
+    buttons_.giveAnswer->hide();
+    hideVerdict();
+}
+
+void ExerciseForm::hideVerdict() { hideAll({right_, wrong_}); }
+
+void ExerciseForm::showRight() {
+    if (oneLabel_ != nullptr) {
+        oneLabel_->setBackColour(kRightOfOne);
+        oneLabel_->setCaption(kRightCaption);
+    }
+    right_->show();
+}
+
+void ExerciseForm::showWrong() {
+    if (oneLabel_ != nullptr) {
+        oneLabel_->setBackColour(kRed);
+        oneLabel_->setCaption(kWrongCaption);
+    }
+    wrong_->show();
+}
+
+void ExerciseForm::solved() {
+    showRight();
+    focusOn(buttons_.newExercise);
+    hideAll({buttons_.ok, buttons_.giveAnswer});
+}
+
+void ExerciseForm::failed() {
+    showWrong();
+    buttons_.giveAnswer->show();
+}
+
+void ExerciseForm::given() {
+    hideVerdict();
+    focusOn(buttons_.newExercise);
+    hideAll({buttons_.ok, buttons_.giveAnswer});
+}
+
+void ExerciseForm::giveFinalWrongColour() {
+    if (oneLabel_ == nullptr) {
+        wrong_->setBackColour(kRed);
+    }
+}
+
+void ExerciseForm::openPanel(QWidget* panel, QWidget* firstVis) {
+    panel->show();
+    focusOn(firstVis);
+}
+
+void ExerciseForm::showEvent(QShowEvent* event) {
+    Page::showEvent(event);
+    if (hasTicked_) {
+        return;
+    }
+    hasTicked_ = true;
+    loadStep();
+    // The first exercise sets the focus, and that needs a form on screen.
+    QTimer::singleShot(0, this, [this] { firstTick(); });
+}
+
+}  // namespace tavrune

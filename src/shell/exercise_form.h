@@ -1,0 +1,124 @@
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <string_view>
+#include <vector>
+
+#include "controls/answer_box.h"
+#include "controls/button.h"
+#include "controls/label.h"
+#include "numeric/draws.h"
+#include "shell/page.h"
+
+namespace tavrune {
+
+/// Shows, or hides, all of them.
+void showAll(std::initializer_list<QWidget*> widgets);
+void hideAll(std::initializer_list<QWidget*> widgets);
+void setShown(bool shown, std::initializer_list<QWidget*> widgets);
+
+/// One label that gets caption and colour at each judging.
+struct OneLabel {
+    Label* label;
+};
+
+/// Two labels at one place with fixed captions and colours, of which judging shows one.
+struct TwoLabels {
+    Label* right;
+    Label* wrong;
+    /// "FORKERT" starts in a darker red and gets its final one at the first tick.
+    bool darkUntilFirstTick = false;
+};
+
+/// What Enter does in the last box of a chain: "&OK" if it is shown; else nothing, or "&Ny opgave".
+enum class LastBox { OkOrStay, OkOrNewExercise };
+
+/// The life cycle that all exercise forms share. A form binds its controls to their roles in its
+/// constructor and says, in the hooks, what is particular to it.
+///
+///     Loaded --first tick--> Asking --judge--> Wrong or Solved; --give the answer--> Given
+///
+/// "&Ny opgave" leads from every state to Asking. Panels are open or closed beside all of this.
+class ExerciseForm : public Page {
+    Q_OBJECT
+
+public:
+    ExerciseForm(PageName name, Draws& draws);
+
+protected:
+    struct Buttons {
+        Button* newExercise;
+        Button* ok;
+        Button* giveAnswer;
+        Button* help;
+    };
+
+    // Bindings, for the constructor.
+    void buttons(const Buttons& roles);
+    void verdict(const OneLabel& label);
+    void verdict(const TwoLabels& labels);
+
+    /// Enter goes from each box to the next; from the last as `last` says.
+    void enterChain(std::initializer_list<AnswerBox*> boxes, LastBox last);
+
+    /// Enter goes from `box` to the first of `candidates` that is shown, or nowhere.
+    void enterGoes(AnswerBox* box, std::vector<QWidget*> candidates);
+
+    /// The targets of a last box.
+    [[nodiscard]] std::vector<QWidget*> after(LastBox last) const;
+
+    /// Runs `action` at each click on `button`.
+    template <class Form>
+    void onClick(QAbstractButton* button, void (Form::*action)()) {
+        connect(button, &QAbstractButton::clicked, this,
+                [this, action] { (static_cast<Form*>(this)->*action)(); });
+    }
+
+    // The hooks.
+    /// Before the form is on screen.
+    virtual void loadStep() {}
+    /// Once, as soon as the form is on screen. The base gives "FORKERT" its final colour, then the first
+    /// exercise.
+    virtual void firstTick();
+    virtual void newExercise() = 0;
+    virtual void judge() = 0;
+    virtual void giveAnswer() = 0;
+    virtual void help() = 0;
+
+    // Steps that the hooks are made of.
+    /// White and empty.
+    static void clearBoxes(std::initializer_list<AnswerBox*> boxes);
+    static void whiten(std::initializer_list<AnswerBox*> boxes);
+    /// "&OK" on, "&Giv svaret" off, no verdict.
+    void showAsking();
+    void hideVerdict();
+    /// "RIGTIGT" is shown; "FORKERT" is not hidden by it in a two-label form.
+    void showRight();
+    void showWrong();
+    /// Right: the verdict, no "&OK" and no "&Giv svaret", focus to "&Ny opgave".
+    void solved();
+    /// Wrong: the verdict, "&Giv svaret" shown, "&OK" stays. The focus is the form's.
+    void failed();
+    /// Given: no verdict, no "&OK" and no "&Giv svaret", focus to "&Ny opgave".
+    void given();
+    void giveFinalWrongColour();
+
+    /// Shows a panel and gives the focus to its first "Vis".
+    static void openPanel(QWidget* panel, QWidget* firstVis);
+
+    [[nodiscard]] Draws& draws() { return draws_; }
+    [[nodiscard]] const Buttons& roles() const { return buttons_; }
+
+    void showEvent(QShowEvent* event) override;
+
+private:
+    Draws& draws_;
+    Buttons buttons_{};
+    Label* oneLabel_ = nullptr;
+    Label* right_ = nullptr;
+    Label* wrong_ = nullptr;
+    bool hasTicked_ = false;
+};
+
+}  // namespace tavrune

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QWidget>
+
+namespace tavrune {
+
+/// The about box: a window of its own with no buttons, in the middle of the screen. It stays when the start
+/// page gives way to a topic, and the program lasts as long as it is open.
+class FrmAbout : public QWidget {
+    Q_OBJECT
+
+public:
+    FrmAbout();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+/// Where a box of `size` stands to have its middle in the middle of `screen`.
+[[nodiscard]] QPoint centredOn(const QRect& screen, QSize size);
+
+}  // namespace tavrune

@@ -1,0 +1,112 @@
+#include "shell/how_to_use.h"
+
+#include "shell/ui_form1.h"
+#include "shell/ui_form2.h"
+
+namespace tavrune {
+namespace {
+
+/// Lays out the running text of `Label9` with its gaps, and each bold word in its gap.
+class RunningText {
+public:
+    explicit RunningText(Label* text) : text_(text), metrics_(designFont()) {}
+
+    void add(const QString& words);
+    void addBold(Label* word);
+    void endParagraph();
+    void finish() { text_->setText(lines_.join('\n') + '\n' + line_); }
+
+private:
+    Label* text_;
+    QFontMetrics metrics_;
+    QStringList lines_;
+    QString line_;
+
+    [[nodiscard]] bool fits(const QString& line) const {
+        return metrics_.horizontalAdvance(line) <= text_->place().width();
+    }
+    /// From one line to the next, as a label sets them.
+    [[nodiscard]] double linePitch() const {
+        const auto height = [this](const QString& text) {
+            return metrics_.boundingRect(QRect(0, 0, 1000, 1000), Qt::AlignTop | Qt::TextWordWrap, text)
+                .height();
+        };
+        return (height("x\nx\nx\nx\nx\nx\nx\nx\nx\nx\nx") - height("x")) / 10.0;
+    }
+    void breakLine() {
+        lines_ << line_;
+        line_.clear();
+    }
+};
+
+void RunningText::add(const QString& words) {
+    const QStringList all = words.split(' ', Qt::SkipEmptyParts);
+    for (const QString& word : all) {
+        const QString separator = line_.isEmpty() || word.startsWith(',') || word.startsWith('.') ? "" : " ";
+        if (!fits(line_ + separator + word)) {
+            breakLine();
+            line_ = word;
+        } else {
+            line_ += separator + word;
+        }
+    }
+}
+
+void RunningText::addBold(Label* word) {
+    const QString blank = " ";
+    const double width = word->textWidth();
+    QString gap = line_.isEmpty() ? "" : blank;
+    const double room = text_->place().width();
+    if (metrics_.horizontalAdvance(line_ + gap) + width > room) {
+        breakLine();
+        gap.clear();
+    }
+    const double left = metrics_.horizontalAdvance(line_ + gap);
+    word->setLeft(text_->place().left() + left);
+    word->setTop(text_->place().top() + static_cast<double>(lines_.size()) * linePitch());
+    line_ += gap;
+    while (metrics_.horizontalAdvance(line_) < left + width) {
+        line_ += blank;
+    }
+}
+
+void RunningText::endParagraph() { breakLine(); }
+
+}  // namespace
+
+Form1::Form1() : Page(PageName::Form1) {
+    Ui::Form1 ui;
+    setUp(ui);
+
+    RunningText text(ui.Label9);
+    text.add(
+        "Programmet bliver ved med at stille nye opgaver inden for emnet, så længe det ønskes. "
+        "En ny opgave får man stillet ved at klikke på");
+    text.addBold(ui.Label8);
+    text.endParagraph();
+    text.add("Når svaret på opgaven er indtastet, altid med 2 decimalers nøjagtighed, klikkes på");
+    text.addBold(ui.Label6);
+    text.add(", hvorefter programmet fortæller, om svaret er rigtigt eller forkert.");
+    text.endParagraph();
+    text.add("Det er muligt at få det rigtige svar ved at klikke på");
+    text.addBold(ui.Label7);
+    text.endParagraph();
+    text.add("Det er også muligt at få hjælp til løsning af opgaven ved klik på");
+    text.addBold(ui.Label11);
+    text.add(
+        ". Hjælpefunktionen indeholder i de fleste tilfælde både en teoretisk fremgangsmåde og løsning af "
+        "det aktuelle eksempel.");
+    text.finish();
+
+    connect(ui.Command1, &Button::clicked, this, [this] { emit chosen(PageName::Form2); });
+    ui.Command1->setFocus();
+}
+
+Form2::Form2() : Page(PageName::Form2) {
+    Ui::Form2 ui;
+    setUp(ui);
+    connect(ui.Command2, &Button::clicked, this, [this] { emit chosen(PageName::Form1); });
+    ui.Command2->setFocus();
+}
+
+}  // namespace tavrune

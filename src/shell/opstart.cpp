@@ -1,0 +1,48 @@
+#include "shell/opstart.h"
+
+#include <QMenuBar>
+
+#include "controls/label.h"
+#include "shell/ui_opstart.h"
+
+namespace tavrune {
+namespace {
+
+const QSize kDesignScreen(640, 480);
+const QColor kBackColour(64, 64, 64);
+
+}  // namespace
+
+ScreenStretch stretchFor(QSize screen) {
+    const double x = static_cast<double>(screen.width()) / kDesignScreen.width();
+    const double y = static_cast<double>(screen.height()) / kDesignScreen.height();
+    const double text = x * (1.2 - 0.2 * x);
+    return {x, y, text > 0 ? text : 1};
+}
+
+Opstart::Opstart(QSize screen) : Page(PageName::Opstart), ui_(std::make_unique<Ui::Opstart>()) {
+    setUp(*ui_);
+
+    QMenu* const about = menuBar()->addMenu("&Om Tavrune");
+    about->setObjectName("Om");
+    connect(about->addAction("Om Tavrune"), &QAction::triggered, this, &Page::aboutChosen);
+
+    QPalette dark = design()->palette();
+    dark.setColor(QPalette::Window, kBackColour);
+    design()->setPalette(dark);
+    design()->setAutoFillBackground(true);
+
+    const ScreenStretch stretch = stretchFor(screen);
+    for (Label* label : design()->findChildren<Label*>(Qt::FindDirectChildrenOnly)) {
+        // The texts are dark; the face colour of buttons is what they stand out from.
+        label->setBackColour(palette().color(QPalette::Button));
+        const QRectF place = label->place();
+        label->setPlace({place.x() * stretch.x, place.y() * stretch.y, place.width() * stretch.x,
+                         place.height() * stretch.y});
+        label->setTextSize(label->font().pixelSize() * stretch.text);
+    }
+}
+
+Opstart::~Opstart() = default;
+
+}  // namespace tavrune

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+
+#include <QSize>
+
+#include "shell/page.h"
+
+namespace tavrune {
+
+namespace Ui {
+class Opstart;
+}
+
+/// How far the start page is stretched to fit a screen; it is designed for one of 640 by 480 units.
+struct ScreenStretch {
+    double x;
+    double y;
+    /// For the size of the texts. The formula passes its top at x = 3 and would reach 0 at x = 6; from there
+    /// on the design size stays.
+    double text;
+};
+
+/// `screen` in units. {800, 600} -> {1.25, 1.25, 1.1875}
+[[nodiscard]] ScreenStretch stretchFor(QSize screen);
+
+/// The start page: a greeting and the way into the topics.
+class Opstart : public Page {
+    Q_OBJECT
+
+public:
+    explicit Opstart(QSize screen);
+    ~Opstart() override;
+
+private:
+    std::unique_ptr<Ui::Opstart> ui_;
+};
+
+}  // namespace tavrune

@@ -1,0 +1,41 @@
+#include "shell/page.h"
+
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace tavrune {
+namespace {
+
+QString text(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+}  // namespace
+
+Page::Page(PageName name)
+    : name_(name),
+      design_(new QWidget(this)),
+      topicMenu_(*menuBar(), name,
+                 {.open = [this](PageName target) { emit chosen(target); },
+                  .close = [this] { emit closeChosen(); }}) {
+    setObjectName(text(textOf(name)));
+    setContextMenuPolicy(Qt::NoContextMenu);
+    design_->setFont(designFont());
+    setCentralWidget(design_);
+    setMinimumSize(qRound(kDesignWidth), qRound(kDesignHeight) + menuBar()->sizeHint().height());
+}
+
+void Page::designIsReady() { setWindowTitle(design_->windowTitle()); }
+
+void Page::tell(const QString& message) { tellOver(this, message); }
+
+void tellOver(QWidget* window, const QString& message) {
+    auto* const box = new QMessageBox(QMessageBox::NoIcon, "Tavrune", message, QMessageBox::Ok, window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->button(QMessageBox::Ok)->setText("OK");
+    box->open();
+}
+
+}  // namespace tavrune

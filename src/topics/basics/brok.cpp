@@ -1,0 +1,170 @@
+#include "topics/basics/brok.h"
+
+#include "controls/line_control.h"
+#include "controls/panel.h"
+#include "numeric/text.h"
+#include "topics/basics/ui_brok.h"
+
+namespace tavrune {
+namespace {
+
+constexpr double kFirstFraction = fromTwips(600);
+constexpr double kSecondFraction = fromTwips(2160);
+constexpr double kMiddleFraction = fromTwips(1080);
+constexpr double kGap = 4;
+
+/// Two numbers centred over each other, both as wide as the wider one.
+void stack(Label* top, const std::string& numerator, Label* bottom, const std::string& denominator,
+           double left) {
+    top->setAutoSize(true);
+    bottom->setAutoSize(true);
+    top->setCaption(numerator);
+    bottom->setCaption(denominator);
+    Label* const wider = top->place().width() > bottom->place().width() ? top : bottom;
+    Label* const narrower = wider == top ? bottom : top;
+    narrower->setAutoSize(false);
+    narrower->setWidth(wider->place().width());
+    top->setLeft(left);
+    bottom->setLeft(left);
+}
+
+/// Moves a control to the right of another.
+double placeAfter(Control* control, double x) {
+    control->setLeft(x + kGap);
+    return control->place().right();
+}
+
+}  // namespace
+
+Brok::Brok(Draws& draws) : ExerciseForm(PageName::Brok, draws), ui_(std::make_unique<Ui::Brok>()) {
+    setUp(*ui_);
+    buttons({.newExercise = ui_->Command1,
+             .ok = ui_->Command2,
+             .giveAnswer = ui_->Command3,
+             .help = ui_->Command4});
+    verdict(OneLabel{ui_->Label6});
+    enterChain({ui_->Text1, ui_->Text2}, LastBox::OkOrStay);
+    onClick(ui_->Command5, &Brok::showWorkedSolution);
+    onClick(ui_->Command6, &Brok::closeHelp);
+}
+
+Brok::~Brok() = default;
+
+void Brok::newExercise() {
+    clearBoxes({ui_->Text1, ui_->Text2});
+    hideAll({ui_->Picture2, ui_->Picture1, ui_->Label12, ui_->Line4, ui_->Label10});
+    showAsking();
+    ui_->Label9->setCaption("");
+    ui_->Label11->setCaption("");
+
+    tavrune::newExercise(state_, draws());
+
+    layOutFractions();
+    ui_->Label3->setCaption(state_.operatorText);
+    focusOn(ui_->Text1);
+}
+
+void Brok::layOutFractions() {
+    stack(ui_->Label1, NumberText(state_.numeratorA), ui_->Label2, NumberText(state_.denominatorB),
+          kFirstFraction);
+    stack(ui_->Label4, NumberText(state_.numeratorC), ui_->Label5, NumberText(state_.denominatorD),
+          kSecondFraction);
+    ui_->Line1->setRightEnd(ui_->Label2->place().right());
+    ui_->Line2->setRightEnd(ui_->Label5->place().right());
+}
+
+void Brok::judge() {
+    ui_->Label12->hide();
+    whiten({ui_->Text1, ui_->Text2});
+    const double n = ui_->Text1->value();
+    const double m = ui_->Text2->value();
+    if (m == 0) {
+        tell("Du må ikke dividere med nul");
+        focusOn(ui_->Text2);
+        return;
+    }
+    if (isRight(state_, n, m)) {
+        solved();
+        showReduction();
+    } else {
+        failed();
+        ui_->Command2->show();
+        focusOn(ui_->Text1);
+        ui_->Text1->mark(true);
+        ui_->Text2->mark(true);
+    }
+}
+
+void Brok::showReduction() {
+    const ReductionText text = reductionText(state_, ui_->Text1->value());
+    if (text.whole) {
+        showAll({ui_->Label12, ui_->Label10});
+        ui_->Label12->setCaption(*text.whole);
+    } else if (text.fraction) {
+        showAll({ui_->Label10, ui_->Line4});
+        ui_->Label9->setCaption(text.fraction->numerator);
+        ui_->Label11->setCaption(text.fraction->denominator);
+    }
+}
+
+void Brok::giveAnswer() {
+    whiten({ui_->Text1, ui_->Text2});
+    ui_->Text1->setContent(NumberText(state_.resultNumerator));
+    ui_->Text2->setContent(NumberText(state_.resultDenominator));
+    // The verdict is made ready and not shown.
+    showRight();
+    given();
+    showReduction();
+}
+
+void Brok::help() {
+    const BrokMethod& method = methodFor(state_.operatorText);
+    ui_->Label17->setCaption(state_.operatorText);
+    ui_->Label15->setCaption(method.task);
+    ui_->Label24->setCaption(method.rule);
+    ui_->Label21->setCaption(method.numerator);
+    ui_->Label22->setCaption(method.denominator);
+    ui_->Label22->setWidth(ui_->Label21->place().width());
+    ui_->Line7->setRightEnd(ui_->Label21->place().right());
+    openPanel(ui_->Picture1, ui_->Command5);
+}
+
+void Brok::showWorkedSolution() {
+    const BrokWorked worked = workedSolution(state_);
+    ui_->Picture2->show();
+    ui_->brokk_0->setCaption(NumberText(state_.numeratorA));
+    ui_->brokk_1->setCaption(NumberText(state_.denominatorB));
+    ui_->brokk_2->setCaption(state_.operatorText);
+    ui_->brokk_3->setCaption(NumberText(state_.numeratorC));
+    ui_->brokk_4->setCaption(NumberText(state_.denominatorD));
+
+    stack(ui_->brokk_6, worked.middle.numerator, ui_->brokk_7, worked.middle.denominator, kMiddleFraction);
+    ui_->Line10->setRightEnd(ui_->brokk_6->place().right());
+    ui_->brokk_9->setCaption(worked.computed.numerator);
+    ui_->brokk_10->setCaption(worked.computed.denominator);
+
+    const LastStep& last = worked.last;
+    const bool isReduced = last.kind == LastStep::Kind::Reduced;
+    ui_->brokk_11->setVisible(last.kind != LastStep::Kind::Irreducible);
+    setShown(isReduced, {ui_->brokk_12, ui_->brokk_13, ui_->Line12});
+    ui_->brokk_12->setCaption(isReduced ? last.numerator : "");
+    ui_->brokk_13->setCaption(isReduced ? last.denominator : "");
+    ui_->Label23->setVisible(last.kind == LastStep::Kind::Whole);
+    if (last.kind == LastStep::Kind::Whole) {
+        ui_->Label23->setCaption(last.numerator);
+    }
+
+    double x = placeAfter(ui_->brokk_8, ui_->brokk_6->place().right());
+    placeAfter(ui_->brokk_9, x);
+    placeAfter(ui_->Line11, x);
+    x = placeAfter(ui_->brokk_10, x);
+    x = placeAfter(ui_->brokk_11, x);
+    placeAfter(ui_->brokk_12, x);
+    placeAfter(ui_->Line12, x);
+    placeAfter(ui_->brokk_13, x);
+    placeAfter(ui_->Label23, x);
+}
+
+void Brok::closeHelp() { hideAll({ui_->Picture2, ui_->Picture1}); }
+
+}  // namespace tavrune

@@ -1,0 +1,211 @@
+#include "topics/basics/brok_exercise.h"
+
+#include <array>
+#include <cmath>
+
+#include "numeric/arithmetic.h"
+#include "numeric/text.h"
+
+namespace tavrune {
+namespace {
+
+float drawPart(Draws& draws) { return Int(draws.Rnd() * 20 - 10); }
+
+void drawParts(BrokState& s, Draws& draws) {
+    do {
+        s.numeratorA = drawPart(draws);
+        s.denominatorB = drawPart(draws);
+        s.numeratorC = drawPart(draws);
+        s.denominatorD = drawPart(draws);
+    } while (s.numeratorA * s.denominatorB * s.numeratorC * s.denominatorD == 0);
+}
+
+void chooseOperator(BrokState& s, int type) {
+    const float a = s.numeratorA;
+    const float b = s.denominatorB;
+    const float c = s.numeratorC;
+    const float d = s.denominatorD;
+    const bool sameDenominator = b == d;
+    switch (type) {
+        case 0:
+            s.operatorText = "-";
+            s.resultNumerator = sameDenominator ? a - c : a * d - b * c;
+            s.resultDenominator = sameDenominator ? b : b * d;
+            break;
+        case 1:
+            s.operatorText = "+";
+            s.resultNumerator = sameDenominator ? a + c : a * d + b * c;
+            s.resultDenominator = sameDenominator ? b : b * d;
+            break;
+        case 2:
+            s.operatorText = "*";
+            s.resultNumerator = a * c;
+            s.resultDenominator = b * d;
+            break;
+        default:
+            s.operatorText = "/";
+            s.resultNumerator = a * d;
+            s.resultDenominator = c * b;
+            break;
+    }
+}
+
+/// The prime factors of a number, rising, from slot 1 on; slot 0 is not used and the rest is 1.
+class FactorList {
+public:
+    explicit FactorList(double number) {
+        slots_.fill(1);
+        // Every number divides 0; before the first exercise the result is one.
+        if (number == 0) {
+            return;
+        }
+        while (isDivisible(number, 2)) {
+            number = note(number, 2);
+        }
+        for (double factor = 3; factor <= std::abs(number);) {
+            if (isDivisible(number, factor)) {
+                number = note(number, factor);
+            } else {
+                factor += 2;
+            }
+        }
+    }
+
+    [[nodiscard]] double& at(std::size_t slot) { return slots_.at(slot); }
+
+    [[nodiscard]] double product() const {
+        double product = 1;
+        for (std::size_t slot = 1; slot <= kMultiplied; ++slot) {
+            product *= slots_.at(slot);
+        }
+        return product;
+    }
+
+    static constexpr std::size_t kMultiplied = 7;
+
+private:
+    double note(double number, double factor) {
+        slots_.at(++used_) = factor;
+        return number / factor;
+    }
+
+    std::array<double, 13> slots_{};
+    std::size_t used_ = 0;
+};
+
+/// Sets to 1 what both lists have. Both rise, so one walk is enough; each step sees what the one before left.
+void cancel(FactorList& top, FactorList& bottom) {
+    std::size_t i = 1;
+    std::size_t j = 1;
+    while (i != FactorList::kMultiplied && j != FactorList::kMultiplied) {
+        if (top.at(i) > bottom.at(j)) {
+            ++j;
+        }
+        if (top.at(i) < bottom.at(j)) {
+            ++i;
+        }
+        if (top.at(i) == bottom.at(j)) {
+            top.at(i) = 1;
+            bottom.at(j) = 1;
+            ++i;
+            ++j;
+        }
+    }
+}
+
+LastStep lastStep(const BrokState& s) {
+    const ReducedFraction r = reduced(s);
+    const std::string numerator = (r.isNegative ? "-" : "") + NumberText(r.numerator);
+    if (r.isWhole() || r.isOne()) {
+        return {LastStep::Kind::Whole, numerator, ""};
+    }
+    if (std::abs(s.resultNumerator) == r.numerator && s.resultDenominator > 0) {
+        return {LastStep::Kind::Irreducible, "", ""};
+    }
+    return {LastStep::Kind::Reduced, numerator, NumberText(r.denominator)};
+}
+
+}  // namespace
+
+void newExercise(BrokState& state, Draws& draws) {
+    do {
+        draws.Randomize();
+        drawParts(state, draws);
+        chooseOperator(state, static_cast<int>(Int(draws.Rnd() * 4)));
+    } while (state.resultNumerator == 0);
+}
+
+bool isRight(const BrokState& state, double n, double m) {
+    return n / m == state.resultNumerator / state.resultDenominator;
+}
+
+ReducedFraction reduced(const BrokState& state) {
+    FactorList top(state.resultNumerator);
+    FactorList bottom(state.resultDenominator);
+    cancel(top, bottom);
+    return {top.product(), bottom.product(), state.resultNumerator / state.resultDenominator < 0};
+}
+
+ReductionText reductionText(const BrokState& state, double typedNumerator) {
+    const ReducedFraction r = reduced(state);
+    ReductionText text;
+    if (r.isOne()) {
+        text.whole = r.isNegative ? "-1" : "1";
+    } else if (r.isWhole()) {
+        text.whole = NumberText(r.signedNumerator());
+    } else if (typedNumerator != r.signedNumerator()) {
+        text.fraction = {NumberText(r.signedNumerator()), NumberText(r.denominator)};
+    }
+    return text;
+}
+
+const BrokMethod& methodFor(const std::string& operatorText) {
+    static constexpr BrokMethod kAdd{
+        "Her skal du lægge to brøker sammen",
+        "Find en fællesnævner ved at forlænge begge brøker med den modsatte brøks nævner. Læg derefter de to "
+        "tællere sammen og behold fællesnævneren.",
+        "a*d + c*b", "b*d"};
+    static constexpr BrokMethod kSubtract{"I denne opgave skal du trække én brøk fra en anden",
+                                          "Find en fællesnævner ved at forlænge begge brøker med den "
+                                          "modsatte brøks nævner. Træk derefter de to "
+                                          "tællere fra hinanden og behold fællesnævneren.",
+                                          "a*d - c*b", "b*d"};
+    static constexpr BrokMethod kMultiply{"Her skal du gange to brøker",
+                                          "Gang tæller med tæller og nævner med nævner", "a*c", "b*d"};
+    static constexpr BrokMethod kDivide{"I denne opgave skal du dividere én brøk med en anden",
+                                        "Man dividerer med en brøk ved at gange med den omvendte: Tæller med "
+                                        "nævner og nævner med tæller",
+                                        "a*d", "b*c"};
+    if (operatorText == "+") {
+        return kAdd;
+    }
+    if (operatorText == "-") {
+        return kSubtract;
+    }
+    return operatorText == "*" ? kMultiply : kDivide;
+}
+
+BrokWorked workedSolution(const BrokState& s) {
+    const float a = s.numeratorA;
+    const float b = s.denominatorB;
+    const float c = s.numeratorC;
+    const float d = s.denominatorD;
+    const auto times = [](float x, float y) { return bracketed(x) + "*" + bracketed(y); };
+    BrokWorked worked{{"", times(b, d)}, {"", NumberText(b * d)}, lastStep(s)};
+    if (s.operatorText == "+") {
+        worked.middle.numerator = times(a, d) + " + " + times(c, b);
+        worked.computed.numerator = NumberText(a * d + c * b);
+    } else if (s.operatorText == "-") {
+        worked.middle.numerator = times(a, d) + " - " + times(c, b);
+        worked.computed.numerator = NumberText(a * d - c * b);
+    } else if (s.operatorText == "*") {
+        worked.middle.numerator = times(a, c);
+        worked.computed.numerator = NumberText(a * c);
+    } else {
+        worked.middle = {times(a, d), times(b, c)};
+        worked.computed = {NumberText(a * d), NumberText(b * c)};
+    }
+    return worked;
+}
+
+}  // namespace tavrune

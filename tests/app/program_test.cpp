@@ -1,0 +1,165 @@
+#include "app/program.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include "app/application.h"
+#include "app/pages.h"
+#include "support/form_driver.h"
+
+namespace tavrune {
+namespace {
+
+using test::settle;
+
+class ProgramRun : public testing::Test {
+protected:
+    void SetUp() override {
+        program.open(PageName::Opstart);
+        settle();
+    }
+
+    void choose(PageName target) {
+        program.page()->topicMenu().actionFor(target)->trigger();
+        settle();
+    }
+
+    [[nodiscard]] static int visibleWindows() {
+        int count = 0;
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->isVisible() && window->windowType() == Qt::Window) {
+                ++count;
+            }
+        }
+        return count;
+    }
+
+    SeededDraws draws{1};
+    Program program{draws};
+};
+
+TEST_F(ProgramRun, StartsOnTheStartPageMaximised) {
+    EXPECT_EQ(program.page()->name(), PageName::Opstart);
+    EXPECT_TRUE(program.page()->isMaximized());
+    EXPECT_EQ(visibleWindows(), 1);
+}
+
+TEST_F(ProgramRun, ReplacesEachPageByTheNext) {
+    QPointer<Page> start = program.page();
+    choose(PageName::Brok);
+    EXPECT_EQ(program.page()->name(), PageName::Brok);
+    EXPECT_TRUE(start.isNull());
+    EXPECT_TRUE(program.page()->isMaximized());
+    EXPECT_EQ(visibleWindows(), 1);
+    choose(PageName::Form1);
+    EXPECT_EQ(program.page()->name(), PageName::Form1);
+    EXPECT_EQ(visibleWindows(), 1);
+}
+
+TEST_F(ProgramRun, NeverHasAMomentWithoutAWindow) {
+    const int stillRunning = 7;
+    QTimer::singleShot(0, [this] {
+        choose(PageName::Brok);
+        choose(PageName::Form1);
+        QTimer::singleShot(0, [] { QCoreApplication::exit(stillRunning); });
+    });
+    EXPECT_EQ(QCoreApplication::exec(), stillRunning);
+}
+
+TEST_F(ProgramRun, EndsWithItsLastWindow) {
+    choose(PageName::Brok);
+    QTimer::singleShot(0, [this] { program.page()->close(); });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_EQ(program.page(), nullptr);
+    EXPECT_EQ(visibleWindows(), 0);
+}
+
+TEST_F(ProgramRun, ShowsTheOneAboutBoxHoweverOftenItIsAskedFor) {
+    program.openAbout();
+    FrmAbout* const about = program.about();
+    program.openAbout();
+    EXPECT_EQ(program.about(), about);
+    EXPECT_TRUE(about->isVisible());
+    EXPECT_EQ(program.page()->name(), PageName::Opstart);
+    EXPECT_EQ(visibleWindows(), 2);
+}
+
+TEST_F(ProgramRun, LastsUntilTheAboutBoxIsClosedToo) {
+    program.openAbout();
+    choose(PageName::Brok);
+    EXPECT_TRUE(program.about()->isVisible());
+    bool lasted = false;
+    QTimer::singleShot(0, [this, &lasted] {
+        program.page()->close();
+        settle();
+        QTimer::singleShot(0, [this, &lasted] {
+            lasted = program.page() == nullptr && program.about()->isVisible();
+            program.about()->close();
+        });
+    });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_TRUE(lasted);
+}
+
+TEST_F(ProgramRun, ClosesAtOnceByLukOnEveryPage) {
+    QSignalSpy closeChosen(&program, &Program::closeChosen);
+    int expected = 0;
+    for (const PageName name : builtPages()) {
+        program.open(name);
+        settle();
+        program.page()->topicMenu().menu()->findChild<QAction*>("Luk")->trigger();
+        EXPECT_EQ(closeChosen.count(), ++expected);
+    }
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(ProgramRun, GrowsNoSmallerThanTheDesignArea) {
+    choose(PageName::Brok);
+    EXPECT_GE(program.page()->minimumWidth(), 644);
+    EXPECT_GT(program.page()->minimumHeight(), 446);
+}
+
+TEST_F(ProgramRun, OpensEveryBuiltPageFromEveryOther) {
+    for (const PageName from : builtPages()) {
+        for (const PageName to : builtPages()) {
+            if (to == PageName::Opstart || to == PageName::Form2 || isOwnEntry(from, to)) {
+                continue;
+            }
+            program.open(from);
+            settle();
+            choose(to);
+            EXPECT_EQ(program.page()->name(), to);
+        }
+    }
+}
+
+class Failing : public QObject {
+protected:
+    bool event(QEvent* /*event*/) override { throw ArithmeticFailure(ArithmeticFailure::Kind::Overflow); }
+};
+
+TEST(Application, TellsOfAFailureOfTheArithmeticAndEndsWithStatusOne) {
+    Failing failing;
+    std::string told;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [&told, &answer] {
+        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            told = box->text().toStdString();
+            answer.stop();
+            QTest::keyClick(box->button(QMessageBox::Ok), Qt::Key_Return);
+        }
+    });
+    answer.start(0);
+    QCoreApplication::postEvent(&failing, new QEvent(QEvent::User));
+    EXPECT_EQ(QCoreApplication::exec(), 1);
+    EXPECT_EQ(told, messageFor(ArithmeticFailure::Kind::Overflow));
+}
+
+}  // namespace
+}  // namespace tavrune

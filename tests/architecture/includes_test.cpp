@@ -1,0 +1,124 @@
+// The arrows between the rooms: which may include which.
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace tavrune {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kSource = TAVRUNE_SOURCE_DIR;
+
+struct Include {
+    std::string file;
+    std::string room;
+    std::string header;
+    bool isOwn;
+};
+
+bool endsWith(const std::string& text, const std::string& end) {
+    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
+bool isExercise(const std::string& path) {
+    return path.rfind("topics/", 0) == 0 &&
+           (endsWith(path, "_exercise.h") || endsWith(path, "_exercise.cpp") ||
+            path.find("_model.") != std::string::npos);
+}
+
+/// The room of a path below src/: "numeric", "graph", "exercise/basics", "form/basics", ...
+std::string roomOf(const std::string& path) {
+    std::string first = path.substr(0, path.find('/'));
+    if (first != "topics") {
+        return first;
+    }
+    const std::string folder = path.substr(7, path.find('/', 7) - 7);
+    return (isExercise(path) ? "exercise/" : "form/") + folder;
+}
+
+std::vector<Include> allIncludes() {
+    static const std::regex line(R"(^\s*#\s*include\s*([<"])([^">]+)[">])");
+    std::vector<Include> found;
+    for (const auto& entry : fs::recursive_directory_iterator(kSource)) {
+        const std::string extension = entry.path().extension();
+        if (extension != ".h" && extension != ".cpp") {
+            continue;
+        }
+        const std::string file = fs::relative(entry.path(), kSource).generic_string();
+        std::ifstream in(entry.path());
+        for (std::string text; std::getline(in, text);) {
+            std::smatch match;
+            if (std::regex_search(text, match, line)) {
+                found.push_back({file, roomOf(file), match[2], match[1] == "\""});
+            }
+        }
+    }
+    return found;
+}
+
+bool mayInclude(const std::string& from, const std::string& to) {
+    static const std::map<std::string, std::set<std::string>> arrows{
+        {"numeric", {}},
+        {"controls", {"numeric"}},
+        {"graph", {"numeric", "controls"}},
+        {"shell", {"numeric", "controls", "graph"}},
+        {"app", {"numeric", "controls", "graph", "shell"}},
+    };
+    if (from == to) {
+        return true;
+    }
+    if (from.rfind("exercise/", 0) == 0) {
+        return to == "numeric";
+    }
+    if (from.rfind("form/", 0) == 0) {
+        return to == "numeric" || to == "controls" || to == "graph" || to == "shell" ||
+               to == "exercise/" + from.substr(5);
+    }
+    if (from == "app" && to.rfind("form/", 0) == 0) {
+        return true;
+    }
+    const auto row = arrows.find(from);
+    return row != arrows.end() && row->second.count(to) == 1;
+}
+
+TEST(Arrows, AreTheOnlyWaysBetweenTheRooms) {
+    const std::vector<Include> includes = allIncludes();
+    ASSERT_GT(includes.size(), 50U);
+    for (const Include& include : includes) {
+        if (include.isOwn) {
+            EXPECT_TRUE(mayInclude(include.room, roomOf(include.header)))
+                << include.file << " includes " << include.header;
+        }
+    }
+}
+
+TEST(Arrows, KeepQtOutOfNumbersAndExercises) {
+    for (const Include& include : allIncludes()) {
+        const bool isCore = include.room == "numeric" || include.room.rfind("exercise/", 0) == 0;
+        EXPECT_FALSE(isCore && !include.isOwn && include.header.rfind('Q', 0) == 0)
+            << include.file << " includes " << include.header;
+    }
+}
+
+TEST(Arrows, ForbidWhatTheyShould) {
+    EXPECT_FALSE(mayInclude("numeric", "graph"));
+    EXPECT_FALSE(mayInclude("shell", "form/basics"));
+    EXPECT_FALSE(mayInclude("controls", "shell"));
+    EXPECT_FALSE(mayInclude("exercise/basics", "controls"));
+    EXPECT_FALSE(mayInclude("exercise/basics", "exercise/calculus"));
+    EXPECT_FALSE(mayInclude("form/basics", "form/calculus"));
+    EXPECT_FALSE(mayInclude("form/basics", "app"));
+    EXPECT_TRUE(mayInclude("form/basics", "exercise/basics"));
+    EXPECT_TRUE(mayInclude("app", "form/basics"));
+}
+
+}  // namespace
+}  // namespace tavrune

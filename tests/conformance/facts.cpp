@@ -1,0 +1,64 @@
+#include "conformance/facts.h"
+
+#include "app/pages.h"
+
+namespace tavrune::test {
+namespace {
+
+using Name = PageName;
+
+const std::vector<FormFacts>& allForms() {
+    static const std::vector<FormFacts> forms{
+        {Name::Brok, "Command1", "Command2", "Command3", "Command4", "Label6", "Label6", false, false,
+         "Text2", "Text1", "", "Picture1", "Command6"},
+        {Name::Dlinie, "Command1", "Command2", "Command3", "Command4", "Labelf", "Labelf", false, false,
+         "Text2", "Text1", "", "", ""},
+        {Name::Afsaet, "Command1", "Command2", "Command3", "Command4", "Labelr", "Labelr", false, false,
+         "Text4", "Text1", "", "", ""},
+        {Name::Konvert, "Command1", "Command2", "Command4", "Hjaelp", "Label10", "Label9", true, true,
+         "Text2", "Text1", "", "Picture3", "Luk"},
+        {Name::Tomto, "Command1", "Command2", "Command3", "Command7", "Label5", "Label5", false, false,
+         "Text1", "", "Option1", "", ""},
+        {Name::Gtm, "Command1", "Command2", "Command3", "Hjaelp", "Labelt", "Labelt", false, false, "Text9",
+         "Text1", "", "Picturehlp", ""},
+        {Name::Laddi1, "Command1", "Command2", "Command4", "Command6", "Label23", "Label22", false, true,
+         "Text7", "", "", "Picture7", "Luk"},
+        {Name::Laddi2, "Command1", "Command2", "Command4", "Command3", "Label40", "Label39", true, true,
+         "Text15", "", "", "Picture7", "Luk"},
+        {Name::Vaddi1, "Command1", "Command2", "Command4", "Command3", "Label42", "Label41", true, true,
+         "Text20", "Text7", "", "Picture3", "Command5"},
+        {Name::Vaddi2, "Command1", "Command2", "Command4", "Command3", "Label75", "Label74", true, true,
+         "Text31", "Text1", "", "Picture10", "Command7"},
+        {Name::Vaddi3, "Command1", "Command2", "Command4", "Command3", "Label49", "Label45", true, true,
+         "Text47", "", "", "Picture5", "Luk"},
+        {Name::Integ, "Command8", "Command4", "Command12", "Command1", "Label10", "Label27", false, false,
+         "Text22", "Text22", "", "Picture2", "Command3"},
+        {Name::Integ2, "Command3", "Command1", "Command2", "Command4", "Label15", "Label16", false, false,
+         "Text1", "", "", "Picture2", "Command5"},
+        {Name::Lininter, "Command3", "Command1", "Command2", "Command10", "Label19", "Label18", false, false,
+         "Text1", "Text1", "", "Picture2", "Command13"},
+        {Name::Roedder, "Command6", "Command2", "Command10", "Command1", "Label2_0", "Label9", false, false,
+         "Text9", "", "Option1", "Picture2", "Command3"},
+        {Name::Rogt, "Command5", "Command1", "Command9", "Command2", "Label10", "Label9", false, false,
+         "Text14", "", "Option1", "", ""},
+        {Name::Topp, "Command7", "Command3", "Command11", "Command1", "Label10", "Label27", false, false,
+         "Text7", "Text16", "", "Picture2", "Command4"},
+        {Name::Diff, "Command15", "Command13", "Command14", "Command1", "Label10", "Label27", false, false,
+         "Text1", "Text1", "", "Picture2", "Command2"},
+    };
+    return forms;
+}
+
+}  // namespace
+
+std::vector<FormFacts> builtForms() {
+    std::vector<FormFacts> built;
+    for (const FormFacts& form : allForms()) {
+        if (isBuilt(form.page)) {
+            built.push_back(form);
+        }
+    }
+    return built;
+}
+
+}  // namespace tavrune::test

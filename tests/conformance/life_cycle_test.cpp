@@ -1,0 +1,311 @@
+// One suite over every exercise form in the list of pages: a form is under it from its first day.
+
+#include <algorithm>
+#include <map>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "conformance/facts.h"
+#include "support/decimal_mark.h"
+#include "support/form_driver.h"
+#include "support/looks.h"
+
+namespace tavrune {
+namespace {
+
+using test::DecimalMark;
+using test::FormDriver;
+using test::FormFacts;
+
+const QColor kRightOfTwo(0, 128, 0);
+
+class EveryForm : public testing::TestWithParam<FormFacts> {
+protected:
+    [[nodiscard]] const FormFacts& facts() const { return GetParam(); }
+
+    [[nodiscard]] FormDriver open(std::uint64_t seed = 1) {
+        draws = std::make_unique<SeededDraws>(seed);
+        return {facts().page, *draws};
+    }
+
+    void chooseOption(const FormDriver& form) const {
+        if (!facts().option.empty()) {
+            form.click(facts().option);
+        }
+    }
+
+    /// Types into every visible box what is no exercise's answer, and judges.
+    void answerWrongly(const FormDriver& form) const {
+        chooseOption(form);
+        for (AnswerBox* box : visibleBoxes(form)) {
+            form.type(box->objectName().toStdString(), "987654.25");
+        }
+        form.click(facts().ok);
+        ASSERT_TRUE(form.isShown(facts().wrong));
+    }
+
+    [[nodiscard]] static std::vector<AnswerBox*> visibleBoxes(const FormDriver& form) {
+        std::vector<AnswerBox*> boxes;
+        for (AnswerBox* box : form.page().findChildren<AnswerBox*>()) {
+            if (box->isVisible()) {
+                boxes.push_back(box);
+            }
+        }
+        return boxes;
+    }
+
+    std::unique_ptr<SeededDraws> draws;
+};
+
+std::string asciiName(const testing::TestParamInfo<FormFacts>& row) {
+    std::string name(textOf(row.param.page));
+    for (const auto& [letter, ascii] : {std::pair{"æ", "ae"}, std::pair{"ø", "oe"}}) {
+        if (const auto at = name.find(letter); at != std::string::npos) {
+            name.replace(at, 2, ascii);
+        }
+    }
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Forms, EveryForm, testing::ValuesIn(test::builtForms()), asciiName);
+
+TEST_P(EveryForm, BearsItsNameAndItsTitle) {
+    const FormDriver form = open();
+    EXPECT_EQ(form.page().objectName().toStdString(), textOf(facts().page));
+    EXPECT_EQ(form.page().windowTitle().toStdString().rfind("Tavrune - ", 0), 0U);
+}
+
+TEST_P(EveryForm, StartsWithoutVerdictAndAnswer) {
+    SeededDraws seeded(1);
+    const FormDriver form = FormDriver::unshown(facts().page, seeded);
+    EXPECT_FALSE(form.isShown(facts().giveAnswer));
+    EXPECT_FALSE(form.isShown(facts().right));
+    EXPECT_FALSE(form.isShown(facts().wrong));
+    if (!facts().panel.empty()) {
+        EXPECT_FALSE(form.isShown(facts().panel));
+    }
+}
+
+TEST_P(EveryForm, HasTheCaptionsOfTheFourButtons) {
+    const FormDriver form = open();
+    EXPECT_EQ(form.button(facts().newExercise).caption(), "&Ny opgave");
+    EXPECT_EQ(form.button(facts().ok).caption(), "&OK");
+    EXPECT_EQ(form.button(facts().giveAnswer).caption(), "&Giv svaret");
+    EXPECT_EQ(form.button(facts().help).caption(), "&Hjælp");
+}
+
+TEST_P(EveryForm, HasTheFourButtonsAtTheSamePlace) {
+    const FormDriver form = open();
+    double left = 8;
+    for (const std::string& name : {facts().newExercise, facts().ok, facts().giveAnswer, facts().help}) {
+        EXPECT_EQ(form.button(name).place(), QRectF(left, 413, 76, 25)) << name;
+        left += 80;
+    }
+}
+
+TEST_P(EveryForm, GivesTheWrongVerdictItsFinalColourAtTheFirstTick) {
+    if (facts().hasOneLabel()) {
+        const FormDriver form = open();
+        answerWrongly(form);
+        EXPECT_EQ(form.label(facts().wrong).backColour(), kRed);
+        return;
+    }
+    SeededDraws seeded(1);
+    FormDriver form = FormDriver::unshown(facts().page, seeded);
+    EXPECT_EQ(form.label(facts().wrong).backColour(), facts().darkUntilFirstTick ? QColor(192, 0, 0) : kRed);
+    EXPECT_EQ(form.label(facts().right).backColour(), kRightOfTwo);
+    EXPECT_EQ(form.caption(facts().wrong), "FORKERT");
+    EXPECT_EQ(form.caption(facts().right), "RIGTIGT");
+    form.show();
+    EXPECT_EQ(form.label(facts().wrong).backColour(), kRed);
+    EXPECT_EQ(form.label(facts().wrong).place(), form.label(facts().right).place());
+}
+
+TEST_P(EveryForm, AsksAtItsFirstTick) {
+    const FormDriver form = open();
+    EXPECT_TRUE(form.isShown(facts().newExercise));
+    EXPECT_FALSE(form.isShown(facts().giveAnswer));
+    EXPECT_FALSE(form.isShown(facts().right));
+    EXPECT_FALSE(form.isShown(facts().wrong));
+    if (!facts().firstBox.empty()) {
+        EXPECT_EQ(form.focus(), facts().firstBox);
+    }
+    chooseOption(form);
+    EXPECT_TRUE(form.isShown(facts().ok));
+    for (const AnswerBox* box : visibleBoxes(form)) {
+        EXPECT_EQ(box->text().trimmed(), "") << box->objectName().toStdString();
+        EXPECT_EQ(box->backColour(), kWhite);
+    }
+}
+
+TEST_P(EveryForm, OffersTheAnswerAfterAWrongTryAndKeepsOk) {
+    const FormDriver form = open();
+    for (int again = 0; again < 3; ++again) {
+        answerWrongly(form);
+        EXPECT_TRUE(form.isShown(facts().ok));
+        EXPECT_TRUE(form.isShown(facts().giveAnswer));
+        EXPECT_TRUE(form.isShown(facts().newExercise));
+        EXPECT_EQ(form.caption(facts().wrong), "FORKERT");
+    }
+}
+
+TEST_P(EveryForm, GivesTheAnswerWithoutAVerdict) {
+    const FormDriver form = open();
+    answerWrongly(form);
+    form.click(facts().giveAnswer);
+    EXPECT_FALSE(form.isShown(facts().ok));
+    EXPECT_FALSE(form.isShown(facts().giveAnswer));
+    EXPECT_FALSE(form.isShown(facts().right));
+    EXPECT_FALSE(form.isShown(facts().wrong));
+    EXPECT_EQ(form.focus(), facts().newExercise);
+    for (const AnswerBox* box : visibleBoxes(form)) {
+        EXPECT_EQ(box->backColour(), kWhite);
+    }
+}
+
+TEST_P(EveryForm, StartsTheNextExerciseFromEveryState) {
+    const FormDriver form = open();
+    answerWrongly(form);
+    form.click(facts().newExercise);
+    EXPECT_FALSE(form.isShown(facts().wrong));
+    EXPECT_FALSE(form.isShown(facts().giveAnswer));
+    answerWrongly(form);
+    form.click(facts().giveAnswer);
+    form.press(facts().newExercise, Qt::Key_Return);
+    chooseOption(form);
+    EXPECT_TRUE(form.isShown(facts().ok));
+    for (const AnswerBox* box : visibleBoxes(form)) {
+        EXPECT_EQ(box->text().trimmed(), "");
+    }
+}
+
+TEST_P(EveryForm, ClosesItsHelpWithTheNextExercise) {
+    if (facts().panel.empty()) {
+        return;
+    }
+    const FormDriver form = open();
+    form.click(facts().help);
+    EXPECT_TRUE(form.isShown(facts().panel));
+    form.click(facts().newExercise);
+    EXPECT_FALSE(form.isShown(facts().panel));
+}
+
+TEST_P(EveryForm, KeepsWhatWasTypedWhileHelpComesAndGoes) {
+    if (facts().close.empty()) {
+        return;
+    }
+    const FormDriver form = open();
+    chooseOption(form);
+    std::vector<AnswerBox*> boxes = visibleBoxes(form);
+    for (AnswerBox* box : boxes) {
+        form.type(box->objectName().toStdString(), "12");
+    }
+    form.click(facts().help);
+    form.click(facts().close);
+    EXPECT_FALSE(form.isShown(facts().panel));
+    for (const AnswerBox* box : boxes) {
+        EXPECT_EQ(box->content(), "12");
+    }
+}
+
+TEST_P(EveryForm, TurnsATypedCommaIntoAPointInEveryBox) {
+    const FormDriver form = open();
+    chooseOption(form);
+    for (AnswerBox* box : visibleBoxes(form)) {
+        form.type(box->objectName().toStdString(), "1,5");
+        EXPECT_EQ(box->content(), "1.5") << box->objectName().toStdString();
+    }
+}
+
+TEST_P(EveryForm, LeavesAPastedCommaAlone) {
+    const FormDriver form = open();
+    chooseOption(form);
+    QGuiApplication::clipboard()->setText("1,5");
+    for (AnswerBox* box : visibleBoxes(form)) {
+        box->selectAll();
+        QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(box->content(), "1,5") << box->objectName().toStdString();
+    }
+}
+
+TEST_P(EveryForm, WalksByEnterThroughAllItsBoxesToOk) {
+    const FormDriver form = open();
+    chooseOption(form);
+    const std::size_t boxes = visibleBoxes(form).size();
+    ASSERT_GT(boxes, 0U);
+    // Some chains run against the layout, so the walk starts wherever it covers most.
+    std::size_t longest = 0;
+    for (AnswerBox* start : visibleBoxes(form)) {
+        start->setFocus();
+        std::size_t steps = 0;
+        while (form.focus() != facts().ok && steps <= boxes) {
+            form.press(form.focus(), Qt::Key_Return);
+            ++steps;
+        }
+        EXPECT_EQ(form.focus(), facts().ok) << "from " << start->objectName().toStdString();
+        longest = std::max(longest, steps);
+    }
+    EXPECT_EQ(longest, boxes);
+}
+
+TEST_P(EveryForm, EndsItsEnterChainByItsKind) {
+    const FormDriver form = open();
+    answerWrongly(form);
+    form.click(facts().giveAnswer);
+    AnswerBox& last = form.box(facts().lastBox);
+    if (!last.isVisible()) {
+        return;
+    }
+    last.setFocus();
+    form.press(facts().lastBox, Qt::Key_Return);
+    EXPECT_EQ(form.focus(), facts().lastBoxGoesOn ? facts().newExercise : facts().lastBox);
+}
+
+TEST_P(EveryForm, CannotChooseItsOwnTopic) {
+    const FormDriver form = open();
+    EXPECT_FALSE(form.page().topicMenu().actionFor(facts().page)->isEnabled());
+}
+
+TEST_P(EveryForm, NamesEveryAnswerBox) {
+    const FormDriver form = open();
+    for (const AnswerBox* box : form.page().findChildren<AnswerBox*>()) {
+        EXPECT_FALSE(box->accessibleName().isEmpty()) << box->objectName().toStdString();
+    }
+}
+
+TEST_P(EveryForm, HasNoTextCutOffOrOverAnother) {
+    for (const char* mark : {".", ","}) {
+        const DecimalMark inUse(mark);
+        const FormDriver form = open(2005);
+        for (int exercise = 0; exercise < 40; ++exercise) {
+            ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << "exercise " << exercise;
+            answerWrongly(form);
+            form.click(facts().giveAnswer);
+            ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << "given answer " << exercise;
+            form.click(facts().newExercise);
+        }
+    }
+}
+
+TEST_P(EveryForm, HasNoTextCutOffInItsHelpWithEveryStepShown) {
+    const FormDriver form = open(2006);
+    for (int exercise = 0; exercise < 40; ++exercise) {
+        form.click(facts().help);
+        static_cast<void>(form.answerMessage());
+        for (Button* button : form.page().findChildren<Button*>()) {
+            if (button->caption() == "Vis" && button->isVisible() && button->isEnabled()) {
+                button->click();
+            }
+        }
+        ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << "exercise " << exercise;
+        form.click(facts().newExercise);
+    }
+}
+
+}  // namespace
+}  // namespace tavrune

@@ -1,0 +1,109 @@
+#include "controls/answer_box.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace tavrune {
+namespace {
+
+class AnswerBoxKeys : public testing::Test {
+protected:
+    void SetUp() override {
+        box.show();
+        QObject::connect(&box, &AnswerBox::enterPressed, &box, [this] { ++entered; });
+    }
+
+    void commit(const QString& text) {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QCoreApplication::sendEvent(&box, &event);
+    }
+
+    AnswerBox box;
+    int entered = 0;
+};
+
+TEST_F(AnswerBoxKeys, MakeAPointOfATypedComma) {
+    QTest::keyClicks(&box, "1,5");
+    EXPECT_EQ(box.content(), "1.5");
+    EXPECT_EQ(box.value(), 1.5);
+}
+
+TEST_F(AnswerBoxKeys, MakeAPointOfTheKeypadsComma) {
+    QTest::keyClick(&box, Qt::Key_2);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Comma, Qt::KeypadModifier, ",");
+    QCoreApplication::sendEvent(&box, &press);
+    EXPECT_EQ(box.content(), "2.");
+}
+
+TEST_F(AnswerBoxKeys, MakeAPointOfACommaThatAnInputMethodCommits) {
+    commit("3,2");
+    EXPECT_EQ(box.content(), "3.2");
+}
+
+TEST_F(AnswerBoxKeys, KeepWhatAnInputMethodIsStillComposing) {
+    QInputMethodEvent composing("´", {});
+    QCoreApplication::sendEvent(&box, &composing);
+    EXPECT_EQ(box.content(), "");
+    commit("´,");
+    EXPECT_EQ(box.content(), "´.");
+}
+
+TEST_F(AnswerBoxKeys, LeaveAPastedCommaAlone) {
+    QGuiApplication::clipboard()->setText("1,5");
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.content(), "1,5");
+    EXPECT_EQ(box.value(), 1);
+}
+
+TEST_F(AnswerBoxKeys, NeverShowACommaByUndo) {
+    QTest::keyClicks(&box, "1,5");
+    for (int step = 0; step < 4; ++step) {
+        QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(box.content().find(','), std::string::npos);
+    }
+    EXPECT_EQ(box.content(), "");
+}
+
+TEST_F(AnswerBoxKeys, LetLettersAndAllElseThrough) {
+    QTest::keyClicks(&box, "abc/-+ ;");
+    EXPECT_EQ(box.content(), "abc/-+ ;");
+}
+
+TEST_F(AnswerBoxKeys, SwallowEnterAndTellOfIt) {
+    QTest::keyClicks(&box, "7");
+    QTest::keyClick(&box, Qt::Key_Return);
+    QTest::keyClick(&box, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(box.content(), "7");
+    EXPECT_EQ(entered, 2);
+}
+
+TEST_F(AnswerBoxKeys, TakeAHeldEnterOnce) {
+    QTest::keyPress(&box, Qt::Key_Return);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QCoreApplication::sendEvent(&box, &repeat);
+    EXPECT_EQ(entered, 1);
+}
+
+TEST_F(AnswerBoxKeys, TakeATextOfAnyLength) {
+    const std::string megabyte(1'000'000, '1');
+    QGuiApplication::clipboard()->setText(QString::fromStdString(megabyte));
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.content().size(), megabyte.size());
+}
+
+TEST(AnswerBox, IsWhiteUntilItIsMarkedWrong) {
+    AnswerBox box;
+    EXPECT_EQ(box.backColour(), kWhite);
+    box.mark(true);
+    EXPECT_EQ(box.backColour(), QColor(255, 0, 0));
+    box.mark(false);
+    EXPECT_EQ(box.backColour(), kWhite);
+}
+
+}  // namespace
+}  // namespace tavrune

@@ -1,0 +1,174 @@
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "controls/button.h"
+#include "controls/label.h"
+#include "controls/line_control.h"
+#include "controls/option_button.h"
+#include "controls/panel.h"
+
+namespace tavrune {
+namespace {
+
+TEST(FromTwips, GivesFifteenToAUnit) {
+    EXPECT_EQ(fromTwips(9660), 644);
+    EXPECT_EQ(fromTwips(6690), 446);
+    EXPECT_DOUBLE_EQ(fromTwips(280.5), 18.7);
+}
+
+TEST(Control, KeepsItsPlaceInUnitsAtEveryZoom) {
+    QWidget page;
+    Label label(&page);
+    label.setPlace({10, 20, 100.5, 16});
+    label.setZoom(2);
+    EXPECT_EQ(label.geometry(), QRect(20, 40, 201, 32));
+    EXPECT_EQ(label.place(), QRectF(10, 20, 100.5, 16));
+    label.setLeft(30);
+    EXPECT_EQ(label.geometry().left(), 60);
+    EXPECT_EQ(label.font().pixelSize(), 22);
+    label.setZoom(1);
+    EXPECT_EQ(label.geometry().left(), 30);
+    EXPECT_EQ(label.font().pixelSize(), 11);
+}
+
+TEST(Control, IsShownByItsOwnFlagWhateverStandsAround) {
+    Panel panel;
+    Label label(&panel);
+    panel.hide();
+    EXPECT_TRUE(label.isShown());
+    label.hide();
+    panel.show();
+    EXPECT_FALSE(label.isShown());
+}
+
+TEST(FocusOn, PassesByWhatIsHiddenOrDisabled) {
+    QWidget window;
+    Button hidden(&window);
+    Button disabled(&window);
+    Button shown(&window);
+    hidden.hide();
+    disabled.setEnabled(false);
+    window.show();
+    focusOn(&shown);
+    EXPECT_EQ(window.focusWidget(), &shown);
+    focusOn(&hidden);
+    focusOn(&disabled);
+    EXPECT_EQ(window.focusWidget(), &shown);
+}
+
+TEST(Label, TakesNoMarkup) {
+    Label label;
+    label.setCaption("0<Q<5 <b>&amp;</b>");
+    EXPECT_EQ(label.caption(), "0<Q<5 <b>&amp;</b>");
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+}
+
+TEST(Label, WithAutoSizeIsAsWideAsItsText) {
+    Label label;
+    label.setAutoSize(true);
+    label.setCaption("7");
+    const double narrow = label.place().width();
+    label.setCaption("-10");
+    EXPECT_GT(label.place().width(), narrow);
+    EXPECT_EQ(label.place().width(), label.textWidth());
+}
+
+TEST(Label, KeepsItsSizeOnceAutoSizeIsOff) {
+    Label label;
+    label.setAutoSize(true);
+    label.setCaption("-10");
+    const QRectF place = label.place();
+    label.setAutoSize(false);
+    label.setCaption("-1000");
+    EXPECT_EQ(label.place(), place);
+}
+
+TEST(Label, IsTransparentUntilItHasABackColour) {
+    Label label;
+    EXPECT_FALSE(label.autoFillBackground());
+    label.setBackColour(QColor(0, 130, 0));
+    EXPECT_TRUE(label.autoFillBackground());
+    EXPECT_EQ(label.backColour(), QColor(0, 130, 0));
+}
+
+TEST(Button, IsPressedByEnterAndBySpace) {
+    Button button;
+    button.show();
+    int pressed = 0;
+    QObject::connect(&button, &Button::clicked, &button, [&pressed] { ++pressed; });
+    QTest::keyClick(&button, Qt::Key_Return);
+    QTest::keyClick(&button, Qt::Key_Enter);
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_EQ(pressed, 3);
+}
+
+TEST(Button, IsPressedOnceByAHeldEnter) {
+    Button button;
+    button.show();
+    int pressed = 0;
+    QObject::connect(&button, &Button::clicked, &button, [&pressed] { ++pressed; });
+    QTest::keyPress(&button, Qt::Key_Return);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QCoreApplication::sendEvent(&button, &repeat);
+    EXPECT_EQ(pressed, 1);
+}
+
+TEST(OptionButton, CanBeUncheckedWithTheWholeGroup) {
+    QWidget group;
+    OptionButton one(&group);
+    OptionButton other(&group);
+    one.setChosen(true);
+    other.setChosen(true);
+    EXPECT_FALSE(one.isChosen());
+    other.setChosen(false);
+    EXPECT_FALSE(one.isChosen());
+    EXPECT_FALSE(other.isChosen());
+}
+
+TEST(OptionButton, RunsItsClickOnlyWhenClicked) {
+    OptionButton option;
+    int clicked = 0;
+    QObject::connect(&option, &OptionButton::clicked, &option, [&clicked] { ++clicked; });
+    option.setChosen(true);
+    EXPECT_EQ(clicked, 0);
+    option.setChosen(false);
+    option.click();
+    EXPECT_EQ(clicked, 1);
+}
+
+TEST(OptionButton, GoesBackToTheSystemsButtonFace) {
+    OptionButton option;
+    const QColor face = option.backColour();
+    EXPECT_EQ(face, option.palette().color(QPalette::Button));
+    option.setBackColour(QColor(0, 130, 0));
+    EXPECT_EQ(option.backColour(), QColor(0, 130, 0));
+    option.resetBackColour();
+    EXPECT_EQ(option.backColour(), face);
+}
+
+TEST(LineControl, HasItsEndsAtTheCornersOfItsPlace) {
+    LineControl line;
+    line.setEnds({10, 30, 40, 5});
+    EXPECT_EQ(line.place(), QRectF(10, 5, 30, 25));
+    EXPECT_EQ(line.ends(), QLineF(10, 30, 40, 5));
+    line.setEnds({10, 5, 40, 30});
+    EXPECT_EQ(line.ends(), QLineF(10, 5, 40, 30));
+}
+
+TEST(LineControl, MovesTheEndOfAFractionBar) {
+    LineControl line;
+    line.setEnds({40, 70, 80, 70});
+    line.setRightEnd(95);
+    EXPECT_EQ(line.ends(), QLineF(40, 70, 95, 70));
+}
+
+TEST(Panel, IsWhiteWithBlackText) {
+    Panel panel;
+    Label label(&panel);
+    EXPECT_EQ(panel.backColour(), kWhite);
+    EXPECT_EQ(label.textColour(), kBlack);
+}
+
+}  // namespace
+}  // namespace tavrune

@@ -1,0 +1,121 @@
+#include "numeric/arithmetic.h"
+
+#include <string>
+#include <type_traits>
+
+#include <gtest/gtest.h>
+
+#include "support/scripted_draws.h"
+
+namespace tavrune {
+namespace {
+
+using test::cellOf;
+using test::kLargestDraw;
+using Kind = ArithmeticFailure::Kind;
+
+TEST(Int, IsTheFloor) {
+    EXPECT_EQ(Int(-0.5), -1);
+    EXPECT_EQ(Int(-0.0001), -1);
+    EXPECT_EQ(Int(2.9), 2);
+    EXPECT_EQ(Int(-3.0), -3);
+}
+
+TEST(Fix, CutsTowardsZero) {
+    EXPECT_EQ(Fix(-5.9), -5);
+    EXPECT_EQ(Fix(-0.0001), 0);
+    EXPECT_EQ(Fix(5.9), 5);
+}
+
+TEST(Arithmetic, KeepsTheKindOfItsOperands) {
+    static_assert(std::is_same_v<decltype(Int(1.5F)), float>);
+    static_assert(std::is_same_v<decltype(Int(1.5)), double>);
+    static_assert(std::is_same_v<decltype(Fix(1.5F)), float>);
+    static_assert(std::is_same_v<decltype(1.5F * 100), float>);
+    static_assert(std::is_same_v<decltype(1.5F - 0.001), double>);
+    static_assert(std::is_same_v<decltype(Divide(1.0F, 3.0F)), float>);
+    EXPECT_EQ(Divide(1.0F, 3.0F), 1.0F / 3.0F);
+    EXPECT_EQ(Divide(1.0, 3.0), 1.0 / 3.0);
+}
+
+struct DrawIdiom {
+    const char* name;
+    float (*idiom)(float);
+    float lowest;
+    float highest;
+};
+
+class DrawIdioms : public testing::TestWithParam<DrawIdiom> {};
+
+TEST_P(DrawIdioms, ReachJustTheirRange) {
+    float lowest = GetParam().idiom(0);
+    float highest = lowest;
+    for (int cell = 0; cell < 4000; ++cell) {
+        const float x = GetParam().idiom(cellOf(cell, 4000));
+        lowest = std::min(lowest, x);
+        highest = std::max(highest, x);
+    }
+    const float last = GetParam().idiom(kLargestDraw);
+    EXPECT_EQ(std::min(lowest, last), GetParam().lowest);
+    EXPECT_EQ(std::max(highest, last), GetParam().highest);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, DrawIdioms,
+    testing::Values(DrawIdiom{"FromZero", [](float u) { return Int(u * 8); }, 0, 7},
+                    DrawIdiom{"Shifted", [](float u) { return Int(u * 8) + 1; }, 1, 8},
+                    DrawIdiom{"LopsidedTen", [](float u) { return Int(u * 20 - 10); }, -10, 9},
+                    DrawIdiom{"LopsidedFive", [](float u) { return Int(u * 10 - 5); }, -5, 4},
+                    DrawIdiom{"CutNegative", [](float u) { return Fix(u * -6); }, -5, 0},
+                    DrawIdiom{"FairBit", [](float u) { return Int(u * 2); }, 0, 1},
+                    DrawIdiom{"HalfSteps", [](float u) { return Int(u * 10) / 2; }, 0, 4.5F}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(DrawIdioms, NegativeFloorReachesMinusOneOnlyAtZero) {
+    EXPECT_EQ(Int(-0.0F * 5) - 1, -1);
+    EXPECT_EQ(Int(-(1.0F / (1U << 24U)) * 5) - 1, -2);
+    EXPECT_EQ(Int(-kLargestDraw * 5) - 1, -6);
+}
+
+TEST(DrawIdioms, FiveKindsWithTheRareZero) {
+    const auto kind = [](float u) { return Int(u * 5 - 0.001) + 1; };
+    EXPECT_EQ(kind(0), 0);
+    EXPECT_EQ(kind(0.000199F), 0);
+    EXPECT_EQ(kind(0.000201F), 1);
+    EXPECT_EQ(kind(kLargestDraw), 5);
+}
+
+TEST(Divide, ThrowsWhereTheDenominatorIsZero) {
+    try {
+        static_cast<void>(Divide(1.0, 0.0));
+        FAIL() << "no failure";
+    } catch (const ArithmeticFailure& failure) {
+        EXPECT_EQ(failure.kind(), Kind::DivisionByZero);
+        EXPECT_STREQ(failure.what(), "division by zero");
+    }
+}
+
+TEST(Divide, CallsZeroByZeroAnOverflow) {
+    try {
+        static_cast<void>(Divide(0.0F, 0.0F));
+        FAIL() << "no failure";
+    } catch (const ArithmeticFailure& failure) {
+        EXPECT_EQ(failure.kind(), Kind::Overflow);
+    }
+}
+
+TEST(ArithmeticFailure, IsToldInDanishForEveryKind) {
+    for (const Kind kind : {Kind::DivisionByZero, Kind::Overflow, Kind::TypeMismatch}) {
+        EXPECT_NE(std::string(messageFor(kind)).find("lukker"), std::string::npos);
+    }
+}
+
+TEST(IsDivisible, HoldsForNegativeNumbersToo) {
+    EXPECT_TRUE(isDivisible(-12, 3));
+    EXPECT_TRUE(isDivisible(0, 7));
+    EXPECT_FALSE(isDivisible(-7, 2));
+    EXPECT_FALSE(isDivisible(-1, 2));
+}
+
+}  // namespace
+}  // namespace tavrune

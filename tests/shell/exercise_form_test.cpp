@@ -1,0 +1,283 @@
+#include "shell/exercise_form.h"
+
+#include <string>
+#include <vector>
+
+#include <QMessageBox>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "support/form_driver.h"
+
+namespace tavrune {
+namespace {
+
+using test::settle;
+
+enum class VerdictKind { One, Two, TwoDark };
+
+/// A form with two boxes, the four buttons and a verdict, that writes down what it is asked to do.
+class Sample : public ExerciseForm {
+public:
+    Sample(Draws& draws, VerdictKind kind, LastBox last) : ExerciseForm(PageName::Brok, draws) {
+        newExerciseButton.setObjectName("new");
+        ok.setObjectName("ok");
+        giveAnswerButton.setObjectName("give");
+        helpButton.setObjectName("help");
+        vis.setObjectName("vis");
+        first.setObjectName("first");
+        second.setObjectName("second");
+        panel.hide();
+        buttons({.newExercise = &newExerciseButton,
+                 .ok = &ok,
+                 .giveAnswer = &giveAnswerButton,
+                 .help = &helpButton});
+        if (kind == VerdictKind::One) {
+            verdict(OneLabel{&right});
+        } else {
+            verdict(TwoLabels{
+                .right = &right, .wrong = &wrong, .darkUntilFirstTick = kind == VerdictKind::TwoDark});
+        }
+        enterChain({&first, &second}, last);
+    }
+
+    using ExerciseForm::clearBoxes;
+    using ExerciseForm::design;
+    using ExerciseForm::enterGoes;
+    using ExerciseForm::failed;
+    using ExerciseForm::given;
+    using ExerciseForm::hideVerdict;
+    using ExerciseForm::showAsking;
+    using ExerciseForm::showRight;
+    using ExerciseForm::showWrong;
+    using ExerciseForm::solved;
+    using ExerciseForm::tell;
+
+    [[nodiscard]] std::string focus() const {
+        return focusWidget() == nullptr ? "" : focusWidget()->objectName().toStdString();
+    }
+
+    std::vector<std::string> calls;
+
+    Label right{design()};
+    Label wrong{design()};
+    AnswerBox first{design()};
+    AnswerBox second{design()};
+    Button newExerciseButton{design()};
+    Button ok{design()};
+    Button giveAnswerButton{design()};
+    Button helpButton{design()};
+    Panel panel{design()};
+    Button vis{&panel};
+
+protected:
+    void loadStep() override { calls.emplace_back("load"); }
+    void newExercise() override {
+        calls.emplace_back("new");
+        focusOn(&first);
+    }
+    void judge() override { calls.emplace_back("judge"); }
+    void giveAnswer() override { calls.emplace_back("give"); }
+    void help() override {
+        calls.emplace_back("help");
+        openPanel(&panel, &vis);
+    }
+};
+
+class LifeCycle : public testing::Test {
+protected:
+    Sample& open(VerdictKind kind = VerdictKind::One, LastBox last = LastBox::OkOrStay) {
+        form = std::make_unique<Sample>(draws, kind, last);
+        form->show();
+        settle();
+        return *form;
+    }
+
+    SeededDraws draws{1};
+    std::unique_ptr<Sample> form;
+};
+
+using Calls = std::vector<std::string>;
+
+TEST_F(LifeCycle, LoadsThenTicksOnce) {
+    Sample& s = open();
+    EXPECT_EQ(s.calls, (Calls{"load", "new"}));
+    s.hide();
+    s.show();
+    settle();
+    EXPECT_EQ(s.calls, (Calls{"load", "new"}));
+    EXPECT_EQ(s.focus(), "first");
+}
+
+TEST_F(LifeCycle, StandsStillBeforeItIsOnScreen) {
+    const Sample s(draws, VerdictKind::One, LastBox::OkOrStay);
+    settle();
+    EXPECT_TRUE(s.calls.empty());
+    EXPECT_TRUE(s.giveAnswerButton.isHidden());
+    EXPECT_TRUE(s.right.isHidden());
+}
+
+TEST_F(LifeCycle, RunsEachButtonsRole) {
+    Sample& s = open();
+    s.calls.clear();
+    s.giveAnswerButton.show();
+    for (Button* button : {&s.newExerciseButton, &s.ok, &s.giveAnswerButton, &s.helpButton}) {
+        button->click();
+    }
+    EXPECT_EQ(s.calls, (Calls{"new", "judge", "give", "help"}));
+}
+
+TEST_F(LifeCycle, AskingShowsOkAlone) {
+    Sample& s = open(VerdictKind::Two);
+    s.failed();
+    s.ok.hide();
+    s.showAsking();
+    EXPECT_TRUE(s.ok.isVisible());
+    EXPECT_FALSE(s.giveAnswerButton.isVisible());
+    EXPECT_FALSE(s.right.isVisible());
+    EXPECT_FALSE(s.wrong.isVisible());
+}
+
+TEST_F(LifeCycle, WrongKeepsOkAndOffersTheAnswer) {
+    Sample& s = open();
+    s.failed();
+    EXPECT_TRUE(s.ok.isVisible());
+    EXPECT_TRUE(s.giveAnswerButton.isVisible());
+    EXPECT_EQ(s.right.caption(), "FORKERT");
+    EXPECT_EQ(s.right.backColour(), QColor(255, 0, 0));
+    EXPECT_TRUE(s.right.isVisible());
+}
+
+TEST_F(LifeCycle, SolvedLeavesOnlyTheNextExercise) {
+    Sample& s = open();
+    s.failed();
+    s.solved();
+    EXPECT_FALSE(s.ok.isVisible());
+    EXPECT_FALSE(s.giveAnswerButton.isVisible());
+    EXPECT_EQ(s.right.caption(), "RIGTIGT");
+    EXPECT_EQ(s.right.backColour(), QColor(0, 130, 0));
+    EXPECT_EQ(s.focus(), "new");
+    EXPECT_TRUE(s.helpButton.isVisible());
+}
+
+TEST_F(LifeCycle, GivenShowsNoVerdict) {
+    Sample& s = open(VerdictKind::Two);
+    s.failed();
+    s.given();
+    EXPECT_FALSE(s.ok.isVisible());
+    EXPECT_FALSE(s.giveAnswerButton.isVisible());
+    EXPECT_FALSE(s.right.isVisible());
+    EXPECT_FALSE(s.wrong.isVisible());
+    EXPECT_EQ(s.focus(), "new");
+}
+
+TEST_F(LifeCycle, EnterOnTheNextExerciseStartsIt) {
+    Sample& s = open();
+    s.given();
+    s.calls.clear();
+    QTest::keyClick(s.focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(s.calls, (Calls{"new"}));
+}
+
+TEST_F(LifeCycle, TwoLabelsHaveFixedCaptionsAndColours) {
+    const Sample& s = open(VerdictKind::Two);
+    EXPECT_EQ(s.right.caption(), "RIGTIGT");
+    EXPECT_EQ(s.right.backColour(), QColor(0, 128, 0));
+    EXPECT_EQ(s.wrong.caption(), "FORKERT");
+    EXPECT_EQ(s.wrong.backColour(), QColor(255, 0, 0));
+}
+
+TEST_F(LifeCycle, TheDarkWrongLabelGetsItsFinalColourAtTheFirstTick) {
+    const Sample unshown(draws, VerdictKind::TwoDark, LastBox::OkOrStay);
+    EXPECT_EQ(unshown.wrong.backColour(), QColor(192, 0, 0));
+    EXPECT_EQ(open(VerdictKind::TwoDark).wrong.backColour(), QColor(255, 0, 0));
+}
+
+TEST_F(LifeCycle, ARightVerdictDoesNotHideAWrongOneBesideIt) {
+    Sample& s = open(VerdictKind::Two);
+    s.showWrong();
+    s.showRight();
+    EXPECT_TRUE(s.wrong.isVisible());
+    EXPECT_TRUE(s.right.isVisible());
+    s.hideVerdict();
+    EXPECT_FALSE(s.wrong.isVisible());
+}
+
+TEST_F(LifeCycle, EnterWalksFromBoxToBoxToOk) {
+    Sample& s = open();
+    QTest::keyClick(&s.first, Qt::Key_Return);
+    EXPECT_EQ(s.focus(), "second");
+    QTest::keyClick(&s.second, Qt::Key_Enter);
+    EXPECT_EQ(s.focus(), "ok");
+    EXPECT_EQ(s.calls.back(), "new") << "Enter in a box never judges";
+    QTest::keyClick(&s.ok, Qt::Key_Return);
+    EXPECT_EQ(s.calls.back(), "judge");
+}
+
+TEST_F(LifeCycle, EnterInTheLastBoxOfTheFirstKindStaysWithoutOk) {
+    Sample& s = open(VerdictKind::One, LastBox::OkOrStay);
+    s.ok.hide();
+    s.second.setFocus();
+    QTest::keyClick(&s.second, Qt::Key_Return);
+    EXPECT_EQ(s.focus(), "second");
+}
+
+TEST_F(LifeCycle, EnterInTheLastBoxOfTheSecondKindGoesOnToTheNextExercise) {
+    Sample& s = open(VerdictKind::One, LastBox::OkOrNewExercise);
+    QTest::keyClick(&s.second, Qt::Key_Return);
+    EXPECT_EQ(s.focus(), "ok");
+    s.ok.hide();
+    QTest::keyClick(&s.second, Qt::Key_Return);
+    EXPECT_EQ(s.focus(), "new");
+}
+
+TEST_F(LifeCycle, EnterPassesByABoxThatIsHidden) {
+    Sample& s = open();
+    AnswerBox third(s.design());
+    third.setObjectName("third");
+    third.show();
+    s.enterGoes(&third, {&s.second, &s.ok, &s.newExerciseButton});
+    s.second.hide();
+    QTest::keyClick(&third, Qt::Key_Return);
+    EXPECT_EQ(s.focus(), "ok");
+    s.ok.hide();
+    QTest::keyClick(&third, Qt::Key_Return);
+    EXPECT_EQ(s.focus(), "new");
+    s.second.show();
+    QTest::keyClick(&third, Qt::Key_Return);
+    EXPECT_EQ(s.focus(), "second");
+}
+
+TEST_F(LifeCycle, ClearedBoxesAreEmptyAndWhite) {
+    Sample& s = open();
+    s.first.setContent("7");
+    s.first.mark(true);
+    Sample::clearBoxes({&s.first});
+    EXPECT_EQ(s.first.content(), "");
+    EXPECT_EQ(s.first.backColour(), kWhite);
+}
+
+TEST_F(LifeCycle, HelpOpensThePanelWithTheFocusOnItsFirstVis) {
+    Sample& s = open();
+    s.helpButton.click();
+    EXPECT_TRUE(s.panel.isVisible());
+    EXPECT_EQ(s.focus(), "vis");
+}
+
+TEST_F(LifeCycle, AMessageHasOneButtonAndStandsOverThePageAlone) {
+    Sample& s = open();
+    s.tell("Hej <b>");
+    auto* const box = s.findChild<QMessageBox*>();
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->text(), "Hej <b>");
+    EXPECT_EQ(box->textFormat(), Qt::PlainText);
+    ASSERT_EQ(box->buttons().size(), 1);
+    EXPECT_EQ(box->buttons().at(0)->text(), "OK");
+    QTest::keyClick(box->buttons().at(0), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(s.findChild<QMessageBox*>(), nullptr);
+}
+
+}  // namespace
+}  // namespace tavrune

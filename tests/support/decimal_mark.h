@@ -1,0 +1,19 @@
+#pragma once
+
+#include "numeric/text.h"
+
+namespace tavrune::test {
+
+/// Numbers are written with this mark while it lives.
+class DecimalMark {
+public:
+    explicit DecimalMark(const char* mark) : before_(decimalMark()) { setDecimalMark(mark); }
+    ~DecimalMark() { setDecimalMark(before_); }
+    DecimalMark(const DecimalMark&) = delete;
+    DecimalMark& operator=(const DecimalMark&) = delete;
+
+private:
+    std::string before_;
+};
+
+}  // namespace tavrune::test

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <QString>
+
+#include "app/pages.h"
+#include "controls/answer_box.h"
+#include "controls/button.h"
+#include "controls/frame.h"
+#include "controls/label.h"
+#include "controls/line_control.h"
+#include "controls/option_button.h"
+#include "controls/panel.h"
+#include "shell/exercise_form.h"
+
+namespace tavrune::test {
+
+/// Opens any page by its name, finds any control by its name, and does what a person does to it: keys and
+/// clicks. A control that is not there fails the test at once.
+class FormDriver {
+public:
+    /// Makes the page, shows it, and lets its first tick pass.
+    FormDriver(PageName name, Draws& draws);
+
+    /// Makes the page without showing it: its design state.
+    static FormDriver unshown(PageName name, Draws& draws);
+
+    ~FormDriver();
+    FormDriver(FormDriver&&) = default;
+
+    /// Shows the page and lets its first tick pass.
+    void show();
+
+    [[nodiscard]] Page& page() const { return *page_; }
+
+    template <class Widget = QWidget>
+    [[nodiscard]] Widget& find(const std::string& name) const {
+        auto* const widget = page_->findChild<Widget*>(QString::fromStdString(name));
+        if (widget == nullptr) {
+            missing(name);
+        }
+        return *widget;
+    }
+
+    [[nodiscard]] Label& label(const std::string& name) const { return find<Label>(name); }
+    [[nodiscard]] AnswerBox& box(const std::string& name) const { return find<AnswerBox>(name); }
+    [[nodiscard]] Button& button(const std::string& name) const { return find<Button>(name); }
+    [[nodiscard]] OptionButton& option(const std::string& name) const { return find<OptionButton>(name); }
+
+    [[nodiscard]] std::string caption(const std::string& label) const { return this->label(label).caption(); }
+
+    /// The control's own flag, whatever stands around it.
+    [[nodiscard]] bool isShown(const std::string& name) const { return !find(name).isHidden(); }
+
+    /// The name of the control that has the focus on this page; empty if none has.
+    [[nodiscard]] std::string focus() const;
+
+    /// Replaces the text of a box, key by key.
+    void type(const std::string& box, const std::string& keys) const;
+    void press(const std::string& control, Qt::Key key) const;
+    void click(const std::string& control) const;
+
+    /// The text of the message box that stands over the page, whose button is then pressed; empty if there is
+    /// none.
+    [[nodiscard]] std::string answerMessage() const;
+
+private:
+    FormDriver() = default;
+    [[noreturn]] static void missing(const std::string& name);
+
+    std::unique_ptr<Page> page_;
+};
+
+/// Lets everything happen that is due now.
+void settle();
+
+}  // namespace tavrune::test

@@ -1,0 +1,229 @@
+#include "support/looks.h"
+
+#include <cmath>
+
+#include <QAbstractButton>
+#include <QTextLayout>
+
+#include "controls/answer_box.h"
+#include "controls/label.h"
+#include "controls/panel.h"
+#include "shell/exercise_form.h"
+
+namespace tavrune::test {
+namespace {
+
+// Glyphs may reach this far over their advance without being seen as cut off or overlapping.
+constexpr double kSlack = 1.5;
+
+struct Word {
+    QRectF place;
+    const QWidget* owner;
+    QString text;
+};
+
+QRectF onPage(const QWidget& widget, const QRectF& place, const QWidget& page) {
+    return place.translated(widget.mapTo(&page, QPoint(0, 0)));
+}
+
+/// Height and lines of a label's text as it is laid out in the label's width.
+struct Layout {
+    explicit Layout(const Label& label) {
+        const QFontMetrics metrics(label.font());
+        const double width = label.width();
+        double y = 0;
+        for (const QString& paragraph : label.text().split('\n')) {
+            QTextLayout text(paragraph, label.font());
+            QTextOption option;
+            option.setWrapMode(label.wordWrap() ? QTextOption::WordWrap : QTextOption::NoWrap);
+            text.setTextOption(option);
+            text.beginLayout();
+            while (true) {
+                QTextLine line = text.createLine();
+                if (!line.isValid()) {
+                    break;
+                }
+                line.setLineWidth(label.wordWrap() ? width : 1e6);
+                addLine(paragraph, line, y, metrics);
+                y += metrics.lineSpacing();
+            }
+            text.endLayout();
+            if (paragraph.isEmpty()) {
+                y += metrics.lineSpacing();
+            }
+        }
+        height = y;
+        place(label);
+    }
+
+    std::vector<std::pair<QRectF, QString>> words;
+    double height = 0;
+    double widest = 0;
+
+private:
+    struct LineOf {
+        std::size_t first;
+        double width;
+    };
+    std::vector<LineOf> lines_;
+
+    void addLine(const QString& paragraph, const QTextLine& line, double y, const QFontMetrics& metrics) {
+        lines_.push_back({words.size(), line.naturalTextWidth()});
+        widest = std::max(widest, line.naturalTextWidth());
+        const auto end = line.textStart() + line.textLength();
+        int at = line.textStart();
+        while (at < end) {
+            while (at < end && paragraph[at].isSpace()) {
+                ++at;
+            }
+            int stop = at;
+            while (stop < end && !paragraph[stop].isSpace()) {
+                ++stop;
+            }
+            if (stop == at) {
+                break;
+            }
+            const double left = line.cursorToX(at);
+            // The ink of a line: from the top of its capitals to its baseline.
+            const double top = y + metrics.ascent() - metrics.capHeight();
+            words.push_back(
+                {{left, top, line.cursorToX(stop) - left, static_cast<double>(metrics.capHeight())},
+                 paragraph.mid(at, stop - at)});
+            at = stop;
+        }
+    }
+
+    void place(const Label& label) {
+        const double down = label.alignment() & Qt::AlignVCenter  ? (label.height() - height) / 2
+                            : label.alignment() & Qt::AlignBottom ? label.height() - height
+                                                                  : 0;
+        for (std::size_t i = 0; i < lines_.size(); ++i) {
+            const double rest = label.width() - lines_[i].width;
+            const double right = label.alignment() & Qt::AlignHCenter ? rest / 2
+                                 : label.alignment() & Qt::AlignRight ? rest
+                                                                      : 0;
+            const std::size_t end = i + 1 < lines_.size() ? lines_[i + 1].first : words.size();
+            for (std::size_t w = lines_[i].first; w < end; ++w) {
+                words[w].first.translate(right, down);
+            }
+        }
+    }
+};
+
+std::string named(const QWidget& widget, const QString& text) {
+    return (widget.objectName() + " \"" + text + "\"").toStdString();
+}
+
+bool isOpaqueOver(const QWidget& front, const QPoint& pointOnPage, const QWidget& page) {
+    return front.isVisible() && front.autoFillBackground() &&
+           front.rect().contains(front.mapFrom(&page, pointOnPage));
+}
+
+/// True if something opaque that is no ancestor of `widget` lies in front of this point.
+bool isCovered(const QWidget& widget, const QPoint& pointOnPage, const QWidget& page) {
+    const QWidget* child = &widget;
+    for (const QWidget* parent = widget.parentWidget(); parent != nullptr && child != &page;
+         child = parent, parent = parent->parentWidget()) {
+        const QObjectList& siblings = parent->children();
+        for (qsizetype i = siblings.indexOf(child) + 1; i < siblings.size(); ++i) {
+            const auto* const front = qobject_cast<QWidget*>(siblings[i]);
+            if (front != nullptr && !front->isWindow() && isOpaqueOver(*front, pointOnPage, page)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+class Inspection {
+public:
+    explicit Inspection(const QWidget& page) : page_(page) {
+        for (const Label* label : page.findChildren<Label*>()) {
+            if (label->isVisible() && !label->text().trimmed().isEmpty()) {
+                look(*label);
+            }
+        }
+        for (const QAbstractButton* button : page.findChildren<QAbstractButton*>()) {
+            if (button->isVisible() && dynamic_cast<const Control*>(button) != nullptr) {
+                look(*button);
+            }
+        }
+        for (const AnswerBox* box : page.findChildren<AnswerBox*>()) {
+            if (box->isVisible()) {
+                look(*box);
+            }
+        }
+        compareWords();
+    }
+
+    std::vector<std::string> flaws;
+
+private:
+    const QWidget& page_;
+    std::vector<Word> words_;
+
+    void look(const Label& label) {
+        const Layout layout(label);
+        if (layout.widest > label.width() + kSlack) {
+            flaws.push_back(named(label, label.text()) + " is cut off at its right");
+        }
+        if (layout.height > label.height() + kSlack) {
+            flaws.push_back(named(label, label.text()) + " is cut off below");
+        }
+        checkInside(label, label.text());
+        for (const auto& [place, text] : layout.words) {
+            addWord(label, place, text);
+        }
+    }
+
+    void look(const QAbstractButton& button) {
+        if (button.sizeHint().width() > button.width() + kSlack &&
+            button.fontMetrics().horizontalAdvance(button.text()) + 6 > button.width()) {
+            flaws.push_back(named(button, button.text()) + " does not fit its button");
+        }
+        checkInside(button, button.text());
+        addWord(button, QRectF(button.rect()).adjusted(2, 4, -2, -4), button.text());
+    }
+
+    void look(const AnswerBox& box) {
+        checkInside(box, box.text());
+        addWord(box, QRectF(box.rect()).adjusted(2, 3, -2, -3), "[" + box.text() + "]");
+    }
+
+    void checkInside(const QWidget& widget, const QString& text) {
+        const QRectF parent =
+            QRectF(widget.parentWidget()->rect()).adjusted(-kSlack, -kSlack, kSlack, kSlack);
+        if (!parent.contains(QRectF(widget.geometry()))) {
+            flaws.push_back(named(widget, text) + " leaves its parent");
+        }
+    }
+
+    void addWord(const QWidget& owner, const QRectF& place, const QString& text) {
+        const QRectF onThePage = onPage(owner, place, page_);
+        if (!isCovered(owner, onThePage.center().toPoint(), page_)) {
+            words_.push_back({onThePage, &owner, text});
+        }
+    }
+
+    void compareWords() {
+        for (std::size_t i = 0; i < words_.size(); ++i) {
+            for (std::size_t j = i + 1; j < words_.size(); ++j) {
+                const Word& a = words_[i];
+                const Word& b = words_[j];
+                if (a.owner == b.owner) {
+                    continue;
+                }
+                const QRectF both = a.place.intersected(b.place);
+                if (both.width() > kSlack && both.height() > kSlack) {
+                    flaws.push_back(named(*a.owner, a.text) + " lies over " + named(*b.owner, b.text));
+                }
+            }
+        }
+    }
+};
+
+}  // namespace
+
+std::vector<std::string> flawsOf(const QWidget& window) { return Inspection(window).flaws; }
+
+}  // namespace tavrune::test

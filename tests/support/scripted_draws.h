@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <stdexcept>
+#include <vector>
+
+#include "numeric/draws.h"
+
+namespace tavrune::test {
+
+/// Draws that are written down beforehand. Asking for more than there are throws, so that a generator that
+/// draws once too often is seen.
+class ScriptedDraws final : public Draws {
+public:
+    ScriptedDraws() = default;
+    ScriptedDraws(std::initializer_list<float> script) : script_(script) {}
+    explicit ScriptedDraws(std::vector<float> script) : script_(std::move(script)) {}
+
+    void append(std::initializer_list<float> more) { script_.insert(script_.end(), more); }
+
+    float Rnd() override {
+        if (next_ >= script_.size()) {
+            throw std::out_of_range("the script of draws is used up");
+        }
+        return script_[next_++];
+    }
+
+    void Randomize() override { ++randomized_; }
+
+    [[nodiscard]] std::size_t used() const { return next_; }
+    [[nodiscard]] bool isUsedUp() const { return next_ == script_.size(); }
+    [[nodiscard]] int randomized() const { return randomized_; }
+
+private:
+    std::vector<float> script_;
+    std::size_t next_ = 0;
+    int randomized_ = 0;
+};
+
+/// A draw that falls into cell `cell` of `cells` equal ones: Int(cellOf(3, 20) * 20) is 3.
+[[nodiscard]] constexpr float cellOf(int cell, int cells) {
+    return (static_cast<float>(cell) + 0.5F) / static_cast<float>(cells);
+}
+
+/// The largest draw there is: 1 - 2^-24.
+inline constexpr float kLargestDraw = 1 - 1.0F / (1U << 24U);
+
+}  // namespace tavrune::test

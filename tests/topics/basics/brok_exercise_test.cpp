@@ -1,0 +1,309 @@
+#include "topics/basics/brok_exercise.h"
+
+#include <cmath>
+#include <numeric>
+#include <set>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "numeric/text.h"
+#include "support/scripted_draws.h"
+
+namespace tavrune {
+namespace {
+
+using test::cellOf;
+using test::ScriptedDraws;
+
+/// The draw that gives this part of a fraction.
+float part(int value) { return cellOf(value + 10, 20); }
+
+enum Type { Minus = 0, Plus = 1, Times = 2, By = 3 };
+
+float type(Type t) { return cellOf(t, 4); }
+
+BrokState exercise(int a, int b, int c, int d, Type t) {
+    ScriptedDraws draws{part(a), part(b), part(c), part(d), type(t)};
+    BrokState state;
+    newExercise(state, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    return state;
+}
+
+BrokState withResult(double numerator, double denominator) {
+    BrokState state;
+    state.resultNumerator = numerator;
+    state.resultDenominator = denominator;
+    return state;
+}
+
+TEST(BrokGenerator, DrawsFourPartsThenTheType) {
+    const BrokState s = exercise(-10, 9, 3, -1, Minus);
+    EXPECT_EQ(s.numeratorA, -10);
+    EXPECT_EQ(s.denominatorB, 9);
+    EXPECT_EQ(s.numeratorC, 3);
+    EXPECT_EQ(s.denominatorD, -1);
+    EXPECT_EQ(s.operatorText, "-");
+}
+
+TEST(BrokGenerator, DrawsAllFourAgainWithoutReseedingWhileOneIsZero) {
+    ScriptedDraws draws{part(1), part(0), part(3), part(4), part(5), part(6), part(7), part(8), type(Times)};
+    BrokState s;
+    newExercise(s, draws);
+    EXPECT_EQ(s.numeratorA, 5);
+    EXPECT_EQ(s.denominatorD, 8);
+    EXPECT_EQ(draws.randomized(), 1);
+    EXPECT_TRUE(draws.isUsedUp());
+}
+
+TEST(BrokGenerator, StartsOverWithReseedingWhileTheResultIsZero) {
+    ScriptedDraws draws{part(1), part(2), part(1), part(2), type(Minus),
+                        part(1), part(2), part(1), part(2), type(Plus)};
+    BrokState s;
+    newExercise(s, draws);
+    EXPECT_EQ(s.operatorText, "+");
+    EXPECT_EQ(draws.randomized(), 2);
+}
+
+struct TypeRow {
+    const char* name;
+    Type type;
+    int a, b, c, d;
+    const char* operatorText;
+    double numerator, denominator;
+};
+
+class BrokTypes : public testing::TestWithParam<TypeRow> {};
+
+TEST_P(BrokTypes, StoreTheResultAsComputed) {
+    const TypeRow& row = GetParam();
+    const BrokState s = exercise(row.a, row.b, row.c, row.d, row.type);
+    EXPECT_EQ(s.operatorText, row.operatorText);
+    EXPECT_EQ(s.resultNumerator, row.numerator);
+    EXPECT_EQ(s.resultDenominator, row.denominator);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, BrokTypes,
+                         testing::Values(TypeRow{"Difference", Minus, 1, 2, 1, 3, "-", 1, 6},
+                                         TypeRow{"DifferenceOverOneDenominator", Minus, 1, 4, 3, 4, "-", -2,
+                                                 4},
+                                         TypeRow{"Sum", Plus, 1, 2, 1, 3, "+", 5, 6},
+                                         TypeRow{"SumOverOneDenominator", Plus, 1, 2, 1, 2, "+", 2, 2},
+                                         TypeRow{"Product", Times, -2, 3, 4, -5, "*", -8, -15},
+                                         TypeRow{"Quotient", By, 2, 3, 4, 5, "/", 10, 12}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(BrokJudge, TakesAnyFractionOfTheSameValue) {
+    const BrokState s = withResult(3, 4);
+    EXPECT_TRUE(isRight(s, 3, 4));
+    EXPECT_TRUE(isRight(s, 6, 8));
+    EXPECT_TRUE(isRight(s, -3, -4));
+    EXPECT_TRUE(isRight(s, 0.75, 1));
+    EXPECT_FALSE(isRight(s, -3, 4));
+    EXPECT_FALSE(isRight(s, 4, 3));
+    EXPECT_FALSE(isRight(s, 0, 4));
+    EXPECT_FALSE(isRight(s, 0.7500001, 1));
+}
+
+TEST(BrokReduction, OfAnEqualPairIsOne) {
+    EXPECT_EQ(reductionText(withResult(2, 2), 2).whole, "1");
+    EXPECT_EQ(reductionText(withResult(-2, 2), -2).whole, "-1");
+}
+
+TEST(BrokReduction, OfAMultipleIsTheWholeNumber) {
+    EXPECT_EQ(reductionText(withResult(-12, 6), -12).whole, "-2");
+    EXPECT_EQ(reductionText(withResult(12, 6), 12).whole, "2");
+    EXPECT_EQ(reductionText(withResult(5, -1), 5).whole, "-5");
+}
+
+TEST(BrokReduction, IsShownForAnUnreducedAnswerOnly) {
+    const ReductionText unreduced = reductionText(withResult(6, 8), 6);
+    ASSERT_TRUE(unreduced.fraction);
+    EXPECT_EQ(unreduced.fraction->numerator, "3");
+    EXPECT_EQ(unreduced.fraction->denominator, "4");
+    EXPECT_FALSE(unreduced.whole);
+
+    const ReductionText reducedAlready = reductionText(withResult(6, 8), 3);
+    EXPECT_FALSE(reducedAlready.fraction);
+    EXPECT_FALSE(reducedAlready.whole);
+}
+
+TEST(BrokReduction, CarriesTheSignInTheNumerator) {
+    const ReductionText text = reductionText(withResult(3, -4), 3);
+    ASSERT_TRUE(text.fraction);
+    EXPECT_EQ(text.fraction->numerator, "-3");
+    EXPECT_EQ(text.fraction->denominator, "4");
+    EXPECT_FALSE(reductionText(withResult(3, -4), -3).fraction);
+}
+
+TEST(BrokReduction, HoldsSevenFactors) {
+    const ReducedFraction r = reduced(withResult(128, 64));
+    EXPECT_EQ(r.numerator, 2);
+    EXPECT_EQ(r.denominator, 1);
+    EXPECT_EQ(reduced(withResult(192, 3)).numerator, 64);
+}
+
+TEST(BrokReduction, TakesAStateWithoutAnExercise) {
+    EXPECT_FALSE(reduced(BrokState{}).isNegative);
+    EXPECT_EQ(reduced(BrokState{}).numerator, 1);
+}
+
+TEST(BrokWorked, WritesBracketsRoundNegativesAndTheBlanksOfTheOperator) {
+    const BrokWorked sum = workedSolution(exercise(-1, 2, 3, -4, Plus));
+    EXPECT_EQ(sum.middle.numerator, "(-1)*(-4) + 3*2");
+    EXPECT_EQ(sum.middle.denominator, "2*(-4)");
+    EXPECT_EQ(sum.computed.numerator, "10");
+    EXPECT_EQ(sum.computed.denominator, "-8");
+
+    const BrokWorked difference = workedSolution(exercise(-1, 2, 3, -4, Minus));
+    EXPECT_EQ(difference.middle.numerator, "(-1)*(-4) - 3*2");
+    EXPECT_EQ(difference.computed.numerator, "-2");
+
+    const BrokWorked product = workedSolution(exercise(-1, 2, 3, -4, Times));
+    EXPECT_EQ(product.middle.numerator, "(-1)*3");
+    EXPECT_EQ(product.middle.denominator, "2*(-4)");
+    EXPECT_EQ(product.computed.numerator, "-3");
+
+    const BrokWorked quotient = workedSolution(exercise(-1, 2, 3, -4, By));
+    EXPECT_EQ(quotient.middle.numerator, "(-1)*(-4)");
+    EXPECT_EQ(quotient.middle.denominator, "2*3");
+    EXPECT_EQ(quotient.computed.numerator, "4");
+    EXPECT_EQ(quotient.computed.denominator, "6");
+}
+
+TEST(BrokWorked, DoesNotShowTheShortcutOfTheGenerator) {
+    const BrokWorked worked = workedSolution(exercise(1, 4, 2, 4, Plus));
+    EXPECT_EQ(worked.computed.numerator, "12");
+    EXPECT_EQ(worked.computed.denominator, "16");
+}
+
+TEST(BrokWorked, EndsInAWholeNumberAReducedFractionOrNothing) {
+    const LastStep whole = workedSolution(exercise(-4, 1, 2, 1, By)).last;
+    EXPECT_EQ(whole.kind, LastStep::Kind::Whole);
+    EXPECT_EQ(whole.numerator, "-2");
+
+    const LastStep one = workedSolution(exercise(1, 2, 1, 2, Plus)).last;
+    EXPECT_EQ(one.kind, LastStep::Kind::Whole);
+    EXPECT_EQ(one.numerator, "1");
+
+    EXPECT_EQ(workedSolution(exercise(1, 2, 1, 3, Plus)).last.kind, LastStep::Kind::Irreducible);
+    EXPECT_EQ(workedSolution(exercise(-1, 2, 1, 7, Times)).last.kind, LastStep::Kind::Irreducible);
+
+    const LastStep reducible = workedSolution(exercise(-2, 3, 1, 4, Times)).last;
+    EXPECT_EQ(reducible.kind, LastStep::Kind::Reduced);
+    EXPECT_EQ(reducible.numerator, "-1");
+    EXPECT_EQ(reducible.denominator, "6");
+}
+
+TEST(BrokWorked, MovesTheSignOutOfANegativeDenominator) {
+    const LastStep last = workedSolution(exercise(1, -2, 1, 7, Times)).last;
+    EXPECT_EQ(last.kind, LastStep::Kind::Reduced);
+    EXPECT_EQ(last.numerator, "-1");
+    EXPECT_EQ(last.denominator, "14");
+}
+
+TEST(BrokMethods, AreOneForEachOperator) {
+    EXPECT_STREQ(methodFor("+").numerator, "a*d + c*b");
+    EXPECT_STREQ(methodFor("-").numerator, "a*d - c*b");
+    EXPECT_STREQ(methodFor("*").numerator, "a*c");
+    EXPECT_STREQ(methodFor("/").numerator, "a*d");
+    EXPECT_STREQ(methodFor("/").denominator, "b*c");
+    EXPECT_STREQ(methodFor("+").task, "Her skal du lægge to brøker sammen");
+    EXPECT_STREQ(methodFor("*").rule, "Gang tæller med tæller og nævner med nævner");
+}
+
+/// Calls `visit` with each of the 19^4 * 4 exercises that can be drawn; those with a result of 0 are no
+/// exercises.
+template <class Visit>
+void forEachExercise(Visit visit) {
+    for (int a = -10; a < 10; ++a) {
+        for (int b = -10; b < 10; ++b) {
+            for (int c = -10; c < 10; ++c) {
+                for (int d = -10; d < 10; ++d) {
+                    if (a * b * c * d == 0) {
+                        continue;
+                    }
+                    for (const Type t : {Minus, Plus, Times, By}) {
+                        const bool isZero = (t == Minus && a * d == b * c) || (t == Plus && a * d == -b * c);
+                        if (!isZero) {
+                            visit(a, b, c, d, t);
+                        }
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(BrokSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
+    int visited = 0;
+    forEachExercise([&visited](int a, int b, int c, int d, Type t) {
+        ++visited;
+        const BrokState s = exercise(a, b, c, d, t);
+        const double n = s.resultNumerator;
+        const double m = s.resultDenominator;
+        // The value by a second way: whole-number arithmetic over the common denominator.
+        int top = t == Times ? a * c : a * d;
+        const int bottom = t == By ? b * c : b * d;
+        if (t == Plus) {
+            top += b * c;
+        }
+        if (t == Minus) {
+            top -= b * c;
+        }
+        const int divisor = std::gcd(top, bottom) * (bottom < 0 ? -1 : 1);
+        const double p = static_cast<double>(top) / divisor;
+        const double q = static_cast<double>(bottom) / divisor;
+
+        const ReducedFraction r = reduced(s);
+        const bool holds = n != 0 && m != 0 && std::abs(n) <= 200 && std::abs(m) <= 100 && isRight(s, n, m) &&
+                           isRight(s, -n, -m) && isRight(s, p, q) && isRight(s, 2 * p, 2 * q) &&
+                           !isRight(s, n + 1, m) && !isRight(s, -n, m) && !isRight(s, 0, m) &&
+                           r.signedNumerator() == p && r.denominator == q;
+        ASSERT_TRUE(holds) << a << "/" << b << " " << s.operatorText << " " << c << "/" << d;
+    });
+    // 521,284 exercises less those with a result of 0.
+    EXPECT_EQ(visited, 517'539);
+}
+
+RC_GTEST_PROP(BrokSeeds, GiveEqualTextsForEqualSeeds, (std::uint64_t seed)) {
+    SeededDraws one(seed);
+    SeededDraws other(seed);
+    BrokState s;
+    BrokState t;
+    newExercise(s, one);
+    newExercise(t, other);
+    const BrokWorked ws = workedSolution(s);
+    const BrokWorked wt = workedSolution(t);
+    RC_ASSERT(ws.middle.numerator == wt.middle.numerator);
+    RC_ASSERT(ws.computed.denominator == wt.computed.denominator);
+    RC_ASSERT(s.operatorText == t.operatorText);
+}
+
+TEST(BrokSeeds, AreFrozenForAllBuildsAndProcessors) {
+    SeededDraws draws(7);
+    BrokState s;
+    std::string texts;
+    for (int i = 0; i < 5; ++i) {
+        newExercise(s, draws);
+        texts += NumberText(s.numeratorA) + "/" + NumberText(s.denominatorB) + s.operatorText +
+                 NumberText(s.numeratorC) + "/" + NumberText(s.denominatorD) + " ";
+    }
+    EXPECT_EQ(texts, "4/-2+1/1 5/7--4/-3 -5/1+-1/-7 -2/-8*6/-10 -2/2/8/-3 ");
+}
+
+TEST(BrokSeeds, ReachEveryOperator) {
+    std::set<std::string> operators;
+    SeededDraws draws(11);
+    BrokState s;
+    for (int i = 0; i < 200; ++i) {
+        newExercise(s, draws);
+        operators.insert(s.operatorText);
+    }
+    EXPECT_EQ(operators.size(), 4U);
+}
+
+}  // namespace
+}  // namespace tavrune
