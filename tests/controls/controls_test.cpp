@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/button.h"
+#include "controls/fraction.h"
 #include "controls/label.h"
 #include "controls/line_control.h"
 #include "controls/option_button.h"
@@ -161,6 +162,41 @@ TEST(LineControl, MovesTheEndOfAFractionBar) {
     line.setEnds({40, 70, 80, 70});
     line.setRightEnd(95);
     EXPECT_EQ(line.ends(), QLineF(40, 70, 95, 70));
+}
+
+class FractionOfThree : public testing::Test {
+protected:
+    QWidget page;
+    Label top{&page};
+    LineControl bar{&page};
+    Label bottom{&page};
+    Fraction fraction{&top, &bar, &bottom};
+};
+
+TEST_F(FractionOfThree, IsAsWideAsItsWiderText) {
+    fraction.setTexts("3", "4 - (-10)");
+    EXPECT_EQ(top.place().width(), bottom.textWidth());
+    EXPECT_FALSE(top.isAutoSize());
+    EXPECT_TRUE(bottom.isAutoSize());
+    fraction.setTexts("4 - (-10)", "3");
+    EXPECT_EQ(bottom.place().width(), top.textWidth());
+    EXPECT_EQ(fraction.right(), top.place().right());
+}
+
+TEST_F(FractionOfThree, MovesWithItsBar) {
+    fraction.setTexts("-7", "12");
+    fraction.setLeft(32);
+    EXPECT_EQ(top.place().left(), 32);
+    EXPECT_EQ(bottom.place().left(), 32);
+    EXPECT_EQ(bar.ends().x1(), 32);
+    EXPECT_EQ(bar.ends().x2(), top.place().right());
+}
+
+TEST_F(FractionOfThree, ShowsAndHidesAsOne) {
+    fraction.setShown(false);
+    EXPECT_FALSE(top.isShown() || bar.isShown() || bottom.isShown());
+    fraction.setShown(true);
+    EXPECT_TRUE(top.isShown() && bar.isShown() && bottom.isShown());
 }
 
 TEST(Panel, IsWhiteWithBlackText) {

@@ -1,6 +1,6 @@
 #include "topics/basics/brok.h"
 
-#include "controls/line_control.h"
+#include "controls/fraction.h"
 #include "controls/panel.h"
 #include "numeric/text.h"
 #include "topics/basics/ui_brok.h"
@@ -12,21 +12,6 @@ constexpr double kFirstFraction = fromTwips(600);
 constexpr double kSecondFraction = fromTwips(2160);
 constexpr double kMiddleFraction = fromTwips(1080);
 constexpr double kGap = 4;
-
-/// Two numbers centred over each other, both as wide as the wider one.
-void stack(Label* top, const std::string& numerator, Label* bottom, const std::string& denominator,
-           double left) {
-    top->setAutoSize(true);
-    bottom->setAutoSize(true);
-    top->setCaption(numerator);
-    bottom->setCaption(denominator);
-    Label* const wider = top->place().width() > bottom->place().width() ? top : bottom;
-    Label* const narrower = wider == top ? bottom : top;
-    narrower->setAutoSize(false);
-    narrower->setWidth(wider->place().width());
-    top->setLeft(left);
-    bottom->setLeft(left);
-}
 
 /// Moves a control to the right of another.
 double placeAfter(Control* control, double x) {
@@ -65,12 +50,12 @@ void Brok::newExercise() {
 }
 
 void Brok::layOutFractions() {
-    stack(ui_->Label1, NumberText(state_.numeratorA), ui_->Label2, NumberText(state_.denominatorB),
-          kFirstFraction);
-    stack(ui_->Label4, NumberText(state_.numeratorC), ui_->Label5, NumberText(state_.denominatorD),
-          kSecondFraction);
-    ui_->Line1->setRightEnd(ui_->Label2->place().right());
-    ui_->Line2->setRightEnd(ui_->Label5->place().right());
+    const Fraction first(ui_->Label1, ui_->Line1, ui_->Label2);
+    first.setTexts(NumberText(state_.numeratorA), NumberText(state_.denominatorB));
+    first.setLeft(kFirstFraction);
+    const Fraction second(ui_->Label4, ui_->Line2, ui_->Label5);
+    second.setTexts(NumberText(state_.numeratorC), NumberText(state_.denominatorD));
+    second.setLeft(kSecondFraction);
 }
 
 void Brok::judge() {
@@ -138,8 +123,9 @@ void Brok::showWorkedSolution() {
     ui_->brokk_3->setCaption(NumberText(state_.numeratorC));
     ui_->brokk_4->setCaption(NumberText(state_.denominatorD));
 
-    stack(ui_->brokk_6, worked.middle.numerator, ui_->brokk_7, worked.middle.denominator, kMiddleFraction);
-    ui_->Line10->setRightEnd(ui_->brokk_6->place().right());
+    const Fraction middle(ui_->brokk_6, ui_->Line10, ui_->brokk_7);
+    middle.setTexts(worked.middle.numerator, worked.middle.denominator);
+    middle.setLeft(kMiddleFraction);
     ui_->brokk_9->setCaption(worked.computed.numerator);
     ui_->brokk_10->setCaption(worked.computed.denominator);
 
@@ -154,7 +140,7 @@ void Brok::showWorkedSolution() {
         ui_->Label23->setCaption(last.numerator);
     }
 
-    double x = placeAfter(ui_->brokk_8, ui_->brokk_6->place().right());
+    double x = placeAfter(ui_->brokk_8, middle.right());
     placeAfter(ui_->brokk_9, x);
     placeAfter(ui_->Line11, x);
     x = placeAfter(ui_->brokk_10, x);

@@ -1,0 +1,254 @@
+#include "graph/graph_box.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "graph/clipping.h"
+
+namespace tavrune {
+namespace {
+
+constexpr double kTwipsToAUnit = 15;
+const QColor kOutline(96, 96, 96);
+
+/// From the scale of a stroke to the pixels of the device.
+class Mapping {
+public:
+    Mapping(const GraphScale& scale, QSizeF pixels)
+        : origin_(scale.x1, scale.y1),
+          perX_(pixels.width() / (static_cast<double>(scale.x2) - scale.x1)),
+          perY_(pixels.height() / (static_cast<double>(scale.y2) - scale.y1)) {}
+
+    [[nodiscard]] QPointF operator()(double x, double y) const {
+        return {(x - origin_.x()) * perX_, (y - origin_.y()) * perY_};
+    }
+
+private:
+    QPointF origin_;
+    double perX_;
+    double perY_;
+};
+
+/// The first pixel of a stroke `thickness` pixels wide round `x`, kept on a box of `size` pixels: a line on
+/// the border itself is seen.
+int firstPixel(double x, int thickness, double size) {
+    const int first = static_cast<int>(std::floor(x - (thickness - 1) / 2.0));
+    const bool isOnBorder = x <= size + 0.5;
+    return isOnBorder ? std::min(first, static_cast<int>(size) - thickness) : first;
+}
+
+/// Paints strokes in pixels of the device.
+class StrokePainter {
+public:
+    StrokePainter(QPainter& painter, QSizeF pixels, double pixelsToAUnit)
+        : painter_(painter), pixels_(pixels), pixelsToAUnit_(pixelsToAUnit) {}
+
+    void paint(const Stroke& stroke) {
+        const Mapping map(stroke.scale, pixels_);
+        const int thickness = std::max(1, static_cast<int>(std::lround(stroke.width * pixelsToAUnit_)));
+        if (stroke.kind == Stroke::Kind::Point) {
+            paintPoint(map(stroke.x1, stroke.y1), thickness, stroke.colour);
+            return;
+        }
+        const double margin = 2.0 * thickness;
+        const QRectF bounds = QRectF(QPointF(0, 0), pixels_).adjusted(-margin, -margin, margin, margin);
+        const auto line = clipped(QLineF(map(stroke.x1, stroke.y1), map(stroke.x2, stroke.y2)), bounds);
+        if (line) {
+            paintLine(*line, stroke, thickness);
+        }
+    }
+
+private:
+    QPainter& painter_;
+    QSizeF pixels_;
+    double pixelsToAUnit_;
+
+    void paintPoint(QPointF at, int thickness, const QColor& colour) {
+        const QRectF near =
+            QRectF(QPointF(0, 0), pixels_).adjusted(-thickness, -thickness, thickness, thickness);
+        if (!near.contains(at)) {
+            return;
+        }
+        painter_.fillRect(firstPixel(at.x(), thickness, pixels_.width()),
+                          firstPixel(at.y(), thickness, pixels_.height()), thickness, thickness, colour);
+    }
+
+    void paintLine(const QLineF& line, const Stroke& stroke, int thickness) {
+        const bool isLevel = std::abs(line.dy()) < 0.5;
+        const bool isUpright = std::abs(line.dx()) < 0.5;
+        QPen pen(stroke.colour, thickness, stroke.style == LineStyle::Dotted ? Qt::DotLine : Qt::SolidLine,
+                 Qt::FlatCap);
+        painter_.setPen(pen);
+        if (!isLevel && !isUpright) {
+            painter_.setRenderHint(QPainter::Antialiasing, true);
+            painter_.drawLine(line);
+            painter_.setRenderHint(QPainter::Antialiasing, false);
+            return;
+        }
+        // What runs along the axes fills whole pixels.
+        const auto middle = [thickness](int first) { return first + thickness / 2.0; };
+        if (isLevel) {
+            const double y = middle(firstPixel(line.y1(), thickness, pixels_.height()));
+            paintAligned(QLineF(std::floor(std::min(line.x1(), line.x2())), y,
+                                std::floor(std::max(line.x1(), line.x2())) + 1, y),
+                         stroke, thickness);
+        } else {
+            const double x = middle(firstPixel(line.x1(), thickness, pixels_.width()));
+            paintAligned(QLineF(x, std::floor(std::min(line.y1(), line.y2())), x,
+                                std::floor(std::max(line.y1(), line.y2())) + 1),
+                         stroke, thickness);
+        }
+    }
+
+    void paintAligned(const QLineF& line, const Stroke& stroke, int thickness) {
+        if (stroke.style == LineStyle::Dotted) {
+            painter_.drawLine(line);
+            return;
+        }
+        const double half = thickness / 2.0;
+        const QRectF filled = line.dy() == 0 ? QRectF(line.x1(), line.y1() - half, line.dx(), thickness)
+                                             : QRectF(line.x1() - half, line.y1(), thickness, line.dy());
+        painter_.fillRect(filled, stroke.colour);
+    }
+};
+
+}  // namespace
+
+GraphBox::GraphBox(QWidget* parent) : QWidget(parent), Control(this) {
+    setFocusPolicy(Qt::NoFocus);
+    setAutoFillBackground(true);
+    setPaletteColour(QPalette::WindowText, kBlack);
+    setBackColour(kWhite);
+}
+
+void GraphBox::Scale(double x1, double y1, double x2, double y2) {
+    scale_ = {static_cast<float>(x1), static_cast<float>(y1), static_cast<float>(x2), static_cast<float>(y2)};
+    hasScale_ = true;
+}
+
+void GraphBox::Line(double x1, double y1, double x2, double y2) { Line(x1, y1, x2, y2, kBlack); }
+
+void GraphBox::Line(double x1, double y1, double x2, double y2, const QColor& colour) {
+    add({Stroke::Kind::Line, static_cast<float>(x1), static_cast<float>(y1), static_cast<float>(x2),
+         static_cast<float>(y2), colour, style_, width_, scale()});
+}
+
+void GraphBox::PSet(double x, double y) { PSet(x, y, kBlack); }
+
+void GraphBox::PSet(double x, double y, const QColor& colour) {
+    add({Stroke::Kind::Point, static_cast<float>(x), static_cast<float>(y), static_cast<float>(x),
+         static_cast<float>(y), colour, LineStyle::Solid, width_, scale()});
+}
+
+void GraphBox::Cls() {
+    strokes_.clear();
+    picture_ = QPixmap();
+    painted_ = 0;
+    update();
+}
+
+GraphScale GraphBox::scale() const {
+    if (hasScale_) {
+        return scale_;
+    }
+    const QRectF box = Control::place();
+    return {0, 0, static_cast<float>(box.width() * kTwipsToAUnit),
+            static_cast<float>(box.height() * kTwipsToAUnit)};
+}
+
+void GraphBox::place(Control& control, double x, double y) const {
+    const QPointF corner = Mapping(scale(), Control::place().size())(x, y);
+    QRectF moved = control.place();
+    moved.moveTopLeft(corner);
+    control.setPlace(moved);
+}
+
+void GraphBox::placeLeft(Control& control, double x) const {
+    control.setLeft(Mapping(scale(), Control::place().size())(x, 0).x());
+}
+
+double GraphBox::leftOf(const Control& control) const {
+    const GraphScale s = scale();
+    return s.x1 + control.place().left() * (s.x2 - s.x1) / Control::place().width();
+}
+
+double GraphBox::rightOf(const Control& control) const { return leftOf(control) + widthOf(control); }
+
+double GraphBox::widthOf(const Control& control) const {
+    const GraphScale s = scale();
+    return control.place().width() * (s.x2 - s.x1) / Control::place().width();
+}
+
+void GraphBox::setWidthOf(Control& control, double width) const {
+    const GraphScale s = scale();
+    control.setWidth(width * Control::place().width() / (s.x2 - s.x1));
+}
+
+void GraphBox::setDesignScale(const QRectF& scale) {
+    Scale(scale.left(), scale.top(), scale.right(), scale.bottom());
+}
+
+void GraphBox::setBackColour(const QColor& colour) { setPaletteColour(QPalette::Window, colour); }
+
+void GraphBox::setBare(bool bare) {
+    bare_ = bare;
+    setAutoFillBackground(!bare);
+}
+
+void GraphBox::setFramed(bool framed) {
+    framed_ = framed;
+    update();
+}
+
+void GraphBox::add(Stroke stroke) {
+    if (keepsOnce_ && std::find(strokes_.begin(), strokes_.end(), stroke) != strokes_.end()) {
+        return;
+    }
+    strokes_.push_back(std::move(stroke));
+    update();
+}
+
+void GraphBox::renewPicture() {
+    const double ratio = devicePixelRatioF();
+    const QSize pixels = (QSizeF(size()) * ratio).toSize();
+    if (picture_.size() != pixels || picture_.devicePixelRatio() != ratio) {
+        picture_ = QPixmap(pixels);
+        picture_.setDevicePixelRatio(ratio);
+        picture_.fill(Qt::transparent);
+        painted_ = 0;
+    }
+    if (painted_ == strokes_.size()) {
+        return;
+    }
+    QPainter painter(&picture_);
+    painter.scale(1 / ratio, 1 / ratio);
+    StrokePainter strokePainter(painter, pixels, ratio * zoom());
+    for (; painted_ < strokes_.size(); ++painted_) {
+        strokePainter.paint(strokes_[painted_]);
+    }
+}
+
+void GraphBox::paintEvent(QPaintEvent* /*event*/) {
+    if (!strokes_.empty()) {
+        renewPicture();
+    }
+    QPainter painter(this);
+    if (framed_) {
+        painter.setPen(kOutline);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    if (!strokes_.empty()) {
+        painter.drawPixmap(0, 0, picture_);
+    }
+}
+
+void GraphBox::mousePressEvent(QMouseEvent* event) {
+    if (!bare_) {
+        event->accept();
+    }
+}
+
+}  // namespace tavrune

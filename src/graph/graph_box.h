@@ -1,0 +1,116 @@
+#pragma once
+
+#include <vector>
+
+#include <QColor>
+#include <QPixmap>
+#include <QWidget>
+
+#include "controls/control.h"
+
+namespace tavrune {
+
+/// A user scale: the coordinates of a box's top left and bottom right corners. y grows upwards where y1 is
+/// the larger.
+struct GraphScale {
+    float x1 = 0;
+    float y1 = 0;
+    float x2 = 0;
+    float y2 = 0;
+
+    bool operator==(const GraphScale&) const = default;
+};
+
+enum class LineStyle { Solid = 0, Dotted = 2 };
+
+/// One line or point as it was asked for, with all that it was drawn with.
+struct Stroke {
+    enum class Kind { Line, Point };
+
+    Kind kind = Kind::Line;
+    /// In the coordinates of `scale`; a point has its second end where its first is.
+    float x1 = 0;
+    float y1 = 0;
+    float x2 = 0;
+    float y2 = 0;
+    QColor colour;
+    LineStyle style = LineStyle::Solid;
+    int width = 1;
+    GraphScale scale;
+
+    bool operator==(const Stroke&) const = default;
+};
+
+/// A rectangle on which axes, ticks and curves are drawn, in coordinates of the exercise.
+///
+/// What is drawn stays until `Cls`. Coordinates reach the box as singles. Whatever lies outside is clipped;
+/// infinities and numbers that no picture can show are drawn as far as they can be seen, NaN not at all.
+/// Texts are labels that stand on the box: `place` puts them by its scale.
+class GraphBox : public QWidget, public Control {
+    Q_OBJECT
+
+public:
+    explicit GraphBox(QWidget* parent = nullptr);
+
+    // The drawing operations.
+    /// (x1, y1) becomes the top left corner, (x2, y2) the bottom right one. Nothing is cleared.
+    void Scale(double x1, double y1, double x2, double y2);
+    void Line(double x1, double y1, double x2, double y2);
+    void Line(double x1, double y1, double x2, double y2, const QColor& colour);
+    void PSet(double x, double y);
+    void PSet(double x, double y, const QColor& colour);
+    /// Back to the bare background; scale, style and width stay.
+    void Cls();
+    void DrawStyle(LineStyle style) { style_ = style; }
+    /// In units, 1 until set.
+    void DrawWidth(int width) { width_ = width; }
+
+    /// In twips of the box until it is set.
+    [[nodiscard]] GraphScale scale() const;
+    /// All that stands on the box, in the order drawn.
+    [[nodiscard]] const std::vector<Stroke>& strokes() const { return strokes_; }
+
+    /// Puts the top left corner of a control that stands on this box at (x, y) of the scale.
+    void place(Control& control, double x, double y) const;
+    void placeLeft(Control& control, double x) const;
+    /// The right edge, the left edge and a width of such a control, in the scale.
+    [[nodiscard]] double leftOf(const Control& control) const;
+    [[nodiscard]] double rightOf(const Control& control) const;
+    [[nodiscard]] double widthOf(const Control& control) const;
+    void setWidthOf(Control& control, double width) const;
+
+    // Properties of the design.
+    /// Left, top, width and height of the scale that the box has from its design.
+    void setDesignScale(const QRectF& scale);
+    void setBackColour(const QColor& colour);
+    [[nodiscard]] QColor backColour() const { return palette().color(QPalette::Window); }
+    /// No background of its own: for frames that only carry ticks and numbers.
+    void setBare(bool bare);
+    /// A thin outline.
+    void setFramed(bool framed);
+    /// A frame that is never cleared gets the same ticks with every exercise; it keeps each once.
+    void setKeepsOnce(bool keepsOnce) { keepsOnce_ = keepsOnce; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    void add(Stroke stroke);
+    void renewPicture();
+
+    GraphScale scale_;
+    bool hasScale_ = false;
+    LineStyle style_ = LineStyle::Solid;
+    int width_ = 1;
+    bool bare_ = false;
+    bool framed_ = false;
+    bool keepsOnce_ = false;
+    std::vector<Stroke> strokes_;
+
+    // What is painted already: the first `painted_` strokes.
+    QPixmap picture_;
+    std::size_t painted_ = 0;
+};
+
+}  // namespace tavrune

@@ -1,0 +1,204 @@
+#include "graph/graph_box.h"
+
+#include <cmath>
+#include <limits>
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+#include "controls/label.h"
+
+namespace tavrune {
+namespace {
+
+/// A box of 100 by 100 units, scaled from (-10, 10) to (10, -10): 5 units to one of the scale.
+class Box : public testing::Test {
+protected:
+    void SetUp() override {
+        box.setPlace({0, 0, 100, 100});
+        box.Scale(-10, 10, 10, -10);
+    }
+
+    [[nodiscard]] QImage picture() { return box.grab().toImage(); }
+
+    [[nodiscard]] int inked(const QColor& colour) {
+        const QImage image = picture();
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                count += image.pixelColor(x, y) == colour ? 1 : 0;
+            }
+        }
+        return count;
+    }
+
+    GraphBox box;
+};
+
+const QColor kGreen(0, 130, 0);
+
+TEST_F(Box, KeepsALineWithAllThatItWasDrawnWith) {
+    box.DrawStyle(LineStyle::Dotted);
+    box.DrawWidth(3);
+    box.Line(1, 2, 3, 4, kGreen);
+    ASSERT_EQ(box.strokes().size(), 1U);
+    const Stroke& s = box.strokes().at(0);
+    EXPECT_EQ(s, (Stroke{Stroke::Kind::Line, 1, 2, 3, 4, kGreen, LineStyle::Dotted, 3, {-10, 10, 10, -10}}));
+}
+
+TEST_F(Box, KeepsAPoint) {
+    box.PSet(1.5, -2);
+    EXPECT_EQ(
+        box.strokes().at(0),
+        (Stroke{Stroke::Kind::Point, 1.5, -2, 1.5, -2, kBlack, LineStyle::Solid, 1, {-10, 10, 10, -10}}));
+}
+
+TEST_F(Box, DrawsBlackAndThinAndSolidUntilToldOtherwise) {
+    box.Line(0, 0, 1, 1);
+    const Stroke& s = box.strokes().at(0);
+    EXPECT_EQ(s.colour, kBlack);
+    EXPECT_EQ(s.width, 1);
+    EXPECT_EQ(s.style, LineStyle::Solid);
+}
+
+TEST_F(Box, TakesCoordinatesAsSingles) {
+    box.PSet(0.1, 1.0 / 3);
+    EXPECT_EQ(box.strokes().at(0).x1, 0.1F);
+    EXPECT_EQ(box.strokes().at(0).y1, 1.0F / 3);
+}
+
+TEST_F(Box, KeepsItsScaleWhenCleared) {
+    box.DrawWidth(3);
+    box.Line(0, 0, 1, 1);
+    box.Cls();
+    EXPECT_TRUE(box.strokes().empty());
+    EXPECT_EQ(box.scale(), (GraphScale{-10, 10, 10, -10}));
+    box.Line(0, 0, 1, 1);
+    EXPECT_EQ(box.strokes().at(0).width, 3);
+}
+
+TEST_F(Box, KeepsWhatWasDrawnWhenScaledAnew) {
+    box.Line(0, 0, 1, 1);
+    box.Scale(0, 100, 100, 0);
+    box.Line(0, 0, 1, 1);
+    EXPECT_EQ(box.strokes().at(0).scale, (GraphScale{-10, 10, 10, -10}));
+    EXPECT_EQ(box.strokes().at(1).scale, (GraphScale{0, 100, 100, 0}));
+}
+
+TEST_F(Box, HasTheScaleOfItsTwipsUntilItIsScaled) {
+    GraphBox plain;
+    plain.setPlace({0, 0, 187, 10});
+    EXPECT_EQ(plain.scale(), (GraphScale{0, 0, 2805, 150}));
+}
+
+TEST_F(Box, HasTheScaleOfItsDesign) {
+    box.setDesignScale(QRectF(0, 0, 20, 15));
+    EXPECT_EQ(box.scale(), (GraphScale{0, 0, 20, 15}));
+}
+
+TEST_F(Box, KeepsADoubledTickOnceWhereItIsToldTo) {
+    box.setKeepsOnce(true);
+    for (int exercise = 0; exercise < 1000; ++exercise) {
+        box.Line(0, 1, 0, 2);
+        box.Line(1, 1, 1, 2);
+    }
+    EXPECT_EQ(box.strokes().size(), 2U);
+}
+
+TEST_F(Box, PaintsAnUprightLineOnePixelWide) {
+    box.Line(0, 10, 0, -10, kGreen);
+    EXPECT_EQ(inked(kGreen), 100);
+    EXPECT_EQ(picture().pixelColor(50, 20), kGreen);
+}
+
+TEST_F(Box, PaintsALineOnItsOwnBorder) {
+    box.Line(-10, -10, 10, -10, kGreen);
+    EXPECT_EQ(inked(kGreen), 100);
+    EXPECT_EQ(picture().pixelColor(20, 99), kGreen);
+}
+
+TEST_F(Box, PaintsOnlyTheVisiblePartOfALine) {
+    box.Line(-1000, 0, 1000, 0, kGreen);
+    EXPECT_EQ(inked(kGreen), 100);
+}
+
+TEST_F(Box, PaintsAPointAsWideAsItsPen) {
+    box.PSet(2, 2, kGreen);
+    EXPECT_EQ(inked(kGreen), 1);
+    box.DrawWidth(3);
+    box.PSet(-5, 5, kGreen);
+    EXPECT_EQ(inked(kGreen), 10);
+    EXPECT_EQ(picture().pixelColor(25, 25), kGreen);
+}
+
+TEST_F(Box, PaintsDotsWithGaps) {
+    box.DrawStyle(LineStyle::Dotted);
+    box.Line(0, 10, 0, -10, kGreen);
+    const int ink = inked(kGreen);
+    EXPECT_GT(ink, 20);
+    EXPECT_LT(ink, 80);
+}
+
+TEST_F(Box, OverdrawsTheOldByTheNew) {
+    box.Line(0, 10, 0, -10, kRed);
+    box.Line(0, 10, 0, -10, kGreen);
+    EXPECT_EQ(inked(kRed), 0);
+    EXPECT_EQ(inked(kGreen), 100);
+}
+
+TEST_F(Box, PaintsWhatIsAddedAfterAPaintAndNothingAfterClearing) {
+    box.Line(0, 10, 0, -10, kGreen);
+    EXPECT_EQ(inked(kGreen), 100);
+    box.Line(5, 10, 5, -10, kGreen);
+    EXPECT_EQ(inked(kGreen), 200);
+    box.Cls();
+    EXPECT_EQ(inked(kGreen), 0);
+    EXPECT_EQ(inked(kWhite), 100 * 100);
+}
+
+TEST_F(Box, TakesNumbersOfAnySize) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const double x : {1e300, -1e300, 1e38, infinity, -infinity, std::nan("")}) {
+        box.Line(x, x, 0, 0, kGreen);
+        box.Line(0, -x, x, 3, kGreen);
+        box.PSet(x, 0, kGreen);
+    }
+    box.Line(0, 0, infinity, 0, kRed);
+    EXPECT_EQ(box.strokes().size(), 19U);
+    EXPECT_EQ(inked(kRed), 50);
+}
+
+TEST_F(Box, TakesAScaleWithoutAnExtent) {
+    box.Scale(0, 0, 0, 0);
+    box.Line(0, 0, 1, 1, kGreen);
+    box.PSet(0, 0, kGreen);
+    EXPECT_FALSE(picture().isNull());
+}
+
+TEST_F(Box, PaintsCrisplyAtEveryPixelRatio) {
+    box.Line(0, 10, 0, -10, kGreen);
+    box.setZoom(2);
+    EXPECT_EQ(picture().width(), 200);
+    // Twice as long and twice as wide, in just its colour.
+    EXPECT_EQ(inked(kGreen), 400);
+}
+
+TEST_F(Box, PlacesTextByItsScale) {
+    Label label(&box);
+    label.setPlace({0, 0, 20, 10});
+    box.place(label, 4.7, -0.2);
+    EXPECT_NEAR(label.place().left(), 73.5, 1e-4);
+    EXPECT_NEAR(label.place().top(), 51, 1e-4);
+    EXPECT_NEAR(box.leftOf(label), 4.7, 1e-6);
+    EXPECT_NEAR(box.widthOf(label), 4, 1e-6);
+    EXPECT_NEAR(box.rightOf(label), 8.7, 1e-6);
+    box.setWidthOf(label, 1);
+    EXPECT_NEAR(label.place().width(), 5, 1e-6);
+    box.placeLeft(label, 0);
+    EXPECT_NEAR(label.place().left(), 50, 1e-6);
+    EXPECT_NEAR(label.place().top(), 51, 1e-4);
+}
+
+}  // namespace
+}  // namespace tavrune
