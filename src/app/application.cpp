@@ -1,6 +1,5 @@
 #include "app/application.h"
 
-#include <QLocale>
 #include <QMessageBox>
 #include <QStyleFactory>
 
@@ -12,7 +11,11 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName("Tavrune");
     // The one style that takes the colours of state from the palette on every desktop.
     setStyle(QStyleFactory::create("Fusion"));
-    setDecimalMark(QLocale().decimalPoint().toStdString());
+    useDecimalMarkOf(QLocale());
+}
+
+void Application::useDecimalMarkOf(const QLocale& locale) {
+    setDecimalMark(locale.decimalPoint().toStdString());
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <functional>
-
 #include <QApplication>
+#include <QLocale>
 
 #include "numeric/arithmetic.h"
 
@@ -19,6 +18,9 @@ public:
     /// Passes an event on. An ArithmeticFailure that comes back is told to the user; after the message the
     /// program ends with exit status 1.
     bool notify(QObject* receiver, QEvent* event) override;
+
+    /// Numbers are shown with the mark of this locale from now on.
+    static void useDecimalMarkOf(const QLocale& locale);
 
 private:
     void endAfter(ArithmeticFailure::Kind kind);

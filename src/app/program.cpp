@@ -1,5 +1,7 @@
 #include "app/program.h"
 
+#include <QCoreApplication>
+
 #include "app/pages.h"
 
 namespace tavrune {
@@ -25,11 +27,18 @@ void Program::open(PageName name) {
     }
 }
 
+int Program::run() {
+    connect(this, &Program::closeChosen, QCoreApplication::instance(), [] { QCoreApplication::exit(0); });
+    open(PageName::Opstart);
+    return QCoreApplication::exec();
+}
+
 void Program::openAbout() {
     if (about_ == nullptr) {
         about_ = new FrmAbout;
-        about_->show();
     }
+    about_->setWindowState(about_->windowState() & ~Qt::WindowMinimized);
+    about_->show();
     about_->raise();
     about_->activateWindow();
 }

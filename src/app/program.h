@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include <QObject>
 #include <QPointer>
 
@@ -18,6 +16,9 @@ class Program : public QObject {
 public:
     explicit Program(Draws& draws);
     ~Program() override;
+
+    /// From the start page to the end: by "Luk", or with the last window. The program's exit status.
+    int run();
 
     /// Opens a page, maximised, and unloads the one before it. Precondition: the page is built.
     void open(PageName name);

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QPalette>
 
+#include "controls/text.h"
 #include "numeric/text.h"
 
 namespace tavrune {
@@ -25,9 +26,7 @@ AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent), Control(this) {
 
 double AnswerBox::value() const { return Val(content()); }
 
-void AnswerBox::setContent(std::string_view content) {
-    setText(QString::fromUtf8(content.data(), static_cast<qsizetype>(content.size())));
-}
+void AnswerBox::setContent(std::string_view content) { setText(fromUtf8(content)); }
 
 void AnswerBox::setBackColour(const QColor& colour) { setPaletteColour(QPalette::Base, colour); }
 

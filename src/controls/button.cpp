@@ -2,12 +2,16 @@
 
 #include <QKeyEvent>
 
+#include "controls/access_key.h"
+
 namespace tavrune {
 
 Button::Button(QWidget* parent) : QPushButton(parent), Control(this) {
     setFont(designFont());
     setFocusPolicy(Qt::StrongFocus);
 }
+
+bool Button::event(QEvent* event) { return clickedByAccessKey(*this, event) || QPushButton::event(event); }
 
 void Button::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {

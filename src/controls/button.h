@@ -18,6 +18,7 @@ public:
     [[nodiscard]] std::string caption() const { return text().toStdString(); }
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 

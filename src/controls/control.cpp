@@ -6,10 +6,8 @@
 namespace tavrune {
 namespace {
 
-constexpr double kDesignTextSize = 11;
-
-QFont scaled(QFont font, double zoom) {
-    font.setPixelSize(qMax(1, qRound(font.pixelSize() * zoom)));
+QFont sized(QFont font, double units) {
+    font.setPixelSize(qMax(1, qRound(units)));
     return font;
 }
 
@@ -56,9 +54,8 @@ void Control::setHeight(double height) {
 QFont Control::unzoomedFont() const { return font_.value_or(designFont()); }
 
 void Control::setTextSize(double units) {
-    QFont font = unzoomedFont();
-    font.setPixelSize(qMax(1, qRound(units)));
-    font_ = font;
+    textSize_ = units;
+    font_ = sized(unzoomedFont(), units);
     applyFont();
 }
 
@@ -107,13 +104,13 @@ void Control::applyPlace() {
 }
 
 void Control::applyFont() {
-    self_->setFont(scaled(unzoomedFont(), zoom_));
+    self_->setFont(sized(unzoomedFont(), textSize_ * zoom_));
     fontHasChanged();
 }
 
 void focusOn(QWidget* widget) {
     if (widget->isVisible() && widget->isEnabled()) {
-        widget->setFocus(Qt::TabFocusReason);
+        widget->setFocus(Qt::OtherFocusReason);
     }
 }
 

@@ -15,6 +15,8 @@ inline const QColor kWhite(255, 255, 255);
 inline const QColor kRed(255, 0, 0);
 inline const QColor kBlack(0, 0, 0);
 
+inline constexpr double kDesignTextSize = 11;
+
 /// The font of every text on a page, 11 units high: gaps in captions, into which numbers are laid, fit just
 /// this one.
 [[nodiscard]] QFont designFont();
@@ -40,8 +42,9 @@ public:
     /// The control's own flag: true also where the panel around it is hidden.
     [[nodiscard]] bool isShown() const { return !self_->isHidden(); }
 
-    /// Height of the text in units.
+    /// Height of the text in units, 11 until set. The screen shows it in whole pixels.
     void setTextSize(double units);
+    [[nodiscard]] double textSize() const { return textSize_; }
     void setBold(bool bold);
     void setSerif(bool serif);
     void setUnderlined(bool underlined);
@@ -70,11 +73,12 @@ private:
     QWidget* self_;
     std::optional<QRectF> place_;
     std::optional<QFont> font_;
+    double textSize_ = kDesignTextSize;
     double zoom_ = 1;
 };
 
-/// Gives the focus to a control that can have it; does nothing for one that is hidden or disabled. What the
-/// control holds is selected, so that typing replaces it.
+/// Gives the focus to a control that can have it; does nothing for one that is hidden or disabled. What a box
+/// holds stays as it is, with the cursor where it was.
 void focusOn(QWidget* widget);
 
 }  // namespace tavrune

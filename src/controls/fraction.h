@@ -18,6 +18,7 @@ public:
 
     void setLeft(double left) const;
     [[nodiscard]] double right() const { return numerator_->place().right(); }
+    [[nodiscard]] double width() const { return numerator_->place().width(); }
 
     void setShown(bool shown) const;
 

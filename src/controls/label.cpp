@@ -4,6 +4,8 @@
 
 #include <QFontMetricsF>
 
+#include "controls/text.h"
+
 namespace tavrune {
 
 Label::Label(QWidget* parent) : QLabel(parent), Control(this) {
@@ -13,9 +15,7 @@ Label::Label(QWidget* parent) : QLabel(parent), Control(this) {
     setFont(designFont());
 }
 
-void Label::setCaption(std::string_view caption) {
-    setText(QString::fromUtf8(caption.data(), static_cast<qsizetype>(caption.size())));
-}
+void Label::setCaption(std::string_view caption) { setText(fromUtf8(caption)); }
 
 void Label::setText(const QString& text) {
     QLabel::setText(text);

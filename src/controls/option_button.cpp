@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+#include "controls/access_key.h"
+
 namespace tavrune {
 
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent), Control(this) {
@@ -31,6 +33,10 @@ void OptionButton::resetBackColour() {
     neutral.setColor(QPalette::Window, system.color(QPalette::Button));
     neutral.setColor(QPalette::WindowText, system.color(QPalette::ButtonText));
     setPalette(neutral);
+}
+
+bool OptionButton::event(QEvent* event) {
+    return clickedByAccessKey(*this, event) || QRadioButton::event(event);
 }
 
 void OptionButton::keyPressEvent(QKeyEvent* event) {

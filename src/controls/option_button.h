@@ -27,6 +27,7 @@ public:
     [[nodiscard]] QColor backColour() const { return palette().color(QPalette::Window); }
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 

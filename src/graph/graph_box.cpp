@@ -203,11 +203,11 @@ void GraphBox::setFramed(bool framed) {
     update();
 }
 
-void GraphBox::add(Stroke stroke) {
+void GraphBox::add(const Stroke& stroke) {
     if (keepsOnce_ && std::find(strokes_.begin(), strokes_.end(), stroke) != strokes_.end()) {
         return;
     }
-    strokes_.push_back(std::move(stroke));
+    strokes_.push_back(stroke);
     update();
 }
 

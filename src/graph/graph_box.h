@@ -96,7 +96,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    void add(Stroke stroke);
+    void add(const Stroke& stroke);
     void renewPicture();
 
     GraphScale scale_;

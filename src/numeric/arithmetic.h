@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <exception>
+#include <type_traits>
 
 namespace tavrune {
 
@@ -25,16 +26,22 @@ private:
 /// The Danish sentence that tells the user what happened, in UTF-8.
 [[nodiscard]] const char* messageFor(ArithmeticFailure::Kind kind);
 
-/// a / b in the kind of the operands. Throws ArithmeticFailure where b is 0: Overflow for 0/0, otherwise
-/// DivisionByZero.
-template <class Number>
-[[nodiscard]] Number Divide(Number a, Number b) {
-    if (b == Number{0}) {
-        throw ArithmeticFailure(a == Number{0} ? ArithmeticFailure::Kind::Overflow
-                                               : ArithmeticFailure::Kind::DivisionByZero);
+/// a / b: a single of two singles or of a single and a whole literal, a double with a double involved. Throws
+/// ArithmeticFailure where b is 0: Overflow for 0/0, otherwise DivisionByZero. A quotient beyond the largest
+/// number is an infinity.
+template <class A, class B>
+[[nodiscard]] auto Divide(A a, B b) {
+    using Quotient = std::common_type_t<A, B>;
+    static_assert(std::is_floating_point_v<Quotient>, "whole numbers divide as doubles here");
+    if (b == 0) {
+        throw ArithmeticFailure(a == 0 ? ArithmeticFailure::Kind::Overflow
+                                       : ArithmeticFailure::Kind::DivisionByZero);
     }
-    return a / b;
+    return static_cast<Quotient>(a) / static_cast<Quotient>(b);
 }
+
+/// x to the n, always a double. Power(0.5F, 2) -> 0.25
+[[nodiscard]] inline double Power(double x, int n) { return std::pow(x, n); }
 
 /// The largest whole number not above x, in the kind of x. Int(-0.5) -> -1
 [[nodiscard]] inline float Int(float x) { return std::floor(x); }

@@ -67,7 +67,7 @@ void ExerciseForm::enterChain(std::initializer_list<AnswerBox*> boxes, LastBox l
 void ExerciseForm::enterGoes(AnswerBox* box, std::vector<QWidget*> candidates) {
     connect(box, &AnswerBox::enterPressed, this, [targets = std::move(candidates)] {
         for (QWidget* target : targets) {
-            if (!target->isHidden()) {
+            if (target->isVisible()) {
                 focusOn(target);
                 return;
             }
@@ -76,6 +76,7 @@ void ExerciseForm::enterGoes(AnswerBox* box, std::vector<QWidget*> candidates) {
 }
 
 std::vector<QWidget*> ExerciseForm::after(LastBox last) const {
+    Q_ASSERT(buttons_.ok != nullptr);
     if (last == LastBox::OkOrStay) {
         return {buttons_.ok};
     }
@@ -132,7 +133,7 @@ void ExerciseForm::solved() {
 
 void ExerciseForm::failed() {
     showWrong();
-    buttons_.giveAnswer->show();
+    showAll({buttons_.ok, buttons_.giveAnswer});
 }
 
 void ExerciseForm::given() {

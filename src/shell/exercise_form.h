@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <initializer_list>
 #include <string_view>
 #include <vector>
@@ -59,13 +58,13 @@ protected:
     void verdict(const OneLabel& label);
     void verdict(const TwoLabels& labels);
 
-    /// Enter goes from each box to the next; from the last as `last` says.
+    /// Enter goes from each box to the next; from the last as `last` says. Wants the buttons to be bound.
     void enterChain(std::initializer_list<AnswerBox*> boxes, LastBox last);
 
     /// Enter goes from `box` to the first of `candidates` that is shown, or nowhere.
     void enterGoes(AnswerBox* box, std::vector<QWidget*> candidates);
 
-    /// The targets of a last box.
+    /// The targets of a last box. Wants the buttons to be bound.
     [[nodiscard]] std::vector<QWidget*> after(LastBox last) const;
 
     /// Runs `action` at each click on `button`.
@@ -98,7 +97,7 @@ protected:
     void showWrong();
     /// Right: the verdict, no "&OK" and no "&Giv svaret", focus to "&Ny opgave".
     void solved();
-    /// Wrong: the verdict, "&Giv svaret" shown, "&OK" stays. The focus is the form's.
+    /// Wrong: the verdict, "&OK" and "&Giv svaret" shown. The focus is the form's.
     void failed();
     /// Given: no verdict, no "&OK" and no "&Giv svaret", focus to "&Ny opgave".
     void given();
@@ -108,7 +107,6 @@ protected:
     static void openPanel(QWidget* panel, QWidget* firstVis);
 
     [[nodiscard]] Draws& draws() { return draws_; }
-    [[nodiscard]] const Buttons& roles() const { return buttons_; }
 
     void showEvent(QShowEvent* event) override;
 

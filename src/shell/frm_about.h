@@ -11,10 +11,6 @@ class FrmAbout : public QWidget {
 
 public:
     FrmAbout();
-
-protected:
-    void showEvent(QShowEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 };
 
 /// Where a box of `size` stands to have its middle in the middle of `screen`.

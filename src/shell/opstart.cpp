@@ -20,8 +20,9 @@ ScreenStretch stretchFor(QSize screen) {
     return {x, y, text > 0 ? text : 1};
 }
 
-Opstart::Opstart(QSize screen) : Page(PageName::Opstart), ui_(std::make_unique<Ui::Opstart>()) {
-    setUp(*ui_);
+Opstart::Opstart(QSize screen) : Page(PageName::Opstart) {
+    Ui::Opstart ui;
+    setUp(ui);
 
     QMenu* const about = menuBar()->addMenu("&Om Tavrune");
     about->setObjectName("Om");
@@ -39,10 +40,8 @@ Opstart::Opstart(QSize screen) : Page(PageName::Opstart), ui_(std::make_unique<U
         const QRectF place = label->place();
         label->setPlace({place.x() * stretch.x, place.y() * stretch.y, place.width() * stretch.x,
                          place.height() * stretch.y});
-        label->setTextSize(label->font().pixelSize() * stretch.text);
+        label->setTextSize(label->textSize() * stretch.text);
     }
 }
-
-Opstart::~Opstart() = default;
 
 }  // namespace tavrune

@@ -1,16 +1,10 @@
 #pragma once
 
-#include <memory>
-
 #include <QSize>
 
 #include "shell/page.h"
 
 namespace tavrune {
-
-namespace Ui {
-class Opstart;
-}
 
 /// How far the start page is stretched to fit a screen; it is designed for one of 640 by 480 units.
 struct ScreenStretch {
@@ -30,10 +24,6 @@ class Opstart : public Page {
 
 public:
     explicit Opstart(QSize screen);
-    ~Opstart() override;
-
-private:
-    std::unique_ptr<Ui::Opstart> ui_;
 };
 
 }  // namespace tavrune

@@ -4,14 +4,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "controls/text.h"
+
 namespace tavrune {
-namespace {
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-}  // namespace
 
 Page::Page(PageName name)
     : name_(name),
@@ -19,7 +14,7 @@ Page::Page(PageName name)
       topicMenu_(*menuBar(), name,
                  {.open = [this](PageName target) { emit chosen(target); },
                   .close = [this] { emit closeChosen(); }}) {
-    setObjectName(text(textOf(name)));
+    setObjectName(fromUtf8(textOf(name)));
     setContextMenuPolicy(Qt::NoContextMenu);
     design_->setFont(designFont());
     setCentralWidget(design_);
@@ -28,10 +23,8 @@ Page::Page(PageName name)
 
 void Page::designIsReady() { setWindowTitle(design_->windowTitle()); }
 
-void Page::tell(const QString& message) { tellOver(this, message); }
-
-void tellOver(QWidget* window, const QString& message) {
-    auto* const box = new QMessageBox(QMessageBox::NoIcon, "Tavrune", message, QMessageBox::Ok, window);
+void Page::tell(const QString& message) {
+    auto* const box = new QMessageBox(QMessageBox::NoIcon, "Tavrune", message, QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     box->button(QMessageBox::Ok)->setText("OK");

@@ -51,7 +51,4 @@ private:
     TopicMenu topicMenu_;
 };
 
-/// The message box of `Page::tell`, for any window.
-void tellOver(QWidget* window, const QString& message);
-
 }  // namespace tavrune

@@ -7,15 +7,13 @@
 #include <QAction>
 #include <QMenu>
 
+#include "controls/text.h"
+
 namespace tavrune {
 namespace {
 
 using Entry = MenuEntry;
 using Name = PageName;
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 struct Wording {
     PageName page;
@@ -125,11 +123,11 @@ TopicMenu::TopicMenu(QMenuBar& bar, PageName page, const Handlers& handlers)
         if (line.separatorBefore) {
             parent->addSeparator();
         }
-        const QString caption = text(captionOn(page, line));
+        const QString caption = fromUtf8(captionOn(page, line));
         if (line.opens) {
             QAction* const action = parent->addAction(caption);
             const PageName target = *line.opens;
-            action->setObjectName(text(textOf(target)));
+            action->setObjectName(fromUtf8(textOf(target)));
             action->setEnabled(!isOwnEntry(page, target));
             QObject::connect(action, &QAction::triggered, &bar,
                              [open = handlers.open, target] { open(target); });

@@ -11,6 +11,8 @@
 
 #include "app/application.h"
 #include "app/pages.h"
+#include "numeric/text.h"
+#include "support/decimal_mark.h"
 #include "support/form_driver.h"
 
 namespace tavrune {
@@ -90,6 +92,26 @@ TEST_F(ProgramRun, ShowsTheOneAboutBoxHoweverOftenItIsAskedFor) {
     EXPECT_EQ(visibleWindows(), 2);
 }
 
+TEST_F(ProgramRun, BringsAMinimisedAboutBoxBack) {
+    program.openAbout();
+    program.about()->showMinimized();
+    program.openAbout();
+    EXPECT_FALSE(program.about()->isMinimized());
+    EXPECT_TRUE(program.about()->isVisible());
+}
+
+TEST_F(ProgramRun, OpensAPageAnewInItsDesignState) {
+    choose(PageName::Brok);
+    program.page()->findChild<Button*>("Command4")->click();
+    program.page()->findChild<AnswerBox*>("Text2")->setContent("7");
+    program.page()->findChild<Button*>("Command2")->click();
+    choose(PageName::Form1);
+    choose(PageName::Brok);
+    EXPECT_TRUE(program.page()->findChild<Panel*>("Picture1")->isHidden());
+    EXPECT_TRUE(program.page()->findChild<Label*>("Label6")->isHidden());
+    EXPECT_EQ(program.page()->findChild<AnswerBox*>("Text2")->content(), "");
+}
+
 TEST_F(ProgramRun, LastsUntilTheAboutBoxIsClosedToo) {
     program.openAbout();
     choose(PageName::Brok);
@@ -119,6 +141,16 @@ TEST_F(ProgramRun, ClosesAtOnceByLukOnEveryPage) {
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
+TEST(ProgramEnd, ComesAtOnceByLukEvenWithTheAboutBoxOpen) {
+    SeededDraws draws{1};
+    Program program{draws};
+    QTimer::singleShot(0, [&program] {
+        program.openAbout();
+        program.page()->topicMenu().menu()->findChild<QAction*>("Luk")->trigger();
+    });
+    EXPECT_EQ(program.run(), 0);
+}
+
 TEST_F(ProgramRun, GrowsNoSmallerThanTheDesignArea) {
     choose(PageName::Brok);
     EXPECT_GE(program.page()->minimumWidth(), 644);
@@ -137,6 +169,14 @@ TEST_F(ProgramRun, OpensEveryBuiltPageFromEveryOther) {
             EXPECT_EQ(program.page()->name(), to);
         }
     }
+}
+
+TEST(Application, ShowsNumbersWithTheMarkOfTheLocale) {
+    const test::DecimalMark restored(".");
+    Application::useDecimalMarkOf(QLocale("da_DK"));
+    EXPECT_EQ(NumberText(2.5), "2,5");
+    Application::useDecimalMarkOf(QLocale("en_GB"));
+    EXPECT_EQ(NumberText(2.5), "2.5");
 }
 
 class Failing : public QObject {

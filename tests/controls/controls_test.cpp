@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "controls/answer_box.h"
 #include "controls/button.h"
 #include "controls/fraction.h"
 #include "controls/label.h"
@@ -31,6 +32,29 @@ TEST(Control, KeepsItsPlaceInUnitsAtEveryZoom) {
     label.setZoom(1);
     EXPECT_EQ(label.geometry().left(), 30);
     EXPECT_EQ(label.font().pixelSize(), 11);
+}
+
+TEST(Control, KeepsAFractionOfATextSizeThatTheScreenRounds) {
+    Label label;
+    label.setTextSize(14.25);
+    EXPECT_EQ(label.textSize(), 14.25);
+    EXPECT_EQ(label.font().pixelSize(), 14);
+    label.setZoom(2);
+    EXPECT_EQ(label.font().pixelSize(), 29);
+}
+
+TEST(DesignFont, IsOneOfTheDesignsOwn) {
+    const QString family = QFontInfo(designFont()).family();
+    EXPECT_TRUE(designFont().families().contains(family)) << family.toStdString();
+}
+
+TEST(FocusOn, LeavesWhatABoxHoldsUnselected) {
+    QWidget window;
+    AnswerBox box(&window);
+    box.setContent("123");
+    window.show();
+    focusOn(&box);
+    EXPECT_FALSE(box.hasSelectedText());
 }
 
 TEST(Control, IsShownByItsOwnFlagWhateverStandsAround) {
@@ -112,6 +136,24 @@ TEST(Button, IsPressedOnceByAHeldEnter) {
     QTest::keyPress(&button, Qt::Key_Return);
     QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
     QCoreApplication::sendEvent(&button, &repeat);
+    EXPECT_EQ(pressed, 1);
+}
+
+TEST(Button, IsPressedAtOnceByItsAccessKey) {
+    QWidget window;
+    Button button(&window);
+    button.setText("&Ny opgave");
+    AnswerBox box(&window);
+    window.show();
+    window.activateWindow();
+    QCoreApplication::processEvents();
+    box.setFocus();
+    int pressed = 0;
+    QObject::connect(&button, &Button::clicked, &button, [&pressed] { ++pressed; });
+    QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(pressed, 1);
+    button.hide();
+    QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
     EXPECT_EQ(pressed, 1);
 }
 

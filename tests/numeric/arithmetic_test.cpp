@@ -1,5 +1,6 @@
 #include "numeric/arithmetic.h"
 
+#include <map>
 #include <string>
 #include <type_traits>
 
@@ -33,7 +34,14 @@ TEST(Arithmetic, KeepsTheKindOfItsOperands) {
     static_assert(std::is_same_v<decltype(Fix(1.5F)), float>);
     static_assert(std::is_same_v<decltype(1.5F * 100), float>);
     static_assert(std::is_same_v<decltype(1.5F - 0.001), double>);
+    static_assert(std::is_same_v<decltype(1.5F * 1.5F), float>);
+    static_assert(std::is_same_v<decltype(1.5F + 1.0), double>);
+    static_assert(std::is_same_v<decltype(1.5F / 3), float>);
     static_assert(std::is_same_v<decltype(Divide(1.0F, 3.0F)), float>);
+    static_assert(std::is_same_v<decltype(Divide(1.0F, 3)), float>);
+    static_assert(std::is_same_v<decltype(Divide(1.0F, 3.0)), double>);
+    static_assert(std::is_same_v<decltype(Power(1.5F, 2)), double>);
+    EXPECT_EQ(Power(0.1F, 2), static_cast<double>(0.1F) * 0.1F);
     EXPECT_EQ(Divide(1.0F, 3.0F), 1.0F / 3.0F);
     EXPECT_EQ(Divide(1.0, 3.0), 1.0 / 3.0);
 }
@@ -48,16 +56,17 @@ struct DrawIdiom {
 class DrawIdioms : public testing::TestWithParam<DrawIdiom> {};
 
 TEST_P(DrawIdioms, ReachJustTheirRange) {
-    float lowest = GetParam().idiom(0);
-    float highest = lowest;
-    for (int cell = 0; cell < 4000; ++cell) {
-        const float x = GetParam().idiom(cellOf(cell, 4000));
-        lowest = std::min(lowest, x);
-        highest = std::max(highest, x);
+    std::map<float, int> hits;
+    const int cells = 4200;
+    for (int cell = 0; cell < cells; ++cell) {
+        ++hits[GetParam().idiom(cellOf(cell, cells))];
     }
-    const float last = GetParam().idiom(kLargestDraw);
-    EXPECT_EQ(std::min(lowest, last), GetParam().lowest);
-    EXPECT_EQ(std::max(highest, last), GetParam().highest);
+    EXPECT_EQ(hits.begin()->first, GetParam().lowest);
+    EXPECT_EQ(hits.rbegin()->first, GetParam().highest);
+    EXPECT_LE(GetParam().idiom(kLargestDraw), GetParam().highest);
+    for (const auto& [value, count] : hits) {
+        EXPECT_NEAR(count, static_cast<double>(cells) / static_cast<double>(hits.size()), 1) << value;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -67,6 +76,8 @@ INSTANTIATE_TEST_SUITE_P(
                     DrawIdiom{"LopsidedTen", [](float u) { return Int(u * 20 - 10); }, -10, 9},
                     DrawIdiom{"LopsidedFive", [](float u) { return Int(u * 10 - 5); }, -5, 4},
                     DrawIdiom{"CutNegative", [](float u) { return Fix(u * -6); }, -5, 0},
+                    DrawIdiom{"OneOrTwo", [](float u) { return Int(u * 2) + 1; }, 1, 2},
+                    DrawIdiom{"FairCoin", [](float u) { return 0.5 > u ? 1.0F : 0.0F; }, 0, 1},
                     DrawIdiom{"FairBit", [](float u) { return Int(u * 2); }, 0, 1},
                     DrawIdiom{"HalfSteps", [](float u) { return Int(u * 10) / 2; }, 0, 4.5F}),
     [](const auto& row) { return row.param.name; });

@@ -5,12 +5,14 @@
 #include <stdexcept>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "numeric/draws.h"
 
 namespace tavrune::test {
 
-/// Draws that are written down beforehand. Asking for more than there are throws, so that a generator that
-/// draws once too often is seen.
+/// Draws that are written down beforehand. Asking for more than there are fails the test; a generator that
+/// goes on for long without finding an exercise in what it then gets is stopped by a throw.
 class ScriptedDraws final : public Draws {
 public:
     ScriptedDraws() = default;
@@ -20,10 +22,16 @@ public:
     void append(std::initializer_list<float> more) { script_.insert(script_.end(), more); }
 
     float Rnd() override {
-        if (next_ >= script_.size()) {
+        if (next_ < script_.size()) {
+            return script_[next_++];
+        }
+        if (++drawnTooOften_ == 1) {
+            ADD_FAILURE() << "the script of draws is used up";
+        }
+        if (drawnTooOften_ > 10'000) {
             throw std::out_of_range("the script of draws is used up");
         }
-        return script_[next_++];
+        return overrun_.Rnd();
     }
 
     void Randomize() override { ++randomized_; }
@@ -36,6 +44,8 @@ private:
     std::vector<float> script_;
     std::size_t next_ = 0;
     int randomized_ = 0;
+    SeededDraws overrun_{1};
+    int drawnTooOften_ = 0;
 };
 
 /// A draw that falls into cell `cell` of `cells` equal ones: Int(cellOf(3, 20) * 20) is 3.

@@ -11,13 +11,7 @@ namespace {
 constexpr double kFirstFraction = fromTwips(600);
 constexpr double kSecondFraction = fromTwips(2160);
 constexpr double kMiddleFraction = fromTwips(1080);
-constexpr double kGap = 4;
-
-/// Moves a control to the right of another.
-double placeAfter(Control* control, double x) {
-    control->setLeft(x + kGap);
-    return control->place().right();
-}
+constexpr double kGap = 2;
 
 }  // namespace
 
@@ -73,7 +67,6 @@ void Brok::judge() {
         showReduction();
     } else {
         failed();
-        ui_->Command2->show();
         focusOn(ui_->Text1);
         ui_->Text1->mark(true);
         ui_->Text2->mark(true);
@@ -87,8 +80,8 @@ void Brok::showReduction() {
         ui_->Label12->setCaption(*text.whole);
     } else if (text.fraction) {
         showAll({ui_->Label10, ui_->Line4});
-        ui_->Label9->setCaption(text.fraction->numerator);
-        ui_->Label11->setCaption(text.fraction->denominator);
+        Fraction(ui_->Label9, ui_->Line4, ui_->Label11)
+            .setTexts(text.fraction->numerator, text.fraction->denominator);
     }
 }
 
@@ -117,38 +110,41 @@ void Brok::help() {
 void Brok::showWorkedSolution() {
     const BrokWorked worked = workedSolution(state_);
     ui_->Picture2->show();
-    ui_->brokk_0->setCaption(NumberText(state_.numeratorA));
-    ui_->brokk_1->setCaption(NumberText(state_.denominatorB));
+
+    const Fraction first(ui_->brokk_0, ui_->Line8, ui_->brokk_1);
+    first.setTexts(NumberText(state_.numeratorA), NumberText(state_.denominatorB));
     ui_->brokk_2->setCaption(state_.operatorText);
-    ui_->brokk_3->setCaption(NumberText(state_.numeratorC));
-    ui_->brokk_4->setCaption(NumberText(state_.denominatorD));
+    const Fraction second(ui_->brokk_3, ui_->Line9, ui_->brokk_4);
+    second.setTexts(NumberText(state_.numeratorC), NumberText(state_.denominatorD));
 
     const Fraction middle(ui_->brokk_6, ui_->Line10, ui_->brokk_7);
     middle.setTexts(worked.middle.numerator, worked.middle.denominator);
     middle.setLeft(kMiddleFraction);
-    ui_->brokk_9->setCaption(worked.computed.numerator);
-    ui_->brokk_10->setCaption(worked.computed.denominator);
+    const Fraction computed(ui_->brokk_9, ui_->Line11, ui_->brokk_10);
+    computed.setTexts(worked.computed.numerator, worked.computed.denominator);
 
     const LastStep& last = worked.last;
     const bool isReduced = last.kind == LastStep::Kind::Reduced;
+    const Fraction reduced(ui_->brokk_12, ui_->Line12, ui_->brokk_13);
+    reduced.setTexts(isReduced ? last.numerator : "", isReduced ? last.denominator : "");
+    reduced.setShown(isReduced);
     ui_->brokk_11->setVisible(last.kind != LastStep::Kind::Irreducible);
-    setShown(isReduced, {ui_->brokk_12, ui_->brokk_13, ui_->Line12});
-    ui_->brokk_12->setCaption(isReduced ? last.numerator : "");
-    ui_->brokk_13->setCaption(isReduced ? last.denominator : "");
     ui_->Label23->setVisible(last.kind == LastStep::Kind::Whole);
     if (last.kind == LastStep::Kind::Whole) {
         ui_->Label23->setCaption(last.numerator);
     }
 
-    double x = placeAfter(ui_->brokk_8, middle.right());
-    placeAfter(ui_->brokk_9, x);
-    placeAfter(ui_->Line11, x);
-    x = placeAfter(ui_->brokk_10, x);
-    x = placeAfter(ui_->brokk_11, x);
-    placeAfter(ui_->brokk_12, x);
-    placeAfter(ui_->Line12, x);
-    placeAfter(ui_->brokk_13, x);
-    placeAfter(ui_->Label23, x);
+    // The row stands round the middle fraction, whose place is fixed: backwards from it, then forwards.
+    const double equals = kMiddleFraction - kGap - ui_->brokk_5->place().width();
+    ui_->brokk_5->setLeft(equals);
+    second.setLeft(equals - kGap - second.width());
+    ui_->brokk_2->setLeft(ui_->brokk_3->place().left() - kGap - ui_->brokk_2->place().width());
+    first.setLeft(ui_->brokk_2->place().left() - kGap - first.width());
+    ui_->brokk_8->setLeft(middle.right() + kGap);
+    computed.setLeft(ui_->brokk_8->place().right() + kGap);
+    ui_->brokk_11->setLeft(computed.right() + kGap);
+    reduced.setLeft(ui_->brokk_11->place().right() + kGap);
+    ui_->Label23->setLeft(ui_->brokk_11->place().right() + kGap);
 }
 
 void Brok::closeHelp() { hideAll({ui_->Picture2, ui_->Picture1}); }

@@ -19,8 +19,6 @@ public:
     explicit Brok(Draws& draws);
     ~Brok() override;
 
-    [[nodiscard]] const BrokState& state() const { return state_; }
-
 protected:
     void newExercise() override;
     void judge() override;

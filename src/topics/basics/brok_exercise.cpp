@@ -55,7 +55,7 @@ class FactorList {
 public:
     explicit FactorList(double number) {
         slots_.fill(1);
-        // Every number divides 0; before the first exercise the result is one.
+        // Every number divides 0, which is the result before the first exercise.
         if (number == 0) {
             return;
         }
@@ -93,7 +93,9 @@ private:
     std::size_t used_ = 0;
 };
 
-/// Sets to 1 what both lists have. Both rise, so one walk is enough; each step sees what the one before left.
+/// Sets to 1 what both lists have. Their factors rise, so one walk is enough; each step sees what the one
+/// before left. Behind the factors stand ones: where both lists have come to them, both indexes rise to the
+/// end.
 void cancel(FactorList& top, FactorList& bottom) {
     std::size_t i = 1;
     std::size_t j = 1;

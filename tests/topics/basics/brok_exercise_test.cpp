@@ -204,15 +204,43 @@ TEST(BrokWorked, MovesTheSignOutOfANegativeDenominator) {
     EXPECT_EQ(last.denominator, "14");
 }
 
-TEST(BrokMethods, AreOneForEachOperator) {
-    EXPECT_STREQ(methodFor("+").numerator, "a*d + c*b");
-    EXPECT_STREQ(methodFor("-").numerator, "a*d - c*b");
-    EXPECT_STREQ(methodFor("*").numerator, "a*c");
-    EXPECT_STREQ(methodFor("/").numerator, "a*d");
-    EXPECT_STREQ(methodFor("/").denominator, "b*c");
-    EXPECT_STREQ(methodFor("+").task, "Her skal du lægge to brøker sammen");
-    EXPECT_STREQ(methodFor("*").rule, "Gang tæller med tæller og nævner med nævner");
+struct MethodRow {
+    const char* name;
+    const char* operatorText;
+    const char* task;
+    const char* rule;
+    const char* numerator;
+    const char* denominator;
+};
+
+class BrokMethods : public testing::TestWithParam<MethodRow> {};
+
+TEST_P(BrokMethods, AreOneForEachOperator) {
+    const BrokMethod& method = methodFor(GetParam().operatorText);
+    EXPECT_STREQ(method.task, GetParam().task);
+    EXPECT_STREQ(method.rule, GetParam().rule);
+    EXPECT_STREQ(method.numerator, GetParam().numerator);
+    EXPECT_STREQ(method.denominator, GetParam().denominator);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, BrokMethods,
+    testing::Values(
+        MethodRow{"Sum", "+", "Her skal du lægge to brøker sammen",
+                  "Find en fællesnævner ved at forlænge begge brøker med den modsatte brøks nævner. Læg "
+                  "derefter de to tællere sammen og behold fællesnævneren.",
+                  "a*d + c*b", "b*d"},
+        MethodRow{"Difference", "-", "I denne opgave skal du trække én brøk fra en anden",
+                  "Find en fællesnævner ved at forlænge begge brøker med den modsatte brøks nævner. Træk "
+                  "derefter de to tællere fra hinanden og behold fællesnævneren.",
+                  "a*d - c*b", "b*d"},
+        MethodRow{"Product", "*", "Her skal du gange to brøker",
+                  "Gang tæller med tæller og nævner med nævner", "a*c", "b*d"},
+        MethodRow{"Quotient", "/", "I denne opgave skal du dividere én brøk med en anden",
+                  "Man dividerer med en brøk ved at gange med den omvendte: Tæller med nævner og nævner "
+                  "med tæller",
+                  "a*d", "b*c"}),
+    [](const auto& row) { return row.param.name; });
 
 /// Calls `visit` with each of the 19^4 * 4 exercises that can be drawn; those with a result of 0 are no
 /// exercises.
@@ -235,6 +263,24 @@ void forEachExercise(Visit visit) {
             }
         }
     }
+}
+
+/// True if every text about the result shows it as p/q, reduced with the sign above.
+bool isShownAs(const BrokState& s, double p, double q) {
+    const ReductionText text = reductionText(s, s.resultNumerator);
+    const LastStep last = workedSolution(s).last;
+    if (q == 1) {
+        return text.whole == NumberText(p) && last.kind == LastStep::Kind::Whole &&
+               last.numerator == NumberText(p);
+    }
+    const bool isReducedAlready = s.resultNumerator == p;
+    const bool beside = isReducedAlready ? !text.fraction && !text.whole
+                                         : text.fraction && text.fraction->numerator == NumberText(p) &&
+                                               text.fraction->denominator == NumberText(q);
+    const bool worked = last.kind == LastStep::Kind::Irreducible
+                            ? isReducedAlready && s.resultDenominator == q
+                            : last.numerator == NumberText(p) && last.denominator == NumberText(q);
+    return beside && worked;
 }
 
 TEST(BrokSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
@@ -261,7 +307,7 @@ TEST(BrokSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
         const bool holds = n != 0 && m != 0 && std::abs(n) <= 200 && std::abs(m) <= 100 && isRight(s, n, m) &&
                            isRight(s, -n, -m) && isRight(s, p, q) && isRight(s, 2 * p, 2 * q) &&
                            !isRight(s, n + 1, m) && !isRight(s, -n, m) && !isRight(s, 0, m) &&
-                           r.signedNumerator() == p && r.denominator == q;
+                           r.signedNumerator() == p && r.denominator == q && isShownAs(s, p, q);
         ASSERT_TRUE(holds) << a << "/" << b << " " << s.operatorText << " " << c << "/" << d;
     });
     // 521,284 exercises less those with a result of 0.

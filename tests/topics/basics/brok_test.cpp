@@ -140,12 +140,16 @@ TEST_F(BrokForm, MayBeTriedAgainAndAgain) {
 
 TEST_F(BrokForm, TellsThatZeroDividesNothing) {
     const FormDriver& f = open(1, 2, 1, 3, Plus);
-    for (const char* m : {"0", "", "abc"}) {
-        answer("5", m);
-        EXPECT_EQ(f.answerMessage(), "Du må ikke dividere med nul") << m;
-        EXPECT_EQ(f.focus(), "Text2");
-        EXPECT_FALSE(f.isShown("Label6"));
-        EXPECT_EQ(colour("Text2"), kWhite);
+    for (const char* n : {"5", "", "abc", "0"}) {
+        for (const char* m : {"0", "", "abc"}) {
+            answer(n, m);
+            EXPECT_EQ(f.answerMessage(), "Du må ikke dividere med nul") << n << "/" << m;
+            EXPECT_EQ(f.focus(), "Text2");
+            EXPECT_FALSE(f.isShown("Label6"));
+            EXPECT_EQ(colour("Text2"), kWhite);
+            EXPECT_EQ(f.box("Text1").content(), n);
+            EXPECT_EQ(f.box("Text2").content(), m);
+        }
     }
 }
 
@@ -256,6 +260,18 @@ TEST_F(BrokForm, OpensTheGeneralMethodOfItsOperator) {
     EXPECT_EQ(f.caption("Label22"), "b*d");
     EXPECT_EQ(f.label("Label22").place().width(), f.label("Label21").place().width());
     EXPECT_EQ(f.find<LineControl>("Line7").ends().x2(), f.label("Label21").place().right());
+}
+
+TEST_F(BrokForm, HasTheHeadingsAndButtonsOfAPanel) {
+    const FormDriver& f = open(1, 2, 1, 3, Minus);
+    EXPECT_EQ(f.caption("Label13"), "Generel løsning");
+    EXPECT_EQ(f.caption("Label14"), "Aktuel løsning");
+    EXPECT_EQ(f.button("Command5").caption(), "Vis");
+    EXPECT_EQ(f.button("Command6").caption(), "&Luk");
+    for (const auto& [label, text] :
+         {std::pair{"Label16", "a"}, {"Label18", "b"}, {"Label19", "c"}, {"Label20", "d"}}) {
+        EXPECT_EQ(f.caption(label), text);
+    }
 }
 
 TEST_F(BrokForm, WorksTheTaskOutInARow) {
