@@ -1,0 +1,324 @@
+#include "topics/basics/konvert_exercise.h"
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "numeric/judging.h"
+#include "numeric/text.h"
+#include "support/decimal_mark.h"
+#include "support/scripted_draws.h"
+
+namespace tavrune {
+namespace {
+
+using test::cellOf;
+using test::DecimalMark;
+using test::kLargestDraw;
+using test::ScriptedDraws;
+
+constexpr float kHeads = 0.25F;
+constexpr float kTails = 0.5F;
+
+using Script = std::vector<float>;
+
+Script slope(int a) { return a < 0 ? Script{kHeads, cellOf(-a, 6)} : Script{kTails, cellOf(a, 5)}; }
+Script constant(int b) { return {cellOf(b, 8)}; }
+Script wholeFactor(int f) { return {kHeads, cellOf(f - 1, 8)}; }
+Script fraction(int n, int m) { return {kHeads, cellOf(n - 1, 8), cellOf(m - 1, 8)}; }
+Script oneOver(int m) { return {kTails, cellOf(m - 1, 8)}; }
+Script fractionFactor(int n, int m) {
+    Script script{kTails};
+    const Script drawn = fraction(n, m);
+    script.insert(script.end(), drawn.begin(), drawn.end());
+    return script;
+}
+
+Script operator+(Script one, const Script& other) {
+    one.insert(one.end(), other.begin(), other.end());
+    return one;
+}
+
+KonvertState exercise(const Script& script) {
+    ScriptedDraws draws(script);
+    KonvertState state;
+    newExercise(state, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    EXPECT_EQ(draws.randomized(), 1);
+    return state;
+}
+
+TEST(KonvertGenerator, DrawsSlopeConstantAndAWholeFactor) {
+    const KonvertState s = exercise({kHeads, cellOf(3, 6), cellOf(5, 8), kHeads, cellOf(1, 8)});
+    EXPECT_EQ(s.givenSlope, -3);
+    EXPECT_EQ(s.givenConstant, 5);
+    EXPECT_EQ(s.factorKind, FactorKind::Whole);
+    EXPECT_EQ(s.factor, 2);
+    EXPECT_EQ(s.newSlope, -0.75);
+    EXPECT_EQ(s.newConstant, 2.5);
+}
+
+TEST(KonvertGenerator, DrawsAFractionWithADrawnNumerator) {
+    const KonvertState s =
+        exercise({kTails, cellOf(4, 5), cellOf(7, 8), kTails, kHeads, cellOf(2, 8), cellOf(3, 8)});
+    EXPECT_EQ(s.givenSlope, 4);
+    EXPECT_EQ(s.givenConstant, 7);
+    EXPECT_EQ(s.factorKind, FactorKind::Fraction);
+    EXPECT_EQ(s.factorNumerator, 3);
+    EXPECT_EQ(s.factorDenominator, 4);
+    EXPECT_EQ(s.factor, 0.75F);
+}
+
+TEST(KonvertGenerator, LeavesTheNumeratorAtOneForTails) {
+    const KonvertState s = exercise(slope(1) + constant(1) + Script{kTails} + oneOver(4));
+    EXPECT_EQ(s.factorNumerator, 1);
+    EXPECT_EQ(s.factorDenominator, 4);
+    EXPECT_EQ(s.newSlope, 16);
+    EXPECT_EQ(s.newConstant, 4);
+}
+
+TEST(KonvertGenerator, TakesAHalfForTailsAndLessForHeads) {
+    constexpr float kBelowHalf = 0.5F - 1.0F / (1U << 24U);
+    EXPECT_EQ(exercise({kBelowHalf, kLargestDraw, 0, kBelowHalf, 0}).givenSlope, -5);
+    EXPECT_EQ(exercise({0.5F, kLargestDraw, kLargestDraw, kBelowHalf, kLargestDraw}).givenSlope, 4);
+    EXPECT_EQ(exercise({0.5F, kLargestDraw, kLargestDraw, kBelowHalf, kLargestDraw}).givenConstant, 7);
+    EXPECT_EQ(exercise({0.5F, kLargestDraw, kLargestDraw, kBelowHalf, kLargestDraw}).factor, 8);
+}
+
+TEST(KonvertGenerator, DrawsOnlyTheFractionAgainWhileItIsOne) {
+    // 1/1 by tails, 5/5 by heads, then 1/3: the numerator is 1 again before each coin.
+    const KonvertState s =
+        exercise(slope(2) + constant(3) + Script{kTails} + oneOver(1) + fraction(5, 5) + oneOver(3));
+    EXPECT_EQ(s.givenSlope, 2);
+    EXPECT_EQ(s.givenConstant, 3);
+    EXPECT_EQ(s.factorNumerator, 1);
+    EXPECT_EQ(s.factorDenominator, 3);
+}
+
+TEST(KonvertGenerator, DrawsEverythingAgainWithReseedingWhileTheSlopeIsTooSteep) {
+    ScriptedDraws draws(slope(1) + constant(1) + fractionFactor(1, 8) +   // 64
+                        slope(-2) + constant(2) + fractionFactor(1, 6) +  // -72
+                        slope(3) + constant(4) + wholeFactor(1));
+    KonvertState s;
+    newExercise(s, draws);
+    EXPECT_EQ(s.givenSlope, 3);
+    EXPECT_EQ(s.givenConstant, 4);
+    EXPECT_EQ(s.factorKind, FactorKind::Whole);
+    EXPECT_EQ(draws.randomized(), 3);
+    EXPECT_TRUE(draws.isUsedUp());
+}
+
+TEST(KonvertGenerator, KeepsASlopeOfFifty) {
+    EXPECT_NEAR(exercise(slope(2) + constant(0) + fractionFactor(1, 5)).newSlope, 50, 1e-5);
+    EXPECT_NEAR(exercise(slope(-2) + constant(0) + fractionFactor(1, 5)).newSlope, -50, 1e-5);
+}
+
+TEST(KonvertGenerator, DividesInSinglePrecision) {
+    const KonvertState s = exercise(slope(-5) + constant(1) + fractionFactor(4, 3));
+    EXPECT_EQ(s.factor, 4.0F / 3.0F);
+    EXPECT_EQ(s.newSlope, static_cast<double>(-5.0F / (s.factor * s.factor)));
+    EXPECT_EQ(s.newConstant, static_cast<double>(1.0F / s.factor));
+    EXPECT_NE(s.newSlope, -2.8125);
+}
+
+TEST(KonvertGenerator, MayAskForNothingButZeros) {
+    for (const Script& zero : {Script{kHeads, 0}, Script{kTails, 0}}) {
+        KonvertState s = exercise(zero + constant(0) + wholeFactor(3));
+        EXPECT_EQ(functionText(s), "P= 0Q + 0");
+        EXPECT_EQ(s.newSlope, 0);
+        EXPECT_EQ(s.newConstant, 0);
+        roundSolution(s);
+        EXPECT_EQ(workedSolution(s).result, "= 0 K + 0");
+    }
+}
+
+TEST(KonvertGenerator, GivesTheOldFunctionForAFactorOfOne) {
+    const KonvertState s = exercise(slope(-4) + constant(6) + wholeFactor(1));
+    EXPECT_EQ(s.newSlope, -4);
+    EXPECT_EQ(s.newConstant, 6);
+}
+
+TEST(KonvertRounding, TakesTheSlopeAwayFromZeroAndTheConstantUp) {
+    KonvertState s;
+    s.newSlope = -2.0005;
+    s.newConstant = 0.0625;
+    roundSolution(s);
+    EXPECT_EQ(s.newSlope, -2.001);
+    EXPECT_EQ(s.newConstant, 0.063);
+    s.newSlope = 0.0625;
+    s.newConstant = -0.0625;
+    roundSolution(s);
+    EXPECT_EQ(s.newSlope, 0.063);
+    EXPECT_EQ(s.newConstant, -0.062);
+}
+
+TEST(KonvertRounding, StartsFromTheDigitsOfTheSingle) {
+    KonvertState s = exercise(slope(-5) + constant(1) + fractionFactor(4, 3));
+    roundSolution(s);
+    EXPECT_EQ(s.newSlope, -2.812);
+    EXPECT_EQ(s.newConstant, 0.75);
+}
+
+TEST(KonvertTexts, TellAWholeFactor) {
+    KonvertState s = exercise(slope(-3) + constant(5) + wholeFactor(4));
+    roundSolution(s);
+    EXPECT_EQ(taskText(s), " For den viste funktion gælder, at 1 Q svarer til 4 K. Udtryk funktionen i K");
+    EXPECT_EQ(functionText(s), "P= -3Q + 5");
+    EXPECT_EQ(givenTexts(s).function, "P= -3 Q + 5");
+    EXPECT_EQ(givenTexts(s).conversion, "1 Q svarer til 4 K");
+    const DecimalMark danish(",");
+    const KonvertWorked worked = workedSolution(s);
+    EXPECT_EQ(worked.opening, "P= ");
+    EXPECT_EQ(worked.slope, "-3");
+    EXPECT_EQ(worked.squaredFactor, "4 · 4");
+    EXPECT_EQ(worked.constant, "5");
+    EXPECT_EQ(worked.factor, "4");
+    EXPECT_EQ(worked.result, "= -0,188 K + 1,25");
+}
+
+TEST(KonvertTexts, TellAFractionUnreduced) {
+    KonvertState s = exercise(slope(2) + constant(7) + fractionFactor(6, 4));
+    roundSolution(s);
+    EXPECT_EQ(taskText(s), " For den viste funktion gælder, at 1 Q svarer til 6/4 K. Udtryk funktionen i K");
+    EXPECT_EQ(givenTexts(s).conversion, "1 Q svarer til 6/4 K");
+    const KonvertWorked worked = workedSolution(s);
+    EXPECT_EQ(worked.opening, "P=");
+    EXPECT_EQ(worked.squaredFactor, "(6/4) · (6/4)");
+    EXPECT_EQ(worked.factor, "6/4");
+    EXPECT_EQ(worked.result, "= 0.889 K + 4.667");
+}
+
+TEST(KonvertTexts, ShowTheFactorOfThisExerciseAfterOneOfTheOtherKind) {
+    ScriptedDraws draws(slope(1) + constant(1) + fractionFactor(3, 4) +  //
+                        slope(1) + constant(1) + wholeFactor(5));
+    KonvertState s;
+    newExercise(s, draws);
+    newExercise(s, draws);
+    EXPECT_EQ(givenTexts(s).conversion, "1 Q svarer til 5 K");
+    EXPECT_EQ(workedSolution(s).squaredFactor, "5 · 5");
+}
+
+struct Space {
+    int accepted = 0;
+    int rejected = 0;
+    std::set<int> slopes;
+    std::set<int> constants;
+    std::set<std::string> factors;
+};
+
+/// Holds if this exercise is solved by its own solution, rounded or not, and by nothing farther off.
+bool isSound(KonvertState s, double exactSlope, double exactConstant) {
+    const auto solvedBy = [&s](double slope, double constant) {
+        return isClosedNear(slope, s.newSlope) && isClosedNear(constant, s.newConstant);
+    };
+    const bool isNearExact =
+        std::abs(s.newSlope - exactSlope) < 1e-5 && std::abs(s.newConstant - exactConstant) < 1e-5;
+    const bool takesOwn = solvedBy(s.newSlope, s.newConstant) && solvedBy(exactSlope, exactConstant);
+    bool takesOthers = false;
+    for (const double nudge : {-0.006, 0.006, 1.0}) {
+        takesOthers = takesOthers || solvedBy(s.newSlope + nudge, s.newConstant) ||
+                      solvedBy(s.newSlope, s.newConstant + nudge);
+    }
+    roundSolution(s);
+    const KonvertState once = s;
+    roundSolution(s);
+    const bool staysRounded = s.newSlope == once.newSlope && s.newConstant == once.newConstant;
+    const bool takesRounded = solvedBy(exactSlope, exactConstant) &&
+                              Val(NumberText(s.newSlope)) == s.newSlope &&
+                              Val(NumberText(s.newConstant)) == s.newConstant;
+    return isNearExact && takesOwn && !takesOthers && staysRounded && takesRounded;
+}
+
+/// Draws one exercise and, for a slope that is too steep, a last one that shows the rejection.
+void visit(Space& space, const Script& slopeDraws, int a, int b, const Script& factorDraws, int n, int m) {
+    ScriptedDraws draws(slopeDraws + constant(b) + factorDraws + slope(4) + constant(7) + wholeFactor(7));
+    KonvertState s;
+    newExercise(s, draws);
+    const double exactSlope = static_cast<double>(a * m * m) / (n * n);
+    const bool isTooSteep = std::abs(a) * m * m > 50 * n * n;
+    ASSERT_EQ(draws.randomized(), isTooSteep ? 2 : 1) << a << " " << n << "/" << m;
+    if (isTooSteep) {
+        ++space.rejected;
+        return;
+    }
+    ++space.accepted;
+    space.slopes.insert(a);
+    space.constants.insert(b);
+    space.factors.insert(givenTexts(s).conversion);
+    ASSERT_TRUE(isSound(s, exactSlope, static_cast<double>(b) * m / n))
+        << functionText(s) << ", " << givenTexts(s).conversion;
+}
+
+TEST(KonvertSpace, IsSolvedByItsOwnAndOnlyByItsOwnSolution) {
+    Space space;
+    const auto visitFactors = [&space](const Script& slopeDraws, int a, int b) {
+        for (int m = 1; m <= 8; ++m) {
+            visit(space, slopeDraws, a, b, wholeFactor(m), m, 1);
+            for (int n = 1; n <= 8; ++n) {
+                if (n != m) {
+                    visit(space, slopeDraws, a, b, fractionFactor(n, m), n, m);
+                }
+            }
+            if (m != 1) {
+                visit(space, slopeDraws, a, b, Script{kTails} + oneOver(m), 1, m);
+            }
+        }
+    };
+    for (int b = 0; b < 8; ++b) {
+        for (int size = 0; size < 6; ++size) {
+            visitFactors({kHeads, cellOf(size, 6)}, -size, b);
+        }
+        for (int size = 0; size < 5; ++size) {
+            visitFactors({kTails, cellOf(size, 5)}, size, b);
+        }
+    }
+    // 11 ways to a slope, 8 constants, 8 + 56 + 7 ways to a factor.
+    EXPECT_EQ(space.accepted + space.rejected, 11 * 8 * 71);
+    EXPECT_GT(space.rejected, 0);
+    EXPECT_EQ(space.slopes.size(), 10U);
+    EXPECT_EQ(space.constants.size(), 8U);
+    EXPECT_EQ(space.factors.size(), 64U);
+}
+
+RC_GTEST_PROP(KonvertSeeds, GiveEqualExercisesForEqualSeeds, (std::uint64_t seed)) {
+    SeededDraws one(seed);
+    SeededDraws other(seed);
+    KonvertState s;
+    KonvertState t;
+    newExercise(s, one);
+    newExercise(t, other);
+    RC_ASSERT(taskText(s) == taskText(t));
+    RC_ASSERT(workedSolution(s).result == workedSolution(t).result);
+}
+
+TEST(KonvertSeeds, AreFrozenForAllBuildsAndProcessors) {
+    SeededDraws draws(7);
+    KonvertState s;
+    std::string texts;
+    for (int i = 0; i < 4; ++i) {
+        newExercise(s, draws);
+        texts += functionText(s) + " " + workedSolution(s).factor + "; ";
+    }
+    EXPECT_EQ(texts, "P= 2Q + 4 7/8; P= -2Q + 1 5; P= -1Q + 2 1; P= 0Q + 4 5; ");
+}
+
+TEST(KonvertSeeds, GiveEachKindAboutAsOften) {
+    SeededDraws draws(11);
+    KonvertState s;
+    int fractions = 0;
+    for (int i = 0; i < 10'000; ++i) {
+        newExercise(s, draws);
+        fractions += s.factorKind == FactorKind::Fraction ? 1 : 0;
+        ASSERT_TRUE(std::abs(s.newSlope) <= 50 && std::abs(s.newConstant) <= 56) << functionText(s);
+    }
+    EXPECT_GT(fractions, 4'000);
+    EXPECT_LT(fractions, 5'500);
+}
+
+}  // namespace
+}  // namespace tavrune
