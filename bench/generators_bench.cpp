@@ -2,6 +2,7 @@
 
 #include "numeric/draws.h"
 #include "topics/basics/brok_exercise.h"
+#include "topics/basics/dlinie_exercise.h"
 #include "topics/basics/konvert_exercise.h"
 
 namespace tavrune {
@@ -19,6 +20,7 @@ void Generator(benchmark::State& bench) {
     bench.SetItemsProcessed(bench.iterations());
 }
 BENCHMARK(Generator<BrokState>)->Name("Generator/Brok");
+BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
 
 }  // namespace

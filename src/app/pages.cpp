@@ -9,6 +9,7 @@
 #include "shell/how_to_use.h"
 #include "shell/opstart.h"
 #include "topics/basics/brok.h"
+#include "topics/basics/dlinie.h"
 #include "topics/basics/konvert.h"
 
 namespace tavrune {
@@ -34,11 +35,17 @@ std::unique_ptr<Page> startPage(Draws& /*draws*/) {
 }
 
 // The one list of pages: the menu, the tests and the program go through it.
+// One page a line.
+// clang-format off
 constexpr std::array kPages{
-    Entry{PageName::Opstart, startPage},     Entry{PageName::Form1, passive<Form1>},
-    Entry{PageName::Form2, passive<Form2>},  Entry{PageName::Brok, form<Brok>},
+    Entry{PageName::Opstart, startPage},
+    Entry{PageName::Form1, passive<Form1>},
+    Entry{PageName::Form2, passive<Form2>},
+    Entry{PageName::Brok, form<Brok>},
     Entry{PageName::Konvert, form<Konvert>},
+    Entry{PageName::Dlinie, form<Dlinie>},
 };
+// clang-format on
 
 const Entry* find(PageName name) {
     const auto* const entry =

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <memory>
+
+#include "shell/exercise_form.h"
+#include "topics/basics/dlinie_exercise.h"
+
+namespace tavrune {
+
+namespace Ui {
+class Dlinie;
+}
+
+/// A straight line from two facts; the answer is its slope and its intercept.
+class Dlinie : public ExerciseForm {
+    Q_OBJECT
+
+public:
+    explicit Dlinie(Draws& draws);
+    ~Dlinie() override;
+
+    [[nodiscard]] const DlinieState& state() const { return state_; }
+
+protected:
+    void firstTick() override;
+    void newExercise() override;
+    void judge() override;
+    void giveAnswer() override;
+    void help() override;
+
+private:
+    void ask(ZeroSlope zeroSlope);
+    void drawAxes();
+    void drawLine(double slope, double intercept, const QColor& colour);
+
+    void showSlopeOfTwoPoints();
+    void showInterceptOfTwoPoints();
+    void showInterceptOfPoint();
+    void showInterceptOfXCross();
+    void showSlopeOfBothCrosses();
+
+    void closeTwoPoints();
+    void closeSlopeAndPoint();
+    void closeSlopeAndYCross();
+    void closeSlopeAndXCross();
+    void closeBothCrosses();
+
+    std::unique_ptr<Ui::Dlinie> ui_;
+    DlinieState state_;
+};
+
+}  // namespace tavrune

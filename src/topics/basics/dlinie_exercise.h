@@ -1,0 +1,101 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "numeric/draws.h"
+
+namespace tavrune {
+
+/// What is known of the line.
+enum class LineTask {
+    /// A draw in 5000: nothing is asked anew.
+    None = 0,
+    TwoPoints,
+    SlopeAndPoint,
+    SlopeAndYCross,
+    SlopeAndXCross,
+    BothCrosses,
+};
+
+/// One task on the straight line Y = slope * X + intercept.
+struct DlinieState {
+    LineTask taskType = LineTask::None;
+    float x1 = 0;
+    float y1 = 0;
+    float x2 = 0;
+    float y2 = 0;
+    float slopeGiven = 0;
+    float xCross = 0;
+    float yCross = 0;
+    /// The answer to 2 decimals. It outlives the exercise: a `LineTask::None` is judged by the last one.
+    double slope = 0;
+    double intercept = 0;
+};
+
+/// Whether the drawn slope may be 0.
+enum class ZeroSlope { Rejected, Allowed };
+
+/// Draws the kind of task once, then the numbers until x1 and x2 differ, the line crosses the X axis beside 0
+/// and, unless allowed, the slope is not 0.
+void newExercise(DlinieState& state, Draws& draws, ZeroSlope zeroSlope = ZeroSlope::Rejected);
+
+/// Which of the two numbers is the stored one, to the last decimal.
+struct DlinieJudgement {
+    bool slopeIsRight;
+    bool interceptIsRight;
+
+    [[nodiscard]] bool isRight() const { return slopeIsRight && interceptIsRight; }
+};
+
+[[nodiscard]] DlinieJudgement judged(const DlinieState& state, double slope, double intercept);
+
+/// The intercept as it is given, behind "X": "+3", "+0", "-3".
+[[nodiscard]] std::string interceptAnswer(const DlinieState& state);
+
+/// What is asked, and the two facts.
+struct DlinieTask {
+    std::string sentence;
+    std::string firstFact;
+    std::string secondFact;
+};
+
+/// Nothing for a `LineTask::None`.
+[[nodiscard]] std::optional<DlinieTask> taskTexts(const DlinieState& state);
+
+/// "a = numerator/denominator", and what it comes to.
+struct DlinieSlopeStep {
+    std::string numerator;
+    std::string denominator;
+    std::string result;
+};
+
+/// The slope between the two points.
+[[nodiscard]] DlinieSlopeStep slopeBetweenPoints(const DlinieState& state);
+
+/// The slope between the points on the axes.
+[[nodiscard]] DlinieSlopeStep slopeBetweenCrosses(const DlinieState& state);
+
+/// A point put into the equation of the line, and the equation solved for b.
+struct DlinieInterceptStep {
+    std::string inserted;
+    std::string solved;
+};
+
+/// With the first of the two points. A slope of more than two decimals is written as a fraction.
+[[nodiscard]] DlinieInterceptStep interceptFromFirstPoint(const DlinieState& state);
+
+/// With the one point that is known, and the slope with it.
+[[nodiscard]] DlinieInterceptStep interceptFromPoint(const DlinieState& state);
+
+/// The point on the X axis put into the equation, and the equation solved for b.
+struct DlinieCrossStep {
+    std::string inserted;
+    std::string withZero;
+    std::string solved;
+    std::string result;
+};
+
+[[nodiscard]] DlinieCrossStep interceptFromXCross(const DlinieState& state);
+
+}  // namespace tavrune
