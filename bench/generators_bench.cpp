@@ -4,6 +4,7 @@
 #include "topics/basics/brok_exercise.h"
 #include "topics/basics/dlinie_exercise.h"
 #include "topics/basics/konvert_exercise.h"
+#include "topics/basics/lininter_exercise.h"
 
 namespace tavrune {
 namespace {
@@ -22,6 +23,7 @@ void Generator(benchmark::State& bench) {
 BENCHMARK(Generator<BrokState>)->Name("Generator/Brok");
 BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
+BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
 
 }  // namespace
 }  // namespace tavrune

@@ -11,6 +11,7 @@
 #include "topics/basics/brok.h"
 #include "topics/basics/dlinie.h"
 #include "topics/basics/konvert.h"
+#include "topics/basics/lininter.h"
 
 namespace tavrune {
 namespace {
@@ -44,6 +45,7 @@ constexpr std::array kPages{
     Entry{PageName::Brok, form<Brok>},
     Entry{PageName::Konvert, form<Konvert>},
     Entry{PageName::Dlinie, form<Dlinie>},
+    Entry{PageName::Lininter, form<Lininter>},
 };
 // clang-format on
 

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+#include <span>
+
+#include "shell/exercise_form.h"
+#include "topics/basics/lininter_exercise.h"
+
+namespace tavrune {
+
+namespace Ui {
+class Lininter;
+}
+
+/// Interpolation and extrapolation on the line through two points; the answer is one coordinate.
+class Lininter : public ExerciseForm {
+    Q_OBJECT
+
+public:
+    explicit Lininter(Draws& draws);
+    ~Lininter() override;
+
+    [[nodiscard]] const LininterState& state() const { return state_; }
+
+protected:
+    void newExercise() override;
+    void judge() override;
+    void giveAnswer() override;
+    void help() override;
+
+private:
+    void drawAxes();
+    void drawPoints();
+    void drawSolution();
+    void draw(std::span<const Segment> segments, const QColor& colour);
+    void uncoverLeft();
+    void uncoverRight();
+    void closeHelp();
+
+    std::unique_ptr<Ui::Lininter> ui_;
+    LininterState state_;
+};
+
+}  // namespace tavrune

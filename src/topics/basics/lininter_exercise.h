@@ -1,0 +1,100 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "numeric/draws.h"
+
+namespace tavrune {
+
+/// Two points A and B in the plane of Q (across) and P (up), and one coordinate of a third point on their
+/// line. The other coordinate is asked for.
+struct LininterState {
+    /// Whole, 1 to 10. The points differ in both coordinates.
+    float Qa = 0;
+    float Pa = 0;
+    float Qb = 0;
+    float Pb = 0;
+    /// P = lineSlope * Q + lineIntercept, unrounded. The size of the slope is 0.45 to 2.5.
+    float lineSlope = 0;
+    float lineIntercept = 0;
+    /// Below 0.5, Q is given.
+    float directionDraw = 0;
+    /// Whole, 1 to 8. Only the one that the direction gives is drawn; the other keeps its old value.
+    float givenQ = 0;
+    float givenP = 0;
+    /// The coordinate asked for, unrounded, less than 16 in size.
+    float target = 0;
+};
+
+/// Draws until the line is neither too steep nor too flat, then the direction, then the given coordinate
+/// until the point lies near the graph.
+void newExercise(LininterState& state, Draws& draws);
+
+/// Otherwise P is given.
+[[nodiscard]] bool isQGiven(const LininterState& state);
+
+[[nodiscard]] bool isRight(const LininterState& state, double typed);
+
+/// The target with two decimals, as the student is shown it.
+[[nodiscard]] std::string answerText(const LininterState& state);
+
+/// "A : ( 3 ; 4 )"
+[[nodiscard]] std::string textOfA(const LininterState& state);
+[[nodiscard]] std::string textOfB(const LininterState& state);
+
+/// The task: one letter is given with a number, the other one is asked for.
+struct LininterTask {
+    const char* givenLetter;
+    std::string given;
+    const char* askedLetter;
+};
+
+[[nodiscard]] LininterTask task(const LininterState& state);
+
+/// The worked solution of the direction that the exercise has. The result is computed from the unrounded
+/// ratio, so the shown ratio times the difference can miss it in the last decimal.
+struct LininterWorked {
+    std::string numerator;
+    std::string denominator;
+    std::string ratio;
+    std::string result;
+};
+
+[[nodiscard]] LininterWorked workedSolution(const LininterState& state);
+
+/// A straight stroke in the plane of Q and P.
+struct Segment {
+    double x1;
+    double y1;
+    double x2;
+    double y2;
+
+    bool operator==(const Segment&) const = default;
+};
+
+/// The axes' range, to which the line through A and B is drawn.
+inline constexpr float kLeftmostQ = -7;
+inline constexpr float kRightmostQ = 15;
+
+/// A cross: the level stroke, then the upright one.
+using Cross = std::array<Segment, 2>;
+
+[[nodiscard]] Cross crossAt(double x, double y);
+
+/// Where the point would lie with `typed` as the coordinate asked for.
+[[nodiscard]] Cross crossOfTyped(const LininterState& state, double typed);
+
+/// The line through A and B, over the whole width of the graph.
+[[nodiscard]] Segment lineThroughPoints(const LininterState& state);
+
+/// From the given coordinate to the line, and from the answer to the same point.
+[[nodiscard]] std::array<Segment, 2> guideLines(const LininterState& state);
+
+/// What the arrowheads are drawn for.
+enum class Occasion { Judged, Given };
+
+/// Two strokes for the head on the line, then two for the head on the axis.
+[[nodiscard]] std::array<Segment, 4> arrowheads(const LininterState& state, Occasion occasion);
+
+}  // namespace tavrune

@@ -1,0 +1,503 @@
+#include "topics/basics/lininter_exercise.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <set>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "numeric/text.h"
+#include "support/decimal_mark.h"
+#include "support/scripted_draws.h"
+
+namespace tavrune {
+namespace {
+
+using test::cellOf;
+using test::DecimalMark;
+using test::kLargestDraw;
+using test::ScriptedDraws;
+
+enum Direction { GivenQ, GivenP };
+
+float coordinate(int value) { return cellOf(value - 1, 10); }
+float given(int value) { return cellOf(value - 1, 8); }
+float direction(Direction d) { return d == GivenQ ? 0.25F : 0.75F; }
+
+std::vector<float> points(int qa, int pa, int qb, int pb) {
+    return {coordinate(qa), coordinate(pa), coordinate(qb), coordinate(pb)};
+}
+
+std::vector<float> script(int qa, int pa, int qb, int pb, Direction d, int g) {
+    std::vector<float> all = points(qa, pa, qb, pb);
+    all.insert(all.end(), {direction(d), given(g)});
+    return all;
+}
+
+LininterState exercise(int qa, int pa, int qb, int pb, Direction d, int g) {
+    ScriptedDraws draws(script(qa, pa, qb, pb, d, g));
+    LininterState state;
+    newExercise(state, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    return state;
+}
+
+LininterState withTarget(float target) {
+    LininterState state;
+    state.target = target;
+    return state;
+}
+
+/// An exercise whose first points are these; the ones that follow are accepted. True if the first are too.
+bool areAccepted(int qa, int pa, int qb, int pb) {
+    std::vector<float> all = points(qa, pa, qb, pb);
+    const std::vector<float> rest = script(1, 2, 3, 6, GivenQ, 4);
+    all.insert(all.end(), rest.begin(), rest.end());
+    ScriptedDraws draws(all);
+    LininterState s;
+    newExercise(s, draws);
+    return s.Qa == static_cast<float>(qa) && s.Pa == static_cast<float>(pa) &&
+           s.Qb == static_cast<float>(qb) && s.Pb == static_cast<float>(pb);
+}
+
+TEST(LininterGenerator, DrawsTheFourCoordinatesThenTheDirectionThenTheGivenOne) {
+    const LininterState s = exercise(1, 2, 3, 6, GivenQ, 4);
+    EXPECT_EQ(s.Qa, 1);
+    EXPECT_EQ(s.Pa, 2);
+    EXPECT_EQ(s.Qb, 3);
+    EXPECT_EQ(s.Pb, 6);
+    EXPECT_EQ(s.lineSlope, 2);
+    EXPECT_EQ(s.lineIntercept, 0);
+    EXPECT_EQ(s.directionDraw, 0.25F);
+    EXPECT_EQ(s.givenQ, 4);
+    EXPECT_EQ(s.target, 8);
+}
+
+TEST(LininterGenerator, AsksForQWhereTheDirectionDrawIsAHalfOrMore) {
+    const LininterState s = exercise(1, 2, 3, 6, GivenP, 5);
+    EXPECT_EQ(s.givenP, 5);
+    EXPECT_EQ(s.target, 2.5F);
+
+    ScriptedDraws atTheHalf{coordinate(1), coordinate(2), coordinate(3), coordinate(6), 0.5F, given(5)};
+    LininterState half;
+    newExercise(half, atTheHalf);
+    EXPECT_FALSE(isQGiven(half));
+
+    ScriptedDraws justBelow{coordinate(1), coordinate(2), coordinate(3),
+                            coordinate(6), 0.49999997F,   given(5)};
+    newExercise(half, justBelow);
+    EXPECT_TRUE(isQGiven(half));
+}
+
+TEST(LininterGenerator, KeepsTheGivenCoordinateOfTheOtherDirection) {
+    ScriptedDraws draws(script(1, 2, 3, 6, GivenQ, 4));
+    LininterState s;
+    newExercise(s, draws);
+    ScriptedDraws next(script(1, 2, 3, 6, GivenP, 5));
+    newExercise(s, next);
+    EXPECT_EQ(s.givenQ, 4);
+    EXPECT_EQ(s.givenP, 5);
+}
+
+TEST(LininterGenerator, ReachesBothEndsOfEachRange) {
+    ScriptedDraws draws{0, kLargestDraw, kLargestDraw, 0, 0.25F, kLargestDraw};
+    LininterState s;
+    newExercise(s, draws);
+    EXPECT_EQ(s.Qa, 1);
+    EXPECT_EQ(s.Pa, 10);
+    EXPECT_EQ(s.Qb, 10);
+    EXPECT_EQ(s.Pb, 1);
+    EXPECT_EQ(s.givenQ, 8);
+    EXPECT_EQ(s.target, 3);
+}
+
+TEST(LininterGenerator, ReseedsBeforeThePointsAndBeforeTheDirection) {
+    ScriptedDraws draws(script(1, 2, 3, 6, GivenQ, 4));
+    LininterState s;
+    newExercise(s, draws);
+    EXPECT_EQ(draws.randomized(), 2);
+}
+
+TEST(LininterGenerator, DrawsAllFourAgainWithReseedingWhileACoordinateIsShared) {
+    std::vector<float> all = points(3, 2, 3, 6);
+    for (const std::vector<float>& more : {points(1, 6, 3, 6), script(1, 2, 3, 6, GivenQ, 4)}) {
+        all.insert(all.end(), more.begin(), more.end());
+    }
+    ScriptedDraws draws(all);
+    LininterState s;
+    newExercise(s, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    EXPECT_EQ(draws.randomized(), 4);
+    EXPECT_EQ(s.Qa, 1);
+    EXPECT_EQ(s.target, 8);
+}
+
+TEST(LininterGenerator, DrawsAllFourAgainWithReseedingWhileTheLineIsTooSteepOrTooFlat) {
+    std::vector<float> all = points(1, 1, 2, 4);
+    for (const std::vector<float>& more : {points(1, 1, 6, 3), script(1, 2, 3, 6, GivenQ, 4)}) {
+        all.insert(all.end(), more.begin(), more.end());
+    }
+    ScriptedDraws draws(all);
+    LininterState s;
+    newExercise(s, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    EXPECT_EQ(draws.randomized(), 4);
+    EXPECT_EQ(s.lineSlope, 2);
+}
+
+TEST(LininterGenerator, AllowsSlopesOfTwoAndAHalfAndOfAHalf) {
+    EXPECT_TRUE(areAccepted(1, 1, 3, 6));
+    EXPECT_TRUE(areAccepted(1, 6, 3, 1));
+    EXPECT_TRUE(areAccepted(1, 1, 3, 2));
+    EXPECT_TRUE(areAccepted(3, 1, 1, 2));
+}
+
+TEST(LininterGenerator, RejectsSlopesOfThreeAndOfTwoFifths) {
+    EXPECT_FALSE(areAccepted(1, 1, 2, 4));
+    EXPECT_FALSE(areAccepted(1, 4, 2, 1));
+    EXPECT_FALSE(areAccepted(1, 1, 6, 3));
+    EXPECT_FALSE(areAccepted(6, 1, 1, 3));
+}
+
+TEST(LininterGenerator, DrawsOnlyTheGivenCoordinateAgainWhileTheTargetIsSixteenOrMore) {
+    std::vector<float> all = script(1, 2, 3, 6, GivenQ, 8);  // Q = 8 gives 16.
+    all.push_back(given(7));
+    ScriptedDraws draws(all);
+    LininterState s;
+    newExercise(s, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    EXPECT_EQ(draws.randomized(), 2);
+    EXPECT_EQ(s.givenQ, 7);
+    EXPECT_EQ(s.target, 14);
+}
+
+TEST(LininterGenerator, DrawsOnlyTheGivenCoordinateAgainInBothDirectionsAndBelowZero) {
+    std::vector<float> downward = script(8, 1, 10, 6, GivenQ, 1);  // Q = 1 gives -16.5.
+    downward.push_back(given(2));
+    ScriptedDraws draws(downward);
+    LininterState s;
+    newExercise(s, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    EXPECT_EQ(s.target, -14);
+
+    std::vector<float> flat = script(2, 10, 4, 9, GivenP, 1);  // Q = 22 - 2P
+    flat.insert(flat.end(), {given(3), given(4)});
+    ScriptedDraws far(flat);
+    newExercise(s, far);
+    EXPECT_TRUE(far.isUsedUp());
+    EXPECT_EQ(far.randomized(), 2);
+    EXPECT_EQ(s.givenP, 4);
+    EXPECT_EQ(s.target, 14);
+}
+
+TEST(LininterGenerator, ComputesInSingles) {
+    const LininterState s = exercise(1, 2, 4, 7, GivenQ, 8);
+    const float slope = 5.0F / 3.0F;
+    EXPECT_EQ(s.lineSlope, slope);
+    EXPECT_EQ(s.lineIntercept, -slope * 1.0F + 2.0F);
+    EXPECT_EQ(s.target, slope * 8.0F + s.lineIntercept);
+    EXPECT_NE(static_cast<double>(s.target), 5.0 / 3 * 8 + 1.0 / 3);
+}
+
+TEST(LininterJudge, TakesTheHalfOpenBandRoundTheUnroundedTarget) {
+    const LininterState s = withTarget(3.125F);
+    EXPECT_FALSE(isRight(s, Val("3.12")));
+    EXPECT_TRUE(isRight(s, Val("3.12001")));
+    EXPECT_TRUE(isRight(s, Val("3.125")));
+    EXPECT_TRUE(isRight(s, Val("3.13")));
+    EXPECT_FALSE(isRight(s, Val("3.13001")));
+    EXPECT_FALSE(isRight(s, Val("-3.125")));
+    EXPECT_FALSE(isRight(s, Val("")));
+}
+
+TEST(LininterJudge, TakesNothingTypedForAZero) {
+    EXPECT_TRUE(isRight(withTarget(0), Val("")));
+    EXPECT_TRUE(isRight(withTarget(0.004F), Val("abc")));
+    EXPECT_FALSE(isRight(withTarget(0.0051F), Val("")));
+}
+
+TEST(LininterTexts, NameThePointsAndTheTask) {
+    const LininterState q = exercise(10, 2, 7, 6, GivenQ, 4);
+    EXPECT_EQ(textOfA(q), "A : ( 10 ; 2 )");
+    EXPECT_EQ(textOfB(q), "B : ( 7 ; 6 )");
+    EXPECT_STREQ(task(q).givenLetter, "Q");
+    EXPECT_EQ(task(q).given, "4");
+    EXPECT_STREQ(task(q).askedLetter, "P");
+
+    const LininterState p = exercise(10, 2, 7, 6, GivenP, 5);
+    EXPECT_STREQ(task(p).givenLetter, "P");
+    EXPECT_EQ(task(p).given, "5");
+    EXPECT_STREQ(task(p).askedLetter, "Q");
+}
+
+TEST(LininterTexts, GiveTheAnswerWithTwoDecimalsHalvesAwayFromZero) {
+    EXPECT_EQ(answerText(withTarget(3.125F)), "3.13");
+    EXPECT_EQ(answerText(withTarget(-3.125F)), "-3.13");
+    EXPECT_EQ(answerText(withTarget(2.5F)), "2.5");
+    EXPECT_EQ(answerText(withTarget(-4.8e-7F)), "0");
+    const DecimalMark danish(",");
+    EXPECT_EQ(answerText(withTarget(2.0F / 3)), "0,67");
+}
+
+TEST(LininterWorked, BearsTheChangesFromAToB) {
+    const LininterWorked q = workedSolution(exercise(1, 2, 4, 7, GivenQ, 8));
+    EXPECT_EQ(q.numerator, "7 - 2");
+    EXPECT_EQ(q.denominator, "4 - 1");
+    EXPECT_EQ(q.ratio, " = 1.67");
+    EXPECT_EQ(q.result, "P=2 - ( 1 - 8 )·1.67 = 13.67");
+
+    const LininterWorked p = workedSolution(exercise(1, 2, 4, 7, GivenP, 8));
+    EXPECT_EQ(p.numerator, "4 - 1");
+    EXPECT_EQ(p.denominator, "7 - 2");
+    EXPECT_EQ(p.ratio, " = 0.6");
+    EXPECT_EQ(p.result, "Q = 1 - ( 2 - 8 )·0.6 = 4.6");
+}
+
+TEST(LininterWorked, WritesANegativeRatioInBrackets) {
+    const LininterWorked q = workedSolution(exercise(4, 6, 1, 8, GivenQ, 8));
+    EXPECT_EQ(q.numerator, "8 - 6");
+    EXPECT_EQ(q.denominator, "1 - 4");
+    EXPECT_EQ(q.ratio, " = -0.67");
+    EXPECT_EQ(q.result, "P=6 - ( 4 - 8 )·(-0.67) = 3.33");
+
+    const LininterWorked p = workedSolution(exercise(4, 6, 1, 8, GivenP, 1));
+    EXPECT_EQ(p.numerator, "1 - 4");
+    EXPECT_EQ(p.denominator, "8 - 6");
+    EXPECT_EQ(p.ratio, " = -1.5");
+    EXPECT_EQ(p.result, "Q = 4 - ( 6 - 1 )·(-1.5) = 11.5");
+}
+
+TEST(LininterWorked, ComputesTheResultFromTheUnroundedRatio) {
+    // 2 - (1 - 8) * 1.67 would be 13.69.
+    EXPECT_EQ(workedSolution(exercise(1, 2, 4, 7, GivenQ, 8)).result, "P=2 - ( 1 - 8 )·1.67 = 13.67");
+}
+
+TEST(LininterDrawing, CrossesAtTheTypedValueInTheGivenDirection) {
+    EXPECT_EQ(crossOfTyped(exercise(1, 2, 3, 6, GivenQ, 4), 1.5), crossAt(4, 1.5));
+    EXPECT_EQ(crossOfTyped(exercise(1, 2, 3, 6, GivenP, 5), 1.5), crossAt(1.5, 5));
+    const Cross expected{Segment{4 - 0.35, 8, 4 + 0.35, 8}, Segment{4, 8 - 0.35, 4, 8 + 0.35}};
+    EXPECT_EQ(crossAt(4, 8), expected);
+}
+
+TEST(LininterDrawing, LeadsGuideLinesFromBothAxesToOnePointOfTheLine) {
+    const std::array q{Segment{4, 0, 4, 8}, Segment{0, 8, 4, 8}};
+    EXPECT_EQ(guideLines(exercise(1, 2, 3, 6, GivenQ, 4)), q);
+    const std::array p{Segment{0, 5, 2.5, 5}, Segment{2.5, 0, 2.5, 5}};
+    EXPECT_EQ(guideLines(exercise(1, 2, 3, 6, GivenP, 5)), p);
+}
+
+constexpr double kH = 0.35;
+using Heads = std::array<Segment, 4>;
+
+struct HeadRow {
+    const char* name;
+    LininterState (*make)();
+    Heads judged;
+    Heads given;
+};
+
+class LininterHeads : public testing::TestWithParam<HeadRow> {};
+
+TEST_P(LininterHeads, PointFromTheGivenValueToTheAnswer) {
+    const HeadRow& row = GetParam();
+    EXPECT_EQ(arrowheads(row.make(), Occasion::Judged), row.judged);
+    EXPECT_EQ(arrowheads(row.make(), Occasion::Given), row.given);
+}
+
+constexpr Heads kUp{Segment{4, 8, 4 - kH, 8 - kH}, Segment{4, 8, 4 + kH, 8 - kH}, Segment{0, 8, kH, 8 + kH},
+                    Segment{0, 8, kH, 8 - kH}};
+constexpr Heads kAstray{Segment{-12, -38, -12 - kH, -38 + kH}, Segment{-12, -38, -12 + kH, -38 + kH},
+                        Segment{0, -12, kH, -12 + kH}, Segment{0, -12, kH, -12 - kH}};
+constexpr Heads kDown{Segment{1, -12, 1 - kH, -12 + kH}, Segment{1, -12, 1 + kH, -12 + kH},
+                      Segment{0, -12, kH, -12 + kH}, Segment{0, -12, kH, -12 - kH}};
+constexpr Heads kRightwards{Segment{2.5, 5, 2.5 - kH, 5 + kH}, Segment{2.5, 5, 2.5 - kH, 5 - kH},
+                            Segment{2.5, 0, 2.5 - kH, kH}, Segment{2.5, 0, 2.5 + kH, kH}};
+constexpr Heads kLeftwards{Segment{-8, 1, -8 + kH, 1 + kH}, Segment{-8, 1, -8 + kH, 1 - kH},
+                           Segment{-8, 0, -8 - kH, kH}, Segment{-8, 0, -8 + kH, kH}};
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, LininterHeads,
+    testing::Values(
+        HeadRow{"QGivenTargetAbove", [] { return exercise(1, 2, 3, 6, GivenQ, 4); }, kUp, kUp},
+        HeadRow{"QGivenTargetBelow", [] { return exercise(9, 4, 10, 6, GivenQ, 1); }, kAstray, kDown},
+        HeadRow{"PGivenTargetAbove", [] { return exercise(1, 2, 3, 6, GivenP, 5); }, kRightwards,
+                kRightwards},
+        HeadRow{"PGivenTargetBelow", [] { return exercise(2, 6, 4, 7, GivenP, 1); }, kLeftwards, kLeftwards}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(LininterDrawing, TakesAZeroForOneOfTheUpperRows) {
+    const LininterState s = exercise(3, 1, 4, 2, GivenQ, 2);
+    ASSERT_EQ(s.target, 0);
+    EXPECT_EQ(arrowheads(s, Occasion::Judged).front(), (Segment{2, 0, 2 - kH, -kH}));
+}
+
+/// An exercise of the whole space with its target by whole-number arithmetic, as a fraction.
+struct SpacePoint {
+    int qa, pa, qb, pb;
+    Direction direction;
+    int given;
+    int numerator;
+    int denominator;
+
+    [[nodiscard]] double exact() const { return static_cast<double>(numerator) / denominator; }
+    [[nodiscard]] bool isOnTheEdge() const { return std::abs(numerator) == 16 * std::abs(denominator); }
+    [[nodiscard]] bool isHalfHundredthBelowZero() const {
+        return exact() < 0 && 1000 * numerator % denominator == 0 &&
+               std::abs(1000 * numerator / denominator) % 10 == 5;
+    }
+};
+
+/// Calls `visit` with every exercise whose target is 16 or less in size.
+template <class Visit>
+void forEachExercise(Visit visit) {
+    for (int code = 0; code < 10'000; ++code) {
+        const int qa = code / 1000 + 1;
+        const int pa = code / 100 % 10 + 1;
+        const int qb = code / 10 % 10 + 1;
+        const int pb = code % 10 + 1;
+        const int dq = qb - qa;
+        const int dp = pb - pa;
+        const bool isLine = dq != 0 && dp != 0 && 2 * std::abs(dp) <= 5 * std::abs(dq) &&
+                            20 * std::abs(dp) >= 9 * std::abs(dq);
+        for (int g = 1; isLine && g <= 8; ++g) {
+            for (const SpacePoint& e : {SpacePoint{qa, pa, qb, pb, GivenQ, g, pa * dq + (g - qa) * dp, dq},
+                                        SpacePoint{qa, pa, qb, pb, GivenP, g, qa * dp + (g - pa) * dq, dp}}) {
+                if (std::abs(e.numerator) <= 16 * std::abs(e.denominator)) {
+                    visit(e);
+                }
+            }
+        }
+    }
+}
+
+bool isFinite(const Segment& s) {
+    return std::isfinite(s.x1) && std::isfinite(s.y1) && std::isfinite(s.x2) && std::isfinite(s.y2);
+}
+
+/// The number that a text ends in.
+double lastNumber(const std::string& text) { return Val(text.substr(text.rfind("= ") + 2)); }
+
+TEST(LininterSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
+    int visited = 0;
+    int ownAnswerMissed = 0;
+    std::set<int> rows;
+    forEachExercise([&](const SpacePoint& e) {
+        if (e.isOnTheEdge()) {
+            return;
+        }
+        ++visited;
+        const LininterState s = exercise(e.qa, e.pa, e.qb, e.pb, e.direction, e.given);
+        const double own = Val(answerText(s));
+        const double exact = e.exact();
+        rows.insert((isQGiven(s) ? 0 : 2) + (s.target < 0 ? 1 : 0));
+
+        const bool isOwnRight = isRight(s, own);
+        ownAnswerMissed += isOwnRight ? 0 : 1;
+        bool holds = (isOwnRight || e.isHalfHundredthBelowZero()) && std::abs(s.target - exact) < 1e-5 &&
+                     std::abs(own - exact) < 0.00501 && isRight(s, exact) && isRight(s, s.target) &&
+                     !isRight(s, own + 0.011) && !isRight(s, own - 0.011) &&
+                     std::abs(lastNumber(workedSolution(s).result) - exact) < 0.00501;
+
+        const std::array guides = guideLines(s);
+        const double q = isQGiven(s) ? e.given : exact;
+        const double p = isQGiven(s) ? exact : e.given;
+        for (const Segment& guide : guides) {
+            holds =
+                holds && isFinite(guide) && std::abs(guide.x2 - q) < 1e-4 && std::abs(guide.y2 - p) < 1e-4;
+        }
+        for (const Segment& stroke : arrowheads(s, Occasion::Given)) {
+            const bool isAtTheEndOfAGuide =
+                (std::abs(stroke.x1 - q) < 1e-4 && std::abs(stroke.y1 - p) < 1e-4) ||
+                (isQGiven(s) ? stroke.x1 == 0 && stroke.y1 == s.target
+                             : stroke.x1 == s.target && stroke.y1 == 0);
+            holds = holds && isFinite(stroke) && isAtTheEndOfAGuide;
+        }
+        ASSERT_TRUE(holds) << "A " << e.qa << ";" << e.pa << " B " << e.qb << ";" << e.pb << " given "
+                           << (isQGiven(s) ? "Q " : "P ") << e.given;
+    });
+    EXPECT_EQ(visited, 78'696);
+    // Rounded away from zero they land on the open end of their own band.
+    EXPECT_EQ(ownAnswerMissed, 2);
+    EXPECT_EQ(rows.size(), 4U);
+}
+
+TEST(LininterSpace, RejectsATargetOfSixteenUnlessSinglesPutItBelow) {
+    int onTheEdge = 0;
+    int accepted = 0;
+    forEachExercise([&](const SpacePoint& e) {
+        if (!e.isOnTheEdge()) {
+            return;
+        }
+        ++onTheEdge;
+        std::vector<float> all = script(e.qa, e.pa, e.qb, e.pb, e.direction, e.given);
+        // One of the eight lies nearer to the points.
+        for (int g = 1; g <= 8; ++g) {
+            all.push_back(given(g));
+        }
+        ScriptedDraws draws(all);
+        LininterState s;
+        newExercise(s, draws);
+        ASSERT_LT(std::abs(s.target), 16);
+        if (draws.used() == 6) {
+            ++accepted;
+            ASSERT_NEAR(std::abs(s.target), 16, 1e-5);
+            ASSERT_EQ(answerText(s), e.exact() < 0 ? "-16" : "16");
+            ASSERT_TRUE(isRight(s, e.exact()));
+        }
+    });
+    EXPECT_EQ(onTheEdge, 364);
+    EXPECT_EQ(accepted, 8);
+}
+
+double lineAtGiven(const LininterState& s) { return guideLines(s)[0].y2; }
+
+TEST(LininterSpace, HoldsZerosThatSinglesPutBelowZero) {
+    int zeros = 0;
+    int below = 0;
+    forEachExercise([&](const SpacePoint& e) {
+        if (e.numerator != 0) {
+            return;
+        }
+        ++zeros;
+        const LininterState s = exercise(e.qa, e.pa, e.qb, e.pb, e.direction, e.given);
+        ASSERT_EQ(answerText(s), "0");
+        ASSERT_TRUE(isRight(s, 0));
+        if (s.target < 0) {
+            ++below;
+            ASSERT_EQ(arrowheads(s, Occasion::Given)[0].y2, lineAtGiven(s) + kH);
+        }
+    });
+    EXPECT_EQ(zeros, 1'420);
+    EXPECT_EQ(below, 18);
+}
+
+RC_GTEST_PROP(LininterSeeds, GiveEqualTextsForEqualSeeds, (std::uint64_t seed)) {
+    SeededDraws one(seed);
+    SeededDraws other(seed);
+    LininterState s;
+    LininterState t;
+    newExercise(s, one);
+    newExercise(t, other);
+    RC_ASSERT(workedSolution(s).result == workedSolution(t).result);
+    RC_ASSERT(answerText(s) == answerText(t));
+    RC_ASSERT(textOfA(s) == textOfA(t));
+}
+
+TEST(LininterSeeds, AreFrozenForAllBuildsAndProcessors) {
+    SeededDraws draws(7);
+    LininterState s;
+    std::string texts;
+    for (int i = 0; i < 3; ++i) {
+        newExercise(s, draws);
+        texts += textOfA(s) + textOfB(s) + workedSolution(s).result + "\n";
+    }
+    EXPECT_EQ(texts,
+              "A : ( 8 ; 5 )B : ( 6 ; 6 )P=5 - ( 8 - 7 )·(-0.5) = 5.5\n"
+              "A : ( 3 ; 6 )B : ( 5 ; 2 )P=6 - ( 3 - 4 )·(-2) = 4\n"
+              "A : ( 5 ; 7 )B : ( 10 ; 4 )Q = 5 - ( 7 - 5 )·(-1.67) = 8.33\n");
+}
+
+}  // namespace
+}  // namespace tavrune

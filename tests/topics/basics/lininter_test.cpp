@@ -1,0 +1,506 @@
+#include "topics/basics/lininter.h"
+
+#include <gtest/gtest.h>
+
+#include "graph/graph_box.h"
+#include "support/decimal_mark.h"
+#include "support/form_driver.h"
+#include "support/looks.h"
+#include "support/scripted_draws.h"
+
+namespace tavrune {
+namespace {
+
+using test::cellOf;
+using test::DecimalMark;
+using test::FormDriver;
+using test::ScriptedDraws;
+
+enum Direction { GivenQ, GivenP };
+
+const QColor kBlue(0, 0, 255);
+const QColor kGreen(0, 130, 0);
+const GraphScale kScale{-7, 16.5, 15, -5};
+// Two axes, 22 ticks on each of them, and two crosses of two strokes.
+constexpr std::size_t kStrokesOfTask = 50;
+
+Stroke line(double x1, double y1, double x2, double y2, const QColor& colour) {
+    return {Stroke::Kind::Line,
+            static_cast<float>(x1),
+            static_cast<float>(y1),
+            static_cast<float>(x2),
+            static_cast<float>(y2),
+            colour,
+            LineStyle::Solid,
+            1,
+            kScale};
+}
+
+Stroke dot(double x, double y) {
+    Stroke stroke = line(x, y, x, y, kBlack);
+    stroke.kind = Stroke::Kind::Point;
+    return stroke;
+}
+
+class LininterForm : public testing::Test {
+protected:
+    void script(int qa, int pa, int qb, int pb, Direction direction, int given) {
+        for (const int value : {qa, pa, qb, pb}) {
+            draws.append({cellOf(value - 1, 10)});
+        }
+        draws.append({direction == GivenQ ? 0.25F : 0.75F, cellOf(given - 1, 8)});
+    }
+
+    FormDriver& open(int qa, int pa, int qb, int pb, Direction direction, int given) {
+        script(qa, pa, qb, pb, direction, given);
+        form = std::make_unique<FormDriver>(PageName::Lininter, draws);
+        return *form;
+    }
+
+    // One exercise for each row of the table of arrowheads; the line is P = 2Q, P = 2Q - 14 or P = Q/2 + 5.
+    FormDriver& openQAbove() { return open(1, 2, 3, 6, GivenQ, 4); }   // P is 8.
+    FormDriver& openQBelow() { return open(9, 4, 10, 6, GivenQ, 1); }  // P is -12.
+    FormDriver& openPAbove() { return open(1, 2, 3, 6, GivenP, 5); }   // Q is 2.5.
+    FormDriver& openPBelow() { return open(2, 6, 4, 7, GivenP, 1); }   // Q is -8.
+
+    void answer(const std::string& typed) const {
+        form->type("Text1", typed);
+        form->click("Command1");
+    }
+
+    void giveAfter(const std::string& typed) const {
+        answer(typed);
+        form->click("Command2");
+    }
+
+    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+
+    /// What was drawn after the task.
+    [[nodiscard]] std::vector<Stroke> drawnLater() const {
+        const std::vector<Stroke>& all = graph().strokes();
+        return {all.begin() + kStrokesOfTask, all.end()};
+    }
+
+    ScriptedDraws draws;
+    std::unique_ptr<FormDriver> form;
+};
+
+TEST_F(LininterForm, IsBlankUntilItsFirstTick) {
+    const FormDriver unshown = FormDriver::unshown(PageName::Lininter, draws);
+    EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Lineær interpolation/ekstrapolation");
+    for (const char* blank : {"Label3", "Label9", "Label13", "Label15", "Label16", "Label94", "Label98"}) {
+        EXPECT_EQ(unshown.caption(blank), "") << blank;
+    }
+    for (const char* hidden :
+         {"Command2", "Label18", "Label19", "Picture2", "Picture3", "Label26", "Label27"}) {
+        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
+    }
+    EXPECT_FALSE(unshown.button("Command11").isEnabled());
+    EXPECT_FALSE(unshown.button("Command12").isEnabled());
+}
+
+TEST_F(LininterForm, BearsItsFixedTexts) {
+    const FormDriver& f = openQAbove();
+    EXPECT_EQ(f.caption("Label32"), "Givet følgende to punkter:");
+    EXPECT_EQ(f.caption("Label33"), "Givet:");
+    EXPECT_EQ(f.caption("Label34"), "Bestem:");
+    EXPECT_EQ(f.caption("Label35"), "Så det nye punkt (P;Q) ligger på linien gennem A og B.");
+    const std::pair<const char*, const char*> onGraph[]{
+        {"Label20", "5"},  {"Label21", "10"}, {"Label22", "0"}, {"Label23", "5"}, {"Label24", "10"},
+        {"Label25", "15"}, {"Label26", "A"},  {"Label27", "B"}, {"Label28", "P"}, {"Label29", "Q"}};
+    for (const auto& [name, caption] : onGraph) {
+        EXPECT_EQ(f.caption(name), caption) << name;
+        EXPECT_EQ(f.label(name).parentWidget(), &graph()) << name;
+    }
+}
+
+TEST_F(LininterForm, GivesQAndAsksForP) {
+    const FormDriver& f = openQAbove();
+    EXPECT_EQ(f.caption("Label3"), "A : ( 1 ; 2 )");
+    EXPECT_EQ(f.caption("Label9"), "B : ( 3 ; 6 )");
+    EXPECT_EQ(f.caption("Label13"), "Q");
+    EXPECT_EQ(f.caption("Label14"), "=");
+    EXPECT_EQ(f.caption("Label15"), "4");
+    EXPECT_EQ(f.caption("Label16"), "P");
+    EXPECT_EQ(f.caption("Label17"), "=");
+    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_TRUE(f.isShown("Command1"));
+    EXPECT_FALSE(f.isShown("Command2"));
+}
+
+TEST_F(LininterForm, GivesPAndAsksForQ) {
+    const FormDriver& f = openPAbove();
+    EXPECT_EQ(f.caption("Label13"), "P");
+    EXPECT_EQ(f.caption("Label15"), "5");
+    EXPECT_EQ(f.caption("Label16"), "Q");
+}
+
+TEST_F(LininterForm, DrawsAxesThenTicksThenACrossForEachPoint) {
+    openQAbove();
+    std::vector<Stroke> expected{line(0, 16.5, 0, -5, kBlack), line(-7, 0, 15, 0, kBlack)};
+    for (int x = -7; x <= 14; ++x) {
+        expected.push_back(dot(x, 0.1));
+    }
+    for (int y = -5; y <= 16; ++y) {
+        expected.push_back(dot(0.1, y));
+    }
+    expected.push_back(line(0.65, 2, 1.35, 2, kBlue));
+    expected.push_back(line(1, 1.65, 1, 2.35, kBlue));
+    expected.push_back(line(2.65, 6, 3.35, 6, kBlue));
+    expected.push_back(line(3, 5.65, 3, 6.35, kBlue));
+    ASSERT_EQ(expected.size(), kStrokesOfTask);
+    EXPECT_EQ(graph().strokes(), expected);
+}
+
+TEST_F(LininterForm, PutsTheNamesByThePoints) {
+    const FormDriver& f = openPBelow();
+    EXPECT_TRUE(f.isShown("Label26"));
+    EXPECT_TRUE(f.isShown("Label27"));
+    const double unitsToOne = graph().Control::place().height() / 21.5;
+    EXPECT_NEAR(graph().leftOf(f.label("Label26")), 2, 1e-6);
+    EXPECT_NEAR(f.label("Label26").place().top(), (16.5 - 5.5) * unitsToOne, 1e-6);
+    EXPECT_NEAR(graph().leftOf(f.label("Label27")), 4, 1e-6);
+    EXPECT_NEAR(f.label("Label27").place().top(), (16.5 - 6.5) * unitsToOne, 1e-6);
+}
+
+TEST_F(LininterForm, ClearsTheGraphWithEachExercise) {
+    const FormDriver& f = openQAbove();
+    answer("8");
+    EXPECT_GT(graph().strokes().size(), kStrokesOfTask);
+    script(9, 4, 10, 6, GivenQ, 1);
+    f.click("Command3");
+    EXPECT_EQ(graph().strokes().size(), kStrokesOfTask);
+    EXPECT_EQ(graph().scale(), kScale);
+    EXPECT_NEAR(graph().leftOf(f.label("Label26")), 9, 1e-6);
+}
+
+TEST_F(LininterForm, IsSolvedByKeysAlone) {
+    const FormDriver& f = openPAbove();
+    f.type("Text1", "2,5");
+    f.press("Text1", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Command1");
+    f.press("Command1", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("Label19"));
+    EXPECT_EQ(f.focus(), "Command3");
+    script(1, 2, 3, 6, GivenQ, 4);
+    f.press("Command3", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("Label19"));
+    EXPECT_EQ(f.caption("Label13"), "Q");
+    EXPECT_EQ(f.box("Text1").content(), "");
+    EXPECT_EQ(f.focus(), "Text1");
+}
+
+TEST_F(LininterForm, MarksAWrongAnswerAndDrawsNothing) {
+    const FormDriver& f = openQAbove();
+    answer("7");
+    EXPECT_TRUE(f.isShown("Label18"));
+    EXPECT_FALSE(f.isShown("Label19"));
+    EXPECT_EQ(f.box("Text1").backColour(), kRed);
+    EXPECT_EQ(f.box("Text1").content(), "7");
+    EXPECT_TRUE(f.isShown("Command1"));
+    EXPECT_TRUE(f.isShown("Command2"));
+    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_TRUE(drawnLater().empty());
+}
+
+TEST_F(LininterForm, StaysRedUntilARightAnswer) {
+    const FormDriver& f = openQAbove();
+    answer("7");
+    f.type("Text1", "8");
+    EXPECT_EQ(f.box("Text1").backColour(), kRed);
+    f.click("Command1");
+    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
+    EXPECT_TRUE(f.isShown("Label19"));
+    EXPECT_FALSE(f.isShown("Label18"));
+    EXPECT_FALSE(f.isShown("Command1"));
+    EXPECT_FALSE(f.isShown("Command2"));
+    EXPECT_EQ(f.focus(), "Command3");
+}
+
+TEST_F(LininterForm, StaysRedUntilTheAnswerIsGivenOrTheNextExercise) {
+    const FormDriver& f = openQAbove();
+    giveAfter("7");
+    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
+    script(1, 2, 3, 6, GivenQ, 4);
+    f.click("Command3");
+    answer("7");
+    script(1, 2, 3, 6, GivenQ, 4);
+    f.click("Command3");
+    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
+    EXPECT_FALSE(f.isShown("Label18"));
+}
+
+TEST_F(LininterForm, TakesTheHalfOpenBandRoundTheTarget) {
+    const FormDriver& f = open(2, 4, 10, 9, GivenQ, 1);  // 3.375
+    for (const char* wrong : {"3.37", "3.38001", "3.4", "", "abc", "3,4"}) {
+        answer(wrong);
+        EXPECT_TRUE(f.isShown("Label18")) << wrong;
+    }
+    answer("3.37001");
+    EXPECT_TRUE(f.isShown("Label19"));
+    for (const char* right : {"3.38", "3.375"}) {
+        script(2, 4, 10, 9, GivenQ, 1);
+        f.click("Command3");
+        answer(right);
+        EXPECT_TRUE(f.isShown("Label19")) << right;
+    }
+}
+
+TEST_F(LininterForm, DrawsLineGuidesAndHeadsForQGivenAndATargetAbove) {
+    openQAbove();
+    answer("8");
+    const std::vector<Stroke> expected{
+        line(-7, -14, 15, 30, kBlue),   line(4, 0, 4, 8, kGreen),       line(0, 8, 4, 8, kGreen),
+        line(4, 8, 3.65, 7.65, kGreen), line(4, 8, 4.35, 7.65, kGreen), line(0, 8, 0.35, 8.35, kGreen),
+        line(0, 8, 0.35, 7.65, kGreen),
+    };
+    EXPECT_EQ(drawnLater(), expected);
+}
+
+TEST_F(LininterForm, DrawsTheHeadAstrayWhereATargetBelowIsJudged) {
+    openQBelow();
+    answer("-12");
+    const std::vector<Stroke> expected{
+        line(-7, -28, 15, 16, kBlue),           line(1, 0, 1, -12, kGreen),
+        line(0, -12, 1, -12, kGreen),           line(-12, -38, -12.35, -37.65, kGreen),
+        line(-12, -38, -11.65, -37.65, kGreen), line(0, -12, 0.35, -11.65, kGreen),
+        line(0, -12, 0.35, -12.35, kGreen),
+    };
+    EXPECT_EQ(drawnLater(), expected);
+}
+
+TEST_F(LininterForm, DrawsTheProperHeadWhereATargetBelowIsGiven) {
+    openQBelow();
+    giveAfter("3");
+    const std::vector<Stroke> expected{
+        line(-7, -28, 15, 16, kBlue),       line(1, 0, 1, -12, kGreen),
+        line(0, -12, 1, -12, kGreen),       line(0.65, 3, 1.35, 3, kRed),
+        line(1, 2.65, 1, 3.35, kRed),       line(1, -12, 0.65, -11.65, kGreen),
+        line(1, -12, 1.35, -11.65, kGreen), line(0, -12, 0.35, -11.65, kGreen),
+        line(0, -12, 0.35, -12.35, kGreen),
+    };
+    EXPECT_EQ(drawnLater(), expected);
+}
+
+TEST_F(LininterForm, DrawsLineGuidesAndHeadsForPGivenAndATargetAbove) {
+    openPAbove();
+    answer("2.5");
+    const std::vector<Stroke> expected{
+        line(-7, -14, 15, 30, kBlue),     line(0, 5, 2.5, 5, kGreen),       line(2.5, 0, 2.5, 5, kGreen),
+        line(2.5, 5, 2.15, 5.35, kGreen), line(2.5, 5, 2.15, 4.65, kGreen), line(2.5, 0, 2.15, 0.35, kGreen),
+        line(2.5, 0, 2.85, 0.35, kGreen),
+    };
+    EXPECT_EQ(drawnLater(), expected);
+}
+
+TEST_F(LininterForm, DrawsLineGuidesCrossAndHeadsForPGivenAndATargetBelow) {
+    openPBelow();
+    giveAfter("4");
+    const std::vector<Stroke> expected{
+        line(-7, 1.5, 15, 12.5, kBlue),   line(0, 1, -8, 1, kGreen),        line(-8, 0, -8, 1, kGreen),
+        line(3.65, 1, 4.35, 1, kRed),     line(4, 0.65, 4, 1.35, kRed),     line(-8, 1, -7.65, 1.35, kGreen),
+        line(-8, 1, -7.65, 0.65, kGreen), line(-8, 0, -8.35, 0.35, kGreen), line(-8, 0, -7.65, 0.35, kGreen),
+    };
+    EXPECT_EQ(drawnLater(), expected);
+}
+
+TEST_F(LininterForm, CrossesAtZeroWhereNothingWasTyped) {
+    openQAbove();
+    giveAfter("");
+    const std::vector<Stroke> later = drawnLater();
+    ASSERT_EQ(later.size(), 9U);
+    EXPECT_EQ(later[3], line(3.65, 0, 4.35, 0, kRed));
+    EXPECT_EQ(later[4], line(4, -0.35, 4, 0.35, kRed));
+}
+
+TEST_F(LininterForm, GivesTheAnswerInTheLocaleAndCrossesAtWhatWasTypedBefore) {
+    const DecimalMark danish(",");
+    const FormDriver& f = open(1, 2, 4, 7, GivenQ, 8);  // 13.666...
+    giveAfter("13,6");
+    EXPECT_EQ(f.box("Text1").content(), "13,67");
+    EXPECT_EQ(drawnLater()[3], line(7.65, 13.6, 8.35, 13.6, kRed));
+    EXPECT_FALSE(f.isShown("Command1"));
+    EXPECT_FALSE(f.isShown("Command2"));
+    EXPECT_FALSE(f.isShown("Label18"));
+    EXPECT_FALSE(f.isShown("Label19"));
+    EXPECT_EQ(f.focus(), "Command3");
+}
+
+TEST_F(LininterForm, TakesAnyTypedText) {
+    const FormDriver& f = openQAbove();
+    for (const std::string& typed :
+         {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
+        f.box("Text1").setContent(typed);
+        f.click("Command1");
+        f.click("Command2");
+        EXPECT_FALSE(f.page().grab().isNull());
+        EXPECT_EQ(f.box("Text1").content(), "8");
+        script(1, 2, 3, 6, GivenQ, 4);
+        f.click("Command3");
+    }
+}
+
+TEST_F(LininterForm, ExplainsBothDirections) {
+    const FormDriver& f = openQAbove();
+    f.click("Command10");
+    EXPECT_TRUE(f.isShown("Picture2"));
+    EXPECT_TRUE(f.isShown("Picture3"));
+    const std::pair<const char*, const char*> texts[]{
+        {"Label72",
+         "Princippet for lineær interpolation og ekstrapolation er det samme. Vi vil finde den rette linie, "
+         "som går gennem de to givne punkter A og B. Derpå indsætter vi det opgivne Q eller P, og finder "
+         "derpå det manglende koordinat, så det fremkomne punkt ligger på linien."},
+        {"Label73", "Interpolation og ekstrapolation hvor Q-koordinat kendes."},
+        {"Label74", "Interpolation og ekstrapolation hvor P-koordinat kendes."},
+        {"Label75",
+         "Kendes to punkter A og B, findes ændringen i P-værdien i forhold til ændringen i Q-værdien ved at "
+         "gå fra A til B."},
+        {"Label83",
+         "Kendes to punkter A og B, findes ændringen i Q-værdien i forhold til ændringen i P-værdien ved at "
+         "gå fra A til B."},
+        {"Label80", "Givet et nyt punkts Q-værdi kan punktets P-værdi nu findes."},
+        {"Label88", "Givet et nyt punkts P-værdi kan punktets Q-værdi nu findes."},
+        {"Label76", "Pb - Pa"},
+        {"Label77", "Qb - Qa"},
+        {"Label79", "α"},
+        {"Label84", "Qb - Qa"},
+        {"Label85", "Pb - Pa"},
+        {"Label87", "ω"},
+        {"Label81", "P = Pa - ( Qa - Q )·"},
+        {"Label82", "α"},
+        {"Label89", "Q = Qa - ( Pa - P )·"},
+        {"Label90", "ω"},
+        {"Label31", "Aktuel løsning"}};
+    for (const auto& [name, text] : texts) {
+        EXPECT_EQ(f.caption(name), text) << name;
+    }
+}
+
+TEST_F(LininterForm, OpensOnlyTheSolutionOfItsDirection) {
+    const FormDriver& q = openQAbove();
+    q.click("Command10");
+    EXPECT_TRUE(q.button("Command11").isEnabled());
+    EXPECT_FALSE(q.button("Command12").isEnabled());
+    EXPECT_EQ(q.focus(), "Command11");
+    EXPECT_EQ(q.caption("Label91"), "6 - 2");
+    EXPECT_EQ(q.caption("Label92"), "3 - 1");
+    EXPECT_EQ(q.caption("Label93"), " = 2");
+    EXPECT_EQ(q.caption("Label94"), "P=2 - ( 1 - 4 )·2 = 8");
+    EXPECT_EQ(q.caption("Label98"), "");
+
+    script(2, 6, 4, 7, GivenP, 1);
+    q.click("Command3");
+    EXPECT_FALSE(q.button("Command11").isEnabled());
+    EXPECT_FALSE(q.button("Command12").isEnabled());
+    q.click("Command10");
+    EXPECT_FALSE(q.button("Command11").isEnabled());
+    EXPECT_TRUE(q.button("Command12").isEnabled());
+    EXPECT_EQ(q.focus(), "Command12");
+    EXPECT_EQ(q.caption("Label95"), "4 - 2");
+    EXPECT_EQ(q.caption("Label96"), "7 - 6");
+    EXPECT_EQ(q.caption("Label97"), " = 2");
+    EXPECT_EQ(q.caption("Label98"), "Q = 2 - ( 6 - 1 )·2 = -8");
+}
+
+TEST_F(LininterForm, LeavesTheOtherSolutionFromBeforeUnderItsCover) {
+    const FormDriver& f = openQAbove();
+    f.click("Command10");
+    f.click("Command11");
+    script(2, 6, 4, 7, GivenP, 1);
+    f.click("Command3");
+    f.click("Command10");
+    EXPECT_EQ(f.caption("Label94"), "P=2 - ( 1 - 4 )·2 = 8");
+    EXPECT_TRUE(f.isShown("Label99"));
+}
+
+TEST_F(LininterForm, UncoversTheSolutionAndGoesToTheCloseButton) {
+    const FormDriver& q = openQAbove();
+    q.click("Command10");
+    EXPECT_TRUE(q.isShown("Label99"));
+    EXPECT_TRUE(q.isShown("Label100"));
+    q.press("Command11", Qt::Key_Return);
+    EXPECT_FALSE(q.isShown("Label99"));
+    EXPECT_TRUE(q.isShown("Label100"));
+    EXPECT_EQ(q.focus(), "Command13");
+
+    const FormDriver& p = openPAbove();
+    p.click("Command10");
+    p.press("Command12", Qt::Key_Return);
+    EXPECT_TRUE(p.isShown("Label99"));
+    EXPECT_FALSE(p.isShown("Label100"));
+    EXPECT_EQ(p.focus(), "Command13");
+}
+
+TEST_F(LininterForm, CoversTheSolutionsAgainWhenThePanelCloses) {
+    const FormDriver& f = openQAbove();
+    f.click("Command10");
+    f.click("Command11");
+    f.click("Command13");
+    EXPECT_FALSE(f.isShown("Picture2"));
+    EXPECT_TRUE(f.isShown("Label99"));
+    EXPECT_TRUE(f.isShown("Label100"));
+    EXPECT_TRUE(f.button("Command11").isEnabled());
+}
+
+TEST_F(LininterForm, CoversTheSolutionsAgainWithTheNextExercise) {
+    const FormDriver& f = openQAbove();
+    f.click("Command10");
+    f.click("Command11");
+    script(1, 2, 3, 6, GivenQ, 4);
+    f.click("Command3");
+    EXPECT_FALSE(f.isShown("Picture2"));
+    EXPECT_TRUE(f.isShown("Label99"));
+}
+
+TEST_F(LininterForm, KeepsAnOpenSolutionWhereHelpIsAskedForAgain) {
+    const FormDriver& f = openQAbove();
+    f.click("Command10");
+    f.click("Command11");
+    f.click("Command10");
+    EXPECT_FALSE(f.isShown("Label99"));
+    EXPECT_EQ(f.focus(), "Command11");
+}
+
+TEST_F(LininterForm, LeavesThePanelOpenWhileTheExerciseGoesOn) {
+    const FormDriver& f = openQAbove();
+    f.click("Command10");
+    answer("7");
+    EXPECT_TRUE(f.isShown("Picture2"));
+    f.click("Command2");
+    EXPECT_TRUE(f.isShown("Picture2"));
+    EXPECT_EQ(f.box("Text1").content(), "8");
+}
+
+TEST_F(LininterForm, CoversTheWholeSolutionAndNothingElse) {
+    const FormDriver& f = open(10, 10, 7, 3, GivenQ, 3);
+    f.click("Command10");
+    const QRect left = f.find("Label99").geometry();
+    const QRect right = f.find("Label100").geometry();
+    for (const char* covered : {"Label91", "Line3", "Label92", "Label93", "Label94"}) {
+        EXPECT_TRUE(left.contains(f.find(covered).geometry())) << covered;
+        EXPECT_FALSE(right.intersects(f.find(covered).geometry())) << covered;
+    }
+    for (const char* covered : {"Label95", "Line4", "Label96", "Label97", "Label98"}) {
+        EXPECT_TRUE(right.contains(f.find(covered).geometry())) << covered;
+        EXPECT_FALSE(left.intersects(f.find(covered).geometry())) << covered;
+    }
+    EXPECT_FALSE(left.intersects(f.find("Label31").geometry()));
+    EXPECT_EQ(f.label("Label99").backColour(), kWhite);
+    EXPECT_TRUE(f.find("Label99").autoFillBackground());
+    EXPECT_TRUE(f.find("Label100").autoFillBackground());
+}
+
+TEST_F(LininterForm, HasRoomForTheLongestNumbers) {
+    const DecimalMark danish(",");
+    for (const Direction direction : {GivenQ, GivenP}) {
+        const bool isQ = direction == GivenQ;
+        const FormDriver& f = isQ ? open(10, 10, 7, 3, GivenQ, 3) : open(3, 10, 10, 6, GivenP, 8);
+        giveAfter("-123456.75");
+        f.click("Command10");
+        f.click(isQ ? "Command11" : "Command12");
+        EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
+    }
+}
+
+}  // namespace
+}  // namespace tavrune
