@@ -2,6 +2,7 @@
 
 #include "numeric/draws.h"
 #include "topics/basics/brok_exercise.h"
+#include "topics/basics/tomto_exercise.h"
 
 namespace tavrune {
 namespace {
@@ -18,6 +19,7 @@ void Generator(benchmark::State& bench) {
     bench.SetItemsProcessed(bench.iterations());
 }
 BENCHMARK(Generator<BrokState>)->Name("Generator/Brok");
+BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");
 
 }  // namespace
 }  // namespace tavrune

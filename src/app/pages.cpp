@@ -9,6 +9,7 @@
 #include "shell/how_to_use.h"
 #include "shell/opstart.h"
 #include "topics/basics/brok.h"
+#include "topics/basics/tomto.h"
 
 namespace tavrune {
 namespace {
@@ -34,10 +35,9 @@ std::unique_ptr<Page> startPage(Draws& /*draws*/) {
 
 // The one list of pages: the menu, the tests and the program go through it.
 constexpr std::array kPages{
-    Entry{PageName::Opstart, startPage},
-    Entry{PageName::Form1, passive<Form1>},
-    Entry{PageName::Form2, passive<Form2>},
-    Entry{PageName::Brok, form<Brok>},
+    Entry{PageName::Opstart, startPage},    Entry{PageName::Form1, passive<Form1>},
+    Entry{PageName::Form2, passive<Form2>}, Entry{PageName::Brok, form<Brok>},
+    Entry{PageName::Tomto, form<Tomto>},
 };
 
 const Entry* find(PageName name) {
