@@ -5,6 +5,7 @@
 #include "topics/basics/dlinie_exercise.h"
 #include "topics/basics/konvert_exercise.h"
 #include "topics/basics/lininter_exercise.h"
+#include "topics/basics/tomto_exercise.h"
 
 namespace tavrune {
 namespace {
@@ -24,6 +25,7 @@ BENCHMARK(Generator<BrokState>)->Name("Generator/Brok");
 BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
 BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
+BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");
 
 }  // namespace
 }  // namespace tavrune

@@ -12,6 +12,7 @@
 #include "topics/basics/dlinie.h"
 #include "topics/basics/konvert.h"
 #include "topics/basics/lininter.h"
+#include "topics/basics/tomto.h"
 
 namespace tavrune {
 namespace {
@@ -46,6 +47,7 @@ constexpr std::array kPages{
     Entry{PageName::Konvert, form<Konvert>},
     Entry{PageName::Dlinie, form<Dlinie>},
     Entry{PageName::Lininter, form<Lininter>},
+    Entry{PageName::Tomto, form<Tomto>},
 };
 // clang-format on
 

@@ -10,6 +10,8 @@ namespace tavrune {
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent), Control(this) {
     setFont(designFont());
     setAutoFillBackground(true);
+    // Buttons are filled by another role unless told.
+    setBackgroundRole(QPalette::Window);
     resetBackColour();
 }
 

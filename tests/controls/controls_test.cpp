@@ -190,6 +190,13 @@ TEST(OptionButton, GoesBackToTheSystemsButtonFace) {
     EXPECT_EQ(option.backColour(), face);
 }
 
+TEST(OptionButton, IsFilledWithItsBackColour) {
+    OptionButton option;
+    option.resize(60, 20);
+    option.setBackColour(QColor(0, 130, 0));
+    EXPECT_EQ(option.grab().toImage().pixelColor(58, 2), QColor(0, 130, 0));
+}
+
 TEST(LineControl, HasItsEndsAtTheCornersOfItsPlace) {
     LineControl line;
     line.setEnds({10, 30, 40, 5});

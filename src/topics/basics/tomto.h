@@ -1,0 +1,64 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <optional>
+
+#include "shell/exercise_form.h"
+#include "topics/basics/tomto_exercise.h"
+
+namespace tavrune {
+
+class OptionButton;
+
+namespace Ui {
+class Tomto;
+}
+
+/// Two lines in P and Q: how they lie to each other, and where they cross.
+class Tomto : public ExerciseForm {
+    Q_OBJECT
+
+public:
+    explicit Tomto(Draws& draws);
+    ~Tomto() override;
+
+    [[nodiscard]] const TomtoState& state() const { return state_; }
+
+protected:
+    void firstTick() override;
+    void newExercise() override;
+    void judge() override;
+    void giveAnswer() override;
+    void help() override;
+
+private:
+    struct Choice {
+        OptionButton* option;
+        Relation relation;
+    };
+    struct Field {
+        AnswerBox* box;
+        double target;
+    };
+
+    [[nodiscard]] std::array<Choice, 3> choices() const;
+    [[nodiscard]] std::optional<Relation> chosen() const;
+    [[nodiscard]] std::array<Field, 2> fields() const;
+
+    void prepare();
+    void showTask();
+    void askForCrossing();
+    void hideCrossing();
+    void setRange();
+    void drawLines(const QColor& colour);
+    void showWorkedExplicit();
+    void showWorkedImplicit();
+    void closeExplicitHelp();
+    void closeImplicitHelp();
+
+    std::unique_ptr<Ui::Tomto> ui_;
+    TomtoState state_;
+};
+
+}  // namespace tavrune

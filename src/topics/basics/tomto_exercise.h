@@ -1,0 +1,86 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "numeric/draws.h"
+
+namespace tavrune {
+
+/// How two lines lie to each other.
+enum class Relation { Coinciding = 0, Parallel = 1, Crossing = 2 };
+
+/// One task on two straight lines in P and Q, which cross in the first quadrant if they cross at all.
+struct TomtoState {
+    /// 0: the lines are written P = aQ + b; 1: cP + aQ + b = 0.
+    int formKind = 0;
+    /// "a" or "b" by the kind; empty until there is an exercise.
+    std::string formTag;
+    /// Whole numbers; only the kind with three terms uses the c's.
+    float a1 = 0;
+    float b1 = 0;
+    float c1 = 0;
+    float a2 = 0;
+    float b2 = 0;
+    float c2 = 0;
+    Relation relation = Relation::Crossing;
+    /// The crossing, to 2 decimals. Both outlive the exercise, and every rejected try: lines that do not
+    /// cross leave them as they were, and an old value can make the generator draw once more.
+    double solutionQ = 0;
+    double solutionP = 0;
+    /// The upper end of both axes, 10 or 100; 0 until the exercise is judged or answered.
+    float graphMax = 0;
+};
+
+/// The exercise that a form opens with.
+void firstExercise(TomtoState& state, Draws& draws);
+
+/// Every later exercise. It differs from the first in what it puts for a zero.
+void newExercise(TomtoState& state, Draws& draws);
+
+/// The two lines of the task as they are written.
+[[nodiscard]] std::array<std::string, 2> lineTexts(const TomtoState& state);
+
+/// True if the relation is the chosen one and, for crossing lines, both typed numbers are the rounded
+/// coordinates. Nothing is right as long as nothing is chosen.
+[[nodiscard]] bool isRight(const TomtoState& state, std::optional<Relation> chosen, double q, double p);
+
+/// The upper end of axes that the crossing is seen on.
+[[nodiscard]] float rangeFor(const TomtoState& state);
+
+/// The heights of a line at Q = 0 and at Q = graphMax.
+struct GraphLine {
+    float atZero;
+    float atMax;
+};
+
+[[nodiscard]] std::array<GraphLine, 2> graphLines(const TomtoState& state);
+
+/// True if the slopes differ, so that there is a derivation to show.
+[[nodiscard]] bool hasDerivation(const TomtoState& state);
+
+/// The crossing worked out for lines P = aQ + b, a step each.
+struct ExplicitWorked {
+    std::string equated;
+    std::string collected;
+    std::string q;
+    std::string p;
+};
+
+/// Precondition: a1 != a2.
+[[nodiscard]] ExplicitWorked workedExplicit(const TomtoState& state);
+
+/// The crossing worked out for lines cP + aQ + b = 0: Q as a fraction and computed, then P from line 1.
+struct ImplicitWorked {
+    std::string numerator;
+    std::string denominator;
+    std::string q;
+    std::string inserted;
+    std::string p;
+};
+
+/// Precondition: a2*c1 != a1*c2.
+[[nodiscard]] ImplicitWorked workedImplicit(const TomtoState& state);
+
+}  // namespace tavrune
