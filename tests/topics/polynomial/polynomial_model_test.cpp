@@ -1,0 +1,138 @@
+#include "topics/polynomial/polynomial_model.h"
+
+#include <cmath>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace tavrune {
+namespace {
+
+struct PatternRow {
+    int patternCase;
+    const char* text;
+    float a, b, c;
+};
+
+class Patterns : public testing::TestWithParam<PatternRow> {};
+
+TEST_P(Patterns, GiveTextAndSigns) {
+    const Polynomial drawn{2, 3, 4};
+    const Pattern& pattern = patternOf(GetParam().patternCase);
+    EXPECT_EQ(polynomialText(pattern, drawn), GetParam().text);
+    const Polynomial p = withSigns(pattern, drawn);
+    EXPECT_EQ(p.a, GetParam().a);
+    EXPECT_EQ(p.b, GetParam().b);
+    EXPECT_EQ(p.c, GetParam().c);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Patterns,
+    testing::Values(PatternRow{1, "2Q²+3Q+4", 2, 3, 4}, PatternRow{2, "2Q²", 2, 0, 0},
+                    PatternRow{3, "2Q²+3Q", 2, 3, 0}, PatternRow{4, "2Q²+4", 2, 0, 4},
+                    PatternRow{5, "2Q²+3Q-4", 2, 3, -4}, PatternRow{6, "2Q²-3Q+4", 2, -3, 4},
+                    PatternRow{7, "2Q²-4", 2, 0, -4}, PatternRow{8, "2Q²-3Q", 2, -3, 0},
+                    PatternRow{9, "2Q²-3Q-4", 2, -3, -4}, PatternRow{10, "-2Q²+3Q+4", -2, 3, 4},
+                    PatternRow{11, "-2Q²+3Q", -2, 3, 0}, PatternRow{12, "-2Q²+3Q-4", -2, 3, -4},
+                    PatternRow{13, "-2Q²+4", -2, 0, 4}, PatternRow{14, "-2Q²-4", -2, 0, -4},
+                    PatternRow{15, "-2Q²", -2, 0, 0}, PatternRow{16, "-2Q²-3Q+4", -2, -3, 4},
+                    PatternRow{17, "-2Q²-3Q", -2, -3, 0}, PatternRow{18, "-2Q²-3Q-4", -2, -3, -4}),
+    [](const auto& row) { return "Case" + std::to_string(row.param.patternCase); });
+
+TEST(PolynomialText, WritesACoefficientOfOneOut) {
+    EXPECT_EQ(polynomialText(patternOf(1), {1, 1, 1}), "1Q²+1Q+1");
+    EXPECT_EQ(polynomialText(patternOf(15), {1, 1, 1}), "-1Q²");
+}
+
+TEST(Polynomials, HaveTheirRootsWhereTheyAreZero) {
+    for (float a = -5; a <= 5; ++a) {
+        for (float b = -5; b <= 5; ++b) {
+            for (float c = -5; c <= 5; ++c) {
+                const Polynomial p{a, b, c};
+                if (a == 0 || discriminantOf(p) < 0) {
+                    continue;
+                }
+                const Roots roots = rootsOf(p);
+                EXPECT_NEAR(valueAt(p, roots.root1), 0, 1e-9);
+                EXPECT_NEAR(valueAt(p, roots.root2), 0, 1e-9);
+                EXPECT_NEAR(roots.root1 + roots.root2, -b / a, 1e-6);
+                EXPECT_EQ(roots.root1 == roots.root2, discriminantOf(p) == 0);
+            }
+        }
+    }
+}
+
+TEST(Polynomials, AreSymmetricRoundTheirVertex) {
+    for (const Polynomial& p : {Polynomial{1, 4, 1}, Polynomial{-2, 3, 5}, Polynomial{3, -5, -2}}) {
+        const Vertex vertex = vertexOf(p);
+        EXPECT_NEAR(valueAt(p, vertex.q), vertex.p, 1e-6);
+        EXPECT_NEAR(valueAt(p, vertex.q + 1.0), valueAt(p, vertex.q - 1.0), 1e-5);
+    }
+}
+
+TEST(Vertex, HasTheDigitsOfASingleInItsQuotientOfSingles) {
+    const Vertex vertex = vertexOf({3, 1, 1});
+    EXPECT_EQ(vertex.q, -1.0F / 6);
+    EXPECT_EQ(vertex.p, 11.0 / 12);
+}
+
+TEST(RootCount, FollowsTheDiscriminant) {
+    EXPECT_EQ(rootCountOf(1), RootCount::Two);
+    EXPECT_EQ(rootCountOf(0), RootCount::Double);
+    EXPECT_EQ(rootCountOf(-1), RootCount::None);
+}
+
+const Roots kRoots{.root1 = 2, .root2 = -1};
+
+TEST(RootsAreRight, InEitherOrder) {
+    EXPECT_TRUE(rootsAreRight(9, kRoots, RootCount::Two, {2, -1}));
+    EXPECT_TRUE(rootsAreRight(9, kRoots, RootCount::Two, {-1, 2}));
+    EXPECT_FALSE(rootsAreRight(9, kRoots, RootCount::Two, {2, 2}));
+    EXPECT_FALSE(rootsAreRight(9, kRoots, RootCount::Double, {2, -1}));
+    EXPECT_FALSE(rootsAreRight(9, kRoots, RootCount::None, {2, -1}));
+    EXPECT_FALSE(rootsAreRight(9, kRoots, {}, {2, -1}));
+}
+
+TEST(RootsAreRight, WithADoubleRootInTheSecondBox) {
+    EXPECT_TRUE(rootsAreRight(0, {2, 2}, RootCount::Double, {0, 2}));
+    EXPECT_FALSE(rootsAreRight(0, {2, 2}, RootCount::Double, {2, 0}));
+    EXPECT_FALSE(rootsAreRight(0, {2, 2}, RootCount::Two, {2, 2}));
+}
+
+TEST(RootsAreRight, WithNoneWhateverIsTyped) {
+    EXPECT_TRUE(rootsAreRight(-3, {}, RootCount::None, {7, 7}));
+    EXPECT_FALSE(rootsAreRight(-3, {}, RootCount::Double, {0, 0}));
+}
+
+TEST(RootsAreRight, OpenBelowAndClosedAboveTheTolerance) {
+    EXPECT_TRUE(rootsAreRight(9, kRoots, RootCount::Two, {2 + 0.005, -1}));
+    EXPECT_FALSE(rootsAreRight(9, kRoots, RootCount::Two, {2 - 0.005, -1}));
+}
+
+struct MarkRow {
+    const char* name;
+    double discriminant;
+    TypedRoots typed;
+    RootMarks marks;
+};
+
+class RootMarkRows : public testing::TestWithParam<MarkRow> {};
+
+TEST_P(RootMarkRows, DecideByTheFirstTrueTest) {
+    EXPECT_EQ(rootMarks(GetParam().discriminant, kRoots, GetParam().typed), GetParam().marks);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, RootMarkRows,
+                         testing::Values(MarkRow{"FirstHoldsRoot1", 9, {2, 7}, {false, true}},
+                                         MarkRow{"SecondHoldsRoot1", 9, {7, 2}, {true, false}},
+                                         MarkRow{"FirstHoldsRoot2", 9, {-1, 7}, {false, true}},
+                                         MarkRow{"SecondHoldsRoot2", 9, {7, -1}, {true, false}},
+                                         MarkRow{"TheSameRootTwice", 9, {2, 2}, {false, true}},
+                                         MarkRow{"TheOtherRootTwice", 9, {-1, -1}, {false, true}},
+                                         MarkRow{"NoRoot", 9, {7, 8}, {true, true}},
+                                         MarkRow{"DoubleRoot", 0, {2, 2}, {true, true}},
+                                         MarkRow{"NoRootsAtAll", -1, {2, -1}, {true, true}}),
+                         [](const auto& row) { return row.param.name; });
+
+}  // namespace
+}  // namespace tavrune
