@@ -9,6 +9,7 @@
 #include "controls/line_control.h"
 #include "controls/option_button.h"
 #include "controls/panel.h"
+#include "controls/row.h"
 
 namespace tavrune {
 namespace {
@@ -246,6 +247,21 @@ TEST_F(FractionOfThree, ShowsAndHidesAsOne) {
     EXPECT_FALSE(top.isShown() || bar.isShown() || bottom.isShown());
     fraction.setShown(true);
     EXPECT_TRUE(top.isShown() && bar.isShown() && bottom.isShown());
+}
+
+TEST(Row, SetsLabelsSideBySideByTheirWidths) {
+    QWidget page;
+    Label first(&page);
+    Label empty(&page);
+    Label last(&page);
+    first.setCaption("((3/3)·w");
+    last.setCaption("³");
+    const double right = layOutRow({&first, &empty, &last}, 20, 3);
+    EXPECT_EQ(first.place().left(), 20);
+    EXPECT_EQ(first.place().width(), first.textWidth());
+    EXPECT_EQ(empty.place().left(), first.place().right() + 3);
+    EXPECT_EQ(last.place().left(), first.place().right() + 3);
+    EXPECT_EQ(right, last.place().right());
 }
 
 TEST(Panel, IsWhiteWithBlackText) {
