@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+
+#include "shell/exercise_form.h"
+#include "topics/polynomial/topp_exercise.h"
+
+namespace tavrune {
+
+namespace Ui {
+class Topp;
+}
+
+/// The vertex of a second-degree polynomial, with its parabola.
+class Topp : public ExerciseForm {
+    Q_OBJECT
+
+public:
+    explicit Topp(Draws& draws);
+    ~Topp() override;
+
+    [[nodiscard]] const ToppState& state() const { return state_; }
+
+protected:
+    void loadStep() override;
+    void newExercise() override;
+    void judge() override;
+    void giveAnswer() override;
+    void help() override;
+
+private:
+    void drawAxes();
+    void fillHelp();
+    void drawCurve();
+    void uncover();
+    void closeHelp();
+
+    std::unique_ptr<Ui::Topp> ui_;
+    ToppState state_;
+};
+
+}  // namespace tavrune

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <string>
+
+#include "numeric/draws.h"
+#include "topics/polynomial/polynomial_model.h"
+
+namespace tavrune {
+
+/// One polynomial whose vertex is asked for.
+struct ToppState {
+    /// Signed. The size of a is 1 to 3, those of b and c are 0 to 10.
+    Polynomial polynomial;
+    /// What the task shows. In one pattern it is not what `polynomial` says.
+    std::string polynomialText;
+    /// b² - 4ac
+    double discriminant = 0;
+    /// Unrounded, 15 or less in size.
+    float vertexQ = 0;
+    double vertexP = 0;
+};
+
+/// A shape of the polynomial as the task shows it, and the signs that all else works with.
+struct ToppPattern {
+    Pattern shown;
+    Pattern stored;
+};
+
+/// `patternCase` 1 to 12.
+[[nodiscard]] const ToppPattern& toppPatternOf(int patternCase);
+
+/// True if both coordinates are 15 or less in size, as an exercise wants it.
+[[nodiscard]] bool isWithinReach(const Vertex& vertex);
+
+/// Draws until the vertex is within reach.
+void newExercise(ToppState& state, Draws& draws);
+
+/// Which of the typed coordinates are right.
+struct ToppVerdict {
+    bool q = false;
+    bool p = false;
+
+    bool operator==(const ToppVerdict&) const = default;
+};
+
+[[nodiscard]] ToppVerdict judge(const ToppState& state, double typedQ, double typedP);
+
+/// The coordinates with two decimals, as the student is shown them.
+[[nodiscard]] std::string answerTextOfQ(const ToppState& state);
+[[nodiscard]] std::string answerTextOfP(const ToppState& state);
+
+/// The steps of the worked solution. P comes before Q, against the order of the answer boxes.
+struct ToppWorked {
+    /// "d = (-5)² - 4 · 1 · 6 = 1"
+    std::string discriminant;
+    /// -d over 4a
+    std::string numeratorOfP;
+    std::string denominatorOfP;
+    /// -b over 2a
+    std::string numeratorOfQ;
+    std::string denominatorOfQ;
+    /// "T: (P;Q) = (-0.25 ; 2.5)"
+    std::string result;
+};
+
+[[nodiscard]] ToppWorked workedSolution(const ToppState& state);
+
+}  // namespace tavrune

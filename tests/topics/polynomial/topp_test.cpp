@@ -1,0 +1,494 @@
+#include "topics/polynomial/topp.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "graph/graph_box.h"
+#include "support/decimal_mark.h"
+#include "support/form_driver.h"
+#include "support/looks.h"
+#include "support/scripted_draws.h"
+
+namespace tavrune {
+namespace {
+
+using test::cellOf;
+using test::DecimalMark;
+using test::FormDriver;
+using test::ScriptedDraws;
+
+const GraphScale kScale{-2, 15, 15, -15};
+// Two axes, then the ticks: 30 on each axis, 6 on each, 7 and 6.
+constexpr std::size_t kStrokesOfTask = 87;
+
+Stroke line(double x1, double y1, double x2, double y2, const QColor& colour = kBlack) {
+    return {Stroke::Kind::Line,
+            static_cast<float>(x1),
+            static_cast<float>(y1),
+            static_cast<float>(x2),
+            static_cast<float>(y2),
+            colour,
+            LineStyle::Solid,
+            1,
+            kScale};
+}
+
+Stroke dot(double x, double y) {
+    Stroke stroke = line(x, y, x, y);
+    stroke.kind = Stroke::Kind::Point;
+    return stroke;
+}
+
+std::vector<Stroke> curve(double a, double b, double c) {
+    std::vector<Stroke> pieces;
+    double y = 0;
+    for (double x = -7; std::abs(y) <= 1000; x += 0.05) {
+        const double next = x + 0.05;
+        y = a * x * x + b * x + c;
+        pieces.push_back(line(x, y, next, a * next * next + b * next + c));
+    }
+    return pieces;
+}
+
+std::vector<Stroke> operator+(std::vector<Stroke> first, const std::vector<Stroke>& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+class ToppForm : public testing::Test {
+protected:
+    void script(int a, int b, int c, int patternCase) {
+        draws.append({cellOf(a - 1, 3), cellOf(b - 1, 10), cellOf(c - 1, 10), cellOf(patternCase - 1, 11)});
+    }
+
+    FormDriver& open(int a, int b, int c, int patternCase) {
+        script(a, b, c, patternCase);
+        form = std::make_unique<FormDriver>(PageName::Topp, draws);
+        return *form;
+    }
+
+    FormDriver& openPlain() { return open(1, 5, 6, 3); }     // 1Q²-5Q+6: the vertex is (2.5;-0.25).
+    FormDriver& openNegative() { return open(1, 6, 5, 7); }  // -1Q²+6Q+5: the vertex is (3;14).
+
+    void answer(const std::string& q, const std::string& p) const {
+        form->type("Text16", p);
+        form->type("Text7", q);
+        form->click("Command3");
+    }
+
+    void giveAfter(const std::string& q, const std::string& p) const {
+        answer(q, p);
+        form->click("Command11");
+    }
+
+    void nextExercise(int a, int b, int c, int patternCase) {
+        script(a, b, c, patternCase);
+        form->click("Command7");
+    }
+
+    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+
+    /// What was drawn after the task.
+    [[nodiscard]] std::vector<Stroke> drawnLater() const {
+        const std::vector<Stroke>& all = graph().strokes();
+        return {all.begin() + kStrokesOfTask, all.end()};
+    }
+
+    ScriptedDraws draws;
+    std::unique_ptr<FormDriver> form;
+};
+
+TEST_F(ToppForm, HidesTheButtonOfTheNextExerciseUntilItIsOnScreen) {
+    const FormDriver unshown = FormDriver::unshown(PageName::Topp, draws);
+    EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Andengradspolynomiet - Toppunkt");
+    for (const char* hidden : {"Command7", "Command11", "Label10", "Label27", "Picture2"}) {
+        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
+    }
+    for (const char* blank : {"Label1", "Label22", "Label48", "Label51", "Label61"}) {
+        EXPECT_EQ(unshown.caption(blank), "") << blank;
+    }
+}
+
+TEST_F(ToppForm, AsksForTheVertex) {
+    const FormDriver& f = openPlain();
+    EXPECT_EQ(f.caption("Label22"), "Bestem toppunktet i følgende andengradspolynomium");
+    EXPECT_EQ(f.caption("Label5"), "P =");
+    EXPECT_EQ(f.caption("Label61"), "1Q²-5Q+6");
+    EXPECT_EQ(f.caption("Label2"), "Toppunkt: (Q;P) = (");
+    EXPECT_EQ(f.caption("Label14"), " ;");
+    EXPECT_EQ(f.caption("Label15"), ")");
+    for (const char* shown : {"Label22", "Label5", "Label61", "Label2", "Text7", "Label14", "Text16",
+                              "Label15", "Command3", "Command7", "Label49"}) {
+        EXPECT_TRUE(f.isShown(shown)) << shown;
+    }
+    for (const char* hidden : {"Command11", "Label10", "Label27", "Picture2"}) {
+        EXPECT_FALSE(f.isShown(hidden)) << hidden;
+    }
+}
+
+TEST_F(ToppForm, NamesTheAxesAndTheirTicks) {
+    const FormDriver& f = openPlain();
+    EXPECT_EQ(f.caption("Label23"), "P");
+    EXPECT_EQ(f.caption("Label24"), "Q");
+    std::multiset<std::string> captions;
+    for (const Label* label : graph().findChildren<Label*>()) {
+        captions.insert(label->caption());
+    }
+    EXPECT_EQ(captions, (std::multiset<std::string>{"-10", "-5", "5", "10", "5", "10", "P", "Q"}));
+}
+
+TEST_F(ToppForm, StartsInTheRightHandBoxAndGoesToTheLeftHandOne) {
+    const FormDriver& f = openPlain();
+    EXPECT_EQ(f.focus(), "Text16");
+    EXPECT_GT(f.box("Text16").place().left(), f.box("Text7").place().left());
+    f.press("Text16", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Text7");
+    f.press("Text7", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Command3");
+}
+
+TEST_F(ToppForm, DrawsAxesThenRowsOfTicks) {
+    openPlain();
+    std::vector<Stroke> expected{line(0, 20, 0, -20), line(-20, 0, 20, 0)};
+    for (int x = -15; x < 15; ++x) {
+        expected.push_back(dot(x, 0.2));
+    }
+    for (int y = -15; y < 15; ++y) {
+        expected.push_back(dot(0.1, y));
+    }
+    for (const int x : {-15, -10, -5, 0, 5, 10}) {
+        expected.push_back(dot(x, 0.3));
+    }
+    for (const int y : {-15, -10, -5, 0, 5, 10}) {
+        expected.push_back(dot(0.2, y));
+    }
+    for (const int x : {-15, -10, -5, 0, 5, 10, 15}) {
+        expected.push_back(dot(x, 0.4));
+    }
+    for (const int y : {-15, -10, -5, 0, 5, 10}) {
+        expected.push_back(dot(0.3, y));
+    }
+    ASSERT_EQ(expected.size(), kStrokesOfTask);
+    EXPECT_EQ(graph().strokes(), expected);
+}
+
+TEST_F(ToppForm, DrawsTheAxesOnceHoweverManyVerticesAreOutOfReach) {
+    script(1, 10, 1, 5);
+    script(1, 10, 10, 7);
+    const FormDriver& f = openPlain();
+    EXPECT_EQ(graph().strokes().size(), kStrokesOfTask);
+    EXPECT_EQ(f.caption("Label61"), "1Q²-5Q+6");
+    EXPECT_EQ(f.caption("Label1"), "1Q²-5Q+6");
+}
+
+TEST_F(ToppForm, ClearsTheGraphWithEachExercise) {
+    openPlain();
+    giveAfter("1", "1");
+    EXPECT_GT(graph().strokes().size(), kStrokesOfTask);
+    nextExercise(1, 6, 5, 7);
+    EXPECT_EQ(graph().strokes().size(), kStrokesOfTask);
+    EXPECT_EQ(form->caption("Label61"), "-1Q²+6Q+5");
+}
+
+TEST_F(ToppForm, IsSolvedByKeysAlone) {
+    const FormDriver& f = openPlain();
+    f.type("Text16", "-0,25");
+    f.press("Text16", Qt::Key_Return);
+    f.type("Text7", "2,5");
+    f.press("Text7", Qt::Key_Return);
+    f.press("Command3", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("Label10"));
+    EXPECT_EQ(f.focus(), "Command7");
+    script(1, 6, 5, 7);
+    f.press("Command7", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("Label10"));
+    EXPECT_TRUE(f.isShown("Command7"));
+    EXPECT_TRUE(f.isShown("Command3"));
+    EXPECT_EQ(f.box("Text7").content(), "");
+    EXPECT_EQ(f.box("Text16").content(), "");
+    EXPECT_EQ(f.focus(), "Text16");
+}
+
+TEST_F(ToppForm, DrawsTheCurveAndLeavesOnlyTheNextExerciseWhenSolved) {
+    const FormDriver& f = openPlain();
+    answer("1", "1");
+    answer("2.5", "-0.25");
+    EXPECT_TRUE(f.isShown("Label10"));
+    EXPECT_FALSE(f.isShown("Label27"));
+    EXPECT_FALSE(f.isShown("Command3"));
+    EXPECT_FALSE(f.isShown("Command11"));
+    EXPECT_TRUE(f.isShown("Command7"));
+    EXPECT_EQ(f.focus(), "Command7");
+    EXPECT_EQ(f.box("Text7").backColour(), kWhite);
+    EXPECT_EQ(f.box("Text16").backColour(), kWhite);
+    EXPECT_EQ(drawnLater(), curve(1, -5, 6));
+    f.box("Text7").setFocus();
+    f.press("Text7", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Text7");
+}
+
+TEST_F(ToppForm, DrawsADownwardCurve) {
+    openNegative();
+    answer("3", "14");
+    EXPECT_EQ(drawnLater(), curve(-1, 6, 5));
+}
+
+struct MarkRow {
+    const char* name;
+    const char* q;
+    const char* p;
+    bool isQRed;
+    bool isPRed;
+    const char* focus;
+};
+
+class ToppMarks : public ToppForm, public testing::WithParamInterface<MarkRow> {};
+
+TEST_P(ToppMarks, ShowWhichCoordinateIsWrong) {
+    const MarkRow& row = GetParam();
+    const FormDriver& f = openPlain();
+    answer(row.q, row.p);
+    EXPECT_EQ(f.box("Text7").backColour(), row.isQRed ? kRed : kWhite);
+    EXPECT_EQ(f.box("Text16").backColour(), row.isPRed ? kRed : kWhite);
+    EXPECT_EQ(f.focus(), row.focus);
+    EXPECT_TRUE(f.isShown("Label27"));
+    EXPECT_FALSE(f.isShown("Label10"));
+    EXPECT_TRUE(f.isShown("Command11"));
+    EXPECT_TRUE(f.isShown("Command3"));
+    EXPECT_EQ(f.box("Text7").content(), row.q);
+    EXPECT_EQ(f.box("Text16").content(), row.p);
+    EXPECT_TRUE(drawnLater().empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ToppMarks,
+                         testing::Values(MarkRow{"OnlyQIsRight", "2.5", "1", false, true, "Text16"},
+                                         MarkRow{"OnlyPIsRight", "1", "-0.25", true, false, "Text7"},
+                                         MarkRow{"NeitherIsRight", "1", "1", true, true, "Text16"},
+                                         MarkRow{"TheyAreSwapped", "-0.25", "2.5", true, true, "Text16"},
+                                         MarkRow{"NothingIsTyped", "", "", true, true, "Text16"}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(ToppForm, WhitensABoxThatHasBecomeRight) {
+    const FormDriver& f = openPlain();
+    answer("1", "1");
+    answer("2.5", "1");
+    EXPECT_EQ(f.box("Text7").backColour(), kWhite);
+    EXPECT_EQ(f.box("Text16").backColour(), kRed);
+    nextExercise(1, 6, 5, 7);
+    EXPECT_EQ(f.box("Text16").backColour(), kWhite);
+    EXPECT_FALSE(f.isShown("Label27"));
+    EXPECT_FALSE(f.isShown("Command11"));
+}
+
+TEST_F(ToppForm, TakesTheHalfOpenBandRoundTheVertex) {
+    const FormDriver& f = openPlain();
+    for (const char* wrong : {"2.49499", "2.495", "2.506"}) {
+        answer(wrong, "-0.25");
+        EXPECT_EQ(f.box("Text7").backColour(), kRed) << wrong;
+    }
+    for (const char* right : {"2.49501", "2.505"}) {
+        answer(right, "0");
+        EXPECT_EQ(f.box("Text7").backColour(), kWhite) << right;
+    }
+}
+
+TEST_F(ToppForm, TakesTwoEmptyBoxesForTheVertexOfABareSquare) {
+    const FormDriver& f = open(2, 3, 4, 1);
+    EXPECT_EQ(f.caption("Label61"), "2Q²");
+    f.click("Command3");
+    EXPECT_TRUE(f.isShown("Label10"));
+}
+
+TEST_F(ToppForm, WantsTheVertexOfPlusBWhereCaseEightShowsMinusB) {
+    const FormDriver& f = open(1, 4, 7, 8);
+    EXPECT_EQ(f.caption("Label61"), "-1Q²-4Q");
+    EXPECT_EQ(f.caption("Label1"), "-1Q²-4Q");
+    EXPECT_EQ(f.caption("Label51"), "d = 4² - 4 · (-1) · 0 = 16");
+    answer("-2", "4");
+    EXPECT_TRUE(f.isShown("Label27"));
+    answer("2", "4");
+    EXPECT_TRUE(f.isShown("Label10"));
+    EXPECT_EQ(drawnLater(), curve(-1, 4, 0));
+}
+
+TEST_F(ToppForm, GivesTheAnswerWithACrossAtWhatWasTyped) {
+    const DecimalMark danish(",");
+    const FormDriver& f = openPlain();
+    giveAfter("3", "-4,5");
+    EXPECT_EQ(f.box("Text7").content(), "2,5");
+    EXPECT_EQ(f.box("Text16").content(), "-0,25");
+    EXPECT_EQ(f.box("Text7").backColour(), kWhite);
+    EXPECT_EQ(f.box("Text16").backColour(), kWhite);
+    for (const char* hidden : {"Command3", "Command11", "Label10", "Label27"}) {
+        EXPECT_FALSE(f.isShown(hidden)) << hidden;
+    }
+    EXPECT_EQ(f.focus(), "Command7");
+    const std::vector<Stroke> cross{line(2.5, -4.5, 3.5, -4.5, kRed), line(3, -5, 3, -4, kRed)};
+    EXPECT_EQ(drawnLater(), cross + curve(1, -5, 6));
+}
+
+TEST_F(ToppForm, CrossesAtWhatStandsInTheBoxesWhenTheAnswerIsAskedFor) {
+    const FormDriver& f = openPlain();
+    answer("1", "1");
+    f.type("Text7", "4");
+    f.type("Text16", "");
+    f.click("Command11");
+    const std::vector<Stroke> later = drawnLater();
+    ASSERT_GT(later.size(), 2U);
+    EXPECT_EQ(later[0], line(3.5, 0, 4.5, 0, kRed));
+    EXPECT_EQ(later[1], line(4, -0.5, 4, 0.5, kRed));
+}
+
+TEST_F(ToppForm, TakesAnyTypedText) {
+    const FormDriver& f = openPlain();
+    for (const std::string& typed :
+         {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
+        f.box("Text7").setContent(typed);
+        f.box("Text16").setContent(typed);
+        f.click("Command3");
+        f.click("Command11");
+        EXPECT_FALSE(f.page().grab().isNull());
+        EXPECT_EQ(f.box("Text7").content(), "2.5");
+        nextExercise(1, 5, 6, 3);
+    }
+}
+
+TEST_F(ToppForm, ExplainsTheGeneralSolution) {
+    const FormDriver& f = openPlain();
+    const std::pair<const char*, const char*> texts[]{
+        {"Label25", "Generel løsning"},
+        {"Label28", "P = aQ² + bQ + c"},
+        {"Label47", "d = b² - 4 · a · c"},
+        {"Label29", "Toppunktet (T) findes ved hjælp af følgende formel:"},
+        {"Label38", "T: (P; Q) ="},
+        {"Label31", "("},
+        {"Label35", "-d"},
+        {"Label36", "4 · a"},
+        {"Label34", ";"},
+        {"Label32", "-b"},
+        {"Label33", "2 · a"},
+        {"Label37", ")"},
+        {"Label26", "Aktuel løsning"},
+        {"Label6", "P="},
+        {"Label39", "T: (P;Q) ="},
+        {"Label40", "("},
+        {"Label42", ";"},
+        {"Label41", ")"}};
+    for (const auto& [name, text] : texts) {
+        EXPECT_EQ(f.caption(name), text) << name;
+    }
+}
+
+TEST_F(ToppForm, WorksTheSolutionOutWithTheNumbersOfTheExercise) {
+    const DecimalMark danish(",");
+    const FormDriver& f = openPlain();
+    EXPECT_EQ(f.caption("Label1"), "1Q²-5Q+6");
+    EXPECT_EQ(f.caption("Label51"), "d = (-5)² - 4 · 1 · 6 = 1");
+    EXPECT_EQ(f.caption("Label45"), "-1");
+    EXPECT_EQ(f.caption("Label46"), "4·1");
+    EXPECT_EQ(f.caption("Label43"), "-(-5)");
+    EXPECT_EQ(f.caption("Label44"), "2·1");
+    EXPECT_EQ(f.caption("Label48"), "T: (P;Q) = (-0,25 ; 2,5)");
+    nextExercise(2, 5, 6, 11);
+    EXPECT_EQ(f.caption("Label1"), "-2Q²-6");
+    EXPECT_EQ(f.caption("Label51"), "d = 0² - 4 · (-2) · (-6) = -48");
+    EXPECT_EQ(f.caption("Label45"), "-(-48)");
+    EXPECT_EQ(f.caption("Label46"), "4·(-2)");
+    EXPECT_EQ(f.caption("Label43"), "-0");
+    EXPECT_EQ(f.caption("Label44"), "2·(-2)");
+    EXPECT_EQ(f.caption("Label48"), "T: (P;Q) = (-6 ; 0)");
+}
+
+TEST_F(ToppForm, OpensItsHelpCoveredAndUncoversIt) {
+    const FormDriver& f = openPlain();
+    f.click("Command1");
+    EXPECT_TRUE(f.isShown("Picture2"));
+    EXPECT_TRUE(f.isShown("Label49"));
+    EXPECT_EQ(f.focus(), "Command2");
+    f.press("Command2", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("Label49"));
+    EXPECT_EQ(f.focus(), "Command4");
+    f.press("Command4", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("Picture2"));
+    EXPECT_EQ(f.focus(), "Text16");
+}
+
+TEST_F(ToppForm, StaysUncoveredUntilTheNextExercise) {
+    const FormDriver& f = openPlain();
+    f.click("Command1");
+    f.click("Command2");
+    f.click("Command4");
+    f.click("Command1");
+    EXPECT_FALSE(f.isShown("Label49"));
+    EXPECT_EQ(f.focus(), "Command2");
+    nextExercise(1, 6, 5, 7);
+    EXPECT_TRUE(f.isShown("Label49"));
+    EXPECT_FALSE(f.isShown("Picture2"));
+}
+
+TEST_F(ToppForm, LeavesThePanelOpenWhileTheExerciseGoesOn) {
+    const FormDriver& f = openPlain();
+    f.click("Command1");
+    answer("1", "1");
+    EXPECT_TRUE(f.isShown("Picture2"));
+    f.click("Command11");
+    EXPECT_TRUE(f.isShown("Picture2"));
+    EXPECT_EQ(f.box("Text7").content(), "2.5");
+}
+
+TEST_F(ToppForm, CoversTheSolutionBelowThePolynomialAndNothingElse) {
+    const FormDriver& f = open(3, 10, 10, 3);
+    f.click("Command1");
+    const QRect cover = f.find("Label49").geometry();
+    for (const char* covered : {"Label51", "Label39", "Label40", "Label45", "Line3", "Label46", "Label42",
+                                "Label43", "Line4", "Label44", "Label41", "Label48"}) {
+        EXPECT_TRUE(cover.contains(f.find(covered).geometry())) << covered;
+    }
+    for (const char* open : {"Label25", "Label26", "Label28", "Label29", "Label37", "Label6", "Label1",
+                             "Command2", "Command4"}) {
+        EXPECT_FALSE(cover.intersects(f.find(open).geometry())) << open;
+    }
+    EXPECT_EQ(f.label("Label49").backColour(), kWhite);
+    EXPECT_TRUE(f.find("Label49").autoFillBackground());
+    EXPECT_EQ(f.caption("Label49"), "");
+}
+
+TEST_F(ToppForm, SetsItsFormulaSideBySideWithBarsAsWideAsTheFractions) {
+    const FormDriver& f = open(3, 10, 10, 3);
+    double right = 0;
+    for (const char* name : {"Label39", "Label40", "Label45", "Label42", "Label43", "Label41"}) {
+        EXPECT_GE(f.label(name).place().left(), right) << name;
+        EXPECT_LE(f.label(name).place().left(), std::max(right, 320.0) + 4) << name;
+        right = f.label(name).place().right();
+    }
+    const std::array<std::string, 3> fractions[]{{"Label45", "Line3", "Label46"},
+                                                 {"Label43", "Line4", "Label44"}};
+    for (const auto& [numerator, bar, denominator] : fractions) {
+        const QLineF ends = f.find<LineControl>(bar).ends();
+        EXPECT_EQ(ends.x1(), f.label(numerator).place().left());
+        EXPECT_EQ(ends.x2(), f.label(numerator).place().right());
+        EXPECT_EQ(f.label(denominator).place().left(), f.label(numerator).place().left());
+        EXPECT_EQ(f.label(denominator).place().width(), f.label(numerator).place().width());
+        EXPECT_GT(ends.y1(), f.label(numerator).place().top());
+        EXPECT_LT(ends.y1(), f.label(denominator).place().top());
+    }
+}
+
+TEST_F(ToppForm, HasRoomForTheLongestNumbers) {
+    const DecimalMark danish(",");
+    for (const int patternCase : {3, 6, 7, 9}) {
+        const int c = patternCase == 3 || patternCase == 9 ? 10 : 6;
+        const FormDriver& f = open(3, 10, c, patternCase);
+        giveAfter("-123456.75", "-123456.75");
+        f.click("Command1");
+        f.click("Command2");
+        EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
+    }
+}
+
+}  // namespace
+}  // namespace tavrune
