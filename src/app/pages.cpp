@@ -13,6 +13,7 @@
 #include "topics/basics/konvert.h"
 #include "topics/basics/lininter.h"
 #include "topics/basics/tomto.h"
+#include "topics/polynomial/roedder.h"
 #include "topics/polynomial/topp.h"
 
 namespace tavrune {
@@ -50,6 +51,7 @@ constexpr std::array kPages{
     Entry{PageName::Lininter, form<Lininter>},
     Entry{PageName::Tomto, form<Tomto>},
     Entry{PageName::Topp, form<Topp>},
+    Entry{PageName::Roedder, form<Roedder>},
 };
 // clang-format on
 

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <optional>
+
+#include "shell/exercise_form.h"
+#include "topics/polynomial/roedder_exercise.h"
+
+namespace tavrune {
+
+class OptionButton;
+
+namespace Ui {
+class Roedder;
+}
+
+/// How many roots a polynomial of the second degree has, and which.
+class Roedder : public ExerciseForm {
+    Q_OBJECT
+
+public:
+    explicit Roedder(Draws& draws);
+    ~Roedder() override;
+
+    [[nodiscard]] const RoedderState& state() const { return state_; }
+
+protected:
+    void loadStep() override;
+    void newExercise() override;
+    void judge() override;
+    void giveAnswer() override;
+    void help() override;
+
+private:
+    struct Choice {
+        OptionButton* option;
+        RootCount count;
+    };
+
+    [[nodiscard]] std::array<Choice, 3> choices() const;
+    [[nodiscard]] std::optional<RootCount> chosen() const;
+
+    void drawAxes();
+    void drawCurve(double neverMet);
+    void drawTick(double root);
+
+    /// Boxes, their labels, verdict and "&Giv svaret".
+    void hideAnswer();
+    void askForTwoRoots();
+    void askForDoubleRoot();
+    void askForNoRoots();
+    void colourRightOption();
+
+    void workOutTwoRoots();
+    void workOutDoubleRoot();
+    void clearWorkedSolution();
+    void showDiscriminant();
+    void showRootCount();
+    void showSolution();
+    void closeHelp();
+
+    std::unique_ptr<Ui::Roedder> ui_;
+    RoedderState state_;
+};
+
+}  // namespace tavrune

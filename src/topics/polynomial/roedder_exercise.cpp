@@ -1,0 +1,76 @@
+#include "topics/polynomial/roedder_exercise.h"
+
+#include <array>
+
+#include "numeric/arithmetic.h"
+#include "numeric/rounding.h"
+#include "numeric/text.h"
+
+namespace tavrune {
+namespace {
+
+float drawSize(Draws& draws) { return Int(draws.Rnd() * 5) + 1; }
+
+/// What stands between the numbers of "d = b ² - 4 · a · c = d".
+struct Spacing {
+    const char* beforeA;
+    const char* beforeC;
+    const char* beforeD;
+};
+
+// Kept: none, one, and two or three negative numbers have blanks of their own.
+constexpr std::array kSpacing{
+    Spacing{" ² - 4 ·", "·", "="},
+    Spacing{" ² - 4· ", " · ", " = "},
+    Spacing{" ² - 4 · ", " · ", " = "},
+    Spacing{" ² - 4 · ", " · ", " = "},
+};
+
+std::size_t negativesOf(const Polynomial& p) {
+    return std::size_t{p.a < 0} + std::size_t{p.b < 0} + std::size_t{p.c < 0};
+}
+
+}  // namespace
+
+void newExercise(RoedderState& state, Draws& draws) {
+    draws.Randomize();
+    Polynomial drawn;
+    drawn.a = drawSize(draws);
+    drawn.b = drawSize(draws);
+    drawn.c = drawSize(draws);
+    draws.Randomize();
+    const Pattern& pattern = patternOf(static_cast<int>(Int(draws.Rnd() * 18)) + 1);
+
+    state.coefficients = withSigns(pattern, drawn);
+    state.polynomial = polynomialText(pattern, drawn);
+    state.discriminant = discriminantOf(state.coefficients);
+    if (state.discriminant >= 0) {
+        state.roots = rootsOf(state.coefficients);
+    }
+}
+
+bool isRight(const RoedderState& state, std::optional<RootCount> chosen, const TypedRoots& typed) {
+    return rootsAreRight(state.discriminant, state.roots, chosen, typed);
+}
+
+std::string discriminantText(const RoedderState& state) {
+    const auto& [a, b, c] = state.coefficients;
+    const Spacing& spacing = kSpacing.at(negativesOf(state.coefficients));
+    return "d = " + bracketed(b) + spacing.beforeA + bracketed(a) + spacing.beforeC + bracketed(c) +
+           spacing.beforeD + NumberText(state.discriminant);
+}
+
+RoedderFormula formulaTexts(const RoedderState& state) {
+    const std::string b = bracketed(state.coefficients.b);
+    return {.b = b,
+            .minusB = "- " + b,
+            .d = NumberText(state.discriminant),
+            .denominator = "2 · " + bracketed(state.coefficients.a)};
+}
+
+RoedderAnswer answerTexts(const RoedderState& state) {
+    return {.root1 = NumberText(RoundSigned2(state.roots.root1)),
+            .root2 = NumberText(RoundSigned2(state.roots.root2))};
+}
+
+}  // namespace tavrune

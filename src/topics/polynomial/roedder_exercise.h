@@ -1,0 +1,52 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "numeric/draws.h"
+#include "topics/polynomial/polynomial_model.h"
+
+namespace tavrune {
+
+/// One task on the roots of a polynomial of the second degree.
+struct RoedderState {
+    Polynomial coefficients;
+    double discriminant = 0;
+    /// Only written where the polynomial has roots; else those of an earlier exercise stay, unread.
+    Roots roots;
+    /// "5Q²-3Q+1"
+    std::string polynomial;
+};
+
+/// Draws three sizes and one of the eighteen patterns. Nothing is drawn again: how many roots there are is
+/// left to chance.
+void newExercise(RoedderState& state, Draws& draws);
+
+/// True if the count is right and the boxes that go with it hold the roots, in either order.
+[[nodiscard]] bool isRight(const RoedderState& state, std::optional<RootCount> chosen,
+                           const TypedRoots& typed);
+
+/// The discriminant with its numbers inserted: "d = (-3) ² - 4· 5 · 1 = -11". The blanks round its dots
+/// depend on how many of the numbers are negative.
+[[nodiscard]] std::string discriminantText(const RoedderState& state);
+
+/// The numbers in the formulas of the roots. Those that are not under a root have brackets if negative.
+struct RoedderFormula {
+    std::string b;
+    /// "- b", the numerator of a double root.
+    std::string minusB;
+    std::string d;
+    std::string denominator;
+};
+
+[[nodiscard]] RoedderFormula formulaTexts(const RoedderState& state);
+
+/// The roots to 2 decimals. Only where the polynomial has roots.
+struct RoedderAnswer {
+    std::string root1;
+    std::string root2;
+};
+
+[[nodiscard]] RoedderAnswer answerTexts(const RoedderState& state);
+
+}  // namespace tavrune

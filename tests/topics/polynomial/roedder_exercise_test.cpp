@@ -1,0 +1,267 @@
+#include "topics/polynomial/roedder_exercise.h"
+
+#include <cmath>
+#include <set>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "numeric/text.h"
+#include "support/decimal_mark.h"
+#include "support/scripted_draws.h"
+
+namespace tavrune {
+namespace {
+
+using test::cellOf;
+using test::DecimalMark;
+using test::kLargestDraw;
+using test::ScriptedDraws;
+
+/// The exercise of three sizes and a pattern.
+RoedderState exercise(int a, int b, int c, int patternCase) {
+    ScriptedDraws draws{cellOf(a - 1, 5), cellOf(b - 1, 5), cellOf(c - 1, 5), cellOf(patternCase - 1, 18)};
+    RoedderState state;
+    newExercise(state, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    return state;
+}
+
+TEST(RoedderGenerator, MakesJustThisExerciseOfItsDraws) {
+    const RoedderState s = exercise(2, 5, 3, 9);
+    EXPECT_EQ(s.coefficients.a, 2);
+    EXPECT_EQ(s.coefficients.b, -5);
+    EXPECT_EQ(s.coefficients.c, -3);
+    EXPECT_EQ(s.polynomial, "2Q²-5Q-3");
+    EXPECT_EQ(s.discriminant, 49);
+    EXPECT_EQ(s.roots.root1, 3);
+    EXPECT_EQ(s.roots.root2, -0.5);
+}
+
+/// Writes down in which order it is asked.
+class NotedDraws final : public Draws {
+public:
+    float Rnd() override {
+        asked += 'u';
+        return 0;
+    }
+    void Randomize() override { asked += 'R'; }
+
+    std::string asked;
+};
+
+TEST(RoedderGenerator, ReseedsBeforeTheSizesAndBeforeThePattern) {
+    NotedDraws draws;
+    RoedderState s;
+    newExercise(s, draws);
+    EXPECT_EQ(draws.asked, "RuuuRu");
+    EXPECT_EQ(s.polynomial, "1Q²+1Q+1");
+}
+
+TEST(RoedderGenerator, ReachesTheEndsOfItsRanges) {
+    ScriptedDraws largest{kLargestDraw, kLargestDraw, kLargestDraw, kLargestDraw};
+    RoedderState s;
+    newExercise(s, largest);
+    EXPECT_EQ(s.polynomial, "-5Q²-5Q-5");
+}
+
+TEST(RoedderGenerator, LeavesTheRootsAloneWhereThereAreNone) {
+    ScriptedDraws draws{cellOf(1, 5), cellOf(4, 5), cellOf(2, 5), cellOf(8, 18), 0, 0, 0, 0};
+    RoedderState s;
+    newExercise(s, draws);
+    newExercise(s, draws);
+    EXPECT_EQ(s.discriminant, -3);
+    EXPECT_EQ(s.roots.root1, 3);
+    EXPECT_EQ(s.roots.root2, -0.5);
+}
+
+struct DiscriminantRow {
+    const char* negative;
+    int a, b, c;
+    int patternCase;
+    const char* text;
+};
+
+class DiscriminantTexts : public testing::TestWithParam<DiscriminantRow> {};
+
+TEST_P(DiscriminantTexts, HaveTheBlanksOfTheirRow) {
+    const auto& [negative, a, b, c, patternCase, text] = GetParam();
+    EXPECT_EQ(discriminantText(exercise(a, b, c, patternCase)), text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, DiscriminantTexts,
+    testing::Values(DiscriminantRow{"None", 2, 3, 4, 1, "d = 3 ² - 4 ·2·4=-23"},
+                    DiscriminantRow{"B", 2, 3, 4, 6, "d = (-3) ² - 4· 2 · 4 = -23"},
+                    DiscriminantRow{"C", 2, 3, 4, 5, "d = 3 ² - 4· 2 · (-4) = 41"},
+                    DiscriminantRow{"A", 2, 3, 4, 10, "d = 3 ² - 4· (-2) · 4 = 41"},
+                    DiscriminantRow{"AAndB", 2, 3, 4, 16, "d = (-3) ² - 4 · (-2) · 4 = 41"},
+                    DiscriminantRow{"AAndC", 2, 3, 4, 12, "d = 3 ² - 4 · (-2) · (-4) = -23"},
+                    DiscriminantRow{"BAndC", 2, 3, 4, 9, "d = (-3) ² - 4 · 2 · (-4) = 41"},
+                    DiscriminantRow{"All", 2, 3, 4, 18, "d = (-3) ² - 4 · (-2) · (-4) = -23"},
+                    DiscriminantRow{"NoneOfTwoZeros", 2, 3, 4, 2, "d = 0 ² - 4 ·2·0=0"},
+                    DiscriminantRow{"AOfTwoZeros", 2, 3, 4, 15, "d = 0 ² - 4· (-2) · 0 = 0"}),
+    [](const auto& row) { return row.param.negative; });
+
+TEST(RoedderFormulas, PutNegativeNumbersInBrackets) {
+    const RoedderFormula negative = formulaTexts(exercise(5, 5, 5, 16));
+    EXPECT_EQ(negative.b, "(-5)");
+    EXPECT_EQ(negative.minusB, "- (-5)");
+    EXPECT_EQ(negative.d, "125");
+    EXPECT_EQ(negative.denominator, "2 · (-5)");
+    const RoedderFormula positive = formulaTexts(exercise(1, 4, 4, 1));
+    EXPECT_EQ(positive.b, "4");
+    EXPECT_EQ(positive.minusB, "- 4");
+    EXPECT_EQ(positive.d, "0");
+    EXPECT_EQ(positive.denominator, "2 · 1");
+    EXPECT_EQ(formulaTexts(exercise(3, 1, 1, 2)).minusB, "- 0");
+}
+
+TEST(RoedderAnswers, HaveTwoDecimalsAndTheMarkOfTheLocale) {
+    const DecimalMark comma(",");
+    const RoedderAnswer answer = answerTexts(exercise(5, 5, 5, 9));
+    EXPECT_EQ(answer.root1, "1,62");
+    EXPECT_EQ(answer.root2, "-0,62");
+}
+
+TEST(RoedderAnswers, AreNeverMinusZero) {
+    const RoedderAnswer answer = answerTexts(exercise(3, 1, 1, 15));
+    EXPECT_EQ(answer.root1, "0");
+    EXPECT_EQ(answer.root2, "0");
+}
+
+TEST(RoedderJudge, TakesNothingForTheDoubleRootZero) {
+    EXPECT_TRUE(isRight(exercise(3, 1, 1, 2), RootCount::Double, {.first = 0, .second = Val("")}));
+    EXPECT_FALSE(isRight(exercise(3, 1, 1, 2), RootCount::Two, {}));
+}
+
+// What the pattern cases come to, written down by hand: the sign of each term, or 0.
+constexpr int kSigns[18][3] = {{1, 1, 1},  {1, 0, 0},   {1, 1, 0},   {1, 0, 1},   {1, 1, -1},  {1, -1, 1},
+                               {1, 0, -1}, {1, -1, 0},  {1, -1, -1}, {-1, 1, 1},  {-1, 1, 0},  {-1, 1, -1},
+                               {-1, 0, 1}, {-1, 0, -1}, {-1, 0, 0},  {-1, -1, 1}, {-1, -1, 0}, {-1, -1, -1}};
+
+std::string inBrackets(int n) { return n < 0 ? "(" + std::to_string(n) + ")" : std::to_string(n); }
+
+std::string term(int n, const std::string& power) {
+    return n == 0 ? "" : (n > 0 ? "+" : "") + std::to_string(n) + power;
+}
+
+/// With the blanks taken out, all rows of the table are alike.
+std::string withoutBlanks(std::string text) {
+    std::erase(text, ' ');
+    return text;
+}
+
+bool isRootOf(int a, int b, int c, double q) { return std::abs(a * q * q + b * q + c) < 1e-9; }
+
+TEST(RoedderSpace, IsSolvedByItsOwnAnswerAndByNothingNear) {
+    int visited = 0;
+    int counted[3] = {};
+    for (int draw = 0; draw < 5 * 5 * 5 * 18; ++draw) {
+        const int* sign = kSigns[draw % 18];
+        const int sizes[] = {draw / 450 + 1, draw / 90 % 5 + 1, draw / 18 % 5 + 1};
+        const int a = sign[0] * sizes[0];
+        const int b = sign[1] * sizes[1];
+        const int c = sign[2] * sizes[2];
+        const RoedderState s = exercise(sizes[0], sizes[1], sizes[2], draw % 18 + 1);
+        SCOPED_TRACE(s.polynomial);
+        ++visited;
+
+        ASSERT_EQ(s.coefficients.a, a);
+        ASSERT_EQ(s.coefficients.b, b);
+        ASSERT_EQ(s.coefficients.c, c);
+        ASSERT_EQ(s.polynomial, std::to_string(a) + "Q²" + term(b, "Q") + term(c, ""));
+        const int d = b * b - 4 * a * c;
+        ASSERT_EQ(s.discriminant, d);
+        ASSERT_EQ(withoutBlanks(discriminantText(s)), "d=" + inBrackets(b) + "²-4·" + inBrackets(a) + "·" +
+                                                          inBrackets(c) + "=" + std::to_string(d));
+        const RoedderFormula formula = formulaTexts(s);
+        ASSERT_EQ(formula.b, inBrackets(b));
+        ASSERT_EQ(formula.minusB, "- " + inBrackets(b));
+        ASSERT_EQ(formula.d, std::to_string(d));
+        ASSERT_EQ(formula.denominator, "2 · " + inBrackets(a));
+
+        const RootCount count = d > 0 ? RootCount::Two : d == 0 ? RootCount::Double : RootCount::None;
+        ++counted[static_cast<int>(count)];
+        if (count == RootCount::None) {
+            ASSERT_TRUE(isRight(s, RootCount::None, {7, 7}));
+            ASSERT_FALSE(isRight(s, RootCount::Double, {}));
+            ASSERT_FALSE(isRight(s, RootCount::Two, {}));
+            continue;
+        }
+        ASSERT_TRUE(isRootOf(a, b, c, s.roots.root1));
+        ASSERT_TRUE(isRootOf(a, b, c, s.roots.root2));
+        ASSERT_EQ(s.roots.root1 == s.roots.root2, d == 0);
+        ASSERT_EQ(s.roots.root1 > s.roots.root2, d > 0 && a > 0);
+        const RoedderAnswer answer = answerTexts(s);
+        const double q1 = Val(answer.root1);
+        const double q2 = Val(answer.root2);
+        const double off = 0.02;
+        ASSERT_FALSE(isRight(s, RootCount::None, {q1, q2}));
+        if (count == RootCount::Double) {
+            ASSERT_TRUE(isRight(s, RootCount::Double, {99, q1}));
+            ASSERT_FALSE(isRight(s, RootCount::Double, {q1, q1 + off}));
+            ASSERT_FALSE(isRight(s, RootCount::Double, {q1, q1 - off}));
+            ASSERT_FALSE(isRight(s, RootCount::Two, {q1, q1}));
+            continue;
+        }
+        ASSERT_TRUE(isRight(s, RootCount::Two, {q1, q2}));
+        ASSERT_TRUE(isRight(s, RootCount::Two, {q2, q1}));
+        ASSERT_FALSE(isRight(s, RootCount::Two, {q1, q1}));
+        ASSERT_FALSE(isRight(s, RootCount::Two, {q2, q2}));
+        for (const double nudge : {off, -off}) {
+            ASSERT_FALSE(isRight(s, RootCount::Two, {q1 + nudge, q2}));
+            ASSERT_FALSE(isRight(s, RootCount::Two, {q1, q2 + nudge}));
+        }
+        ASSERT_FALSE(isRight(s, RootCount::Double, {q1, q2}));
+        ASSERT_FALSE(isRight(s, {}, {q1, q2}));
+    }
+    EXPECT_EQ(visited, 2250);
+    EXPECT_EQ(counted[0] + counted[1] + counted[2], 2250);
+    for (const int kind : counted) {
+        EXPECT_GT(kind, 200);
+    }
+}
+
+RC_GTEST_PROP(RoedderSeeds, StayWithinTheDrawnRanges, (std::uint64_t seed)) {
+    SeededDraws draws(seed);
+    RoedderState s;
+    newExercise(s, draws);
+    for (const float coefficient : {s.coefficients.a, s.coefficients.b, s.coefficients.c}) {
+        RC_ASSERT(-5 <= coefficient);
+        RC_ASSERT(coefficient <= 5);
+        RC_ASSERT(coefficient == std::floor(coefficient));
+    }
+    RC_ASSERT(s.coefficients.a != 0);
+    RC_ASSERT(s.polynomial.find("+-") == std::string::npos);
+}
+
+TEST(RoedderSeeds, ReachEveryPattern) {
+    std::set<std::string> shapes;
+    SeededDraws draws(11);
+    RoedderState s;
+    for (int i = 0; i < 2000; ++i) {
+        newExercise(s, draws);
+        std::string shape;
+        for (const float coefficient : {s.coefficients.a, s.coefficients.b, s.coefficients.c}) {
+            shape += coefficient == 0 ? "0" : signOf(coefficient);
+        }
+        shapes.insert(shape);
+    }
+    EXPECT_EQ(shapes.size(), 18U);
+}
+
+TEST(RoedderSeeds, AreFrozenForAllBuildsAndProcessors) {
+    SeededDraws draws(7);
+    RoedderState s;
+    std::string texts;
+    for (int i = 0; i < 5; ++i) {
+        newExercise(s, draws);
+        texts += s.polynomial + " " + NumberText(s.discriminant) + "|";
+    }
+    EXPECT_EQ(texts, "-4Q²+3Q 9|3Q²-4Q+5 -44|-2Q²+1Q 1|3Q²-1Q 1|-1Q²+5Q+1 29|");
+}
+
+}  // namespace
+}  // namespace tavrune
