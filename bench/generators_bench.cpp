@@ -6,6 +6,7 @@
 #include "topics/basics/konvert_exercise.h"
 #include "topics/basics/lininter_exercise.h"
 #include "topics/basics/tomto_exercise.h"
+#include "topics/polynomial/rogt_exercise.h"
 
 namespace tavrune {
 namespace {
@@ -26,6 +27,7 @@ BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
 BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
 BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");
+BENCHMARK(Generator<RogtState>)->Name("Generator/Rogt");
 
 }  // namespace
 }  // namespace tavrune

@@ -13,6 +13,7 @@
 #include "topics/basics/konvert.h"
 #include "topics/basics/lininter.h"
 #include "topics/basics/tomto.h"
+#include "topics/polynomial/rogt.h"
 
 namespace tavrune {
 namespace {
@@ -48,6 +49,7 @@ constexpr std::array kPages{
     Entry{PageName::Dlinie, form<Dlinie>},
     Entry{PageName::Lininter, form<Lininter>},
     Entry{PageName::Tomto, form<Tomto>},
+    Entry{PageName::Rogt, form<Rogt>},
 };
 // clang-format on
 
