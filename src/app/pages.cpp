@@ -14,6 +14,7 @@
 #include "topics/basics/lininter.h"
 #include "topics/basics/tomto.h"
 #include "topics/polynomial/roedder.h"
+#include "topics/polynomial/rogt.h"
 #include "topics/polynomial/topp.h"
 
 namespace tavrune {
@@ -52,6 +53,7 @@ constexpr std::array kPages{
     Entry{PageName::Tomto, form<Tomto>},
     Entry{PageName::Topp, form<Topp>},
     Entry{PageName::Roedder, form<Roedder>},
+    Entry{PageName::Rogt, form<Rogt>},
 };
 // clang-format on
 

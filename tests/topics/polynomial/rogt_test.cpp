@@ -1,0 +1,709 @@
+#include "topics/polynomial/rogt.h"
+
+#include <cmath>
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "graph/graph_box.h"
+#include "support/decimal_mark.h"
+#include "support/form_driver.h"
+#include "support/looks.h"
+#include "support/scripted_draws.h"
+
+namespace tavrune {
+namespace {
+
+using test::cellOf;
+using test::FormDriver;
+using test::ScriptedDraws;
+
+const QColor kGreen(0, 130, 0);
+constexpr GraphScale kScale{-15, 15, 15, -15};
+/// Two axes, three rows of points along each.
+constexpr std::size_t kAxesAndTicks = 2 + 2 * (30 + 6 + 6);
+constexpr const char* kBoxes[] = {"Text10", "Text11", "Text14", "Text15"};
+constexpr const char* kOptions[] = {"Option1", "Option2", "Option3"};
+
+/// The sizes in the order in which they are drawn, and the pattern.
+struct Task {
+    int a, b, c, patternCase;
+};
+
+constexpr Task kTwo{1, 3, 2, 6};        // 1Q²-3Q+2: roots 2 and 1, vertex (1.5; -0.25)
+constexpr Task kDownward{1, 3, 4, 10};  // -1Q²+3Q+4: roots -1 and 4, vertex (1.5; 6.25)
+constexpr Task kDouble{1, 2, 1, 1};     // 1Q²+2Q+1: root -1, vertex (-1; 0)
+constexpr Task kNone{1, 1, 1, 1};       // 1Q²+1Q+1: vertex (-0.5; 0.75)
+constexpr Task kSquare{3, 5, 4, 2};     // 3Q²: root 0, vertex (0; 0)
+constexpr Task kHalf{4, 1, 1, 3};       // 4Q²+1Q: roots 0 and -0.25, vertex (-0.125; -0.0625)
+
+/// What is typed, empty where nothing is.
+struct Typed {
+    std::string root1;
+    std::string root2;
+    std::string q;
+    std::string p;
+};
+
+class RogtForm : public testing::Test {
+protected:
+    void script(const Task& t) {
+        draws.append(
+            {cellOf(t.a - 1, 5), cellOf(t.b - 1, 5), cellOf(t.c - 1, 5), cellOf(t.patternCase - 1, 18)});
+    }
+
+    FormDriver& open(const Task& task) {
+        script(task);
+        form = std::make_unique<FormDriver>(PageName::Rogt, draws);
+        return *form;
+    }
+
+    void next(const Task& task) {
+        script(task);
+        form->click("Command5");
+    }
+
+    /// Fills the boxes, hidden ones too, and leaves the focus alone.
+    void fill(const Typed& typed) const {
+        form->box("Text10").setContent(typed.root1);
+        form->box("Text11").setContent(typed.root2);
+        form->box("Text14").setContent(typed.q);
+        form->box("Text15").setContent(typed.p);
+    }
+
+    void answer(const std::string& option, const Typed& typed) const {
+        form->click(option);
+        fill(typed);
+        form->click("Command1");
+    }
+
+    /// The names of the boxes for which this holds, one after another.
+    template <class Predicate>
+    [[nodiscard]] std::string boxesThat(Predicate holds) const {
+        std::string names;
+        for (const char* name : kBoxes) {
+            if (holds(form->box(name))) {
+                names += (names.empty() ? "" : " ") + std::string(name);
+            }
+        }
+        return names;
+    }
+
+    [[nodiscard]] std::string redBoxes() const {
+        return boxesThat([](const AnswerBox& box) { return box.backColour() == kRed; });
+    }
+    [[nodiscard]] std::string shownBoxes() const {
+        return boxesThat([](const AnswerBox& box) { return !box.isHidden(); });
+    }
+
+    /// Those of these controls that are shown.
+    [[nodiscard]] std::string shown(std::initializer_list<const char*> names) const {
+        std::string list;
+        for (const char* name : names) {
+            if (form->isShown(name)) {
+                list += (list.empty() ? "" : " ") + std::string(name);
+            }
+        }
+        return list;
+    }
+    [[nodiscard]] std::string shownRootLabels() const { return shown({"Label3", "Label4", "Label7"}); }
+    [[nodiscard]] std::string verdicts() const { return shown({"Label10", "Label9"}); }
+    [[nodiscard]] std::string judgeButtons() const { return shown({"Command1", "Command9"}); }
+
+    [[nodiscard]] std::string greenOptions() const {
+        std::string names;
+        for (const char* name : kOptions) {
+            names += form->option(name).backColour() == kGreen ? name : "";
+        }
+        return names;
+    }
+    [[nodiscard]] std::string chosenOption() const {
+        std::string names;
+        for (const char* name : kOptions) {
+            names += form->option(name).isChosen() ? name : "";
+        }
+        return names;
+    }
+
+    [[nodiscard]] GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+    [[nodiscard]] const std::vector<Stroke>& strokes() const { return graph().strokes(); }
+
+    /// Where ticks of wrong roots stand.
+    [[nodiscard]] std::vector<float> redTicks() const {
+        std::vector<float> places;
+        for (const Stroke& s : strokes()) {
+            if (s.colour == kRed) {
+                EXPECT_EQ(s, (Stroke{Stroke::Kind::Line, s.x1, -0.5, s.x1, 0.5, kRed, LineStyle::Solid, 1,
+                                     kScale}));
+                places.push_back(s.x1);
+            }
+        }
+        return places;
+    }
+
+    /// Expects the chain of pieces of aQ²+bQ+c at the end of the strokes, after `before` others.
+    void expectCurve(const Polynomial& p, std::size_t before) const {
+        std::size_t at = before;
+        double x = -7;
+        double y = 0;
+        do {
+            ASSERT_LT(at, strokes().size());
+            y = p.a * x * x + p.b * x + p.c;
+            const double end = x + 0.05;
+            const Stroke& piece = strokes()[at++];
+            ASSERT_EQ(piece.kind, Stroke::Kind::Line);
+            ASSERT_EQ(piece.x1, static_cast<float>(x));
+            ASSERT_FLOAT_EQ(piece.y1, static_cast<float>(y));
+            ASSERT_EQ(piece.x2, static_cast<float>(end));
+            ASSERT_NEAR(piece.y2, p.a * end * end + p.b * end + p.c, 1e-3);
+            ASSERT_EQ(piece.colour, kBlack);
+            ASSERT_EQ(piece.width, 1);
+            ASSERT_EQ(piece.style, LineStyle::Solid);
+            x = end;
+        } while (std::abs(y) <= 1000);
+        EXPECT_EQ(at, strokes().size());
+    }
+
+    ScriptedDraws draws;
+    std::unique_ptr<FormDriver> form;
+};
+
+TEST_F(RogtForm, StandsReadyBeforeItsFirstTick) {
+    const FormDriver f = FormDriver::unshown(PageName::Rogt, draws);
+    EXPECT_EQ(f.page().windowTitle().toStdString(), "Tavrune - Andengradspolynomiet - Rødder og toppunkt");
+    EXPECT_EQ(f.caption("Label22"), "Bestem rødder og toppunktet i følgende andengradspolynomium");
+    EXPECT_EQ(f.caption("Label5"), "P =");
+    EXPECT_EQ(f.caption("Label29"), "");
+    EXPECT_EQ(f.find<Frame>("Frame1").caption(), "Rødder");
+    EXPECT_EQ(f.option("Option1").caption(), "&To rødder");
+    EXPECT_EQ(f.option("Option2").caption(), "&Dobbelt rod");
+    EXPECT_EQ(f.option("Option3").caption(), "Ingen &rødder");
+    EXPECT_EQ(f.caption("Label3"), "Rod 1");
+    EXPECT_EQ(f.caption("Label4"), "Rod 2");
+    EXPECT_EQ(f.caption("Label7"), "Rod");
+    EXPECT_EQ(f.caption("Label2"), "Toppunkt: (Q;P)=(");
+    EXPECT_EQ(f.caption("Label14"), " ;");
+    EXPECT_EQ(f.caption("Label15"), ")");
+    EXPECT_EQ(f.caption("Label28") + f.caption("Label27"), "QP");
+    for (const char* hidden : {"Command5", "Command1", "Command9", "Label10", "Label9"}) {
+        EXPECT_FALSE(f.isShown(hidden)) << hidden;
+    }
+}
+
+TEST_F(RogtForm, PutsTheWrongVerdictInFrontOfTheRightOne) {
+    const FormDriver& f = open(kTwo);
+    const QObjectList& siblings = f.label("Label9").parentWidget()->children();
+    EXPECT_GT(siblings.indexOf(&f.label("Label9")), siblings.indexOf(&f.label("Label10")));
+}
+
+TEST_F(RogtForm, NumbersItsAxesWhereTheyAre) {
+    open(kTwo);
+    int numbers = 0;
+    for (const Label* label : graph().findChildren<Label*>()) {
+        const std::string caption = label->caption();
+        if (caption == "Q" || caption == "P") {
+            continue;
+        }
+        ++numbers;
+        const QPointF middle = label->place().center();
+        const double pixels = graph().width() / 30.0;
+        const double along = std::stod(caption);
+        const bool isOnQ = std::abs(middle.x() - (along + 15) * pixels) < 1;
+        const bool isOnP = std::abs(middle.y() - (15 - along) * pixels) < 1;
+        EXPECT_TRUE(isOnQ != isOnP) << caption;
+    }
+    EXPECT_EQ(numbers, 8);
+    EXPECT_EQ(graph().width(), graph().height());
+}
+
+TEST_F(RogtForm, ShowsThePolynomialAndAsksForTheNumberOfRootsFirst) {
+    const FormDriver& f = open(kTwo);
+    EXPECT_EQ(f.caption("Label29"), "1Q²-3Q+2");
+    EXPECT_EQ(chosenOption() + greenOptions(), "");
+    EXPECT_EQ(shownBoxes(), "Text14 Text15");
+    EXPECT_EQ(shownRootLabels() + verdicts() + judgeButtons(), "");
+    EXPECT_TRUE(f.isShown("Command5"));
+    for (const char* name : {"Label2", "Label14", "Label15", "Label5", "Label22", "Label29", "Frame1",
+                             "Option1", "Option2", "Option3"}) {
+        EXPECT_TRUE(f.isShown(name)) << name;
+    }
+}
+
+TEST_F(RogtForm, DrawsAxesAndSixRowsOfPointsInOrder) {
+    open(kTwo);
+    EXPECT_EQ(graph().scale(), kScale);
+    ASSERT_EQ(strokes().size(), kAxesAndTicks);
+    EXPECT_EQ(strokes()[0], (Stroke{Stroke::Kind::Line, 0, 15, 0, -15, kBlack, LineStyle::Solid, 1, kScale}));
+    EXPECT_EQ(strokes()[1], (Stroke{Stroke::Kind::Line, -15, 0, 15, 0, kBlack, LineStyle::Solid, 1, kScale}));
+    struct Row {
+        bool alongQ;
+        float offAxis;
+        int step;
+    };
+    std::size_t at = 2;
+    for (const Row& row : {Row{true, 0.2F, 1}, Row{false, 0.1F, 1}, Row{true, 0.3F, 5}, Row{false, 0.2F, 5},
+                           Row{true, 0.4F, 5}, Row{false, 0.3F, 5}}) {
+        for (int along = -15; along < 15; along += row.step) {
+            const auto place = static_cast<float>(along);
+            const float x = row.alongQ ? place : row.offAxis;
+            const float y = row.alongQ ? row.offAxis : place;
+            ASSERT_EQ(strokes()[at++],
+                      (Stroke{Stroke::Kind::Point, x, y, x, y, kBlack, LineStyle::Solid, 1, kScale}));
+        }
+    }
+    EXPECT_EQ(at, strokes().size());
+}
+
+TEST_F(RogtForm, SetsNoFocusWithANewExercise) {
+    const FormDriver& f = open(kTwo);
+    f.box("Text14").setFocus();
+    script(kNone);
+    f.button("Command5").click();
+    EXPECT_EQ(f.caption("Label29"), "1Q²+1Q+1");
+    EXPECT_EQ(f.focus(), "Text14");
+}
+
+TEST_F(RogtForm, AsksForTwoRootsAndTheVertex) {
+    const FormDriver& f = open(kTwo);
+    f.click("Option2");
+    f.click("Option1");
+    EXPECT_EQ(shownBoxes(), "Text10 Text11 Text14 Text15");
+    EXPECT_EQ(shownRootLabels(), "Label3 Label4");
+    EXPECT_EQ(judgeButtons(), "Command1");
+    EXPECT_TRUE(f.isShown("Command5"));
+    EXPECT_EQ(f.focus(), "Text10");
+}
+
+TEST_F(RogtForm, AsksForADoubleRootAndTheVertex) {
+    const FormDriver& f = open(kTwo);
+    f.click("Option1");
+    f.click("Option2");
+    EXPECT_EQ(shownBoxes(), "Text11 Text14 Text15");
+    EXPECT_EQ(shownRootLabels(), "Label7");
+    EXPECT_EQ(judgeButtons(), "Command1");
+    EXPECT_TRUE(f.isShown("Command5"));
+    EXPECT_EQ(f.focus(), "Text11");
+}
+
+TEST_F(RogtForm, AsksForTheVertexAloneWithoutRoots) {
+    const FormDriver& f = open(kTwo);
+    f.click("Option1");
+    f.click("Option3");
+    EXPECT_EQ(shownBoxes(), "Text14 Text15");
+    EXPECT_EQ(shownRootLabels(), "");
+    EXPECT_EQ(judgeButtons(), "Command1");
+    EXPECT_TRUE(f.isShown("Command5"));
+    EXPECT_EQ(f.focus(), "Text15");
+}
+
+TEST_F(RogtForm, KeepsTextsAndColoursWhenAnOptionIsPicked) {
+    const FormDriver& f = open(kTwo);
+    answer("Option1", {"7", "8", "9", "10"});
+    for (const char* option : {"Option2", "Option3", "Option1"}) {
+        f.click(option);
+        EXPECT_EQ(redBoxes(), "Text10 Text11 Text14 Text15") << option;
+        EXPECT_EQ(f.box("Text10").content() + f.box("Text11").content(), "78");
+        EXPECT_EQ(f.box("Text14").content() + f.box("Text15").content(), "910");
+    }
+}
+
+TEST_F(RogtForm, TakesVerdictAndOfferAwayWhenAnOptionIsPicked) {
+    for (const char* option : kOptions) {
+        const FormDriver& f = open(kTwo);
+        answer("Option1", {"2", "1", "9", "10"});
+        EXPECT_EQ(verdicts(), "Label10 Label9");
+        EXPECT_EQ(judgeButtons(), "Command1 Command9");
+        f.click(option);
+        EXPECT_EQ(verdicts(), "") << option;
+        EXPECT_EQ(judgeButtons(), "Command1") << option;
+    }
+}
+
+TEST_F(RogtForm, LetsAnOptionBePickedAfterTheEnd) {
+    const FormDriver& f = open(kDouble);
+    answer("Option2", {"", "-1", "-1", "0"});
+    EXPECT_EQ(judgeButtons(), "");
+    f.click("Option1");
+    EXPECT_EQ(verdicts(), "");
+    EXPECT_EQ(judgeButtons(), "Command1");
+    EXPECT_EQ(greenOptions(), "Option2");
+}
+
+TEST_F(RogtForm, WalksByEnterFromTheRightHandVertexBoxToTheLeftOne) {
+    const FormDriver& f = open(kTwo);
+    f.click("Option1");
+    for (const char* box : {"Text11", "Text15", "Text14", "Command1"}) {
+        f.press(f.focus(), Qt::Key_Return);
+        EXPECT_EQ(f.focus(), box);
+    }
+}
+
+TEST_F(RogtForm, StaysInTheLastBoxWhileThereIsNothingToJudge) {
+    const FormDriver& f = open(kTwo);
+    f.box("Text14").setFocus();
+    f.press("Text14", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Text14");
+}
+
+TEST_F(RogtForm, TakesTwoRootsInEitherOrderAndColoursNoOption) {
+    for (const Typed& typed : {Typed{"2", "1", "1.5", "-0.25"}, Typed{"1", "2", "1.5", "-0.25"}}) {
+        const FormDriver& f = open(kTwo);
+        answer("Option1", typed);
+        EXPECT_EQ(verdicts(), "Label10");
+        EXPECT_EQ(judgeButtons(), "");
+        EXPECT_EQ(greenOptions() + redBoxes(), "");
+        EXPECT_EQ(f.focus(), "Command5");
+        expectCurve({1, -3, 2}, kAxesAndTicks);
+    }
+}
+
+TEST_F(RogtForm, TakesADoubleRootAndColoursItsOption) {
+    const FormDriver& f = open(kDouble);
+    answer("Option2", {"77", "-1", "-1", "0"});
+    EXPECT_EQ(verdicts(), "Label10");
+    EXPECT_EQ(judgeButtons(), "");
+    EXPECT_EQ(greenOptions(), "Option2");
+    EXPECT_EQ(redBoxes(), "");
+    EXPECT_EQ(f.focus(), "Command5");
+    expectCurve({1, 2, 1}, kAxesAndTicks);
+}
+
+TEST_F(RogtForm, TakesNoRootsAndColoursItsOption) {
+    const FormDriver& f = open(kNone);
+    answer("Option3", {"77", "78", "-0.5", "0.75"});
+    EXPECT_EQ(verdicts(), "Label10");
+    EXPECT_EQ(judgeButtons(), "");
+    EXPECT_EQ(greenOptions(), "Option3");
+    EXPECT_EQ(redBoxes(), "");
+    EXPECT_EQ(f.focus(), "Command5");
+    expectCurve({1, 1, 1}, kAxesAndTicks);
+}
+
+TEST_F(RogtForm, TakesEmptyBoxesForTheRootAndTheVertexOfASquare) {
+    const FormDriver& f = open(kSquare);
+    EXPECT_EQ(f.caption("Label29"), "3Q²");
+    answer("Option2", {});
+    EXPECT_EQ(verdicts(), "Label10");
+    EXPECT_EQ(greenOptions(), "Option2");
+}
+
+TEST_F(RogtForm, DrawsADownwardParabola) {
+    open(kDownward);
+    answer("Option1", {"4", "-1", "1.5", "6.25"});
+    EXPECT_EQ(verdicts(), "Label10");
+    expectCurve({-1, 3, 4}, kAxesAndTicks);
+}
+
+TEST_F(RogtForm, JudgesEverythingAgainAfterRightRootsWithAWrongVertex) {
+    const FormDriver& f = open(kTwo);
+    answer("Option1", {"2", "1", "1.5", "7"});
+    EXPECT_EQ(verdicts(), "Label10 Label9");
+    EXPECT_EQ(judgeButtons(), "Command1 Command9");
+    EXPECT_EQ(redBoxes(), "Text15");
+    EXPECT_EQ(f.focus(), "Text15");
+    EXPECT_EQ(f.box("Text10").content() + f.box("Text11").content(), "21");
+    EXPECT_EQ(strokes().size(), kAxesAndTicks);
+
+    fill({"2", "8", "1.5", "-0.25"});
+    f.click("Command1");
+    EXPECT_EQ(verdicts(), "Label10 Label9");
+    EXPECT_EQ(redBoxes(), "Text11");
+
+    fill({"2", "1", "1.5", "-0.25"});
+    f.click("Command1");
+    EXPECT_EQ(verdicts(), "Label10");
+    EXPECT_EQ(judgeButtons() + redBoxes(), "");
+    EXPECT_EQ(f.focus(), "Command5");
+}
+
+TEST_F(RogtForm, ShowsWrongRootsAsWrongThoughTheVertexIsRight) {
+    const FormDriver& f = open(kTwo);
+    answer("Option1", {"7", "8", "1.5", "-0.25"});
+    EXPECT_EQ(verdicts(), "Label10 Label9");
+    EXPECT_EQ(judgeButtons(), "Command1 Command9");
+    EXPECT_EQ(redBoxes(), "Text10 Text11");
+    EXPECT_EQ(f.focus(), "Text10");
+    EXPECT_EQ(strokes().size(), kAxesAndTicks + 2);
+    EXPECT_EQ(redTicks(), (std::vector<float>{7, 8}));
+}
+
+TEST_F(RogtForm, ShowsOneVerdictWhereRootsAndVertexAreWrong) {
+    open(kTwo);
+    answer("Option1", {"7", "8", "9", "10"});
+    EXPECT_EQ(verdicts(), "Label9");
+    EXPECT_EQ(judgeButtons(), "Command1 Command9");
+}
+
+struct VertexRow {
+    const char* name;
+    const char* q;
+    const char* p;
+    const char* red;
+    const char* focus;
+};
+
+class RogtVertexRows : public RogtForm, public testing::WithParamInterface<VertexRow> {};
+
+TEST_P(RogtVertexRows, MarkTheWrongCoordinates) {
+    const FormDriver& f = open(kNone);
+    answer("Option3", {"", "", GetParam().q, GetParam().p});
+    EXPECT_EQ(redBoxes(), GetParam().red);
+    EXPECT_EQ(f.focus(), GetParam().focus);
+    EXPECT_EQ(verdicts(), "Label10 Label9");
+    // The number of roots is right and says so.
+    EXPECT_EQ(greenOptions(), "Option3");
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, RogtVertexRows,
+                         testing::Values(VertexRow{"OnlyQ", "-0.5", "3", "Text15", "Text15"},
+                                         VertexRow{"OnlyP", "3", "0.75", "Text14", "Text14"},
+                                         VertexRow{"Neither", "3", "3", "Text14 Text15", "Text15"},
+                                         VertexRow{"OpenBelow", "-0.505", "0.75", "Text14", "Text14"}),
+                         [](const auto& row) { return row.param.name; });
+
+struct RootRow {
+    const char* name;
+    const char* option;
+    Typed typed;
+    const char* red;
+    const char* focus;
+    std::vector<float> ticks;
+};
+
+class RogtRootRows : public RogtForm, public testing::WithParamInterface<RootRow> {};
+
+// The vertex is typed wrong in Q where the focus has to be taken over from it.
+TEST_P(RogtRootRows, MarkTheWrongRootsOfTwo) {
+    const FormDriver& f = open(kTwo);
+    answer(GetParam().option, GetParam().typed);
+    EXPECT_EQ(redBoxes(), GetParam().red);
+    EXPECT_EQ(f.focus(), GetParam().focus);
+    EXPECT_EQ(redTicks(), GetParam().ticks);
+    EXPECT_EQ(judgeButtons(), "Command1 Command9");
+    EXPECT_EQ(greenOptions(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, RogtRootRows,
+    testing::Values(
+        RootRow{"FirstHoldsRoot1", "Option1", {"2", "7", "1.5", "-0.25"}, "Text11", "Text11", {2, 7}},
+        RootRow{"SecondHoldsRoot1", "Option1", {"7", "2", "1.5", "-0.25"}, "Text10", "Text10", {7, 2}},
+        RootRow{"FirstHoldsRoot2", "Option1", {"1", "7", "1.5", "-0.25"}, "Text11", "Text11", {1, 7}},
+        RootRow{"SecondHoldsRoot2", "Option1", {"7", "1", "1.5", "-0.25"}, "Text10", "Text10", {7, 1}},
+        RootRow{"OneRootTwice", "Option1", {"2", "2", "1.5", "-0.25"}, "Text11", "Text11", {2, 2}},
+        RootRow{"Neither", "Option1", {"7", "8", "1.5", "-0.25"}, "Text10 Text11", "Text10", {7, 8}},
+        RootRow{"TakesTheFocusFromTheVertex",
+                "Option1",
+                {"2", "7", "9", "9"},
+                "Text11 Text14 Text15",
+                "Text11",
+                {2, 7}},
+        RootRow{"DoubleChosen", "Option2", {"7", "2", "1.5", "-0.25"}, "Text10", "Command1", {2}},
+        RootRow{
+            "DoubleChosenAndHiddenRootRight", "Option2", {"2", "7", "1.5", "-0.25"}, "Text11", "Text11", {7}},
+        RootRow{"DoubleChosenAndVertexWrong",
+                "Option2",
+                {"7", "2", "9", "-0.25"},
+                "Text10 Text14",
+                "Text14",
+                {2}},
+        RootRow{"NoneChosen", "Option3", {"2", "1", "1.5", "-0.25"}, "Text11", "Command1", {}},
+        RootRow{"NoneChosenAndVertexWrong",
+                "Option3",
+                {"", "", "9", "9"},
+                "Text10 Text11 Text14 Text15",
+                "Text15",
+                {}}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(RogtForm, MarksBothRootBoxesWhereThereAreFewerThanTwoRoots) {
+    for (const Task& task : {kDouble, kNone}) {
+        const FormDriver& f = open(task);
+        answer("Option1", {"-1", "-1", "-1", "0"});
+        EXPECT_EQ(redBoxes().substr(0, 13), "Text10 Text11");
+        EXPECT_EQ(f.focus(), "Text10");
+        answer("Option2", {"-1", "5", "-1", "0"});
+        EXPECT_EQ(redBoxes().substr(0, 13), "Text10 Text11");
+        EXPECT_EQ(f.focus(), "Text11");
+    }
+}
+
+TEST_F(RogtForm, TakesNoOptionThatIsNotTheRightOneForADoubleRoot) {
+    const FormDriver& f = open(kDouble);
+    answer("Option3", {"-1", "-1", "-1", "0"});
+    EXPECT_EQ(verdicts(), "Label10 Label9");
+    EXPECT_EQ(redBoxes(), "Text10 Text11");
+    // Neither of them is shown, so that "&OK" keeps the focus.
+    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_TRUE(redTicks().empty());
+}
+
+TEST_F(RogtForm, WhitensAllBoxesBeforeItMarksThem) {
+    const FormDriver& f = open(kTwo);
+    answer("Option1", {"7", "8", "9", "10"});
+    EXPECT_EQ(redBoxes(), "Text10 Text11 Text14 Text15");
+    fill({"2", "8", "9", "-0.25"});
+    f.click("Command1");
+    EXPECT_EQ(redBoxes(), "Text11 Text14");
+    EXPECT_EQ(f.focus(), "Text11");
+}
+
+TEST_F(RogtForm, KeepsTheTicksOfSeveralTriesUntilTheNextExercise) {
+    open(kTwo);
+    answer("Option1", {"7", "8", "9", "10"});
+    answer("Option2", {"7", "-3.5", "9", "10"});
+    answer("Option1", {"2", "1", "9", "10"});
+    EXPECT_EQ(redTicks(), (std::vector<float>{7, 8, -3.5}));
+    answer("Option1", {"2", "1", "1.5", "-0.25"});
+    expectCurve({1, -3, 2}, kAxesAndTicks + 3);
+    next(kNone);
+    EXPECT_EQ(strokes().size(), kAxesAndTicks);
+}
+
+TEST_F(RogtForm, LeavesTheGreenOfARightOptionWhenTheNextTryIsWrong) {
+    const FormDriver& f = open(kNone);
+    answer("Option3", {"", "", "9", "9"});
+    answer("Option1", {"", "", "9", "9"});
+    EXPECT_EQ(greenOptions(), "Option3");
+    f.click("Command9");
+    EXPECT_EQ(greenOptions(), "Option3");
+    next(kTwo);
+    EXPECT_EQ(greenOptions() + chosenOption(), "");
+}
+
+TEST_F(RogtForm, GivesTwoRootsAndTheVertexWhateverIsChosen) {
+    const test::DecimalMark comma(",");
+    for (const char* option : kOptions) {
+        const FormDriver& f = open(kTwo);
+        answer(option, {"7", "8", "9", "10"});
+        const std::size_t before = strokes().size();
+        f.click("Command9");
+        EXPECT_EQ(shownBoxes(), "Text10 Text11 Text14 Text15");
+        EXPECT_EQ(shownRootLabels(), "Label3 Label4");
+        EXPECT_EQ(f.box("Text10").content(), "2");
+        EXPECT_EQ(f.box("Text11").content(), "1");
+        EXPECT_EQ(f.box("Text14").content(), "1,5");
+        EXPECT_EQ(f.box("Text15").content(), "-0,25");
+        EXPECT_EQ(verdicts() + judgeButtons() + redBoxes() + greenOptions(), "");
+        EXPECT_EQ(chosenOption(), option);
+        EXPECT_EQ(f.focus(), "Command5");
+        expectCurve({1, -3, 2}, before);
+    }
+}
+
+TEST_F(RogtForm, GivesADoubleRootAndTheVertexWhateverIsChosen) {
+    for (const char* option : kOptions) {
+        const FormDriver& f = open(kDouble);
+        answer(option, {"7", "8", "9", "10"});
+        const std::size_t before = strokes().size();
+        f.click("Command9");
+        EXPECT_EQ(shownBoxes(), "Text11 Text14 Text15");
+        EXPECT_EQ(shownRootLabels(), "Label7");
+        // The hidden box keeps what was typed.
+        EXPECT_EQ(f.box("Text10").content(), "7");
+        EXPECT_EQ(f.box("Text11").content(), "-1");
+        EXPECT_EQ(f.box("Text14").content(), "-1");
+        EXPECT_EQ(f.box("Text15").content(), "0");
+        EXPECT_EQ(verdicts() + judgeButtons() + redBoxes(), "");
+        EXPECT_EQ(greenOptions(), "Option2");
+        EXPECT_EQ(chosenOption(), option);
+        EXPECT_EQ(f.focus(), "Command5");
+        expectCurve({1, 2, 1}, before);
+    }
+}
+
+TEST_F(RogtForm, GivesTheVertexAloneWhereThereAreNoRoots) {
+    const test::DecimalMark comma(",");
+    for (const char* option : kOptions) {
+        const FormDriver& f = open(kNone);
+        answer(option, {"7", "8", "9", "10"});
+        const std::size_t before = strokes().size();
+        f.click("Command9");
+        EXPECT_EQ(shownBoxes(), "Text14 Text15");
+        EXPECT_EQ(shownRootLabels(), "");
+        EXPECT_EQ(f.box("Text10").content() + f.box("Text11").content(), "78");
+        EXPECT_EQ(f.box("Text14").content(), "-0,5");
+        EXPECT_EQ(f.box("Text15").content(), "0,75");
+        EXPECT_EQ(verdicts() + judgeButtons() + redBoxes(), "");
+        EXPECT_EQ(greenOptions(), "Option3");
+        EXPECT_EQ(f.focus(), "Command5");
+        expectCurve({1, 1, 1}, before);
+    }
+}
+
+TEST_F(RogtForm, GivesANegativeHalfThatItWouldJudgeWrong) {
+    const test::DecimalMark point(".");
+    const FormDriver& f = open(kHalf);
+    answer("Option1", {"0", "-0.25", "9", "9"});
+    f.click("Command9");
+    EXPECT_EQ(f.box("Text14").content(), "-0.13");
+    EXPECT_EQ(f.box("Text15").content(), "-0.06");
+    f.click("Option1");
+    f.click("Command1");
+    EXPECT_EQ(redBoxes(), "Text14");
+}
+
+TEST_F(RogtForm, EmptiesAndWhitensEverythingForTheNextExercise) {
+    const FormDriver& f = open(kNone);
+    answer("Option1", {"7", "8", "9", "10"});
+    next(kTwo);
+    EXPECT_EQ(boxesThat([](const AnswerBox& box) { return !box.content().empty(); }), "");
+    EXPECT_EQ(redBoxes() + verdicts() + judgeButtons() + shownRootLabels() + chosenOption(), "");
+    EXPECT_EQ(shownBoxes(), "Text14 Text15");
+    EXPECT_EQ(f.caption("Label29"), "1Q²-3Q+2");
+}
+
+TEST_F(RogtForm, TellsInAMessageWhereHelpIsFoundAndChangesNothing) {
+    const FormDriver& f = open(kTwo);
+    answer("Option1", {"7", "8", "9", "10"});
+    const std::size_t before = strokes().size();
+    f.click("Command2");
+    EXPECT_EQ(f.answerMessage(), "Ønsker du hjælp, bør du søge den i 'Rødder' eller 'Toppunkt'");
+    EXPECT_EQ(f.answerMessage(), "");
+    EXPECT_EQ(verdicts(), "Label9");
+    EXPECT_EQ(judgeButtons(), "Command1 Command9");
+    EXPECT_EQ(redBoxes(), "Text10 Text11 Text14 Text15");
+    EXPECT_EQ(strokes().size(), before);
+}
+
+TEST_F(RogtForm, ObeysTheAccessKeysOfItsOptions) {
+    const FormDriver& f = open(kTwo);
+    const std::pair<Qt::Key, const char*> keys[] = {
+        {Qt::Key_T, "Option1"}, {Qt::Key_D, "Option2"}, {Qt::Key_R, "Option3"}};
+    for (const auto& [key, option] : keys) {
+        QTest::keyClick(f.page().focusWidget(), key, Qt::AltModifier);
+        test::settle();
+        EXPECT_EQ(chosenOption(), option);
+        EXPECT_TRUE(f.isShown("Command1"));
+    }
+}
+
+TEST_F(RogtForm, TakesAnyTextForAWrongAnswer) {
+    const FormDriver& f = open(kTwo);
+    for (const std::string& text :
+         {std::string("1e308"), std::string("-1e400"), std::string("abc"), std::string(1U << 14U, '9')}) {
+        answer("Option1", {text, text, text, text});
+        EXPECT_EQ(redBoxes(), "Text10 Text11 Text14 Text15");
+        EXPECT_EQ(verdicts(), "Label9");
+        static_cast<void>(f.page().grab());
+    }
+    f.click("Command9");
+    EXPECT_EQ(f.box("Text10").content(), "2");
+}
+
+TEST_F(RogtForm, LooksWellWithEveryNumberOfRoots) {
+    for (const Task& task : {kTwo, kDouble, kNone, Task{3, 5, 4, 18}}) {
+        const FormDriver& f = open(task);
+        EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
+        for (const char* option : kOptions) {
+            answer(option, {"7", "8", "9", "10"});
+            EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
+        }
+        f.click("Command9");
+        EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
+    }
+}
+
+}  // namespace
+}  // namespace tavrune
