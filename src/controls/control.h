@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 
 #include <QColor>
@@ -11,9 +12,19 @@ namespace tavrune {
 /// Lengths on a page are given in twips, 1440 to the inch; 15 of them are one unit of the design.
 [[nodiscard]] constexpr double fromTwips(double twips) { return twips / 15; }
 
-inline const QColor kWhite(255, 255, 255);
-inline const QColor kRed(255, 0, 0);
-inline const QColor kBlack(0, 0, 0);
+/// A colour by its channels, 0 to 255. One that is asked for as more, or less, counts as the nearest there
+/// is.
+[[nodiscard]] constexpr QColor rgb(int red, int green, int blue) {
+    const auto channel = [](int asked) { return std::clamp(asked, 0, 255); };
+    return {channel(red), channel(green), channel(blue)};
+}
+
+inline const QColor kWhite = rgb(255, 255, 255);
+inline const QColor kRed = rgb(255, 0, 0);
+inline const QColor kBlack = rgb(0, 0, 0);
+/// What is right: verdicts, lines and given answers.
+inline const QColor kGreen = rgb(0, 130, 0);
+inline const QColor kBlue = rgb(0, 0, 255);
 
 inline constexpr double kDesignTextSize = 11;
 

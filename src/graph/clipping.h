@@ -8,8 +8,8 @@
 namespace tavrune {
 
 /// The part of a line that lies within `bounds`, ends included; nothing if no part does. Infinite ends are
-/// taken for the largest singles; a line with a NaN has no part anywhere. Exact for coordinates of any size,
-/// in a fixed number of steps.
+/// taken for numbers far beyond every single; a line with a NaN has no part anywhere. Never fails, in a fixed
+/// number of steps; of a line with huge ends, what is left of the digits decides the place.
 [[nodiscard]] std::optional<QLineF> clipped(const QLineF& line, const QRectF& bounds);
 
 }  // namespace tavrune

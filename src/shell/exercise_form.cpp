@@ -7,7 +7,6 @@ namespace {
 
 constexpr std::string_view kRightCaption = "RIGTIGT";
 constexpr std::string_view kWrongCaption = "FORKERT";
-const QColor kRightOfOne(0, 130, 0);
 const QColor kRightOfTwo(0, 128, 0);
 const QColor kWrongAtStart(192, 0, 0);
 
@@ -111,7 +110,7 @@ void ExerciseForm::hideVerdict() { hideAll({right_, wrong_}); }
 
 void ExerciseForm::showRight() {
     if (oneLabel_ != nullptr) {
-        oneLabel_->setBackColour(kRightOfOne);
+        oneLabel_->setBackColour(kGreen);
         oneLabel_->setCaption(kRightCaption);
     }
     right_->show();

@@ -20,6 +20,21 @@ TEST(FromTwips, GivesFifteenToAUnit) {
     EXPECT_DOUBLE_EQ(fromTwips(280.5), 18.7);
 }
 
+TEST(Rgb, TakesAChannelOf256For255) {
+    EXPECT_EQ(rgb(0, 256, 0), QColor(0, 255, 0));
+    EXPECT_EQ(rgb(256, 1000, 256), QColor(255, 255, 255));
+    EXPECT_EQ(rgb(12, 255, 0), QColor(12, 255, 0));
+    EXPECT_EQ(rgb(-1, 0, 7), QColor(0, 0, 7));
+}
+
+TEST(SharedColours, AreWhatTheyAreCalled) {
+    EXPECT_EQ(kWhite, QColor(255, 255, 255));
+    EXPECT_EQ(kBlack, QColor(0, 0, 0));
+    EXPECT_EQ(kRed, QColor(255, 0, 0));
+    EXPECT_EQ(kGreen, QColor(0, 130, 0));
+    EXPECT_EQ(kBlue, QColor(0, 0, 255));
+}
+
 TEST(Control, KeepsItsPlaceInUnitsAtEveryZoom) {
     QWidget page;
     Label label(&page);

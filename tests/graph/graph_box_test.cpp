@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/label.h"
+#include "support/strokes.h"
 
 namespace tavrune {
 namespace {
@@ -36,8 +37,6 @@ protected:
     GraphBox box;
 };
 
-const QColor kGreen(0, 130, 0);
-
 TEST_F(Box, KeepsALineWithAllThatItWasDrawnWith) {
     box.DrawStyle(LineStyle::Dotted);
     box.DrawWidth(3);
@@ -60,6 +59,12 @@ TEST_F(Box, DrawsBlackAndThinAndSolidUntilToldOtherwise) {
     EXPECT_EQ(s.colour, kBlack);
     EXPECT_EQ(s.width, 1);
     EXPECT_EQ(s.style, LineStyle::Solid);
+}
+
+TEST_F(Box, DrawsAChannelOf256As255) {
+    box.Line(0, 10, 0, -10, rgb(0, 256, 0));
+    EXPECT_EQ(box.strokes().at(0).colour, QColor(0, 255, 0));
+    EXPECT_EQ(inked(QColor(0, 255, 0)), 100);
 }
 
 TEST_F(Box, TakesCoordinatesAsSingles) {

@@ -11,15 +11,24 @@
 
 namespace tavrune::test {
 
+/// Draws in their order. Scripts are joined by +.
+using Script = std::vector<float>;
+
+[[nodiscard]] inline Script operator+(Script one, const Script& other) {
+    one.insert(one.end(), other.begin(), other.end());
+    return one;
+}
+
 /// Draws that are written down beforehand. Asking for more than there are fails the test; a generator that
 /// goes on for long without finding an exercise in what it then gets is stopped by a throw.
 class ScriptedDraws final : public Draws {
 public:
     ScriptedDraws() = default;
     ScriptedDraws(std::initializer_list<float> script) : script_(script) {}
-    explicit ScriptedDraws(std::vector<float> script) : script_(std::move(script)) {}
+    explicit ScriptedDraws(Script script) : script_(std::move(script)) {}
 
     void append(std::initializer_list<float> more) { script_.insert(script_.end(), more); }
+    void append(const Script& more) { script_.insert(script_.end(), more.begin(), more.end()); }
 
     float Rnd() override {
         if (next_ < script_.size()) {
@@ -41,7 +50,7 @@ public:
     [[nodiscard]] int randomized() const { return randomized_; }
 
 private:
-    std::vector<float> script_;
+    Script script_;
     std::size_t next_ = 0;
     int randomized_ = 0;
     SeededDraws overrun_{1};

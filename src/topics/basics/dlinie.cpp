@@ -12,7 +12,6 @@ namespace {
 constexpr int kEnd = 10;
 constexpr double kFractionLeft = fromTwips(480);
 constexpr double kGap = 6;
-const QColor kRightLine(0, 130, 0);
 
 /// Lays out "a = numerator/denominator = result" in a row.
 void showSlope(const DlinieSlopeStep& step, const Fraction& fraction, Label* result) {
@@ -109,7 +108,7 @@ void Dlinie::judge() {
     ui_->Text2->mark(!judgement.interceptIsRight);
     if (judgement.isRight()) {
         solved();
-        drawLine(state_.slope, state_.intercept, kRightLine);
+        drawLine(state_.slope, state_.intercept, kGreen);
     } else {
         drawLine(slope, intercept, kRed);
         failed();
@@ -121,7 +120,7 @@ void Dlinie::giveAnswer() {
     given();
     ui_->Text1->setContent(NumberText(state_.slope));
     ui_->Text2->setContent(interceptAnswer(state_));
-    drawLine(state_.slope, state_.intercept, kRightLine);
+    drawLine(state_.slope, state_.intercept, kGreen);
     whiten({ui_->Text1, ui_->Text2});
 }
 

@@ -9,7 +9,8 @@
 namespace tavrune {
 namespace {
 
-const QColor kGreen(0, 190, 0);
+// Lighter than the green of what is right elsewhere.
+const QColor kLightGreen = rgb(0, 190, 0);
 
 // The graph: its second axis runs downwards, so a price is counted up from the base.
 constexpr int kBase = 15;
@@ -97,16 +98,17 @@ void Konvert::judge() {
         return;
     }
     solved();
-    // Kept: the task text stays away where help was open; it comes back with the next exercise.
+    // Kept: the task text stays away where help was open; it comes back with "Luk" or the
+    // next exercise.
     ui_->Picture3->hide();
-    drawFunction(state_.newSlope, state_.newConstant, kGreen);
+    drawFunction(state_.newSlope, state_.newConstant, kLightGreen);
 }
 
 void Konvert::giveAnswer() {
     // Kept: the task text stays away here too.
     ui_->Picture3->hide();
     drawFunction(ui_->Text1->value(), ui_->Text2->value(), kRed);
-    drawFunction(state_.newSlope, state_.newConstant, kGreen);
+    drawFunction(state_.newSlope, state_.newConstant, kLightGreen);
     whiten({ui_->Text1, ui_->Text2});
     roundSolution(state_);
     ui_->Text1->setContent(NumberText(state_.newSlope));
@@ -121,7 +123,7 @@ void Konvert::help() {
     example->Line(1, 1, 1, 9);
     example->Line(0, 10, 20, 10);
     example->Line(0, 0, 10, 10);
-    example->Line(0, 5, 20, 10, kGreen);
+    example->Line(0, 5, 20, 10, kLightGreen);
     drawExampleBars();
     const KonvertGiven texts = givenTexts(state_);
     ui_->Label39->setCaption(texts.function);

@@ -8,9 +8,6 @@
 namespace tavrune {
 namespace {
 
-const QColor kBlue(0, 0, 255);
-const QColor kGreen(0, 130, 0);
-
 constexpr double kTopmostP = 16.5;
 constexpr double kLowestP = -5;
 /// How far the tick dots stand off their axis.

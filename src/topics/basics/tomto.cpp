@@ -12,8 +12,6 @@
 namespace tavrune {
 namespace {
 
-const QColor kGreen(0, 130, 0);
-const QColor kBlue(0, 0, 255);
 constexpr int kThin = 1;
 constexpr int kThick = 3;
 constexpr double kGap = 4;

@@ -74,7 +74,9 @@ void solveImplicit(TomtoState& s) {
     s.solutionQ = (s.c1 * s.b2 - s.c2 * s.b1) / d;
 }
 
-/// Q goes through one rounding more than P; at a half the two need not agree.
+/// Kept: Q goes through a rounding of its own before the one that both share. In doubles, (x + 0.005) * 100
+/// can fall short of the whole number that x * 100 + 0.5 reaches, so a half may go down in Q and up in
+/// P: 1.125 is 1.12 as Q and 1.13 as P. What is stored is what is judged.
 void roundSolution(TomtoState& s) {
     const double r = s.solutionQ < 0 ? 0.004999 : 0.005;
     s.solutionQ = Int((s.solutionQ + r) * 100) / 100;
@@ -115,8 +117,8 @@ GraphLine implicitLine(float graphMax, float a, float b, float c) {
     return {-b / c, graphMax * (-a / c) - b / c};
 }
 
-/// A quotient with its sign before it, both parts by size. quotientText(3, -7) -> "-3/7"
-std::string quotientText(float n, float m) {
+/// A quotient with its sign before it, both parts by size. signedQuotientText(3, -7) -> "-3/7"
+std::string signedQuotientText(float n, float m) {
     return (n / m < 0 ? "-" : "") + sizeText(n) + "/" + sizeText(m);
 }
 
@@ -156,7 +158,7 @@ bool hasDerivation(const TomtoState& s) {
 }
 
 ExplicitWorked workedExplicit(const TomtoState& s) {
-    const std::string quotient = quotientText(s.b2 - s.b1, s.a1 - s.a2);
+    const std::string quotient = signedQuotientText(s.b2 - s.b1, s.a1 - s.a2);
     return {
         .equated = NumberText(s.a1) + "Q" + term(s.b1) + " = " + NumberText(s.a2) + "Q" + term(s.b2) + " =>",
         .collected = "(" + NumberText(s.a1) + " - " + bracketed(s.a2) + ") * Q = " + NumberText(s.b2) +
@@ -174,7 +176,7 @@ ImplicitWorked workedImplicit(const TomtoState& s) {
             NumberText(s.b1) + "*" + bracketed(s.c2) + " - " + bracketed(s.b2) + "*" + bracketed(s.c1),
         .denominator =
             NumberText(s.a2) + "*" + bracketed(s.c1) + " - " + bracketed(s.a1) + "*" + bracketed(s.c2),
-        .q = "= " + quotientText(n, m) + " = " + NumberText(s.solutionQ),
+        .q = "= " + signedQuotientText(n, m) + " = " + NumberText(s.solutionQ),
         .inserted = "I   " + NumberText(s.c1) + "*P" + term(s.a1) + "*(" + NumberText(n) + "/" +
                     NumberText(m) + ")" + signOf(s.b1) + sizeText(s.b1) + " = 0 ",
         .p = "=> P = " + NumberText(s.solutionP),

@@ -25,8 +25,8 @@ struct TomtoState {
     float b2 = 0;
     float c2 = 0;
     Relation relation = Relation::Crossing;
-    /// The crossing, to 2 decimals. Both outlive the exercise, and every rejected try: lines that do not
-    /// cross leave them as they were, and an old value can make the generator draw once more.
+    /// The crossing, to 2 decimals. Both outlive the exercise and every rejected try, but not the form: lines
+    /// that do not cross leave them as they were, and an old value can make the generator draw once more.
     double solutionQ = 0;
     double solutionP = 0;
     /// The upper end of both axes, 10 or 100; 0 until the exercise is judged or answered.

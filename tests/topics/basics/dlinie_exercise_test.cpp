@@ -10,41 +10,21 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
-#include "support/scripted_draws.h"
+#include "topics/basics/dlinie_script.h"
 
 namespace tavrune {
 namespace {
 
-using test::cellOf;
 using test::DecimalMark;
 using test::kLargestDraw;
 using test::ScriptedDraws;
+using test::dlinie::kind;
+using test::dlinie::Numbers;
+using test::dlinie::numbers;
+using test::dlinie::script;
 
-float kind(LineTask task) { return task == LineTask::None ? 0.0001F : cellOf(static_cast<int>(task) - 1, 5); }
-
-float coordinate(int value) { return cellOf(value + 10, 20); }
-
-float slope(int value) { return cellOf(value + 5, 10); }
-
-/// The numbers of one exercise; the defaults are never rejected.
-struct Numbers {
-    int x1 = 1;
-    int y1 = 2;
-    int x2 = 3;
-    int y2 = 5;
-    int slopeGiven = 2;
-    int yCross = -4;
-    int xCross = 6;
-};
-
-void appendNumbers(ScriptedDraws& draws, const Numbers& n) {
-    draws.append({coordinate(n.x1), coordinate(n.x2), coordinate(n.y1), coordinate(n.y2), slope(n.slopeGiven),
-                  coordinate(n.yCross), coordinate(n.xCross)});
-}
-
-DlinieState exercise(LineTask task, const Numbers& numbers, ZeroSlope zeroSlope = ZeroSlope::Allowed) {
-    ScriptedDraws draws{kind(task)};
-    appendNumbers(draws, numbers);
+DlinieState exercise(LineTask task, const Numbers& drawn, ZeroSlope zeroSlope = ZeroSlope::Allowed) {
+    ScriptedDraws draws(script(task, drawn));
     DlinieState state;
     newExercise(state, draws, zeroSlope);
     EXPECT_TRUE(draws.isUsedUp());
@@ -56,7 +36,7 @@ bool isSolvedBy(const DlinieState& s, double a, double b) { return judged(s, a, 
 /// The kind that one draw gives.
 LineTask taskOf(float draw) {
     ScriptedDraws draws{draw};
-    appendNumbers(draws, {});
+    draws.append(numbers({}));
     DlinieState state;
     newExercise(state, draws);
     return state.taskType;
@@ -76,10 +56,10 @@ TEST(DlinieGenerator, DrawsTheKindThenTheNumbersInTheirOrder) {
 
 TEST(DlinieGenerator, DrawsTheNumbersButNotTheKindAgainWhileTheyWillNotDo) {
     ScriptedDraws draws{kind(LineTask::BothCrosses)};
-    appendNumbers(draws, {.x1 = 4, .x2 = 4});
-    appendNumbers(draws, {.xCross = 0});
-    appendNumbers(draws, {.slopeGiven = 0});
-    appendNumbers(draws, {.yCross = 3, .xCross = -1});
+    draws.append(numbers({.x1 = 4, .x2 = 4}));
+    draws.append(numbers({.xCross = 0}));
+    draws.append(numbers({.slopeGiven = 0}));
+    draws.append(numbers({.yCross = 3, .xCross = -1}));
     DlinieState s;
     newExercise(s, draws);
     EXPECT_EQ(s.taskType, LineTask::BothCrosses);
@@ -97,9 +77,9 @@ TEST(DlinieGenerator, TakesASlopeOfZeroWhereItIsAllowed) {
 
 TEST(DlinieGenerator, RejectsEqualAbscissasAndACrossingAtZeroWhereAZeroSlopeIsAllowed) {
     ScriptedDraws draws{kind(LineTask::SlopeAndYCross)};
-    appendNumbers(draws, {.x1 = 4, .x2 = 4, .slopeGiven = 0});
-    appendNumbers(draws, {.slopeGiven = 0, .xCross = 0});
-    appendNumbers(draws, {.slopeGiven = 0, .yCross = 7});
+    draws.append(numbers({.x1 = 4, .x2 = 4, .slopeGiven = 0}));
+    draws.append(numbers({.slopeGiven = 0, .xCross = 0}));
+    draws.append(numbers({.slopeGiven = 0, .yCross = 7}));
     DlinieState s;
     newExercise(s, draws, ZeroSlope::Allowed);
     EXPECT_EQ(s.intercept, 7);
@@ -121,9 +101,9 @@ TEST(DlinieGenerator, DrawsEachKindFromAFifthLessAThousandth) {
 
 TEST(DlinieGenerator, WithoutAKindDrawsNewNumbersAndKeepsTheAnswer) {
     ScriptedDraws draws{kind(LineTask::TwoPoints)};
-    appendNumbers(draws, {.x1 = 0, .y1 = 1, .x2 = 3, .y2 = 0});
+    draws.append(numbers({.x1 = 0, .y1 = 1, .x2 = 3, .y2 = 0}));
     draws.append({kind(LineTask::None)});
-    appendNumbers(draws, {.x1 = 7, .y1 = 8, .yCross = 9});
+    draws.append(numbers({.x1 = 7, .y1 = 8, .yCross = 9}));
     DlinieState s;
     newExercise(s, draws);
     newExercise(s, draws);

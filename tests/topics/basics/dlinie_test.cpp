@@ -5,64 +5,41 @@
 #include "graph/graph_box.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/fixed_texts.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/scripted_draws.h"
+#include "support/strokes.h"
+#include "topics/basics/dlinie_script.h"
 
 namespace tavrune {
 namespace {
 
-using test::cellOf;
 using test::DecimalMark;
 using test::FormDriver;
 using test::ScriptedDraws;
+using test::dlinie::Numbers;
 
-const QColor kGreenLine(0, 130, 0);
-const GraphScale kScale{-10, 10, 10, -10};
-
-/// The numbers of one exercise; the defaults are never rejected.
-struct Numbers {
-    int x1 = 1;
-    int y1 = 2;
-    int x2 = 3;
-    int y2 = 5;
-    int slopeGiven = 2;
-    int yCross = -4;
-    int xCross = 6;
-};
-
-Stroke line(float x1, float y1, float x2, float y2, const QColor& colour) {
-    return {Stroke::Kind::Line, x1, y1, x2, y2, colour, LineStyle::Solid, 1, kScale};
-}
+constexpr test::StrokesIn kGraph{{-10, 10, 10, -10}};
 
 /// The line Y = a * X + b from one side of the box to the other.
 Stroke graphOf(double a, double b, const QColor& colour) {
-    return line(-10, static_cast<float>(a * -10 + b), 10, static_cast<float>(a * 10 + b), colour);
-}
-
-Stroke dot(float x, float y) {
-    return {Stroke::Kind::Point, x, y, x, y, kBlack, LineStyle::Solid, 1, kScale};
+    return kGraph.line(-10, a * -10 + b, 10, a * 10 + b, colour);
 }
 
 std::vector<Stroke> axes() {
-    std::vector<Stroke> strokes{line(0, 10, 0, -10, kBlack), line(-10, 0, 10, 0, kBlack)};
+    std::vector<Stroke> strokes{kGraph.line(0, 10, 0, -10), kGraph.line(-10, 0, 10, 0)};
     for (int x = -10; x <= 9; ++x) {
-        strokes.push_back(dot(static_cast<float>(x), 0.1F));
+        strokes.push_back(kGraph.point(x, 0.1));
     }
     for (int y = -9; y <= 9; ++y) {
-        strokes.push_back(dot(0.07F, static_cast<float>(y)));
+        strokes.push_back(kGraph.point(0.07, y));
     }
     return strokes;
 }
 
 class DlinieForm : public testing::Test {
 protected:
-    void script(LineTask task, const Numbers& n) {
-        const auto coordinate = [](int value) { return cellOf(value + 10, 20); };
-        draws.append({task == LineTask::None ? 0.0001F : cellOf(static_cast<int>(task) - 1, 5),
-                      coordinate(n.x1), coordinate(n.x2), coordinate(n.y1), coordinate(n.y2),
-                      cellOf(n.slopeGiven + 5, 10), coordinate(n.yCross), coordinate(n.xCross)});
-    }
+    void script(LineTask task, const Numbers& n) { draws.append(test::dlinie::script(task, n)); }
 
     FormDriver& open(LineTask task, const Numbers& numbers = {}) {
         script(task, numbers);
@@ -85,11 +62,12 @@ protected:
 
     /// What was drawn since the axes.
     [[nodiscard]] std::vector<Stroke> drawn() const {
-        const std::vector<Stroke>& all = form->find<GraphBox>("Picture1").strokes();
         const std::vector<Stroke> first = axes();
-        EXPECT_GE(all.size(), first.size());
-        EXPECT_TRUE(std::equal(first.begin(), first.end(), all.begin()));
-        return {all.begin() + static_cast<std::ptrdiff_t>(first.size()), all.end()};
+        std::vector<Stroke> all = form->find<GraphBox>("Picture1").strokes();
+        std::vector<Stroke> later = test::strokesFrom(form->find<GraphBox>("Picture1"), first.size());
+        all.resize(all.size() - later.size());
+        EXPECT_EQ(all, first);
+        return later;
     }
 
     [[nodiscard]] std::vector<std::string> shownPanels() const {
@@ -145,7 +123,7 @@ TEST_F(DlinieForm, AsksInTheFrameOfTheEquation) {
 TEST_F(DlinieForm, DrawsAxesAndDotsInItsScale) {
     const FormDriver& f = open(LineTask::TwoPoints);
     const GraphBox& graph = f.find<GraphBox>("Picture1");
-    EXPECT_EQ(graph.scale(), kScale);
+    EXPECT_EQ(graph.scale(), kGraph.scale);
     EXPECT_EQ(graph.strokes(), axes());
     EXPECT_EQ(graph.strokes().size(), 2U + 20U + 19U);
     next(LineTask::BothCrosses);
@@ -185,12 +163,11 @@ TEST_F(DlinieForm, MayHaveASlopeOfZeroInItsFirstExerciseOnly) {
     EXPECT_EQ(f.caption("Label3"), "Hældningskoefficient(a) = 0");
     answer("0", "0");
     EXPECT_EQ(f.caption("Labelf"), "RIGTIGT");
-    EXPECT_EQ(drawn(), std::vector{graphOf(0, 0, kGreenLine)});
+    EXPECT_EQ(drawn(), std::vector{graphOf(0, 0, kGreen)});
 
     // The next exercise draws on until the slope is not 0; the kind stays.
     script(LineTask::SlopeAndPoint, {.slopeGiven = 0});
-    draws.append({cellOf(11, 20), cellOf(13, 20), cellOf(12, 20), cellOf(15, 20), cellOf(6, 10),
-                  cellOf(4, 20), cellOf(5, 20)});
+    draws.append(test::dlinie::numbers({.slopeGiven = 1}));
     f.click("Command1");
     EXPECT_EQ(f.caption("Label3"), "Hældningskoefficienten(a) = 1");
     EXPECT_TRUE(draws.isUsedUp());
@@ -206,12 +183,12 @@ TEST_F(DlinieForm, IsSolvedByKeysAlone) {
     EXPECT_EQ(f.focus(), "Command2");
     f.press("Command2", Qt::Key_Return);
     EXPECT_EQ(f.caption("Labelf"), "RIGTIGT");
-    EXPECT_EQ(f.label("Labelf").backColour(), kGreenLine);
+    EXPECT_EQ(f.label("Labelf").backColour(), kGreen);
     EXPECT_TRUE(f.isShown("Labelf"));
     EXPECT_FALSE(f.isShown("Command2"));
     EXPECT_FALSE(f.isShown("Command3"));
     EXPECT_EQ(f.focus(), "Command1");
-    EXPECT_EQ(drawn(), std::vector{graphOf(-2, 3, kGreenLine)});
+    EXPECT_EQ(drawn(), std::vector{graphOf(-2, 3, kGreen)});
     script(LineTask::SlopeAndYCross, {.yCross = 7});
     f.press("Command1", Qt::Key_Return);
     EXPECT_EQ(f.caption("Label4"), "Y = 7");
@@ -247,7 +224,7 @@ TEST_F(DlinieForm, KeepsTheLinesOfEarlierTriesUntilTheNextExercise) {
     answer("1", "1");
     answer("", "abc");
     answer("2", "3");
-    EXPECT_EQ(drawn(), (std::vector{graphOf(1, 1, kRed), graphOf(0, 0, kRed), graphOf(2, 3, kGreenLine)}));
+    EXPECT_EQ(drawn(), (std::vector{graphOf(1, 1, kRed), graphOf(0, 0, kRed), graphOf(2, 3, kGreen)}));
     EXPECT_EQ(colour("Text1"), kWhite);
     EXPECT_EQ(colour("Text2"), kWhite);
     EXPECT_EQ(f.caption("Labelf"), "RIGTIGT");
@@ -259,7 +236,7 @@ TEST_F(DlinieForm, TakesEmptyFieldsForTheLineAlongTheXAxis) {
     open(LineTask::BothCrosses, {.yCross = 0, .xCross = 5});
     form->click("Command2");
     EXPECT_EQ(form->caption("Labelf"), "RIGTIGT");
-    EXPECT_EQ(drawn(), std::vector{graphOf(0, 0, kGreenLine)});
+    EXPECT_EQ(drawn(), std::vector{graphOf(0, 0, kGreen)});
 }
 
 TEST_F(DlinieForm, WantsMinusAThirdWithTwoDecimals) {
@@ -269,7 +246,7 @@ TEST_F(DlinieForm, WantsMinusAThirdWithTwoDecimals) {
     EXPECT_EQ(colour("Text1"), kRed);
     answer("-0,33", "1");
     EXPECT_EQ(f.caption("Labelf"), "RIGTIGT");
-    EXPECT_EQ(drawn().back(), graphOf(-0.33, 1, kGreenLine));
+    EXPECT_EQ(drawn().back(), graphOf(-0.33, 1, kGreen));
 }
 
 TEST_F(DlinieForm, SurvivesNumbersThatNoPictureCanShow) {
@@ -295,7 +272,7 @@ TEST_F(DlinieForm, GivesThePositiveInterceptWithItsPlus) {
     EXPECT_EQ(f.box("Text2").value(), 3);
     EXPECT_EQ(colour("Text1"), kWhite);
     EXPECT_EQ(colour("Text2"), kWhite);
-    EXPECT_EQ(drawn(), (std::vector{graphOf(1, 1, kRed), graphOf(-4, 3, kGreenLine)}));
+    EXPECT_EQ(drawn(), (std::vector{graphOf(1, 1, kRed), graphOf(-4, 3, kGreen)}));
     for (const char* hidden : {"Command2", "Command3", "Labelf"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
@@ -427,6 +404,31 @@ TEST_P(DliniePanels, StayThroughJudgingAndTheAnswerAndGoWithTheNextExercise) {
     EXPECT_EQ(f.focus(), "Text1");
 }
 
+TEST_P(DliniePanels, StayThroughARightJudging) {
+    const PanelRow& row = GetParam();
+    const FormDriver& f = open(row.task);
+    f.click("Command4");
+    showEveryStep();
+    const Names shown = shownPanels();
+    const DlinieState& state = dynamic_cast<const Dlinie&>(f.page()).state();
+    answer(NumberText(state.slope), NumberText(state.intercept));
+    ASSERT_EQ(f.caption("Labelf"), "RIGTIGT");
+    EXPECT_EQ(shownPanels(), shown);
+    EXPECT_EQ(shown.front(), row.panel);
+}
+
+TEST_P(DliniePanels, HaveTwoHeadingsUnlessThereIsNothingToWorkOut) {
+    const PanelRow& row = GetParam();
+    const FormDriver& f = open(row.task);
+    Names headings;
+    for (const Label* label : f.find<Panel>(row.panel).findChildren<Label*>()) {
+        if (label->caption() == "Generel løsning" || label->caption() == "Aktuel løsning") {
+            headings.push_back(label->caption());
+        }
+    }
+    EXPECT_EQ(headings, row.firstVis == nullptr ? Names{} : (Names{"Generel løsning", "Aktuel løsning"}));
+}
+
 TEST_P(DliniePanels, LeaveTheButtonsAndTheAnswerInReach) {
     const PanelRow& row = GetParam();
     const FormDriver& f = open(row.task);
@@ -467,50 +469,91 @@ INSTANTIATE_TEST_SUITE_P(
                     PanelRow{"BothCrosses", LineTask::BothCrosses, "Picture8", "Command13", "Command14"}),
     [](const auto& row) { return row.param.name; });
 
-struct FixedText {
-    const char* label;
-    const char* text;
+constexpr test::FixedText kFixedTexts[]{
+    {"Label5", "Liniens ligning er:"},
+    {"Label10", "Y ="},
+    {"Label2", "X +"},
+    {"Label12", "X"},
+    {"Label11", "Y"},
+    {"Command1", "&Ny opgave"},
+    {"Command2", "&OK"},
+    {"Command3", "&Giv svaret"},
+    {"Command4", "&Hjælp"},
+    // Two points.
+    {"Label13", "Generel løsning"},
+    {"Label14", "Aktuel løsning"},
+    {"Label15", "Find først hældningskoefficienten a"},
+    {"Label16", "a ="},
+    {"Label17", "y1 - y2"},
+    {"Label18", "x1 - x2"},
+    {"Label22", "Find derefter b"},
+    {"Label23",
+     "Her beytter vi, at alle punkter på linien skal 'passe' ind i liniens ligning. Det gælder "
+     "også punktet (x1,y1). Derfor får vi at: "},
+    {"Label24", "y1 = a*x1 + b   =>"},
+    {"Label25", "b = y1 - a*x1"},
+    {"Label19", "a = "},
+    {"Command5", "Vis"},
+    {"Command6", "Vis"},
+    {"Command7", "&Luk"},
+    // A slope and a point.
+    {"Label29", "Generel løsning"},
+    {"Label30", "Aktuel løsning"},
+    {"Label31",
+     "Du kender hældningskoefficienten a. Bestem b ved at indsætte det kendte punkt i den "
+     "rette linies ligning."},
+    {"Label32", "y1 = a*x1 + b  =>"},
+    {"Label33", "b = y1 - a*x1"},
+    {"Command8", "Vis"},
+    {"Command9", "&Luk"},
+    // A slope and the crossing of the Y axis.
+    {"Label36",
+     "Denne komplicerede opgave går ud på at finde ud af at a = hældningskoefficienten og b = "
+     "skæringen med y-aksen."},
+    {"Command10", "&Luk"},
+    // A slope and the crossing of the X axis.
+    {"Label37", "Generel løsning"},
+    {"Label38", "Aktuel løsning"},
+    {"Label39",
+     "Du kender hældningskoefficienten a og skæringen med x - aksen,  X.                      "
+     "                                      Når du kender skæringen med x-aksen kender du også "
+     "et punkt, nemlig (X, 0), da y-værdien til liniens og x-aksens skæringspunkt er 0."},
+    {"Label40",
+     "Nu kender du altså hældningskoefficienten og et punkt. Derfor kan du sætte de kendte "
+     "værdier ind i liniens ligning, og løse den mht. b."},
+    {"Label41", "Y = a*X + b    => "},
+    {"Label42", "0 = a*X + b    =>"},
+    {"Label43", "b = -a*X"},
+    {"Command11", "Vis"},
+    {"Command12", "&Luk"},
+    // Both crossings.
+    {"Label48", "Generel løsning"},
+    {"Label49", "Aktuel løsning"},
+    {"Label50", "b svarer til skæringen med y - aksen og er dermed allerede kendt."},
+    {"Label51",
+     "Vi kender udover b også to punkter, nemlig liniens skæringspunkter med x -  og y - aksen. "
+     "1.-koordinatet til skæringspunktet med y - aksen og 2. - koordinatet til skæringspunktet "
+     "med x - aksen er begge 0.   "},
+    {"Label52",
+     "Koordinatsættene til de to kendte punkter bliver dermed      I  (0, y1), hvor y1 er "
+     "skæringen med y - aksen    og      "},
+    {"Label53", "   II  (x2, 0), hvor x2 er skæringen til x-aksen. "},
+    {"Label54", "a ="},
+    {"Label55", "y1 - y2"},
+    {"Label56", "x1 - x2"},
+    {"Label57", "=>"},
+    {"Label58", "a ="},
+    {"Label59", "y1 - 0"},
+    {"Label60", "0 - x2"},
+    {"Label61", "= -(y1/x2)"},
+    {"Label62", "a ="},
+    {"Command13", "Vis"},
+    {"Command14", "&Luk"},
 };
 
-TEST_F(DlinieForm, TellsTheGeneralMethodToTheLetter) {
+TEST_F(DlinieForm, BearsItsFixedTextsToTheLetter) {
     const FormDriver& f = open(LineTask::TwoPoints);
-    for (const FixedText& row :
-         {FixedText{"Label15", "Find først hældningskoefficienten a"},
-          FixedText{"Label22", "Find derefter b"},
-          FixedText{
-              "Label23",
-              "Her beytter vi, at alle punkter på linien skal 'passe' ind i liniens ligning. Det gælder "
-              "også punktet (x1,y1). Derfor får vi at: "},
-          FixedText{"Label24", "y1 = a*x1 + b   =>"}, FixedText{"Label25", "b = y1 - a*x1"},
-          FixedText{"Label31",
-                    "Du kender hældningskoefficienten a. Bestem b ved at indsætte det kendte punkt i den "
-                    "rette linies ligning."},
-          FixedText{"Label32", "y1 = a*x1 + b  =>"}, FixedText{"Label33", "b = y1 - a*x1"},
-          FixedText{"Label36",
-                    "Denne komplicerede opgave går ud på at finde ud af at a = hældningskoefficienten og b = "
-                    "skæringen med y-aksen."},
-          FixedText{
-              "Label39",
-              "Du kender hældningskoefficienten a og skæringen med x - aksen,  X.                      "
-              "                                      Når du kender skæringen med x-aksen kender du også "
-              "et punkt, nemlig (X, 0), da y-værdien til liniens og x-aksens skæringspunkt er 0."},
-          FixedText{"Label40",
-                    "Nu kender du altså hældningskoefficienten og et punkt. Derfor kan du sætte de kendte "
-                    "værdier ind i liniens ligning, og løse den mht. b."},
-          FixedText{"Label41", "Y = a*X + b    => "}, FixedText{"Label42", "0 = a*X + b    =>"},
-          FixedText{"Label43", "b = -a*X"},
-          FixedText{"Label50", "b svarer til skæringen med y - aksen og er dermed allerede kendt."},
-          FixedText{
-              "Label51",
-              "Vi kender udover b også to punkter, nemlig liniens skæringspunkter med x -  og y - aksen. "
-              "1.-koordinatet til skæringspunktet med y - aksen og 2. - koordinatet til skæringspunktet "
-              "med x - aksen er begge 0.   "},
-          FixedText{"Label52",
-                    "Koordinatsættene til de to kendte punkter bliver dermed      I  (0, y1), hvor y1 er "
-                    "skæringen med y - aksen    og      "},
-          FixedText{"Label53", "   II  (x2, 0), hvor x2 er skæringen til x-aksen. "}}) {
-        EXPECT_EQ(f.caption(row.label), row.text) << row.label;
-    }
+    test::expectTexts(f, kFixedTexts);
 }
 
 TEST_F(DlinieForm, WorksTheSlopeOfTwoPointsOutAsAFraction) {

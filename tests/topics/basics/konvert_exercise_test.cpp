@@ -7,12 +7,11 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 #include "numeric/judging.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
-#include "support/scripted_draws.h"
+#include "topics/basics/konvert_script.h"
 
 namespace tavrune {
 namespace {
@@ -20,29 +19,17 @@ namespace {
 using test::cellOf;
 using test::DecimalMark;
 using test::kLargestDraw;
+using test::Script;
 using test::ScriptedDraws;
-
-constexpr float kHeads = 0.25F;
-constexpr float kTails = 0.5F;
-
-using Script = std::vector<float>;
-
-Script slope(int a) { return a < 0 ? Script{kHeads, cellOf(-a, 6)} : Script{kTails, cellOf(a, 5)}; }
-Script constant(int b) { return {cellOf(b, 8)}; }
-Script wholeFactor(int f) { return {kHeads, cellOf(f - 1, 8)}; }
-Script fraction(int n, int m) { return {kHeads, cellOf(n - 1, 8), cellOf(m - 1, 8)}; }
-Script oneOver(int m) { return {kTails, cellOf(m - 1, 8)}; }
-Script fractionFactor(int n, int m) {
-    Script script{kTails};
-    const Script drawn = fraction(n, m);
-    script.insert(script.end(), drawn.begin(), drawn.end());
-    return script;
-}
-
-Script operator+(Script one, const Script& other) {
-    one.insert(one.end(), other.begin(), other.end());
-    return one;
-}
+using test::operator+;
+using test::konvert::constant;
+using test::konvert::fraction;
+using test::konvert::fractionFactor;
+using test::konvert::kHeads;
+using test::konvert::kTails;
+using test::konvert::oneOver;
+using test::konvert::slope;
+using test::konvert::wholeFactor;
 
 KonvertState exercise(const Script& script) {
     ScriptedDraws draws(script);
@@ -283,17 +270,6 @@ TEST(KonvertSpace, IsSolvedByItsOwnAndOnlyByItsOwnSolution) {
     EXPECT_EQ(space.slopes.size(), 10U);
     EXPECT_EQ(space.constants.size(), 8U);
     EXPECT_EQ(space.factors.size(), 64U);
-}
-
-RC_GTEST_PROP(KonvertSeeds, GiveEqualExercisesForEqualSeeds, (std::uint64_t seed)) {
-    SeededDraws one(seed);
-    SeededDraws other(seed);
-    KonvertState s;
-    KonvertState t;
-    newExercise(s, one);
-    newExercise(t, other);
-    RC_ASSERT(taskText(s) == taskText(t));
-    RC_ASSERT(workedSolution(s).result == workedSolution(t).result);
 }
 
 TEST(KonvertSeeds, AreFrozenForAllBuildsAndProcessors) {

@@ -7,45 +7,35 @@
 
 #include "graph/graph_box.h"
 #include "support/decimal_mark.h"
+#include "support/fixed_texts.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/scripted_draws.h"
+#include "support/strokes.h"
+#include "topics/basics/konvert_script.h"
 
 namespace tavrune {
 namespace {
 
-using test::cellOf;
 using test::DecimalMark;
 using test::FormDriver;
 using test::ScriptedDraws;
+using test::operator+;
+namespace konvert = test::konvert;
 
-const QColor kGreen(0, 190, 0);
-
-/// A line without what it was drawn with but its colour.
-struct Drawn {
-    float x1, y1, x2, y2;
-    QColor colour = kBlack;
-
-    bool operator==(const Drawn&) const = default;
-};
-
-void PrintTo(const Drawn& d, std::ostream* out) {
-    *out << "(" << d.x1 << ", " << d.y1 << ")-(" << d.x2 << ", " << d.y2 << ") "
-         << d.colour.name().toStdString();
-}
+const QColor kLightGreen(0, 190, 0);
+constexpr test::StrokesIn kGraph{{0, 0, 20, 15}};
+constexpr test::StrokesIn kExample{{0, 0, 20, 10}};
 
 class KonvertForm : public testing::Test {
 protected:
     /// a from -5 to 4, b from 0 to 7, 1 Q is f K.
     void script(int a, int b, int f) {
-        scriptFunction(a, b);
-        draws.append({0.25F, cellOf(f - 1, 8)});
+        draws.append(konvert::slope(a) + konvert::constant(b) + konvert::wholeFactor(f));
     }
 
     /// 1 Q is n/m K.
     void script(int a, int b, int n, int m) {
-        scriptFunction(a, b);
-        draws.append({0.75F, 0.25F, cellOf(n - 1, 8), cellOf(m - 1, 8)});
+        draws.append(konvert::slope(a) + konvert::constant(b) + konvert::fractionFactor(n, m));
     }
 
     template <class... Numbers>
@@ -76,19 +66,6 @@ protected:
 
     [[nodiscard]] const GraphBox& graph(const std::string& name) const { return form->find<GraphBox>(name); }
 
-    /// All that stands on a box; everything is solid and one unit wide.
-    [[nodiscard]] std::vector<Drawn> drawnOn(const std::string& name) const {
-        std::vector<Drawn> drawn;
-        for (const Stroke& s : graph(name).strokes()) {
-            EXPECT_EQ(s.kind, Stroke::Kind::Line);
-            EXPECT_EQ(s.style, LineStyle::Solid);
-            EXPECT_EQ(s.width, 1);
-            EXPECT_EQ(s.scale, graph(name).scale());
-            drawn.push_back({s.x1, s.y1, s.x2, s.y2, s.colour});
-        }
-        return drawn;
-    }
-
     [[nodiscard]] double left(const std::string& name) const {
         return graph("Picture3").leftOf(form->label(name));
     }
@@ -96,37 +73,68 @@ protected:
         return graph("Picture3").rightOf(form->label(name));
     }
 
-    [[nodiscard]] Drawn barOver(const std::string& name) const {
-        return {static_cast<float>(left(name)), 5.35F, static_cast<float>(right(name)), 5.35F};
+    [[nodiscard]] const std::vector<Stroke>& drawnOn(const std::string& name) const {
+        return graph(name).strokes();
+    }
+
+    [[nodiscard]] Stroke bar(double from, double to) const {
+        return test::StrokesIn{graph("Picture3").scale()}.line(from, 5.35, to, 5.35);
+    }
+    [[nodiscard]] Stroke barOver(const std::string& name) const { return bar(left(name), right(name)); }
+    [[nodiscard]] std::vector<Stroke> exampleBars() const { return {bar(1.58, 2.4), bar(3.8, 4.3)}; }
+    [[nodiscard]] std::vector<Stroke> barsWith(const std::string& one, const std::string& other) const {
+        return {bar(1.58, 2.4), bar(3.8, 4.3), barOver(one), barOver(other)};
     }
 
     ScriptedDraws draws;
     std::unique_ptr<FormDriver> form;
-
-private:
-    void scriptFunction(int a, int b) {
-        if (a < 0) {
-            draws.append({0.25F, cellOf(-a, 6)});
-        } else {
-            draws.append({0.75F, cellOf(a, 5)});
-        }
-        draws.append({cellOf(b, 8)});
-    }
 };
-
-const Drawn kExampleSlopeBar{1.58F, 5.35F, 2.4F, 5.35F};
-const Drawn kExampleConstantBar{3.8F, 5.35F, 4.3F, 5.35F};
 
 constexpr const char* kFilledIn[] = {"Label12_1", "Label20_1", "Label16_1", "Label18_1",
                                      "Label28_1", "Label24_1", "Label42"};
+
+constexpr test::FixedText kFixedTexts[]{
+    {"Label2", "P"},
+    {"Label3", "Q eller K"},
+    {"Label7", "P="},
+    {"Label8", "K +"},
+    {"Command1", "&Ny opgave"},
+    {"Command2", "&OK"},
+    {"Command4", "&Giv svaret"},
+    {"Hjaelp", "&Hjælp"},
+    {"Label6",
+     "Den nye hældning er altså den nuværende hældning divideret med omregningsfaktorens kvadrat, og det nye "
+     "konstantled er det nuværende konstantled divideret med omregningsfaktoren."},
+    {"Label230", "Generel løsning"},
+    {"Label231", "Aktuel løsning"},
+    {"Label232", "P"},
+    {"Label233", "Q eller K"},
+    {"Label234", "P = -1Q + 10"},
+    {"Label235", "P = -0,25K + 5"},
+    {"Label12_0", "P= "},
+    {"Label20_0", "-1"},
+    {"Label16_0", "2 · 2"},
+    {"Label18_0", "K + "},
+    {"Label28_0", "10"},
+    {"Label24_0", "2"},
+    {"Label42_0", "= -0,25K + 5"},
+    {"Label41", "Hældningen er divideret to gange med omregningsfaktoren, konstantleddet én gang."},
+    {"Vis", "Vis"},
+    {"Luk", "&Luk"},
+};
+
+TEST_F(KonvertForm, BearsItsFixedTexts) {
+    const FormDriver& f = open(-3, 5, 4);
+    test::expectTexts(f, kFixedTexts);
+    EXPECT_TRUE(f.caption("Label5").starts_with(
+        "Funktionskonvertering vises lettest ud fra et eksempel. Antag, at en vare har afsætningsfunktionen "
+        "P = -1Q + 10, og at hvert styk tager 2 timer at producere."));
+}
 
 TEST_F(KonvertForm, IsBlankUntilItsFirstTick) {
     const FormDriver unshown = FormDriver::unshown(PageName::Konvert, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Funktionskonvertering");
     EXPECT_EQ(unshown.caption("Label1") + unshown.caption("Label4"), "");
-    EXPECT_EQ(unshown.caption("Label2"), "P");
-    EXPECT_EQ(unshown.caption("Label7"), "P=");
-    EXPECT_EQ(unshown.caption("Label8"), "K +");
     for (const char* hidden : {"Command4", "Label9", "Label10", "Picture3", "Label41"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
@@ -155,13 +163,13 @@ TEST_F(KonvertForm, AsksWithAFractionAsItWasDrawn) {
 
 TEST_F(KonvertForm, DrawsTheTicksOfBothAxesOnTheFrame) {
     open(-3, 5, 4);
-    std::vector<Drawn> ticks;
+    const test::StrokesIn onFrame{graph("Picture1").scale()};
+    std::vector<Stroke> ticks;
     for (int x = 1; x <= 21; ++x) {
-        ticks.push_back({static_cast<float>(x), 15.2F, static_cast<float>(x), 15.4F});
+        ticks.push_back(onFrame.line(x, 15.2, x, 15.4));
     }
     for (int y = 0; y <= 15; ++y) {
-        const auto height = static_cast<float>(y + 0.2);
-        ticks.push_back({0.8F, height, 1, height});
+        ticks.push_back(onFrame.line(0.8, y + 0.2, 1, y + 0.2));
     }
     EXPECT_EQ(drawnOn("Picture1"), ticks);
     next(1, 1, 1);
@@ -203,11 +211,11 @@ TEST_F(KonvertForm, HasItsGraphAndItsNumbersAtTheTicks) {
 
 TEST_F(KonvertForm, DrawsTheFunctionInBlackAndOnlyTheOneThatIsAsked) {
     open(-3, 5, 4);
-    EXPECT_EQ(drawnOn("Picture2"), (std::vector<Drawn>{{0, 10, 20, 70}}));
+    EXPECT_EQ(drawnOn("Picture2"), (std::vector<Stroke>{kGraph.line(0, 10, 20, 70)}));
     answer("1", "1");
     form->click("Command4");
     next(2, 7, 1);
-    EXPECT_EQ(drawnOn("Picture2"), (std::vector<Drawn>{{0, 8, 20, -32}}));
+    EXPECT_EQ(drawnOn("Picture2"), (std::vector<Stroke>{kGraph.line(0, 8, 20, -32)}));
 }
 
 TEST_F(KonvertForm, IsSolvedByKeysAlone) {
@@ -241,7 +249,8 @@ TEST_F(KonvertForm, EnterInTheLastBoxGoesOnToTheNextExerciseOnceSolved) {
 TEST_F(KonvertForm, DrawsTheRightFunctionInGreenWhereItIsSolved) {
     open(4, 7, 2);
     answer("1", "3.5");
-    EXPECT_EQ(drawnOn("Picture2"), (std::vector<Drawn>{{0, 8, 20, -72}, {0, 11.5F, 20, -8.5F, kGreen}}));
+    EXPECT_EQ(drawnOn("Picture2"), (std::vector<Stroke>{kGraph.line(0, 8, 20, -72),
+                                                        kGraph.line(0, 11.5F, 20, -8.5F, kLightGreen)}));
 }
 
 TEST_F(KonvertForm, DrawsTheSolutionAndNotWhatWasTyped) {
@@ -250,8 +259,8 @@ TEST_F(KonvertForm, DrawsTheSolutionAndNotWhatWasTyped) {
     const double slope = -5.0F / ((4.0F / 3.0F) * (4.0F / 3.0F));
     const double constant = 1.0F / (4.0F / 3.0F);
     ASSERT_EQ(drawnOn("Picture2").size(), 2U);
-    EXPECT_EQ(drawnOn("Picture2")[1], (Drawn{0, static_cast<float>(15 - constant), 20,
-                                             static_cast<float>(15 - (20 * slope + constant)), kGreen}));
+    EXPECT_EQ(drawnOn("Picture2")[1],
+              kGraph.line(0, 15 - constant, 20, 15 - (20 * slope + constant), kLightGreen));
 }
 
 TEST_F(KonvertForm, TakesTheGivenNumbersWhereTheFactorIsOne) {
@@ -318,7 +327,8 @@ TEST_F(KonvertForm, GivesTheAnswerRoundedWithBothLines) {
     }
     // The green line is the solution as it was before its rounding.
     EXPECT_EQ(drawnOn("Picture2"),
-              (std::vector<Drawn>{{0, 10, 20, 70}, {0, 13, 20, 3, kRed}, {0, 13.75F, 20, 17.5F, kGreen}}));
+              (std::vector<Stroke>{kGraph.line(0, 10, 20, 70), kGraph.line(0, 13, 20, 3, kRed),
+                                   kGraph.line(0, 13.75F, 20, 17.5F, kLightGreen)}));
 }
 
 TEST_F(KonvertForm, DrawsTheLineOfEmptyBoxesToo) {
@@ -326,7 +336,7 @@ TEST_F(KonvertForm, DrawsTheLineOfEmptyBoxesToo) {
     answer("", "");
     form->click("Command4");
     ASSERT_EQ(drawnOn("Picture2").size(), 3U);
-    EXPECT_EQ(drawnOn("Picture2")[1], (Drawn{0, 15, 20, 15, kRed}));
+    EXPECT_EQ(drawnOn("Picture2")[1], kGraph.line(0, 15, 20, 15, kRed));
 }
 
 TEST_F(KonvertForm, DrawsTheLineOfWhatStandsInTheBoxesNow) {
@@ -335,7 +345,7 @@ TEST_F(KonvertForm, DrawsTheLineOfWhatStandsInTheBoxesNow) {
     form->type("Text1", "1");
     form->type("Text2", "2");
     form->click("Command4");
-    EXPECT_EQ(drawnOn("Picture2")[1], (Drawn{0, 13, 20, -7, kRed}));
+    EXPECT_EQ(drawnOn("Picture2")[1], kGraph.line(0, 13, 20, -7, kRed));
 }
 
 TEST_F(KonvertForm, SurvivesAnswersOfEverySize) {
@@ -365,16 +375,11 @@ TEST_F(KonvertForm, OpensItsExampleInPlaceOfTheTask) {
     EXPECT_EQ(f.focus(), "Vis");
     EXPECT_EQ(f.caption("Label39"), "P= -3 Q + 5");
     EXPECT_EQ(f.caption("Label40"), "1 Q svarer til 4 K");
-    EXPECT_EQ(
-        f.caption("Label5").rfind("Funktionskonvertering vises lettest ud fra et eksempel. Antag, at en "
-                                  "vare har afsætningsfunktionen P = -1Q + 10, og at hvert styk tager "
-                                  "2 timer at producere.",
-                                  0),
-        0U);
     EXPECT_EQ(drawnOn("Picture4"),
-              (std::vector<Drawn>{{1, 1, 1, 9}, {0, 10, 20, 10}, {0, 0, 10, 10}, {0, 5, 20, 10, kGreen}}));
+              (std::vector<Stroke>{kExample.line(1, 1, 1, 9), kExample.line(0, 10, 20, 10),
+                                   kExample.line(0, 0, 10, 10), kExample.line(0, 5, 20, 10, kLightGreen)}));
     EXPECT_EQ(graph("Picture4").scale(), (GraphScale{0, 0, 20, 10}));
-    EXPECT_EQ(drawnOn("Picture3"), (std::vector<Drawn>{kExampleSlopeBar, kExampleConstantBar}));
+    EXPECT_EQ(drawnOn("Picture3"), exampleBars());
 }
 
 TEST_F(KonvertForm, NamesTheFractionInItsHelp) {
@@ -409,8 +414,7 @@ TEST_F(KonvertForm, WorksOutAWholeFactor) {
     EXPECT_NEAR(left("Label24_1"), left("Label28_1"), 1e-6);
     EXPECT_NEAR(right("Label24_1"), right("Label28_1"), 1e-6);
     EXPECT_NEAR(left("Label42"), right("Label24_1") + 0.4, 1e-6);
-    EXPECT_EQ(drawnOn("Picture3"), (std::vector<Drawn>{kExampleSlopeBar, kExampleConstantBar,
-                                                       barOver("Label16_1"), barOver("Label28_1")}));
+    EXPECT_EQ(drawnOn("Picture3"), barsWith("Label16_1", "Label28_1"));
 }
 
 TEST_F(KonvertForm, WorksOutAFraction) {
@@ -431,14 +435,13 @@ TEST_F(KonvertForm, WorksOutAFraction) {
     EXPECT_NEAR(left("Label28_1"), left("Label24_1"), 1e-6);
     EXPECT_NEAR(right("Label28_1"), right("Label24_1"), 1e-6);
     EXPECT_NEAR(left("Label42"), right("Label24_1") + 0.4, 1e-6);
-    EXPECT_EQ(drawnOn("Picture3"), (std::vector<Drawn>{kExampleSlopeBar, kExampleConstantBar,
-                                                       barOver("Label16_1"), barOver("Label24_1")}));
+    EXPECT_EQ(drawnOn("Picture3"), barsWith("Label16_1", "Label24_1"));
 }
 
 TEST_F(KonvertForm, ShowsTheSamePictureEveryTimeItIsAsked) {
     open(-3, 5, 3, 8);
     openHelpWithSolution();
-    const std::vector<Drawn> once = drawnOn("Picture3");
+    const std::vector<Stroke> once = drawnOn("Picture3");
     std::vector<QRectF> places;
     for (const char* name : kFilledIn) {
         places.push_back(form->label(name).place());
@@ -448,7 +451,7 @@ TEST_F(KonvertForm, ShowsTheSamePictureEveryTimeItIsAsked) {
     openHelpWithSolution();
     EXPECT_EQ(drawnOn("Picture3"), once);
     // The example is drawn over itself.
-    const std::vector<Drawn> example = drawnOn("Picture4");
+    const std::vector<Stroke> example = drawnOn("Picture4");
     ASSERT_EQ(example.size(), 8U);
     EXPECT_TRUE(std::equal(example.begin(), example.begin() + 4, example.begin() + 4));
     for (std::size_t i = 0; i < places.size(); ++i) {
@@ -459,7 +462,7 @@ TEST_F(KonvertForm, ShowsTheSamePictureEveryTimeItIsAsked) {
 TEST_F(KonvertForm, WorksOutAWholeFactorAlikeAfterAFraction) {
     open(-3, 5, 4);
     openHelpWithSolution();
-    const std::vector<Drawn> once = drawnOn("Picture3");
+    const std::vector<Stroke> once = drawnOn("Picture3");
     next(1, 1, 3, 8);
     openHelpWithSolution();
     next(-3, 5, 4);
@@ -491,8 +494,7 @@ TEST_F(KonvertForm, JudgesByTheRoundedSolutionOnceItWasShown) {
     openHelpWithSolution();
     answer("-0.193", "1.25");
     EXPECT_TRUE(form->isShown("Label10"));
-    EXPECT_EQ(drawnOn("Picture2")[1],
-              (Drawn{0, 13.75F, 20, static_cast<float>(15 - (20 * -0.188 + 1.25)), kGreen}));
+    EXPECT_EQ(drawnOn("Picture2")[1], kGraph.line(0, 13.75F, 20, 15 - (20 * -0.188 + 1.25), kLightGreen));
 }
 
 TEST_F(KonvertForm, ClosesItsHelpWithARightAnswerAndKeepsTheTaskAway) {
@@ -534,7 +536,7 @@ TEST_F(KonvertForm, ForgetsEverythingWithTheNextExercise) {
     EXPECT_EQ(colour("Text1"), kWhite);
     EXPECT_TRUE(drawnOn("Picture3").empty());
     f.click("Hjaelp");
-    EXPECT_EQ(drawnOn("Picture3"), (std::vector<Drawn>{kExampleSlopeBar, kExampleConstantBar}));
+    EXPECT_EQ(drawnOn("Picture3"), exampleBars());
 }
 
 TEST_F(KonvertForm, HasRoomForTheLongestNumbers) {

@@ -4,51 +4,37 @@
 
 #include "graph/graph_box.h"
 #include "support/decimal_mark.h"
+#include "support/fixed_texts.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/scripted_draws.h"
+#include "support/strokes.h"
+#include "topics/basics/lininter_script.h"
 
 namespace tavrune {
 namespace {
 
-using test::cellOf;
 using test::DecimalMark;
 using test::FormDriver;
 using test::ScriptedDraws;
+using test::lininter::Direction;
+using test::lininter::GivenP;
+using test::lininter::GivenQ;
 
-enum Direction { GivenQ, GivenP };
-
-const QColor kBlue(0, 0, 255);
-const QColor kGreen(0, 130, 0);
-const GraphScale kScale{-7, 16.5, 15, -5};
+constexpr test::StrokesIn kGraph{{-7, 16.5, 15, -5}};
 // Two axes, 22 ticks on each of them, and two crosses of two strokes.
 constexpr std::size_t kStrokesOfTask = 50;
 
-Stroke line(double x1, double y1, double x2, double y2, const QColor& colour) {
-    return {Stroke::Kind::Line,
-            static_cast<float>(x1),
-            static_cast<float>(y1),
-            static_cast<float>(x2),
-            static_cast<float>(y2),
-            colour,
-            LineStyle::Solid,
-            1,
-            kScale};
-}
-
-Stroke dot(double x, double y) {
-    Stroke stroke = line(x, y, x, y, kBlack);
-    stroke.kind = Stroke::Kind::Point;
-    return stroke;
+/// True if both ends lie within the scale.
+bool isInside(const Stroke& s) {
+    const auto isBetween = [](float least, float x, float most) { return least <= x && x <= most; };
+    return isBetween(-7, s.x1, 15) && isBetween(-7, s.x2, 15) && isBetween(-5, s.y1, 16.5F) &&
+           isBetween(-5, s.y2, 16.5F);
 }
 
 class LininterForm : public testing::Test {
 protected:
     void script(int qa, int pa, int qb, int pb, Direction direction, int given) {
-        for (const int value : {qa, pa, qb, pb}) {
-            draws.append({cellOf(value - 1, 10)});
-        }
-        draws.append({direction == GivenQ ? 0.25F : 0.75F, cellOf(given - 1, 8)});
+        draws.append(test::lininter::script(qa, pa, qb, pb, direction, given));
     }
 
     FormDriver& open(int qa, int pa, int qb, int pb, Direction direction, int given) {
@@ -77,8 +63,7 @@ protected:
 
     /// What was drawn after the task.
     [[nodiscard]] std::vector<Stroke> drawnLater() const {
-        const std::vector<Stroke>& all = graph().strokes();
-        return {all.begin() + kStrokesOfTask, all.end()};
+        return test::strokesFrom(graph(), kStrokesOfTask);
     }
 
     ScriptedDraws draws;
@@ -99,18 +84,67 @@ TEST_F(LininterForm, IsBlankUntilItsFirstTick) {
     EXPECT_FALSE(unshown.button("Command12").isEnabled());
 }
 
+constexpr test::FixedText kFixedTexts[]{
+    {"Label32", "Givet følgende to punkter:"},
+    {"Label33", "Givet:"},
+    {"Label34", "Bestem:"},
+    {"Label35", "Så det nye punkt (P;Q) ligger på linien gennem A og B."},
+    {"Label14", "="},
+    {"Label17", "="},
+    {"Label20", "5"},
+    {"Label21", "10"},
+    {"Label22", "0"},
+    {"Label23", "5"},
+    {"Label24", "10"},
+    {"Label25", "15"},
+    {"Label26", "A"},
+    {"Label27", "B"},
+    {"Label28", "P"},
+    {"Label29", "Q"},
+    {"Command3", "&Ny opgave"},
+    {"Command1", "&OK"},
+    {"Command2", "&Giv svaret"},
+    {"Command10", "&Hjælp"},
+    {"Label201", "Generel løsning"},
+    {"Label72",
+     "Princippet for lineær interpolation og ekstrapolation er det samme. Vi vil finde den rette linie, "
+     "som går gennem de to givne punkter A og B. Derpå indsætter vi det opgivne Q eller P, og finder "
+     "derpå det manglende koordinat, så det fremkomne punkt ligger på linien."},
+    {"Label73", "Interpolation og ekstrapolation hvor Q-koordinat kendes."},
+    {"Label74", "Interpolation og ekstrapolation hvor P-koordinat kendes."},
+    {"Label75",
+     "Kendes to punkter A og B, findes ændringen i P-værdien i forhold til ændringen i Q-værdien ved at "
+     "gå fra A til B."},
+    {"Label83",
+     "Kendes to punkter A og B, findes ændringen i Q-værdien i forhold til ændringen i P-værdien ved at "
+     "gå fra A til B."},
+    {"Label80", "Givet et nyt punkts Q-værdi kan punktets P-værdi nu findes."},
+    {"Label88", "Givet et nyt punkts P-værdi kan punktets Q-værdi nu findes."},
+    {"Label76", "Pb - Pa"},
+    {"Label77", "Qb - Qa"},
+    {"Label79", "α"},
+    {"Label84", "Qb - Qa"},
+    {"Label85", "Pb - Pa"},
+    {"Label87", "ω"},
+    {"Label81", "P = Pa - ( Qa - Q )·"},
+    {"Label82", "α"},
+    {"Label89", "Q = Qa - ( Pa - P )·"},
+    {"Label90", "ω"},
+    {"Label31", "Aktuel løsning"},
+    {"Label78", "="},
+    {"Label86", "="},
+    {"Command11", "Vis"},
+    {"Command12", "Vis"},
+    {"Command13", "&Luk"},
+};
+
 TEST_F(LininterForm, BearsItsFixedTexts) {
     const FormDriver& f = openQAbove();
-    EXPECT_EQ(f.caption("Label32"), "Givet følgende to punkter:");
-    EXPECT_EQ(f.caption("Label33"), "Givet:");
-    EXPECT_EQ(f.caption("Label34"), "Bestem:");
-    EXPECT_EQ(f.caption("Label35"), "Så det nye punkt (P;Q) ligger på linien gennem A og B.");
-    const std::pair<const char*, const char*> onGraph[]{
-        {"Label20", "5"},  {"Label21", "10"}, {"Label22", "0"}, {"Label23", "5"}, {"Label24", "10"},
-        {"Label25", "15"}, {"Label26", "A"},  {"Label27", "B"}, {"Label28", "P"}, {"Label29", "Q"}};
-    for (const auto& [name, caption] : onGraph) {
-        EXPECT_EQ(f.caption(name), caption) << name;
-        EXPECT_EQ(f.label(name).parentWidget(), &graph()) << name;
+    f.click("Command10");
+    test::expectTexts(f, kFixedTexts);
+    for (const char* onGraph : {"Label20", "Label21", "Label22", "Label23", "Label24", "Label25", "Label26",
+                                "Label27", "Label28", "Label29"}) {
+        EXPECT_EQ(f.label(onGraph).parentWidget(), &graph()) << onGraph;
     }
 }
 
@@ -137,17 +171,17 @@ TEST_F(LininterForm, GivesPAndAsksForQ) {
 
 TEST_F(LininterForm, DrawsAxesThenTicksThenACrossForEachPoint) {
     openQAbove();
-    std::vector<Stroke> expected{line(0, 16.5, 0, -5, kBlack), line(-7, 0, 15, 0, kBlack)};
+    std::vector<Stroke> expected{kGraph.line(0, 16.5, 0, -5, kBlack), kGraph.line(-7, 0, 15, 0, kBlack)};
     for (int x = -7; x <= 14; ++x) {
-        expected.push_back(dot(x, 0.1));
+        expected.push_back(kGraph.point(x, 0.1));
     }
     for (int y = -5; y <= 16; ++y) {
-        expected.push_back(dot(0.1, y));
+        expected.push_back(kGraph.point(0.1, y));
     }
-    expected.push_back(line(0.65, 2, 1.35, 2, kBlue));
-    expected.push_back(line(1, 1.65, 1, 2.35, kBlue));
-    expected.push_back(line(2.65, 6, 3.35, 6, kBlue));
-    expected.push_back(line(3, 5.65, 3, 6.35, kBlue));
+    expected.push_back(kGraph.line(0.65, 2, 1.35, 2, kBlue));
+    expected.push_back(kGraph.line(1, 1.65, 1, 2.35, kBlue));
+    expected.push_back(kGraph.line(2.65, 6, 3.35, 6, kBlue));
+    expected.push_back(kGraph.line(3, 5.65, 3, 6.35, kBlue));
     ASSERT_EQ(expected.size(), kStrokesOfTask);
     EXPECT_EQ(graph().strokes(), expected);
 }
@@ -170,7 +204,7 @@ TEST_F(LininterForm, ClearsTheGraphWithEachExercise) {
     script(9, 4, 10, 6, GivenQ, 1);
     f.click("Command3");
     EXPECT_EQ(graph().strokes().size(), kStrokesOfTask);
-    EXPECT_EQ(graph().scale(), kScale);
+    EXPECT_EQ(graph().scale(), kGraph.scale);
     EXPECT_NEAR(graph().leftOf(f.label("Label26")), 9, 1e-6);
 }
 
@@ -250,9 +284,10 @@ TEST_F(LininterForm, DrawsLineGuidesAndHeadsForQGivenAndATargetAbove) {
     openQAbove();
     answer("8");
     const std::vector<Stroke> expected{
-        line(-7, -14, 15, 30, kBlue),   line(4, 0, 4, 8, kGreen),       line(0, 8, 4, 8, kGreen),
-        line(4, 8, 3.65, 7.65, kGreen), line(4, 8, 4.35, 7.65, kGreen), line(0, 8, 0.35, 8.35, kGreen),
-        line(0, 8, 0.35, 7.65, kGreen),
+        kGraph.line(-7, -14, 15, 30, kBlue),   kGraph.line(4, 0, 4, 8, kGreen),
+        kGraph.line(0, 8, 4, 8, kGreen),       kGraph.line(4, 8, 3.65, 7.65, kGreen),
+        kGraph.line(4, 8, 4.35, 7.65, kGreen), kGraph.line(0, 8, 0.35, 8.35, kGreen),
+        kGraph.line(0, 8, 0.35, 7.65, kGreen),
     };
     EXPECT_EQ(drawnLater(), expected);
 }
@@ -261,10 +296,10 @@ TEST_F(LininterForm, DrawsTheHeadAstrayWhereATargetBelowIsJudged) {
     openQBelow();
     answer("-12");
     const std::vector<Stroke> expected{
-        line(-7, -28, 15, 16, kBlue),           line(1, 0, 1, -12, kGreen),
-        line(0, -12, 1, -12, kGreen),           line(-12, -38, -12.35, -37.65, kGreen),
-        line(-12, -38, -11.65, -37.65, kGreen), line(0, -12, 0.35, -11.65, kGreen),
-        line(0, -12, 0.35, -12.35, kGreen),
+        kGraph.line(-7, -28, 15, 16, kBlue),           kGraph.line(1, 0, 1, -12, kGreen),
+        kGraph.line(0, -12, 1, -12, kGreen),           kGraph.line(-12, -38, -12.35, -37.65, kGreen),
+        kGraph.line(-12, -38, -11.65, -37.65, kGreen), kGraph.line(0, -12, 0.35, -11.65, kGreen),
+        kGraph.line(0, -12, 0.35, -12.35, kGreen),
     };
     EXPECT_EQ(drawnLater(), expected);
 }
@@ -273,11 +308,11 @@ TEST_F(LininterForm, DrawsTheProperHeadWhereATargetBelowIsGiven) {
     openQBelow();
     giveAfter("3");
     const std::vector<Stroke> expected{
-        line(-7, -28, 15, 16, kBlue),       line(1, 0, 1, -12, kGreen),
-        line(0, -12, 1, -12, kGreen),       line(0.65, 3, 1.35, 3, kRed),
-        line(1, 2.65, 1, 3.35, kRed),       line(1, -12, 0.65, -11.65, kGreen),
-        line(1, -12, 1.35, -11.65, kGreen), line(0, -12, 0.35, -11.65, kGreen),
-        line(0, -12, 0.35, -12.35, kGreen),
+        kGraph.line(-7, -28, 15, 16, kBlue),       kGraph.line(1, 0, 1, -12, kGreen),
+        kGraph.line(0, -12, 1, -12, kGreen),       kGraph.line(0.65, 3, 1.35, 3, kRed),
+        kGraph.line(1, 2.65, 1, 3.35, kRed),       kGraph.line(1, -12, 0.65, -11.65, kGreen),
+        kGraph.line(1, -12, 1.35, -11.65, kGreen), kGraph.line(0, -12, 0.35, -11.65, kGreen),
+        kGraph.line(0, -12, 0.35, -12.35, kGreen),
     };
     EXPECT_EQ(drawnLater(), expected);
 }
@@ -286,9 +321,10 @@ TEST_F(LininterForm, DrawsLineGuidesAndHeadsForPGivenAndATargetAbove) {
     openPAbove();
     answer("2.5");
     const std::vector<Stroke> expected{
-        line(-7, -14, 15, 30, kBlue),     line(0, 5, 2.5, 5, kGreen),       line(2.5, 0, 2.5, 5, kGreen),
-        line(2.5, 5, 2.15, 5.35, kGreen), line(2.5, 5, 2.15, 4.65, kGreen), line(2.5, 0, 2.15, 0.35, kGreen),
-        line(2.5, 0, 2.85, 0.35, kGreen),
+        kGraph.line(-7, -14, 15, 30, kBlue),     kGraph.line(0, 5, 2.5, 5, kGreen),
+        kGraph.line(2.5, 0, 2.5, 5, kGreen),     kGraph.line(2.5, 5, 2.15, 5.35, kGreen),
+        kGraph.line(2.5, 5, 2.15, 4.65, kGreen), kGraph.line(2.5, 0, 2.15, 0.35, kGreen),
+        kGraph.line(2.5, 0, 2.85, 0.35, kGreen),
     };
     EXPECT_EQ(drawnLater(), expected);
 }
@@ -297,11 +333,66 @@ TEST_F(LininterForm, DrawsLineGuidesCrossAndHeadsForPGivenAndATargetBelow) {
     openPBelow();
     giveAfter("4");
     const std::vector<Stroke> expected{
-        line(-7, 1.5, 15, 12.5, kBlue),   line(0, 1, -8, 1, kGreen),        line(-8, 0, -8, 1, kGreen),
-        line(3.65, 1, 4.35, 1, kRed),     line(4, 0.65, 4, 1.35, kRed),     line(-8, 1, -7.65, 1.35, kGreen),
-        line(-8, 1, -7.65, 0.65, kGreen), line(-8, 0, -8.35, 0.35, kGreen), line(-8, 0, -7.65, 0.35, kGreen),
+        kGraph.line(-7, 1.5, 15, 12.5, kBlue),   kGraph.line(0, 1, -8, 1, kGreen),
+        kGraph.line(-8, 0, -8, 1, kGreen),       kGraph.line(3.65, 1, 4.35, 1, kRed),
+        kGraph.line(4, 0.65, 4, 1.35, kRed),     kGraph.line(-8, 1, -7.65, 1.35, kGreen),
+        kGraph.line(-8, 1, -7.65, 0.65, kGreen), kGraph.line(-8, 0, -8.35, 0.35, kGreen),
+        kGraph.line(-8, 0, -7.65, 0.35, kGreen),
     };
     EXPECT_EQ(drawnLater(), expected);
+}
+
+TEST_F(LininterForm, DrawsTheHeadAstrayOnTheBoxWhereTheLineIsSeenThere) {
+    // P = Q/2 - 3: P is -1 at Q = 4; the line's value at -1 is -3.5.
+    open(8, 1, 10, 2, GivenQ, 4);
+    answer("-1");
+    const std::vector<Stroke> heads = test::strokesFrom(graph(), kStrokesOfTask + 3);
+    const std::vector<Stroke> expected{
+        kGraph.line(-1, -3.5, -1.35, -3.15, kGreen),
+        kGraph.line(-1, -3.5, -0.65, -3.15, kGreen),
+        kGraph.line(0, -1, 0.35, -0.65, kGreen),
+        kGraph.line(0, -1, 0.35, -1.35, kGreen),
+    };
+    EXPECT_EQ(heads, expected);
+    for (const Stroke& stroke : heads) {
+        EXPECT_TRUE(isInside(stroke));
+    }
+}
+
+TEST_F(LininterForm, StandsATargetJustBelowSixteenInsideTheBox) {
+    open(1, 2, 4, 9, GivenQ, 7);
+    answer("15.999");
+    EXPECT_TRUE(form->isShown("Label19"));
+    const std::vector<Stroke> guidesAndHeads = test::strokesFrom(graph(), kStrokesOfTask + 1);
+    ASSERT_EQ(guidesAndHeads.size(), 6U);
+    EXPECT_EQ(guidesAndHeads.front(), kGraph.line(7, 0, 7, 15.999999F, kGreen));
+    for (const Stroke& stroke : guidesAndHeads) {
+        EXPECT_TRUE(isInside(stroke));
+    }
+}
+
+TEST_F(LininterForm, DrawsEverythingByTheLineWhereSinglesPutItBesideTheGivenP) {
+    // P = 2Q/3 + 1/3: 6 is met at 8.5, and the line's value there is not quite 6.
+    constexpr float kQ = 8.499999F;
+    constexpr float kP = 5.9999995F;
+    open(1, 1, 4, 3, GivenP, 6);
+    answer("8.5");
+    const float slope = 2.0F / 3;
+    const float intercept = -slope + 1;
+    const Stroke through = kGraph.line(-7, slope * -7 + intercept, 15, slope * 15 + intercept, kBlue);
+    const std::vector<Stroke> guides{kGraph.line(0, 6, kQ, kP, kGreen), kGraph.line(kQ, 0, kQ, kP, kGreen)};
+    const std::vector<Stroke> heads{
+        kGraph.line(kQ, 6, kQ - 0.35, kP + 0.35, kGreen), kGraph.line(kQ, 6, kQ - 0.35, kP - 0.35, kGreen),
+        kGraph.line(kQ, 0, kQ - 0.35, 0.35, kGreen), kGraph.line(kQ, 0, kQ + 0.35, 0.35, kGreen)};
+    EXPECT_EQ(drawnLater(),
+              (std::vector<Stroke>{through, guides[0], guides[1], heads[0], heads[1], heads[2], heads[3]}));
+    open(1, 1, 4, 3, GivenP, 6);
+    giveAfter("2");
+    EXPECT_EQ(form->box("Text1").content(), "8.5");
+    EXPECT_EQ(
+        drawnLater(),
+        (std::vector<Stroke>{through, guides[0], guides[1], kGraph.line(1.65, 6, 2.35, 6, kRed),
+                             kGraph.line(2, 5.65, 2, 6.35, kRed), heads[0], heads[1], heads[2], heads[3]}));
 }
 
 TEST_F(LininterForm, CrossesAtZeroWhereNothingWasTyped) {
@@ -309,8 +400,8 @@ TEST_F(LininterForm, CrossesAtZeroWhereNothingWasTyped) {
     giveAfter("");
     const std::vector<Stroke> later = drawnLater();
     ASSERT_EQ(later.size(), 9U);
-    EXPECT_EQ(later[3], line(3.65, 0, 4.35, 0, kRed));
-    EXPECT_EQ(later[4], line(4, -0.35, 4, 0.35, kRed));
+    EXPECT_EQ(later[3], kGraph.line(3.65, 0, 4.35, 0, kRed));
+    EXPECT_EQ(later[4], kGraph.line(4, -0.35, 4, 0.35, kRed));
 }
 
 TEST_F(LininterForm, GivesTheAnswerInTheLocaleAndCrossesAtWhatWasTypedBefore) {
@@ -318,7 +409,7 @@ TEST_F(LininterForm, GivesTheAnswerInTheLocaleAndCrossesAtWhatWasTypedBefore) {
     const FormDriver& f = open(1, 2, 4, 7, GivenQ, 8);  // 13.666...
     giveAfter("13,6");
     EXPECT_EQ(f.box("Text1").content(), "13,67");
-    EXPECT_EQ(drawnLater()[3], line(7.65, 13.6, 8.35, 13.6, kRed));
+    EXPECT_EQ(drawnLater()[3], kGraph.line(7.65, 13.6, 8.35, 13.6, kRed));
     EXPECT_FALSE(f.isShown("Command1"));
     EXPECT_FALSE(f.isShown("Command2"));
     EXPECT_FALSE(f.isShown("Label18"));
@@ -345,35 +436,6 @@ TEST_F(LininterForm, ExplainsBothDirections) {
     f.click("Command10");
     EXPECT_TRUE(f.isShown("Picture2"));
     EXPECT_TRUE(f.isShown("Picture3"));
-    const std::pair<const char*, const char*> texts[]{
-        {"Label72",
-         "Princippet for lineær interpolation og ekstrapolation er det samme. Vi vil finde den rette linie, "
-         "som går gennem de to givne punkter A og B. Derpå indsætter vi det opgivne Q eller P, og finder "
-         "derpå det manglende koordinat, så det fremkomne punkt ligger på linien."},
-        {"Label73", "Interpolation og ekstrapolation hvor Q-koordinat kendes."},
-        {"Label74", "Interpolation og ekstrapolation hvor P-koordinat kendes."},
-        {"Label75",
-         "Kendes to punkter A og B, findes ændringen i P-værdien i forhold til ændringen i Q-værdien ved at "
-         "gå fra A til B."},
-        {"Label83",
-         "Kendes to punkter A og B, findes ændringen i Q-værdien i forhold til ændringen i P-værdien ved at "
-         "gå fra A til B."},
-        {"Label80", "Givet et nyt punkts Q-værdi kan punktets P-værdi nu findes."},
-        {"Label88", "Givet et nyt punkts P-værdi kan punktets Q-værdi nu findes."},
-        {"Label76", "Pb - Pa"},
-        {"Label77", "Qb - Qa"},
-        {"Label79", "α"},
-        {"Label84", "Qb - Qa"},
-        {"Label85", "Pb - Pa"},
-        {"Label87", "ω"},
-        {"Label81", "P = Pa - ( Qa - Q )·"},
-        {"Label82", "α"},
-        {"Label89", "Q = Qa - ( Pa - P )·"},
-        {"Label90", "ω"},
-        {"Label31", "Aktuel løsning"}};
-    for (const auto& [name, text] : texts) {
-        EXPECT_EQ(f.caption(name), text) << name;
-    }
 }
 
 TEST_F(LininterForm, OpensOnlyTheSolutionOfItsDirection) {

@@ -10,38 +10,26 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
-#include "support/scripted_draws.h"
+#include "topics/basics/tomto_script.h"
 
 namespace tavrune {
 namespace {
 
-using test::cellOf;
+using test::Script;
 using test::ScriptedDraws;
-
-enum Kind { Explicit = 0, Implicit = 1 };
+using test::operator+;
+using test::tomto::Coefficients;
+using test::tomto::Explicit;
+using test::tomto::Implicit;
+using test::tomto::Kind;
+using test::tomto::script;
 
 using Generator = void (*)(TomtoState&, Draws&);
-
-/// The coefficients in the order in which they are drawn.
-struct Coefficients {
-    int a1, c1, b1, a2, c2, b2;
-};
-
-std::vector<float> scriptOf(const Coefficients& k, Kind kind) {
-    const auto coefficient = [](int value) { return cellOf(value + 10, 20); };
-    return {coefficient(k.a1), coefficient(k.c1), coefficient(k.b1), coefficient(k.a2),
-            coefficient(k.c2), coefficient(k.b2), cellOf(kind, 2)};
-}
-
-std::vector<float> operator+(std::vector<float> one, const std::vector<float>& other) {
-    one.insert(one.end(), other.begin(), other.end());
-    return one;
-}
 
 /// Draws one exercise on top of `state`. A try that is rejected asks for more draws than there are and
 /// throws.
 TomtoState exercise(const Coefficients& k, Kind kind, TomtoState state = {}, Generator make = newExercise) {
-    ScriptedDraws draws(scriptOf(k, kind));
+    ScriptedDraws draws(script(k, kind));
     make(state, draws);
     EXPECT_TRUE(draws.isUsedUp());
     return state;
@@ -136,7 +124,7 @@ TEST(TomtoGenerator, SetsQToATruthValueWhereLinesOfTwoTermsDoNotCross) {
 
 /// How many tries the generator makes with these coefficients before a crossing that stands.
 int triesWith(const Coefficients& k, Kind kind, TomtoState state = {}) {
-    ScriptedDraws draws(scriptOf(k, kind) + scriptOf(kCrossing, Explicit));
+    ScriptedDraws draws(script(k, kind) + script(kCrossing, Explicit));
     newExercise(state, draws);
     return draws.randomized();
 }
@@ -147,7 +135,7 @@ TEST(TomtoGenerator, RepeatsParallelLinesOfTwoTermsWhileTheOldPIsZero) {
 }
 
 TEST(TomtoGenerator, RepeatsParallelLinesOfTwoTermsAsTheFirstExercise) {
-    ScriptedDraws draws(scriptOf({4, 1, 3, 4, 2, 8}, Explicit) + scriptOf(kCrossing, Explicit));
+    ScriptedDraws draws(script({4, 1, 3, 4, 2, 8}, Explicit) + script(kCrossing, Explicit));
     TomtoState s;
     firstExercise(s, draws);
     EXPECT_EQ(s.relation, Relation::Crossing);
@@ -182,8 +170,8 @@ TEST(TomtoGenerator, StartsOverWithReseedingUnlessTheCrossingIsInTheFirstQuadran
     const Coefficients negativeP{-1, 1, 2, -2, 1, 5};   // (3; -1)
     const Coefficients onTheAxis{1, 1, 3, -1, 1, 3};    // (0; 3)
     const Coefficients onTheOther{1, 1, -3, -1, 1, 3};  // (3; 0)
-    ScriptedDraws draws(scriptOf(negativeQ, Explicit) + scriptOf(negativeP, Explicit) +
-                        scriptOf(kCrossing, Explicit));
+    ScriptedDraws draws(script(negativeQ, Explicit) + script(negativeP, Explicit) +
+                        script(kCrossing, Explicit));
     TomtoState s;
     newExercise(s, draws);
     EXPECT_EQ(s.solutionQ, 2.6);
@@ -196,16 +184,16 @@ TEST(TomtoGenerator, StartsOverWithReseedingUnlessTheCrossingIsInTheFirstQuadran
 TEST(TomtoGenerator, KeepsTheSolutionOfARejectedTry) {
     const Coefficients parallel{2, 3, 4, 4, 6, 5};
     // (-1; 4) stays behind: no lines of three terms that do not cross can stand until a crossing follows.
-    ScriptedDraws draws(scriptOf({1, 1, 5, 2, 1, 6}, Explicit) + scriptOf(parallel, Implicit) +
-                        scriptOf(parallel, Implicit) + scriptOf(kCrossing, Explicit));
+    ScriptedDraws draws(script({1, 1, 5, 2, 1, 6}, Explicit) + script(parallel, Implicit) +
+                        script(parallel, Implicit) + script(kCrossing, Explicit));
     TomtoState s = after(1, 1);
     newExercise(s, draws);
     EXPECT_TRUE(draws.isUsedUp());
     EXPECT_EQ(s.relation, Relation::Crossing);
 
     // The truth value stays behind too.
-    ScriptedDraws more(scriptOf({4, 1, 3, 4, 2, 8}, Explicit) + scriptOf(parallel, Implicit) +
-                       scriptOf(kCrossing, Explicit));
+    ScriptedDraws more(script({4, 1, 3, 4, 2, 8}, Explicit) + script(parallel, Implicit) +
+                       script(kCrossing, Explicit));
     s = after(1, 0);
     newExercise(s, more);
     EXPECT_TRUE(more.isUsedUp());
@@ -213,8 +201,8 @@ TEST(TomtoGenerator, KeepsTheSolutionOfARejectedTry) {
 
 TEST(TomtoGenerator, LetsALeftNegativePForceANewDraw) {
     // (3; -1) stays behind: Q becomes 0, P is still negative.
-    ScriptedDraws draws(scriptOf({-1, 1, 2, -2, 1, 5}, Explicit) + scriptOf({4, 1, 3, 4, 2, 8}, Explicit) +
-                        scriptOf(kCrossing, Explicit));
+    ScriptedDraws draws(script({-1, 1, 2, -2, 1, 5}, Explicit) + script({4, 1, 3, 4, 2, 8}, Explicit) +
+                        script(kCrossing, Explicit));
     TomtoState s;
     newExercise(s, draws);
     EXPECT_TRUE(draws.isUsedUp());
@@ -232,6 +220,13 @@ TEST(TomtoRounding, TakesHalvesUp) {
     const TomtoState s = exercise({-7, 1, 9, 9, 1, 7}, Explicit);
     EXPECT_EQ(s.solutionQ, 0.13);
     EXPECT_EQ(s.solutionP, 8.13);
+}
+
+TEST(TomtoRounding, TakesSomeHalvesDownInQByItsExtraStep) {
+    // -4Q + 5 and 4Q - 4: Q = 9/8.
+    EXPECT_EQ(exercise({-4, 1, 5, 4, 1, -4}, Explicit).solutionQ, 1.12);
+    // -10Q + 8 and 6Q - 3: P = 18/16, the same half.
+    EXPECT_EQ(exercise({-10, 1, 8, 6, 1, -3}, Explicit).solutionP, 1.13);
 }
 
 TEST(TomtoTexts, LeaveNothingBetweenSignAndNumberOfASlope) {
@@ -374,11 +369,19 @@ WholeLine wholeLine(const TomtoState& s, float c, float a, float b) {
             sign * static_cast<int>(b)};
 }
 
-/// True if `rounded` has 2 decimals and is nearest to n/m; at a half, either neighbour is.
-bool isRoundedQuotient(double rounded, int n, int m) {
-    const double hundredths = rounded * 100;
-    return std::abs(hundredths - std::round(hundredths)) < 1e-6 &&
-           std::abs(rounded - static_cast<double>(n) / m) <= 0.005 + 1e-6;
+/// How a half is settled: the whole hundredths of a quotient that is stored as a single.
+using Halves = double (*)(double);
+double halvesOfQ(double x) { return std::floor((x + 0.005) * 100); }
+double halvesOfP(double x) { return std::floor(x * 100 + 0.5); }
+
+/// True if `rounded` is n/m to 2 decimals: the nearest by whole numbers, and at a half the one that the
+/// doubles of this coordinate give.
+bool isRoundedQuotient(double rounded, int n, int m, Halves halves) {
+    const int by = 2 * std::abs(m);
+    const int dividend = 200 * (m < 0 ? -n : n) + std::abs(m);
+    const int rest = (dividend % by + by) % by;
+    const double single = static_cast<float>(n) / static_cast<float>(m);
+    return rounded == (rest == 0 ? halves(single) : (dividend - rest) / by) / 100;
 }
 
 /// All that holds for every exercise that stands, by a second way of solving it: Cramer's rule in whole
@@ -396,8 +399,8 @@ bool holds(const TomtoState& s) {
         sound = sound && isRight(s, other, q, p) == (other == s.relation);
     }
     if (d != 0) {
-        sound = sound && isRoundedQuotient(q, m.c * l.b - l.c * m.b, d) &&
-                isRoundedQuotient(p, l.a * m.b - m.a * l.b, d) &&
+        sound = sound && isRoundedQuotient(q, m.c * l.b - l.c * m.b, d, halvesOfQ) &&
+                isRoundedQuotient(p, l.a * m.b - m.a * l.b, d, halvesOfP) &&
                 !isRight(s, Relation::Crossing, q + 0.01, p) && !isRight(s, Relation::Crossing, q, p - 0.01);
     } else if (s.formKind == Explicit) {
         sound = sound && (s.relation == Relation::Coinciding) == (s.b1 == s.b2);
@@ -432,8 +435,8 @@ TEST(TomtoSpace, HoldsForAllPairsOfLinesOfTwoTerms) {
                     const int d = slope2 - slope1;
                     if (d != 0 && (dividend * d < 0 || heights * d < 0)) {
                         ++rejected;
-                        ScriptedDraws draws(scriptOf({a1, 1, b1, a2, 1, b2}, Explicit) +
-                                            scriptOf(kCrossing, Explicit));
+                        ScriptedDraws draws(script({a1, 1, b1, a2, 1, b2}, Explicit) +
+                                            script(kCrossing, Explicit));
                         TomtoState s;
                         newExercise(s, draws);
                         ASSERT_TRUE(draws.isUsedUp()) << a1 << " " << b1 << " " << a2 << " " << b2;
