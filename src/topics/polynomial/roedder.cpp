@@ -10,7 +10,6 @@
 namespace tavrune {
 namespace {
 
-const QColor kGreen(0, 130, 0);
 constexpr int kEnd = 15;
 constexpr double kHalfTick = 0.5;
 

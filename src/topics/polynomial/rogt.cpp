@@ -9,7 +9,6 @@
 namespace tavrune {
 namespace {
 
-const QColor kGreen(0, 130, 0);
 constexpr double kHalfTick = 0.5;
 
 }  // namespace
