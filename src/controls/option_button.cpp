@@ -42,14 +42,40 @@ bool OptionButton::event(QEvent* event) {
 }
 
 void OptionButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        event->accept();
-        if (!event->isAutoRepeat()) {
-            click();
-        }
-        return;
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            event->accept();
+            if (!event->isAutoRepeat()) {
+                click();
+            }
+            return;
+        case Qt::Key_Up:
+        case Qt::Key_Left:
+            chooseNeighbour(-1);
+            return;
+        case Qt::Key_Down:
+        case Qt::Key_Right:
+            chooseNeighbour(1);
+            return;
+        default:
+            QRadioButton::keyPressEvent(event);
     }
-    QRadioButton::keyPressEvent(event);
+}
+
+void OptionButton::chooseNeighbour(int step) {
+    const QList<OptionButton*> group =
+        parentWidget()->findChildren<OptionButton*>(Qt::FindDirectChildrenOnly);
+    const qsizetype count = group.size();
+    for (qsizetype at = group.indexOf(this), left = count - 1; left > 0; --left) {
+        at = (at + step + count) % count;
+        if (group[at]->isVisible() && group[at]->isEnabled()) {
+            // The focus comes first: what the click runs may move it on.
+            group[at]->setFocus(Qt::TabFocusReason);
+            group[at]->click();
+            return;
+        }
+    }
 }
 
 }  // namespace tavrune

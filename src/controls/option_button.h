@@ -29,6 +29,10 @@ public:
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    /// By the arrow keys: the option before or after this one, round the group, with all that a click runs.
+    void chooseNeighbour(int step);
 };
 
 }  // namespace tavrune

@@ -1,3 +1,5 @@
+#include <array>
+
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -183,6 +185,32 @@ TEST(OptionButton, CanBeUncheckedWithTheWholeGroup) {
     other.setChosen(false);
     EXPECT_FALSE(one.isChosen());
     EXPECT_FALSE(other.isChosen());
+}
+
+TEST(OptionButton, ChoosesItsNeighboursByTheArrowKeys) {
+    QWidget group;
+    std::array<OptionButton, 3> options;
+    AnswerBox box(&group);
+    for (OptionButton& option : options) {
+        option.setParent(&group);
+    }
+    // What a click runs may move the focus on.
+    QObject::connect(&options[1], &OptionButton::clicked, &box, [&box] { focusOn(&box); });
+    group.show();
+    options[0].setFocus();
+    QTest::keyClick(&options[0], Qt::Key_Down);
+    EXPECT_TRUE(options[1].isChosen());
+    EXPECT_EQ(group.focusWidget(), &box);
+    QTest::keyClick(&options[1], Qt::Key_Right);
+    EXPECT_TRUE(options[2].isChosen());
+    EXPECT_EQ(group.focusWidget(), &options[2]);
+    QTest::keyClick(&options[2], Qt::Key_Down);
+    EXPECT_TRUE(options[0].isChosen());
+    QTest::keyClick(&options[0], Qt::Key_Left);
+    EXPECT_TRUE(options[2].isChosen());
+    options[1].setEnabled(false);
+    QTest::keyClick(&options[2], Qt::Key_Up);
+    EXPECT_TRUE(options[0].isChosen());
 }
 
 TEST(OptionButton, RunsItsClickOnlyWhenClicked) {
