@@ -50,6 +50,7 @@ public:
         const Mapping map(stroke.scale, pixels_);
         const int thickness = std::max(1, static_cast<int>(std::lround(stroke.width * pixelsToAUnit_)));
         if (stroke.kind == Stroke::Kind::Point) {
+            endCurve();
             paintPoint(map(stroke.x1, stroke.y1), thickness, stroke.colour);
             return;
         }
@@ -61,10 +62,25 @@ public:
         }
     }
 
+    /// Paints what is still held back of a curve.
+    void endCurve() {
+        if (curve_.size() < 2) {
+            return;
+        }
+        painter_.setPen(curvePen_);
+        painter_.setRenderHint(QPainter::Antialiasing, true);
+        painter_.drawPolyline(curve_);
+        painter_.setRenderHint(QPainter::Antialiasing, false);
+        curve_.clear();
+    }
+
 private:
     QPainter& painter_;
     QSizeF pixels_;
     double pixelsToAUnit_;
+    // The pieces of a curve are painted in one go, without a seam at each of their many ends.
+    QPolygonF curve_;
+    QPen curvePen_;
 
     void paintPoint(QPointF at, int thickness, const QColor& colour) {
         const QRectF near =
@@ -77,17 +93,22 @@ private:
     }
 
     void paintLine(const QLineF& line, const Stroke& stroke, int thickness) {
-        const bool isLevel = std::abs(line.dy()) < 0.5;
-        const bool isUpright = std::abs(line.dx()) < 0.5;
-        QPen pen(stroke.colour, thickness, stroke.style == LineStyle::Dotted ? Qt::DotLine : Qt::SolidLine,
-                 Qt::FlatCap);
-        painter_.setPen(pen);
+        const bool isLevel = stroke.y1 == stroke.y2;
+        const bool isUpright = stroke.x1 == stroke.x2;
+        const QPen pen(stroke.colour, thickness,
+                       stroke.style == LineStyle::Dotted ? Qt::DotLine : Qt::SolidLine, Qt::FlatCap,
+                       Qt::RoundJoin);
         if (!isLevel && !isUpright) {
-            painter_.setRenderHint(QPainter::Antialiasing, true);
-            painter_.drawLine(line);
-            painter_.setRenderHint(QPainter::Antialiasing, false);
+            if (curve_.isEmpty() || curve_.last() != line.p1() || curvePen_ != pen) {
+                endCurve();
+                curve_ << line.p1();
+                curvePen_ = pen;
+            }
+            curve_ << line.p2();
             return;
         }
+        endCurve();
+        painter_.setPen(pen);
         // What runs along the axes fills whole pixels.
         const auto middle = [thickness](int first) { return first + thickness / 2.0; };
         if (isLevel) {
@@ -229,6 +250,7 @@ void GraphBox::renewPicture() {
     for (; painted_ < strokes_.size(); ++painted_) {
         strokePainter.paint(strokes_[painted_]);
     }
+    strokePainter.endCurve();
 }
 
 void GraphBox::paintEvent(QPaintEvent* /*event*/) {

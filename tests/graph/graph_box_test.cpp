@@ -128,6 +128,26 @@ TEST_F(Box, PaintsOnlyTheVisiblePartOfALine) {
     EXPECT_EQ(inked(kGreen), 100);
 }
 
+TEST_F(Box, PaintsTheSmallPiecesOfACurveAsOneSmoothLine) {
+    // 400 pieces, each a quarter of a pixel wide, look like the one line that they make up.
+    for (int piece = 0; piece < 400; ++piece) {
+        const float x = -10 + 0.05F * static_cast<float>(piece);
+        const float next = -10 + 0.05F * static_cast<float>(piece + 1);
+        box.Line(x, x / 2, next, next / 2, kGreen);
+    }
+    const QImage curve = picture();
+    box.Cls();
+    box.Line(-10, -5, 10, 5, kGreen);
+    const QImage line = picture();
+    int unlike = 0;
+    for (int y = 0; y < line.height(); ++y) {
+        for (int x = 0; x < line.width(); ++x) {
+            unlike += std::abs(curve.pixelColor(x, y).red() - line.pixelColor(x, y).red()) > 64 ? 1 : 0;
+        }
+    }
+    EXPECT_LT(unlike, 10);
+}
+
 TEST_F(Box, PaintsAPointAsWideAsItsPen) {
     box.PSet(2, 2, kGreen);
     EXPECT_EQ(inked(kGreen), 1);
