@@ -10,6 +10,7 @@
 #include "controls/label.h"
 #include "controls/line_control.h"
 #include "controls/option_button.h"
+#include "controls/option_group.h"
 #include "controls/panel.h"
 #include "controls/row.h"
 
@@ -211,6 +212,25 @@ TEST(OptionButton, ChoosesItsNeighboursByTheArrowKeys) {
     options[1].setEnabled(false);
     QTest::keyClick(&options[2], Qt::Key_Up);
     EXPECT_TRUE(options[0].isChosen());
+}
+
+TEST(OptionGroup, KnowsWhatTheChosenOptionStandsFor) {
+    QWidget frame;
+    OptionButton one(&frame);
+    OptionButton other(&frame);
+    const OptionGroup<int> group{{&one, 1}, {&other, 2}};
+    EXPECT_EQ(group.chosen(), std::nullopt);
+    other.click();
+    EXPECT_EQ(group.chosen(), 2);
+    group.choose(1);
+    EXPECT_EQ(group.chosen(), 1);
+    group.chooseNone();
+    EXPECT_EQ(group.chosen(), std::nullopt);
+    group.colour(2, kGreen);
+    EXPECT_EQ(other.backColour(), kGreen);
+    EXPECT_NE(one.backColour(), kGreen);
+    group.resetColours();
+    EXPECT_NE(other.backColour(), kGreen);
 }
 
 TEST(OptionButton, RunsItsClickOnlyWhenClicked) {

@@ -2,7 +2,6 @@
 
 #include "controls/fraction.h"
 #include "controls/frame.h"
-#include "controls/option_button.h"
 #include "controls/panel.h"
 #include "graph/graph_box.h"
 #include "numeric/judging.h"
@@ -27,6 +26,9 @@ Tomto::Tomto(Draws& draws) : ExerciseForm(PageName::Tomto, draws), ui_(std::make
     verdict(OneLabel{ui_->Label5});
     // Kept: from the right-hand field to the left one, against the layout.
     enterChain({ui_->Text2, ui_->Text1}, LastBox::OkOrStay);
+    options_ = {{ui_->Option1, Relation::Crossing},
+                {ui_->Option2, Relation::Parallel},
+                {ui_->Option3, Relation::Coinciding}};
     onClick(ui_->Option1, &Tomto::askForCrossing);
     onClick(ui_->Option2, &Tomto::hideCrossing);
     onClick(ui_->Option3, &Tomto::hideCrossing);
@@ -37,21 +39,6 @@ Tomto::Tomto(Draws& draws) : ExerciseForm(PageName::Tomto, draws), ui_(std::make
 }
 
 Tomto::~Tomto() = default;
-
-std::array<Tomto::Choice, 3> Tomto::choices() const {
-    return {{{ui_->Option1, Relation::Crossing},
-             {ui_->Option2, Relation::Parallel},
-             {ui_->Option3, Relation::Coinciding}}};
-}
-
-std::optional<Relation> Tomto::chosen() const {
-    for (const auto& [option, relation] : choices()) {
-        if (option->isChosen()) {
-            return relation;
-        }
-    }
-    return std::nullopt;
-}
 
 std::array<Tomto::Field, 2> Tomto::fields() const {
     return {{{ui_->Text1, state_.solutionQ}, {ui_->Text2, state_.solutionP}}};
@@ -72,9 +59,7 @@ void Tomto::newExercise() {
     prepare();
     tavrune::newExercise(state_, draws());
     showTask();
-    for (const auto& [option, relation] : choices()) {
-        option->setChosen(false);
-    }
+    options_.chooseNone();
     closeImplicitHelp();
     closeExplicitHelp();
 }
@@ -87,9 +72,7 @@ void Tomto::prepare() {
     ui_->Picture1->Cls();
     // Kept: the numbers on the axes are left as they are.
     ui_->Picture1->Scale(0, 10, 10, 0);
-    for (const auto& [option, relation] : choices()) {
-        option->resetBackColour();
-    }
+    options_.resetColours();
     ui_->Label1->show();
 }
 
@@ -117,7 +100,7 @@ void Tomto::judge() {
     setRange();
     const float max = state_.graphMax;
     ui_->Picture1->Scale(0, max, max, 0);
-    if (isRight(state_, chosen(), ui_->Text1->value(), ui_->Text2->value())) {
+    if (isRight(state_, options_.chosen(), ui_->Text1->value(), ui_->Text2->value())) {
         whiten({ui_->Text1, ui_->Text2});
         solved();
         drawLines(state_.formKind == 0 ? kGreen : kBlack);
@@ -138,12 +121,8 @@ void Tomto::giveAnswer() {
     setRange();
     // Kept: the width stays wide until the next exercise.
     drawLines(kGreen);
-    for (const auto& [option, relation] : choices()) {
-        if (relation == state_.relation) {
-            option->setChosen(true);
-            option->setBackColour(kGreen);
-        }
-    }
+    options_.choose(state_.relation);
+    options_.colour(state_.relation, kGreen);
     if (state_.relation == Relation::Crossing) {
         for (const auto& [box, target] : fields()) {
             box->setContent(NumberText(target));

@@ -2,14 +2,12 @@
 
 #include <array>
 #include <memory>
-#include <optional>
 
+#include "controls/option_group.h"
 #include "shell/exercise_form.h"
 #include "topics/basics/tomto_exercise.h"
 
 namespace tavrune {
-
-class OptionButton;
 
 namespace Ui {
 class Tomto;
@@ -33,17 +31,11 @@ protected:
     void help() override;
 
 private:
-    struct Choice {
-        OptionButton* option;
-        Relation relation;
-    };
     struct Field {
         AnswerBox* box;
         double target;
     };
 
-    [[nodiscard]] std::array<Choice, 3> choices() const;
-    [[nodiscard]] std::optional<Relation> chosen() const;
     [[nodiscard]] std::array<Field, 2> fields() const;
 
     void prepare();
@@ -59,6 +51,7 @@ private:
 
     std::unique_ptr<Ui::Tomto> ui_;
     TomtoState state_;
+    OptionGroup<Relation> options_;
 };
 
 }  // namespace tavrune

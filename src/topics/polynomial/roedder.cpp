@@ -1,7 +1,6 @@
 #include "topics/polynomial/roedder.h"
 
 #include "controls/frame.h"
-#include "controls/option_button.h"
 #include "controls/panel.h"
 #include "graph/graph_box.h"
 #include "topics/polynomial/parabola.h"
@@ -24,6 +23,8 @@ Roedder::Roedder(Draws& draws)
              .help = ui_->Command1});
     verdict(TwoLabels{.right = ui_->Label2_0, .wrong = ui_->Label9});
     enterChain({ui_->Text8, ui_->Text9}, LastBox::OkOrStay);
+    options_ = {
+        {ui_->Option1, RootCount::Two}, {ui_->Option2, RootCount::Double}, {ui_->Option3, RootCount::None}};
     onClick(ui_->Option1, &Roedder::askForTwoRoots);
     onClick(ui_->Option2, &Roedder::askForDoubleRoot);
     onClick(ui_->Option3, &Roedder::askForNoRoots);
@@ -35,30 +36,14 @@ Roedder::Roedder(Draws& draws)
 
 Roedder::~Roedder() = default;
 
-std::array<Roedder::Choice, 3> Roedder::choices() const {
-    return {
-        {{ui_->Option1, RootCount::Two}, {ui_->Option2, RootCount::Double}, {ui_->Option3, RootCount::None}}};
-}
-
-std::optional<RootCount> Roedder::chosen() const {
-    for (const auto& [option, count] : choices()) {
-        if (option->isChosen()) {
-            return count;
-        }
-    }
-    return std::nullopt;
-}
-
 void Roedder::loadStep() { ui_->Command6->show(); }
 
 void Roedder::newExercise() {
     showAll({ui_->Label88, ui_->Label89, ui_->Label90});
     closeHelp();
     drawAxes();
-    for (const auto& [option, count] : choices()) {
-        option->resetBackColour();
-        option->setChosen(false);
-    }
+    options_.resetColours();
+    options_.chooseNone();
     // Kept: the boxes hold text and colour until an option is picked.
     hideAnswer();
     ui_->Command2->hide();
@@ -121,17 +106,17 @@ void Roedder::askForNoRoots() {
 void Roedder::judge() {
     whiten({ui_->Text8, ui_->Text9});
     const TypedRoots typed{.first = ui_->Text8->value(), .second = ui_->Text9->value()};
-    if (isRight(state_, chosen(), typed)) {
+    if (isRight(state_, options_.chosen(), typed)) {
         solved();
         colourRightOption();
         drawCurve(10);
         return;
     }
     failed();
-    if (chosen() == RootCount::Two) {
+    if (options_.chosen() == RootCount::Two) {
         drawTick(typed.first);
         drawTick(typed.second);
-    } else if (chosen() == RootCount::Double) {
+    } else if (options_.chosen() == RootCount::Double) {
         drawTick(typed.second);
     }
     const RootMarks marks = rootMarks(state_.discriminant, state_.roots, typed);
@@ -141,9 +126,7 @@ void Roedder::judge() {
 
 void Roedder::giveAnswer() {
     whiten({ui_->Text8, ui_->Text9});
-    for (const auto& [option, count] : choices()) {
-        option->resetBackColour();
-    }
+    options_.resetColours();
     colourRightOption();
 
     const RootCount count = rootCountOf(state_.discriminant);
@@ -163,13 +146,7 @@ void Roedder::giveAnswer() {
     given();
 }
 
-void Roedder::colourRightOption() {
-    for (const auto& [option, count] : choices()) {
-        if (count == rootCountOf(state_.discriminant)) {
-            option->setBackColour(kGreen);
-        }
-    }
-}
+void Roedder::colourRightOption() { options_.colour(rootCountOf(state_.discriminant), kGreen); }
 
 void Roedder::help() {
     switch (rootCountOf(state_.discriminant)) {

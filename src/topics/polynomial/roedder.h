@@ -1,15 +1,12 @@
 #pragma once
 
-#include <array>
 #include <memory>
-#include <optional>
 
+#include "controls/option_group.h"
 #include "shell/exercise_form.h"
 #include "topics/polynomial/roedder_exercise.h"
 
 namespace tavrune {
-
-class OptionButton;
 
 namespace Ui {
 class Roedder;
@@ -33,14 +30,6 @@ protected:
     void help() override;
 
 private:
-    struct Choice {
-        OptionButton* option;
-        RootCount count;
-    };
-
-    [[nodiscard]] std::array<Choice, 3> choices() const;
-    [[nodiscard]] std::optional<RootCount> chosen() const;
-
     void drawAxes();
     void drawCurve(double neverMet);
     void drawTick(double root);
@@ -62,6 +51,7 @@ private:
 
     std::unique_ptr<Ui::Roedder> ui_;
     RoedderState state_;
+    OptionGroup<RootCount> options_;
 };
 
 }  // namespace tavrune

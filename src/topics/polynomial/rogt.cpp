@@ -1,7 +1,6 @@
 #include "topics/polynomial/rogt.h"
 
 #include "controls/frame.h"
-#include "controls/option_button.h"
 #include "graph/graph_box.h"
 #include "topics/polynomial/parabola.h"
 #include "topics/polynomial/ui_rogt.h"
@@ -22,6 +21,8 @@ Rogt::Rogt(Draws& draws) : ExerciseForm(PageName::Rogt, draws), ui_(std::make_un
     verdict(TwoLabels{.right = ui_->Label10, .wrong = ui_->Label9});
     // Kept: the vertex is walked from its right-hand box to the left one, against the layout.
     enterChain({ui_->Text10, ui_->Text11, ui_->Text15, ui_->Text14}, LastBox::OkOrStay);
+    options_ = {
+        {ui_->Option1, RootCount::Two}, {ui_->Option2, RootCount::Double}, {ui_->Option3, RootCount::None}};
     onClick(ui_->Option1, &Rogt::askForTwoRoots);
     onClick(ui_->Option2, &Rogt::askForADoubleRoot);
     onClick(ui_->Option3, &Rogt::askForTheVertexOnly);
@@ -31,22 +32,8 @@ Rogt::~Rogt() = default;
 
 void Rogt::loadStep() { ui_->Command5->show(); }
 
-std::array<Rogt::Choice, 3> Rogt::choices() const {
-    return {
-        {{ui_->Option1, RootCount::Two}, {ui_->Option2, RootCount::Double}, {ui_->Option3, RootCount::None}}};
-}
-
-std::optional<RootCount> Rogt::chosen() const {
-    for (const auto& [option, count] : choices()) {
-        if (option->isChosen()) {
-            return count;
-        }
-    }
-    return std::nullopt;
-}
-
 std::vector<AnswerBox*> Rogt::chosenRootBoxes() const {
-    switch (chosen().value_or(RootCount::None)) {
+    switch (options_.chosen().value_or(RootCount::None)) {
         case RootCount::Two:
             return {ui_->Text10, ui_->Text11};
         case RootCount::Double:
@@ -57,32 +44,24 @@ std::vector<AnswerBox*> Rogt::chosenRootBoxes() const {
     return {};
 }
 
-void Rogt::resetOptionColours() {
-    for (const auto& [option, count] : choices()) {
-        option->resetBackColour();
-    }
-}
-
 void Rogt::colourRightOption() {
     // Kept: two roots get no green.
     switch (rootCountOf(state_.discriminant)) {
         case RootCount::Two:
             break;
         case RootCount::Double:
-            ui_->Option2->setBackColour(kGreen);
+            options_.colour(RootCount::Double, kGreen);
             break;
         case RootCount::None:
-            ui_->Option3->setBackColour(kGreen);
+            options_.colour(RootCount::None, kGreen);
             break;
     }
 }
 
 void Rogt::newExercise() {
     drawAxes();
-    for (const auto& [option, count] : choices()) {
-        option->setChosen(false);
-    }
-    resetOptionColours();
+    options_.chooseNone();
+    options_.resetColours();
     hideRootFields();
     hideVerdict();
     hideAll({ui_->Command1, ui_->Command9});
@@ -160,7 +139,7 @@ void Rogt::judge() {
 bool Rogt::judgeRoots() {
     whiten({ui_->Text10, ui_->Text11});
     const TypedRoots typed{.first = ui_->Text10->value(), .second = ui_->Text11->value()};
-    if (rootsAreRight(state_, chosen(), typed)) {
+    if (rootsAreRight(state_, options_.chosen(), typed)) {
         colourRightOption();
         return true;
     }
@@ -194,7 +173,7 @@ void Rogt::focusOnWrongBox() {
 void Rogt::giveAnswer() {
     given();
     drawCurve();
-    resetOptionColours();
+    options_.resetColours();
     whiten({ui_->Text10, ui_->Text11, ui_->Text14, ui_->Text15});
     const RogtAnswer answer = answerOf(state_);
     hideRootFields();

@@ -1,16 +1,13 @@
 #pragma once
 
-#include <array>
 #include <memory>
-#include <optional>
 #include <vector>
 
+#include "controls/option_group.h"
 #include "shell/exercise_form.h"
 #include "topics/polynomial/rogt_exercise.h"
 
 namespace tavrune {
-
-class OptionButton;
 
 namespace Ui {
 class Rogt;
@@ -33,16 +30,8 @@ protected:
     void help() override;
 
 private:
-    struct Choice {
-        OptionButton* option;
-        RootCount count;
-    };
-
-    [[nodiscard]] std::array<Choice, 3> choices() const;
-    [[nodiscard]] std::optional<RootCount> chosen() const;
     /// The boxes that the chosen number of roots asks for.
     [[nodiscard]] std::vector<AnswerBox*> chosenRootBoxes() const;
-    void resetOptionColours();
     void colourRightOption();
 
     void askForTwoRoots();
@@ -59,6 +48,7 @@ private:
 
     std::unique_ptr<Ui::Rogt> ui_;
     RogtState state_;
+    OptionGroup<RootCount> options_;
 };
 
 }  // namespace tavrune

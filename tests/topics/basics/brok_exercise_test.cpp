@@ -87,7 +87,7 @@ TEST_P(BrokTypes, StoreTheResultAsComputed) {
 
 INSTANTIATE_TEST_SUITE_P(Rows, BrokTypes,
                          testing::Values(TypeRow{"Difference", Minus, 1, 2, 1, 3, "-", 1, 6},
-                                         TypeRow{"DifferenceOverOneDenominator", Minus, 1, 4, 3, 4, "-", -2,
+                                         TypeRow{"DifferenceWithOneDenominator", Minus, 1, 4, 3, 4, "-", -2,
                                                  4},
                                          TypeRow{"Sum", Plus, 1, 2, 1, 3, "+", 5, 6},
                                          TypeRow{"SumOverOneDenominator", Plus, 1, 2, 1, 2, "+", 2, 2},

@@ -366,7 +366,7 @@ TEST_F(KonvertForm, RoundsTheSlopeOfFourThirdsFromItsSingle) {
     EXPECT_EQ(f.box("Text2").content(), "0.75");
 }
 
-TEST_F(KonvertForm, OpensItsExampleInPlaceOfTheTask) {
+TEST_F(KonvertForm, OpensItsExampleInsteadOfTheTask) {
     const FormDriver& f = open(-3, 5, 4);
     f.click("Hjaelp");
     EXPECT_TRUE(f.isShown("Picture3"));
