@@ -12,7 +12,9 @@
 namespace tavrune::test {
 
 /// Draws in their order. Scripts are joined by +.
-using Script = std::vector<float>;
+struct Script : std::vector<float> {
+    using std::vector<float>::vector;
+};
 
 [[nodiscard]] inline Script operator+(Script one, const Script& other) {
     one.insert(one.end(), other.begin(), other.end());
@@ -25,10 +27,10 @@ class ScriptedDraws final : public Draws {
 public:
     ScriptedDraws() = default;
     ScriptedDraws(std::initializer_list<float> script) : script_(script) {}
-    explicit ScriptedDraws(Script script) : script_(std::move(script)) {}
+    explicit ScriptedDraws(std::vector<float> script) : script_(std::move(script)) {}
 
     void append(std::initializer_list<float> more) { script_.insert(script_.end(), more); }
-    void append(const Script& more) { script_.insert(script_.end(), more.begin(), more.end()); }
+    void append(const std::vector<float>& more) { script_.insert(script_.end(), more.begin(), more.end()); }
 
     float Rnd() override {
         if (next_ < script_.size()) {
@@ -50,7 +52,7 @@ public:
     [[nodiscard]] int randomized() const { return randomized_; }
 
 private:
-    Script script_;
+    std::vector<float> script_;
     std::size_t next_ = 0;
     int randomized_ = 0;
     SeededDraws overrun_{1};

@@ -21,7 +21,6 @@ using test::DecimalMark;
 using test::kLargestDraw;
 using test::Script;
 using test::ScriptedDraws;
-using test::operator+;
 using test::konvert::constant;
 using test::konvert::fraction;
 using test::konvert::fractionFactor;

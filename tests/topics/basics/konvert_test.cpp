@@ -19,7 +19,6 @@ namespace {
 using test::DecimalMark;
 using test::FormDriver;
 using test::ScriptedDraws;
-using test::operator+;
 namespace konvert = test::konvert;
 
 const QColor kLightGreen(0, 190, 0);

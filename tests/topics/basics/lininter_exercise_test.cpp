@@ -18,7 +18,6 @@ using test::DecimalMark;
 using test::kLargestDraw;
 using test::Script;
 using test::ScriptedDraws;
-using test::operator+;
 using test::lininter::coordinate;
 using test::lininter::Direction;
 using test::lininter::given;

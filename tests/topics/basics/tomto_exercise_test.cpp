@@ -15,9 +15,7 @@
 namespace tavrune {
 namespace {
 
-using test::Script;
 using test::ScriptedDraws;
-using test::operator+;
 using test::tomto::Coefficients;
 using test::tomto::Explicit;
 using test::tomto::Implicit;
@@ -381,7 +379,8 @@ bool isRoundedQuotient(double rounded, int n, int m, Halves halves) {
     const int dividend = 200 * (m < 0 ? -n : n) + std::abs(m);
     const int rest = (dividend % by + by) % by;
     const double single = static_cast<float>(n) / static_cast<float>(m);
-    return rounded == (rest == 0 ? halves(single) : (dividend - rest) / by) / 100;
+    const double hundredths = rest == 0 ? halves(single) : static_cast<double>(dividend - rest) / by;
+    return rounded == hundredths / 100;
 }
 
 /// All that holds for every exercise that stands, by a second way of solving it: Cramer's rule in whole

@@ -513,7 +513,7 @@ TEST_F(RoedderForm, BearsAnythingTyped) {
     f.page().grab();
 }
 
-TEST_F(RoedderForm, GivesTwoRootsAndLeavesTheChoiceOfTheStudent) {
+TEST_F(RoedderForm, GivesTwoRootsAndLeavesTheStudentsChoice) {
     const DecimalMark comma(",");
     const FormDriver& f = open(5, 5, 5, 9);
     f.click("Option2");
@@ -823,7 +823,7 @@ private:
     int asked_ = 0;
 };
 
-TEST(RoedderSpaceOnScreen, IsGivenWorkedOutAndSolvedThroughout) {
+TEST(RoedderSpaceShown, IsGivenWorkedOutAndSolvedThroughout) {
     AllDraws all;
     const FormDriver f(PageName::Roedder, all);
     const RoedderState& state = dynamic_cast<const Roedder&>(f.page()).state();
