@@ -147,10 +147,21 @@ std::string term(int n, const std::string& power) {
     return n == 0 ? "" : (n > 0 ? "+" : "") + std::to_string(n) + power;
 }
 
-/// With the blanks taken out, all rows of the table are alike.
-std::string withoutBlanks(std::string text) {
-    std::erase(text, ' ');
-    return text;
+// What stands before b, a, c and d, by whether a, b and c are negative; the blanks differ from row to row.
+constexpr const char* kAroundNumbers[2][2][2][4] = {{{{"d = ", " ² - 4 ·", "·", "="},                //
+                                                      {"d = ", " ² - 4· ", " · (", ") = "}},         // c
+                                                     {{"d = (", ") ² - 4· ", " · ", " = "},          // b
+                                                      {"d = (", ") ² - 4 · ", " · (", ") = "}}},     // b, c
+                                                    {{{"d = ", " ² - 4· (", ") · ", " = "},          // a
+                                                      {"d = ", " ² - 4 · (", ") · (", ") = "}},      // a, c
+                                                     {{"d = (", ") ² - 4 · (", ") · ", " = "},       // a, b
+                                                      {"d = (", ") ² - 4 · (", ") · (", ") = "}}}};  // all
+
+std::string discriminantRow(int a, int b, int c) {
+    const auto& [beforeB, beforeA, beforeC, beforeD] =
+        kAroundNumbers[a < 0 ? 1 : 0][b < 0 ? 1 : 0][c < 0 ? 1 : 0];
+    return beforeB + std::to_string(b) + beforeA + std::to_string(a) + beforeC + std::to_string(c) + beforeD +
+           std::to_string(b * b - 4 * a * c);
 }
 
 bool isRootOf(int a, int b, int c, double q) { return std::abs(a * q * q + b * q + c) < 1e-9; }
@@ -174,8 +185,7 @@ TEST(RoedderSpace, IsSolvedByItsOwnAnswerAndByNothingNear) {
         ASSERT_EQ(s.polynomial, std::to_string(a) + "Q²" + term(b, "Q") + term(c, ""));
         const int d = b * b - 4 * a * c;
         ASSERT_EQ(s.discriminant, d);
-        ASSERT_EQ(withoutBlanks(discriminantText(s)), "d=" + inBrackets(b) + "²-4·" + inBrackets(a) + "·" +
-                                                          inBrackets(c) + "=" + std::to_string(d));
+        ASSERT_EQ(discriminantText(s), discriminantRow(a, b, c));
         const RoedderFormula formula = formulaTexts(s);
         ASSERT_EQ(formula.b, inBrackets(b));
         ASSERT_EQ(formula.minusB, "- " + inBrackets(b));

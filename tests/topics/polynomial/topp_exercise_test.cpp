@@ -162,7 +162,7 @@ TEST(ToppGenerator, AllowsAVertexAtFifteen) {
     EXPECT_FALSE(areAccepted(1, 6, 7, 7));
 }
 
-TEST(ToppGenerator, ReachesAsFarToTheLeftAsToTheRight) {
+TEST(ToppGenerator, WouldAcceptAVertexLeftOfTheAxisThoughNoneCanBeDrawn) {
     EXPECT_TRUE(isWithinReach({-15, 0}));
     EXPECT_TRUE(isWithinReach({15, 0}));
     EXPECT_TRUE(isWithinReach({-2.5F, 3}));
