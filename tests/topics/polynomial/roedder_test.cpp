@@ -7,15 +7,20 @@
 #include <string>
 #include <vector>
 
+#include <QImage>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
 #include "graph/graph_box.h"
+#include "numeric/rounding.h"
+#include "numeric/text.h"
 #include "support/decimal_mark.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
 #include "support/scripted_draws.h"
+#include "support/strokes.h"
+#include "topics/polynomial/all_polynomials.h"
 
 namespace tavrune {
 namespace {
@@ -37,40 +42,36 @@ const Names kPieces{"Label54", "Label55", "Label56", "Label57", "Label58", "Labe
 const Names kNumbers{"Label60", "Label62", "Label64", "Label74", "Label67", "Label69",
                      "Label71", "Label75", "Label78", "Label80", "Label84"};
 
-Stroke line(double x1, double y1, double x2, double y2, const QColor& colour = kBlack) {
-    return {Stroke::Kind::Line,
-            static_cast<float>(x1),
-            static_cast<float>(y1),
-            static_cast<float>(x2),
-            static_cast<float>(y2),
-            colour,
-            LineStyle::Solid,
-            1,
-            kScale};
-}
+/// Those of them that stand with two roots, a double root and none.
+const Names kPiecesOfTwo{"Label54", "Label57", "Label58", "Label59", "Label61", "Label72",
+                         "Label65", "Label66", "Label68", "Label73", "Line10",  "Line11",
+                         "Line12",  "Line13",  "Line14",  "Line15",  "Line16",  "Line17"};
+const Names kPiecesOfDouble{"Label55", "Label76", "Label77", "Label83", "Line18"};
+const Names kPiecesOfNone{"Label56", "Label81", "Label82"};
 
-Stroke dot(double x, double y) {
-    Stroke stroke = line(x, y, x, y);
-    stroke.kind = Stroke::Kind::Point;
-    return stroke;
-}
+const test::StrokesIn kIn{kScale};
 
-Stroke tick(double root) { return line(root, -0.5, root, 0.5, kRed); }
+Stroke tick(double root) { return kIn.line(root, -0.5, root, 0.5, kRed); }
+
+std::vector<Stroke> operator+(std::vector<Stroke> first, const std::vector<Stroke>& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
 
 std::vector<Stroke> axes() {
-    std::vector<Stroke> strokes{line(0, 15, 0, -15), line(-15, 0, 15, 0)};
+    std::vector<Stroke> strokes{kIn.line(0, 15, 0, -15), kIn.line(-15, 0, 15, 0)};
     for (int x = -15; x <= 14; ++x) {
-        strokes.push_back(dot(x, 0.2));
+        strokes.push_back(kIn.point(x, 0.2));
     }
     for (int y = -15; y <= 14; ++y) {
-        strokes.push_back(dot(0.1, y));
+        strokes.push_back(kIn.point(0.1, y));
     }
     for (const double off : {0.2, 0.3}) {
         for (int x = -15; x <= 10; x += 5) {
-            strokes.push_back(dot(x, off));
+            strokes.push_back(kIn.point(x, off));
         }
         for (int y = -15; y <= 10; y += 5) {
-            strokes.push_back(dot(off, y));
+            strokes.push_back(kIn.point(off, y));
         }
     }
     return strokes;
@@ -83,7 +84,7 @@ std::vector<Stroke> curve(int a, int b, int c) {
     double y = 0;
     while (std::abs(y) <= 2000) {
         y = p(x);
-        strokes.push_back(line(x, y, x + 0.05, p(x + 0.05)));
+        strokes.push_back(kIn.line(x, y, x + 0.05, p(x + 0.05)));
         x += 0.05;
     }
     return strokes;
@@ -121,11 +122,11 @@ protected:
 
     /// What was drawn since the axes.
     [[nodiscard]] std::vector<Stroke> drawn() const {
-        const std::vector<Stroke>& all = form->find<GraphBox>("Picture1").strokes();
+        const auto& graph = form->find<GraphBox>("Picture1");
         const std::vector<Stroke> first = axes();
-        EXPECT_GE(all.size(), first.size());
-        EXPECT_TRUE(std::equal(first.begin(), first.end(), all.begin()));
-        return {all.begin() + static_cast<std::ptrdiff_t>(first.size()), all.end()};
+        const std::vector<Stroke> later = test::strokesFrom(graph, first.size());
+        EXPECT_TRUE(std::equal(first.begin(), first.end(), graph.strokes().begin()));
+        return later;
     }
 
     [[nodiscard]] Names shown(const Names& of) const {
@@ -195,10 +196,19 @@ protected:
 TEST_F(RoedderForm, HidesWhatIsNotAskedForUntilItsFirstTick) {
     FormDriver unshown = FormDriver::unshown(PageName::Roedder, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Andengradspolynomiet - Rødder");
-    for (const char* hidden : {"Command2", "Command6", "Command10", "Label2_0", "Label9", "Picture2"}) {
+    for (const char* hidden : {"Command2", "Command6", "Command10", "Label2_0", "Label9", "Picture2", "Text8",
+                               "Text9", "Label1_0", "Label3_0", "Label4_0"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
-    EXPECT_EQ(unshown.caption("Label91"), "");
+    for (const char* blank : {"Label91", "Label92", "Label45", "Label88", "Label89", "Label90"}) {
+        EXPECT_EQ(unshown.caption(blank), "") << blank;
+    }
+    for (const std::string& number : kNumbers) {
+        EXPECT_EQ(unshown.caption(number), "") << number;
+    }
+    for (const char* box : {"Text8", "Text9"}) {
+        EXPECT_EQ(unshown.box(box).content(), "") << box;
+    }
     EXPECT_TRUE(unshown.find<GraphBox>("Picture1").strokes().empty());
     script(1, 1, 1, 1);
     unshown.show();
@@ -265,6 +275,16 @@ TEST_F(RoedderForm, NamesItsAxesAndTheirTicks) {
     }
     EXPECT_EQ(captions,
               (std::multiset<std::string>{"-10", "-5", "5", "10", "-10", "-5", "5", "10", "P", "Q"}));
+}
+
+TEST_F(RoedderForm, SetsNoFocusWithANewExercise) {
+    const FormDriver& f = openTwo();
+    f.button("Command1").setFocus();
+    script(1, 1, 1, 1);
+    f.button("Command6").click();
+    test::settle();
+    EXPECT_EQ(f.caption("Label91"), "1Q²+1Q+1");
+    EXPECT_EQ(f.focus(), "Command1");
 }
 
 TEST_F(RoedderForm, AsksForTwoRootsInEmptyWhiteBoxes) {
@@ -371,6 +391,20 @@ TEST_F(RoedderForm, TakesTheRootsInEitherOrder) {
     EXPECT_EQ(drawn(), curve(1, -1, -6));
 }
 
+TEST_F(RoedderForm, DrawsTheWholeCurveForARightAnswerWithANegativeA) {
+    const FormDriver& f = open(2, 3, 1, 12);
+    f.click("Option1");
+    answerTwo("0.5", "1");
+    EXPECT_TRUE(f.isShown("Label2_0"));
+    const std::vector<Stroke> pieces = drawn();
+    EXPECT_EQ(pieces, curve(-2, 3, -1));
+    ASSERT_FALSE(pieces.empty());
+    EXPECT_EQ(pieces.front().x1, -10);
+    EXPECT_GT(pieces.back().x1, 10);
+    EXPECT_LT(pieces.back().y1, -2000);
+    EXPECT_GE(pieces[pieces.size() - 2].y1, -2000);
+}
+
 TEST_F(RoedderForm, TakesNothingForTheDoubleRootZero) {
     const FormDriver& f = open(4, 3, 3, 2);
     f.click("Option2");
@@ -415,12 +449,22 @@ TEST_F(RoedderForm, KeepsTheTicksOfSeveralTriesSideBySide) {
     f.click("Command2");
     f.click("Option1");
     answerTwo("3", "-2");
-    std::vector<Stroke> all{tick(1), tick(2), tick(0), tick(0), tick(9)};
-    const std::vector<Stroke> last = curve(1, -1, -6);
-    all.insert(all.end(), last.begin(), last.end());
-    EXPECT_EQ(drawn(), all);
+    const std::vector<Stroke> ticks{tick(1), tick(2), tick(0), tick(0), tick(9)};
+    EXPECT_EQ(drawn(), ticks + curve(1, -1, -6));
     next(1, 1, 1, 1);
     EXPECT_EQ(drawn(), std::vector<Stroke>{});
+}
+
+TEST_F(RoedderForm, ClipsATickOutsideThePicture) {
+    const FormDriver& f = openTwo();
+    f.click("Option1");
+    auto& graph = f.find<GraphBox>("Picture1");
+    const QImage before = graph.grab().toImage();
+    answerTwo("20", "-20");
+    EXPECT_EQ(drawn(), (std::vector{tick(20), tick(-20)}));
+    EXPECT_EQ(graph.grab().toImage(), before);
+    answerTwo("14", "-20");
+    EXPECT_NE(graph.grab().toImage(), before) << "a tick inside is seen";
 }
 
 TEST_F(RoedderForm, ShowsTheRightVerdictInFrontOfAnOldWrongOne) {
@@ -527,9 +571,7 @@ TEST_F(RoedderForm, GivesTwoRootsAndLeavesTheStudentsChoice) {
     EXPECT_EQ(greenOptions(), Names{"Option1"});
     EXPECT_EQ(chosen(), "Option2");
     EXPECT_EQ(f.focus(), "Command6");
-    std::vector<Stroke> all = curve(5, -5, -5);
-    all.insert(all.begin(), tick(4));
-    EXPECT_EQ(drawn(), all);
+    EXPECT_EQ(drawn(), std::vector{tick(4)} + curve(5, -5, -5));
 }
 
 TEST_F(RoedderForm, GivesADoubleRootInTheSecondBox) {
@@ -543,6 +585,7 @@ TEST_F(RoedderForm, GivesADoubleRootInTheSecondBox) {
     EXPECT_EQ(redBoxes(), Names{});
     EXPECT_EQ(greenOptions(), Names{"Option2"});
     EXPECT_EQ(f.focus(), "Command6");
+    EXPECT_EQ(drawn(), (std::vector{tick(7), tick(8)} + curve(1, 4, 4)));
 }
 
 TEST_F(RoedderForm, GivesNoRoots) {
@@ -554,6 +597,7 @@ TEST_F(RoedderForm, GivesNoRoots) {
     EXPECT_EQ(f.box("Text9").content(), "8");
     EXPECT_EQ(greenOptions(), Names{"Option3"});
     EXPECT_EQ(f.focus(), "Command6");
+    EXPECT_EQ(drawn(), (std::vector{tick(7), tick(8)} + curve(1, 1, 1)));
 }
 
 TEST_F(RoedderForm, BeginsTheCurveOfAGivenAnswerAtTheSamePlaceForANegativeA) {
@@ -561,11 +605,10 @@ TEST_F(RoedderForm, BeginsTheCurveOfAGivenAnswerAtTheSamePlaceForANegativeA) {
     f.click("Option1");
     f.click("Command2");
     f.click("Command10");
-    std::vector<Stroke> all = curve(-2, 3, -4);
-    EXPECT_EQ(all.front().x1, -10);
-    EXPECT_GT(all.back().x1, 7) << "the end of 7 is never met";
-    all.insert(all.begin(), {tick(0), tick(0)});
-    EXPECT_EQ(drawn(), all);
+    const std::vector<Stroke> pieces = curve(-2, 3, -4);
+    EXPECT_EQ(pieces.front().x1, -10);
+    EXPECT_GT(pieces.back().x1, 7) << "the end of 7 is never met";
+    EXPECT_EQ(drawn(), (std::vector{tick(0), tick(0)} + pieces));
 }
 
 TEST_F(RoedderForm, LeavesItsOptionsAliveAfterTheAnswer) {
@@ -622,9 +665,8 @@ TEST_F(RoedderForm, WorksOutTwoRoots) {
     EXPECT_EQ(f.caption("Label92"), "-5Q²-5Q+5");
     EXPECT_EQ(f.caption("Label45"), "d = (-5) ² - 4 · (-5) · 5 = 125");
     EXPECT_EQ(f.caption("Label54"), "d > 0, der er to rødder");
-    EXPECT_EQ(shown(kPieces), (Names{"Label54", "Label57", "Label58", "Label59", "Label61", "Label72",
-                                     "Label65", "Label66", "Label68", "Label73", "Line10", "Line11", "Line12",
-                                     "Line13", "Line14", "Line15", "Line16", "Line17"}));
+    EXPECT_EQ(shown(kPieces), kPiecesOfTwo);
+    EXPECT_EQ(f.caption("Label57"), "A)");
     EXPECT_EQ(numbers(), (Names{"Label60 (-5)", "Label62 125", "Label64 2 · (-5)", "Label74 -1,62",
                                 "Label67 (-5)", "Label69 125", "Label71 2 · (-5)", "Label75 0,62"}));
     EXPECT_EQ(f.caption("Label58"), "Rod 1=");
@@ -642,7 +684,8 @@ TEST_F(RoedderForm, WorksOutADoubleRoot) {
     f.click("Command1");
     EXPECT_EQ(f.caption("Label45"), "d = (-4) ² - 4 · (-1) · (-4) = 0");
     EXPECT_EQ(f.caption("Label55"), "d = 0, der er en dobbelt rod");
-    EXPECT_EQ(shown(kPieces), (Names{"Label55", "Label76", "Label77", "Label83", "Line18"}));
+    EXPECT_EQ(shown(kPieces), kPiecesOfDouble);
+    EXPECT_EQ(f.caption("Label76"), "B)");
     EXPECT_EQ(numbers(), (Names{"Label78 - (-4)", "Label80 2 · (-1)", "Label84 -2"}));
     EXPECT_EQ(f.caption("Label77"), "Rod=");
     EXPECT_EQ(f.caption("Label83"), "=");
@@ -657,7 +700,8 @@ TEST_F(RoedderForm, WorksOutThatThereAreNoRoots) {
     EXPECT_EQ(f.caption("Label45"), "d = 1 ² - 4 ·1·1=-3");
     EXPECT_EQ(f.caption("Label56"), "d < 0, der er ingen rødder");
     EXPECT_EQ(f.caption("Label82"), "Ingen rødder");
-    EXPECT_EQ(shown(kPieces), (Names{"Label56", "Label81", "Label82"}));
+    EXPECT_EQ(shown(kPieces), kPiecesOfNone);
+    EXPECT_EQ(f.caption("Label81"), "C)");
     EXPECT_EQ(numbers(), Names{});
 }
 
@@ -805,55 +849,121 @@ INSTANTIATE_TEST_SUITE_P(
                     RootSign{"Current2", "Line14", "Line15", "Line16", "Label69", "Line17", "Label71"}),
     [](const auto& row) { return row.param.name; });
 
-/// All exercises there are, one after the other.
-class AllDraws final : public Draws {
-public:
-    float Rnd() override {
-        const int place = asked_++ % 4;
-        if (place == 0) {
-            exercise_ = (exercise_ + 1) % 2250;
-        }
-        const int cells[] = {exercise_ / 450, exercise_ / 90 % 5, exercise_ / 18 % 5, exercise_ % 18};
-        return cellOf(cells[place], place == 3 ? 18 : 5);
-    }
-    void Randomize() override {}
+std::string inBrackets(float n) { return n < 0 ? "(" + NumberText(n) + ")" : NumberText(n); }
 
-private:
-    int exercise_ = -1;
-    int asked_ = 0;
+/// The shown pieces and filled numbers of the worked solution, and what is written in these.
+struct Worked {
+    Names pieces;
+    std::map<std::string, std::string> numbers;
 };
 
-TEST(RoedderSpaceShown, IsGivenWorkedOutAndSolvedThroughout) {
-    AllDraws all;
-    const FormDriver f(PageName::Roedder, all);
-    const RoedderState& state = dynamic_cast<const Roedder&>(f.page()).state();
-    const auto press = [&f](const char* name) { f.find<QAbstractButton>(name).click(); };
-    const char* const options[] = {"Option1", "Option2", "Option3"};
-    for (int exercise = 0; exercise < 2250; ++exercise) {
-        SCOPED_TRACE(state.polynomial);
-        const auto count = static_cast<std::size_t>(rootCountOf(state.discriminant));
-        press(options[(count + 1) % 3]);
-        press("Command2");
-        ASSERT_TRUE(f.isShown("Label9"));
-        ASSERT_FALSE(f.isShown("Label2_0"));
+/// As `polynomial` wants it.
+Worked expectedWork(const Polynomial& polynomial) {
+    const auto& [a, b, c] = polynomial;
+    const double d = b * b - 4 * a * c;
+    std::map<std::string, std::string> numbers;
+    for (const std::string& name : kNumbers) {
+        numbers[name] = "";
+    }
+    if (d < 0) {
+        return {kPiecesOfNone, numbers};
+    }
+    const std::string denominator = "2 · " + inBrackets(a);
+    const auto root = [&, a = a, b = b](double sign) {
+        return NumberText(RoundSigned2((-b + sign * std::sqrt(d)) / (2 * a)));
+    };
+    if (d == 0) {
+        numbers["Label78"] = "- " + inBrackets(b);
+        numbers["Label80"] = denominator;
+        numbers["Label84"] = root(1);
+        return {kPiecesOfDouble, numbers};
+    }
+    numbers["Label60"] = numbers["Label67"] = inBrackets(b);
+    numbers["Label62"] = numbers["Label69"] = NumberText(d);
+    numbers["Label64"] = numbers["Label71"] = denominator;
+    numbers["Label74"] = root(1);
+    numbers["Label75"] = root(-1);
+    return {kPiecesOfTwo, numbers};
+}
 
-        press("Command1");
-        for (const Label* label : f.find("Picture2").findChildren<Label*>()) {
+class RoedderSpaceShown : public testing::Test {
+protected:
+    RoedderSpaceShown() : form(PageName::Roedder, draws) {
+        for (const std::string& name : kPieces) {
+            pieces_.push_back(&form.find(name));
+        }
+        for (const std::string& name : kNumbers) {
+            numbers_[name] = &form.label(name);
+        }
+        labels_ = form.find("Picture2").findChildren<Label*>();
+    }
+
+    void press(const char* name) const { form.find<QAbstractButton>(name).click(); }
+
+    void tryRoots(const std::string& first, const std::string& second) const {
+        form.box("Text8").setContent(first);
+        form.box("Text9").setContent(second);
+        press("Command2");
+    }
+
+    void expectWork(const Worked& expected) const {
+        std::set<std::string> shown;
+        for (const QWidget* piece : pieces_) {
+            if (!piece->isHidden()) {
+                shown.insert(piece->objectName().toStdString());
+            }
+        }
+        ASSERT_EQ(shown, std::set<std::string>(expected.pieces.begin(), expected.pieces.end()));
+        for (const auto& [name, label] : numbers_) {
+            ASSERT_EQ(label->caption(), expected.numbers.at(name)) << name;
+        }
+        for (const Label* label : labels_) {
             if (label->isShown()) {
                 ASSERT_LE(label->textWidth(), label->place().width()) << label->caption();
             }
         }
+    }
+
+    test::AllPolynomials draws;
+    FormDriver form;
+
+private:
+    std::vector<const QWidget*> pieces_;
+    std::map<std::string, const Label*> numbers_;
+    QList<Label*> labels_;
+};
+
+TEST_F(RoedderSpaceShown, IsGivenWorkedOutAndSolvedThroughout) {
+    const RoedderState& state = dynamic_cast<const Roedder&>(form.page()).state();
+    const char* const options[] = {"Option1", "Option2", "Option3"};
+    for (int exercise = 0; exercise < test::kPolynomials; ++exercise) {
+        SCOPED_TRACE(state.polynomial);
+        const auto count = static_cast<std::size_t>(rootCountOf(state.discriminant));
+        press(options[(count + 1) % 3]);
+        press("Command2");
+        ASSERT_TRUE(form.isShown("Label9"));
+        ASSERT_FALSE(form.isShown("Label2_0"));
+
+        press("Command1");
+        expectWork(expectedWork(state.coefficients));
+        if (HasFatalFailure()) {
+            return;
+        }
         press("Command3");
 
         press("Command10");
-        const std::string first = f.box("Text8").content();
-        const std::string second = f.box("Text9").content();
-        ASSERT_EQ(f.option(options[count]).backColour(), kGreen);
+        const std::string first = form.box("Text8").content();
+        const std::string second = form.box("Text9").content();
+        ASSERT_EQ(form.option(options[count]).backColour(), kGreen);
         press(options[count]);
-        f.box("Text8").setContent(second);
-        f.box("Text9").setContent(count == 0 ? first : second);
-        press("Command2");
-        ASSERT_TRUE(f.isShown("Label2_0")) << first << " and " << second;
+        tryRoots(first, second);
+        ASSERT_TRUE(form.isShown("Label2_0")) << first << " and " << second;
+        if (count == 0) {
+            press(options[count]);
+            ASSERT_FALSE(form.isShown("Label2_0"));
+            tryRoots(second, first);
+            ASSERT_TRUE(form.isShown("Label2_0")) << second << " and " << first;
+        }
         press("Command6");
     }
     EXPECT_EQ(state.polynomial, "1Q²+1Q+1");

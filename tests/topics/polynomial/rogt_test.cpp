@@ -7,10 +7,14 @@
 #include <gtest/gtest.h>
 
 #include "graph/graph_box.h"
+#include "numeric/rounding.h"
+#include "numeric/text.h"
 #include "support/decimal_mark.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
 #include "support/scripted_draws.h"
+#include "support/strokes.h"
+#include "topics/polynomial/all_polynomials.h"
 
 namespace tavrune {
 namespace {
@@ -21,6 +25,7 @@ using test::ScriptedDraws;
 
 const QColor kGreen(0, 130, 0);
 constexpr GraphScale kScale{-15, 15, 15, -15};
+constexpr test::StrokesIn kIn{kScale};
 /// Two axes, three rows of points along each.
 constexpr std::size_t kAxesAndTicks = 2 + 2 * (30 + 6 + 6);
 constexpr const char* kBoxes[] = {"Text10", "Text11", "Text14", "Text15"};
@@ -45,6 +50,17 @@ struct Typed {
     std::string q;
     std::string p;
 };
+
+std::vector<Stroke> curve(double a, double b, double c) {
+    std::vector<Stroke> pieces;
+    double y = 0;
+    for (double x = -7; std::abs(y) <= 1000; x += 0.05) {
+        const double next = x + 0.05;
+        y = a * x * x + b * x + c;
+        pieces.push_back(kIn.line(x, y, next, a * next * next + b * next + c));
+    }
+    return pieces;
+}
 
 class RogtForm : public testing::Test {
 protected:
@@ -90,8 +106,13 @@ protected:
         return names;
     }
 
+    /// The others are white.
     [[nodiscard]] std::string redBoxes() const {
-        return boxesThat([](const AnswerBox& box) { return box.backColour() == kRed; });
+        return boxesThat([](const AnswerBox& box) {
+            const bool isRed = box.backColour() == kRed;
+            EXPECT_TRUE(isRed || box.backColour() == kWhite) << box.backColour().name().toStdString();
+            return isRed;
+        });
     }
     [[nodiscard]] std::string shownBoxes() const {
         return boxesThat([](const AnswerBox& box) { return !box.isHidden(); });
@@ -111,10 +132,16 @@ protected:
     [[nodiscard]] std::string verdicts() const { return shown({"Label10", "Label9"}); }
     [[nodiscard]] std::string judgeButtons() const { return shown({"Command1", "Command9"}); }
 
+    /// The others have the button face.
     [[nodiscard]] std::string greenOptions() const {
         std::string names;
         for (const char* name : kOptions) {
-            names += form->option(name).backColour() == kGreen ? name : "";
+            const QColor colour = form->option(name).backColour();
+            if (colour == kGreen) {
+                names += name;
+            } else {
+                EXPECT_EQ(colour, QApplication::palette().color(QPalette::Button)) << name;
+            }
         }
         return names;
     }
@@ -134,35 +161,16 @@ protected:
         std::vector<float> places;
         for (const Stroke& s : strokes()) {
             if (s.colour == kRed) {
-                EXPECT_EQ(s, (Stroke{Stroke::Kind::Line, s.x1, -0.5, s.x1, 0.5, kRed, LineStyle::Solid, 1,
-                                     kScale}));
+                EXPECT_EQ(s, kIn.line(s.x1, -0.5, s.x1, 0.5, kRed));
                 places.push_back(s.x1);
             }
         }
         return places;
     }
 
-    /// Expects the chain of pieces of aQ²+bQ+c at the end of the strokes, after `before` others.
+    /// Expects the curve of aQ²+bQ+c, and nothing but it, after `before` other strokes.
     void expectCurve(const Polynomial& p, std::size_t before) const {
-        std::size_t at = before;
-        double x = -7;
-        double y = 0;
-        do {
-            ASSERT_LT(at, strokes().size());
-            y = p.a * x * x + p.b * x + p.c;
-            const double end = x + 0.05;
-            const Stroke& piece = strokes()[at++];
-            ASSERT_EQ(piece.kind, Stroke::Kind::Line);
-            ASSERT_EQ(piece.x1, static_cast<float>(x));
-            ASSERT_FLOAT_EQ(piece.y1, static_cast<float>(y));
-            ASSERT_EQ(piece.x2, static_cast<float>(end));
-            ASSERT_NEAR(piece.y2, p.a * end * end + p.b * end + p.c, 1e-3);
-            ASSERT_EQ(piece.colour, kBlack);
-            ASSERT_EQ(piece.width, 1);
-            ASSERT_EQ(piece.style, LineStyle::Solid);
-            x = end;
-        } while (std::abs(y) <= 1000);
-        EXPECT_EQ(at, strokes().size());
+        EXPECT_EQ(test::strokesFrom(graph(), before), curve(p.a, p.b, p.c));
     }
 
     ScriptedDraws draws;
@@ -186,7 +194,8 @@ TEST_F(RogtForm, StandsReadyBeforeItsFirstTick) {
     EXPECT_EQ(f.caption("Label14"), " ;");
     EXPECT_EQ(f.caption("Label15"), ")");
     EXPECT_EQ(f.caption("Label28") + f.caption("Label27"), "QP");
-    for (const char* hidden : {"Command5", "Command1", "Command9", "Label10", "Label9"}) {
+    for (const char* hidden : {"Command5", "Command1", "Command9", "Label10", "Label9", "Text10", "Text11",
+                               "Label3", "Label4", "Label7"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
 }
@@ -234,22 +243,19 @@ TEST_F(RogtForm, DrawsAxesAndSixRowsOfPointsInOrder) {
     open(kTwo);
     EXPECT_EQ(graph().scale(), kScale);
     ASSERT_EQ(strokes().size(), kAxesAndTicks);
-    EXPECT_EQ(strokes()[0], (Stroke{Stroke::Kind::Line, 0, 15, 0, -15, kBlack, LineStyle::Solid, 1, kScale}));
-    EXPECT_EQ(strokes()[1], (Stroke{Stroke::Kind::Line, -15, 0, 15, 0, kBlack, LineStyle::Solid, 1, kScale}));
+    EXPECT_EQ(strokes()[0], kIn.line(0, 15, 0, -15));
+    EXPECT_EQ(strokes()[1], kIn.line(-15, 0, 15, 0));
     struct Row {
         bool alongQ;
-        float offAxis;
+        double offAxis;
         int step;
     };
     std::size_t at = 2;
-    for (const Row& row : {Row{true, 0.2F, 1}, Row{false, 0.1F, 1}, Row{true, 0.3F, 5}, Row{false, 0.2F, 5},
-                           Row{true, 0.4F, 5}, Row{false, 0.3F, 5}}) {
+    for (const Row& row : {Row{true, 0.2, 1}, Row{false, 0.1, 1}, Row{true, 0.3, 5}, Row{false, 0.2, 5},
+                           Row{true, 0.4, 5}, Row{false, 0.3, 5}}) {
         for (int along = -15; along < 15; along += row.step) {
-            const auto place = static_cast<float>(along);
-            const float x = row.alongQ ? place : row.offAxis;
-            const float y = row.alongQ ? row.offAxis : place;
             ASSERT_EQ(strokes()[at++],
-                      (Stroke{Stroke::Kind::Point, x, y, x, y, kBlack, LineStyle::Solid, 1, kScale}));
+                      row.alongQ ? kIn.point(along, row.offAxis) : kIn.point(row.offAxis, along));
         }
     }
     EXPECT_EQ(at, strokes().size());
@@ -518,13 +524,15 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return row.param.name; });
 
 TEST_F(RogtForm, MarksBothRootBoxesWhereThereAreFewerThanTwoRoots) {
-    for (const Task& task : {kDouble, kNone}) {
+    // The vertex is that of the double root.
+    for (const auto& [task, red] :
+         {std::pair{kDouble, "Text10 Text11"}, std::pair{kNone, "Text10 Text11 Text14 Text15"}}) {
         const FormDriver& f = open(task);
         answer("Option1", {"-1", "-1", "-1", "0"});
-        EXPECT_EQ(redBoxes().substr(0, 13), "Text10 Text11");
+        EXPECT_EQ(redBoxes(), red);
         EXPECT_EQ(f.focus(), "Text10");
         answer("Option2", {"-1", "5", "-1", "0"});
-        EXPECT_EQ(redBoxes().substr(0, 13), "Text10 Text11");
+        EXPECT_EQ(redBoxes(), red);
         EXPECT_EQ(f.focus(), "Text11");
     }
 }
@@ -703,6 +711,89 @@ TEST_F(RogtForm, LooksWellWithEveryNumberOfRoots) {
         f.click("Command9");
         EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
     }
+}
+
+/// Every polynomial, one after another on the same form.
+class RogtSpaceOnScreen : public RogtForm {
+protected:
+    RogtSpaceOnScreen() { form = std::make_unique<FormDriver>(PageName::Rogt, all_); }
+
+    void press(const char* name) const { form->find<QAbstractButton>(name).click(); }
+
+    void tryAnswer(const Typed& typed) const {
+        fill(typed);
+        press("Command1");
+    }
+
+private:
+    test::AllPolynomials all_;
+};
+
+/// The polynomial as the student reads it: "-1Q²+3Q-4", where the terms after the first may be missing.
+Polynomial readPolynomial(const std::string& text) {
+    static const std::string square = "Q²";
+    const std::size_t endOfSquare = text.find(square) + square.size();
+    Polynomial p{.a = std::stof(text)};
+    std::string rest = text.substr(endOfSquare);
+    if (const std::size_t endOfB = rest.find('Q'); endOfB != std::string::npos) {
+        p.b = std::stof(rest);
+        rest = rest.substr(endOfB + 1);
+    }
+    if (!rest.empty()) {
+        p.c = std::stof(rest);
+    }
+    return p;
+}
+
+std::string exactly(double x) { return QString::number(x, 'f', 9).toStdString(); }
+std::string rounded(double x) { return NumberText(RoundSigned2(x)); }
+
+TEST_F(RogtSpaceOnScreen, IsTriedGivenAndSolvedThroughout) {
+    const char* const boxesOfCount[] = {"Text10 Text11 Text14 Text15", "Text11 Text14 Text15",
+                                        "Text14 Text15"};
+    // Two roots get no green.
+    const char* const greenOfCount[] = {"", "Option2", "Option3"};
+    for (int exercise = 0; exercise < test::kPolynomials; ++exercise) {
+        const std::string task = form->caption("Label29");
+        SCOPED_TRACE(task);
+        const auto& [a, b, c] = readPolynomial(task);
+        const double d = b * b - 4 * a * c;
+        const std::size_t count = d > 0 ? 0 : d == 0 ? 1 : 2;
+        const double root1 = d < 0 ? 0 : (-b + std::sqrt(d)) / (2 * a);
+        const double root2 = d < 0 ? 0 : (-b - std::sqrt(d)) / (2 * a);
+        const float q = -b / (2 * a);
+        const double p = -d / (4 * a);
+        const Typed right{exactly(root1), exactly(root2), exactly(q), exactly(p)};
+        Typed wrong = right;
+        wrong.q = exactly(q + 0.01);
+
+        press(kOptions[count]);
+        tryAnswer(wrong);
+        ASSERT_EQ(verdicts(), "Label10 Label9");
+        ASSERT_EQ(judgeButtons(), "Command1 Command9");
+        ASSERT_EQ(redBoxes(), "Text14");
+
+        press("Command9");
+        ASSERT_EQ(verdicts() + judgeButtons() + redBoxes(), "");
+        ASSERT_EQ(shownBoxes(), boxesOfCount[count]);
+        ASSERT_EQ(greenOptions(), greenOfCount[count]);
+        ASSERT_EQ(form->box("Text14").content(), rounded(q));
+        ASSERT_EQ(form->box("Text15").content(), rounded(p));
+        if (count < 2) {
+            ASSERT_EQ(form->box("Text11").content(), rounded(count == 0 ? root2 : root1));
+        }
+        if (count == 0) {
+            ASSERT_EQ(form->box("Text10").content(), rounded(root1));
+        }
+
+        press(kOptions[count]);
+        tryAnswer(right);
+        ASSERT_EQ(verdicts(), "Label10");
+        ASSERT_EQ(judgeButtons() + redBoxes(), "");
+        ASSERT_EQ(greenOptions(), greenOfCount[count]);
+        press("Command5");
+    }
+    EXPECT_EQ(form->caption("Label29"), "1Q²+1Q+1");
 }
 
 }  // namespace
