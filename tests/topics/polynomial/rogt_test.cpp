@@ -714,9 +714,9 @@ TEST_F(RogtForm, LooksWellWithEveryNumberOfRoots) {
 }
 
 /// Every polynomial, one after another on the same form.
-class RogtSpaceOnScreen : public RogtForm {
+class RogtSpaceShown : public RogtForm {
 protected:
-    RogtSpaceOnScreen() { form = std::make_unique<FormDriver>(PageName::Rogt, all_); }
+    RogtSpaceShown() { form = std::make_unique<FormDriver>(PageName::Rogt, all_); }
 
     void press(const char* name) const { form->find<QAbstractButton>(name).click(); }
 
@@ -748,7 +748,7 @@ Polynomial readPolynomial(const std::string& text) {
 std::string exactly(double x) { return QString::number(x, 'f', 9).toStdString(); }
 std::string rounded(double x) { return NumberText(RoundSigned2(x)); }
 
-TEST_F(RogtSpaceOnScreen, IsTriedGivenAndSolvedThroughout) {
+TEST_F(RogtSpaceShown, IsTriedGivenAndSolvedThroughout) {
     const char* const boxesOfCount[] = {"Text10 Text11 Text14 Text15", "Text11 Text14 Text15",
                                         "Text14 Text15"};
     // Two roots get no green.
