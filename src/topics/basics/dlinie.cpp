@@ -3,6 +3,7 @@
 #include "controls/fraction.h"
 #include "controls/panel.h"
 #include "graph/graph_box.h"
+#include "graph/ticks.h"
 #include "numeric/text.h"
 #include "topics/basics/ui_dlinie.h"
 
@@ -84,12 +85,8 @@ void Dlinie::drawAxes() {
     graph.Line(0, kEnd, 0, -kEnd);
     graph.Line(-kEnd, 0, kEnd, 0);
     // Kept: the far ends go without a dot, and the Y axis without its lowest.
-    for (int x = -kEnd; x < kEnd; ++x) {
-        graph.PSet(x, 0.1);
-    }
-    for (int y = -kEnd + 1; y < kEnd; ++y) {
-        graph.PSet(0.07, y);
-    }
+    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd}, {0.1});
+    drawTicksAlongY(graph, {.from = -kEnd + 1, .before = kEnd}, {0.07});
     graph.place(*ui_->Label6, 4.7, -0.2);
     graph.place(*ui_->Label7, -1, -4.5);
     graph.place(*ui_->Label8, -5.2, -0.2);

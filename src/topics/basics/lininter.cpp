@@ -3,6 +3,7 @@
 #include "controls/fraction.h"
 #include "controls/panel.h"
 #include "graph/graph_box.h"
+#include "graph/ticks.h"
 #include "topics/basics/ui_lininter.h"
 
 namespace tavrune {
@@ -62,12 +63,8 @@ void Lininter::drawAxes() {
     graph.Scale(kLeftmostQ, kTopmostP, kRightmostQ, kLowestP);
     graph.Line(0, kTopmostP, 0, kLowestP);
     graph.Line(kLeftmostQ, 0, kRightmostQ, 0);
-    for (int x = -7; x <= 14; ++x) {
-        graph.PSet(x, kOffAxis);
-    }
-    for (int y = -5; y <= 16; ++y) {
-        graph.PSet(kOffAxis, y);
-    }
+    drawTicksAlongX(graph, {.from = -7, .before = 15}, {kOffAxis});
+    drawTicksAlongY(graph, {.from = -5, .before = 17}, {kOffAxis});
 }
 
 void Lininter::drawPoints() {

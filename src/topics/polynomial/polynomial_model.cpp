@@ -21,8 +21,6 @@ constexpr std::array kPatterns{
     Pattern{M, M, P}, Pattern{M, M, O}, Pattern{M, M, M},
 };
 
-float withSign(Term term, float size) { return static_cast<float>(term) * size; }
-
 std::string laterTerm(Term term, float size, const char* power) {
     if (term == Term::Absent) {
         return "";

@@ -3,6 +3,8 @@
 #include <optional>
 #include <string>
 
+#include "numeric/term.h"
+
 namespace tavrune {
 
 /// P = aQ² + bQ + c. Drawn numbers: whole, and singles.
@@ -11,9 +13,6 @@ struct Polynomial {
     float b = 0;
     float c = 0;
 };
-
-/// What a pattern makes of a drawn coefficient.
-enum class Term { Minus = -1, Absent = 0, Plus = 1 };
 
 struct Pattern {
     Term a;

@@ -2,8 +2,8 @@
 
 #include "controls/frame.h"
 #include "controls/panel.h"
-#include "graph/graph_box.h"
-#include "topics/polynomial/parabola.h"
+#include "graph/curve.h"
+#include "graph/ticks.h"
 #include "topics/polynomial/ui_roedder.h"
 
 namespace tavrune {
@@ -62,16 +62,17 @@ void Roedder::drawAxes() {
     graph.Scale(-kEnd, kEnd, kEnd, -kEnd);
     graph.Line(0, kEnd, 0, -kEnd);
     graph.Line(-kEnd, 0, kEnd, 0);
-    drawTicksOnQ(graph, {.offAxis = 0.2, .step = 1});
-    drawTicksOnP(graph, {.offAxis = 0.1, .step = 1});
+    drawTicksAlongX(graph, {.from = -15, .before = 15}, {0.2});
+    drawTicksAlongY(graph, {.from = -15, .before = 15}, {0.1});
     for (const double offAxis : {0.2, 0.3}) {
-        drawTicksOnQ(graph, {.offAxis = offAxis, .step = 5});
-        drawTicksOnP(graph, {.offAxis = offAxis, .step = 5});
+        drawTicksAlongX(graph, {.from = -15, .before = 15, .step = 5}, {offAxis});
+        drawTicksAlongY(graph, {.from = -15, .before = 15, .step = 5}, {offAxis});
     }
 }
 
 void Roedder::drawCurve(double neverMet) {
-    plotCurve(*ui_->Picture1, state_.coefficients, {.start = -10, .neverMet = neverMet, .largest = 2000});
+    plotCurve(*ui_->Picture1, [this](double q) { return valueAt(state_.coefficients, q); },
+              {.start = -10, .step = 0.05, .neverMet = neverMet, .largest = 2000});
 }
 
 void Roedder::drawTick(double root) { ui_->Picture1->Line(root, -kHalfTick, root, kHalfTick, kRed); }

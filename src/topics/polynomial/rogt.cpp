@@ -1,8 +1,8 @@
 #include "topics/polynomial/rogt.h"
 
 #include "controls/frame.h"
-#include "graph/graph_box.h"
-#include "topics/polynomial/parabola.h"
+#include "graph/curve.h"
+#include "graph/ticks.h"
 #include "topics/polynomial/ui_rogt.h"
 
 namespace tavrune {
@@ -78,16 +78,17 @@ void Rogt::drawAxes() {
     graph.Scale(-15, 15, 15, -15);
     graph.Line(0, 15, 0, -15);
     graph.Line(-15, 0, 15, 0);
-    drawTicksOnQ(graph, {.offAxis = 0.2, .step = 1});
-    drawTicksOnP(graph, {.offAxis = 0.1, .step = 1});
-    drawTicksOnQ(graph, {.offAxis = 0.3, .step = 5});
-    drawTicksOnP(graph, {.offAxis = 0.2, .step = 5});
-    drawTicksOnQ(graph, {.offAxis = 0.4, .step = 5});
-    drawTicksOnP(graph, {.offAxis = 0.3, .step = 5});
+    drawTicksAlongX(graph, {.from = -15, .before = 15}, {0.2});
+    drawTicksAlongY(graph, {.from = -15, .before = 15}, {0.1});
+    drawTicksAlongX(graph, {.from = -15, .before = 15, .step = 5}, {0.3});
+    drawTicksAlongY(graph, {.from = -15, .before = 15, .step = 5}, {0.2});
+    drawTicksAlongX(graph, {.from = -15, .before = 15, .step = 5}, {0.4});
+    drawTicksAlongY(graph, {.from = -15, .before = 15, .step = 5}, {0.3});
 }
 
 void Rogt::drawCurve() {
-    plotCurve(*ui_->Picture1, state_.coefficients, {.start = -7, .neverMet = 7, .largest = 1000});
+    plotCurve(*ui_->Picture1, [this](double q) { return valueAt(state_.coefficients, q); },
+              {.start = -7, .step = 0.05, .neverMet = 7, .largest = 1000});
 }
 
 void Rogt::hideRootFields() { hideAll({ui_->Text10, ui_->Text11, ui_->Label3, ui_->Label4, ui_->Label7}); }

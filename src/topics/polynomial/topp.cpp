@@ -3,7 +3,8 @@
 #include "controls/fraction.h"
 #include "controls/panel.h"
 #include "controls/row.h"
-#include "topics/polynomial/parabola.h"
+#include "graph/curve.h"
+#include "graph/ticks.h"
 #include "topics/polynomial/ui_topp.h"
 
 namespace tavrune {
@@ -58,12 +59,12 @@ void Topp::drawAxes() {
     graph.Scale(-2, 15, 15, -15);
     graph.Line(0, 20, 0, -20);
     graph.Line(-20, 0, 20, 0);
-    drawTicksOnQ(graph, {.offAxis = 0.2, .step = 1});
-    drawTicksOnP(graph, {.offAxis = 0.1, .step = 1});
-    drawTicksOnQ(graph, {.offAxis = 0.3, .step = 5});
-    drawTicksOnP(graph, {.offAxis = 0.2, .step = 5});
-    drawTicksOnQ(graph, {.offAxis = 0.4, .step = 5, .end = 20});
-    drawTicksOnP(graph, {.offAxis = 0.3, .step = 5});
+    drawTicksAlongX(graph, {.from = -15, .before = 15}, {0.2});
+    drawTicksAlongY(graph, {.from = -15, .before = 15}, {0.1});
+    drawTicksAlongX(graph, {.from = -15, .before = 15, .step = 5}, {0.3});
+    drawTicksAlongY(graph, {.from = -15, .before = 15, .step = 5}, {0.2});
+    drawTicksAlongX(graph, {.from = -15, .before = 20, .step = 5}, {0.4});
+    drawTicksAlongY(graph, {.from = -15, .before = 15, .step = 5}, {0.3});
 }
 
 void Topp::fillHelp() {
@@ -82,7 +83,8 @@ void Topp::fillHelp() {
 }
 
 void Topp::drawCurve() {
-    plotCurve(*ui_->Picture1, state_.polynomial, {.start = -7, .neverMet = 7, .largest = 1000});
+    plotCurve(*ui_->Picture1, [this](double q) { return valueAt(state_.polynomial, q); },
+              {.start = -7, .step = 0.05, .neverMet = 7, .largest = 1000});
 }
 
 void Topp::judge() {

@@ -1,0 +1,20 @@
+#include "graph/curve.h"
+
+#include <cmath>
+
+namespace tavrune {
+
+void plotCurve(GraphBox& graph, const Curve& curve, const CurveRange& range) {
+    // The running sum of the steps is where the pieces lie.
+    double x = range.start;
+    while (true) {
+        const double y = curve(x);
+        graph.Line(x, y, x + range.step, curve(x + range.step));
+        x += range.step;
+        if (std::abs(y) > range.largest || x == range.neverMet) {
+            return;
+        }
+    }
+}
+
+}  // namespace tavrune
