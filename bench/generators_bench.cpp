@@ -6,6 +6,7 @@
 #include "topics/basics/konvert_exercise.h"
 #include "topics/basics/lininter_exercise.h"
 #include "topics/basics/tomto_exercise.h"
+#include "topics/calculus/diff_exercise.h"
 #include "topics/polynomial/roedder_exercise.h"
 #include "topics/polynomial/rogt_exercise.h"
 #include "topics/polynomial/topp_exercise.h"
@@ -25,6 +26,7 @@ void Generator(benchmark::State& bench) {
     bench.SetItemsProcessed(bench.iterations());
 }
 BENCHMARK(Generator<BrokState>)->Name("Generator/Brok");
+BENCHMARK(Generator<DiffState>)->Name("Generator/Diff");
 BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
 BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");

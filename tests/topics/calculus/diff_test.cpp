@@ -1,0 +1,492 @@
+#include "topics/calculus/diff.h"
+
+#include <cmath>
+#include <limits>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "graph/graph_box.h"
+#include "support/decimal_mark.h"
+#include "support/fixed_texts.h"
+#include "support/form_driver.h"
+#include "support/looks.h"
+#include "support/strokes.h"
+#include "topics/calculus/diff_script.h"
+
+namespace tavrune {
+namespace {
+
+using test::DecimalMark;
+using test::DiffDraws;
+using test::FormDriver;
+using test::ScriptedDraws;
+
+const GraphScale kScale{-1, 65, 8, -65};
+const test::StrokesIn kIn{kScale};
+
+/// 2Q² +2Q at 3: the height is 24, the slope 14.
+const DiffDraws kQuadratic{.a = 2, .b = 2, .x = 3, .patternCase = 3};
+/// 1Q³ -2Q² -3Q+4 at 2: the height is -2, the slope 1.
+const DiffDraws kCubic{.a = 1, .b = 2, .c = 3, .d = 4, .x = 2, .patternCase = 37};
+/// 3Q³ +1Q² +2Q+5 at 3, graphed as 3Q² +1Q +2: the height is 32, the slope 89.
+const DiffDraws kMismatched{.a = 3, .b = 1, .c = 2, .d = 5, .x = 3, .patternCase = 17};
+
+std::vector<Stroke> axesAndTicks() {
+    std::vector<Stroke> strokes{kIn.line(0, 65, 0, -65), kIn.line(-65, 0, 65, 0)};
+    for (const int x : {-10, -5, 0, 5}) {
+        strokes.push_back(kIn.point(x, 2));
+    }
+    for (int x = -2; x < 10; ++x) {
+        strokes.push_back(kIn.point(x, 1));
+        strokes.push_back(kIn.point(x, 1.5));
+    }
+    for (int y = -70; y < 70; y += 10) {
+        strokes.push_back(kIn.point(0.05, y));
+        strokes.push_back(kIn.point(0.1, y));
+        strokes.push_back(kIn.point(0.075, y));
+    }
+    return strokes;
+}
+
+template <class Curve>
+std::vector<Stroke> pieces(double from, double largest, Curve curve) {
+    std::vector<Stroke> strokes;
+    double y = 0;
+    for (double x = from; std::abs(y) <= largest; x += 0.04) {
+        y = curve(x);
+        strokes.push_back(kIn.line(x, y, x + 0.04, curve(x + 0.04)));
+    }
+    return strokes;
+}
+
+std::vector<Stroke> parabola(double a, double b, double c) {
+    return pieces(-10, 2000, [=](double x) { return a * x * x + b * x + c; });
+}
+
+std::vector<Stroke> cubic(double a, double b, double c, double d) {
+    return pieces(-7, 5000, [=](double x) { return a * std::pow(x, 3) + b * std::pow(x, 2) + c * x + d; });
+}
+
+std::vector<Stroke> operator+(std::vector<Stroke> first, const std::vector<Stroke>& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+class DiffForm : public testing::Test {
+protected:
+    FormDriver& open(const DiffDraws& drawn) {
+        draws.append(drawn.script());
+        form = std::make_unique<FormDriver>(PageName::Diff, draws);
+        strokesOfTask = graph().strokes().size();
+        return *form;
+    }
+
+    void nextExercise(const DiffDraws& drawn) {
+        draws.append(drawn.script());
+        form->click("Command15");
+        strokesOfTask = graph().strokes().size();
+    }
+
+    void answer(const std::string& slope) const {
+        form->type("Text1", slope);
+        form->click("Command13");
+    }
+
+    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+
+    /// What was drawn after the task.
+    [[nodiscard]] std::vector<Stroke> drawnLater() const { return test::strokesFrom(graph(), strokesOfTask); }
+
+    [[nodiscard]] bool areShown(std::initializer_list<const char*> names, bool shown = true) const {
+        bool all = true;
+        for (const char* name : names) {
+            EXPECT_EQ(form->isShown(name), shown) << name;
+            all = all && form->isShown(name) == shown;
+        }
+        return all;
+    }
+
+    [[nodiscard]] bool areHidden(std::initializer_list<const char*> names) const {
+        return areShown(names, false);
+    }
+
+    ScriptedDraws draws;
+    std::unique_ptr<FormDriver> form;
+    std::size_t strokesOfTask = 0;
+};
+
+TEST_F(DiffForm, HidesTheButtonOfTheNextExerciseUntilItIsOnScreen) {
+    const FormDriver unshown = FormDriver::unshown(PageName::Diff, draws);
+    EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Differentialregning");
+    for (const char* hidden : {"Command15", "Command14", "Label10", "Label27", "Picture2"}) {
+        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
+    }
+    for (const char* blank : {"Label5", "Label25", "Label49", "Label37", "Label7", "Label47", "Label18"}) {
+        EXPECT_EQ(unshown.caption(blank), "") << blank;
+    }
+}
+
+TEST_F(DiffForm, AsksForTheDerivativeAtAPoint) {
+    const FormDriver& f = open(kQuadratic);
+    EXPECT_EQ(f.caption("Label1"), "Bestem differentialkvotienten for Q =");
+    EXPECT_EQ(f.caption("Label25"), "3");
+    EXPECT_EQ(f.caption("Label5"), "P=  2Q² +2Q");
+    EXPECT_EQ(f.caption("Label8"), "Differentialkvotienten =");
+    EXPECT_EQ(f.box("Text1").content(), "");
+    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
+    EXPECT_TRUE(
+        areShown({"Label1", "Label25", "Label5", "Label8", "Text1", "Command13", "Command15", "Command1"}));
+    EXPECT_TRUE(areHidden({"Command14", "Label10", "Label27", "Picture2", "Label37", "Label47", "Label18"}));
+    EXPECT_EQ(f.focus(), "Text1");
+    f.press("Text1", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Command13");
+}
+
+TEST_F(DiffForm, SetsThePointRightBehindItsQuestion) {
+    const FormDriver& f = open(kQuadratic);
+    EXPECT_NEAR(f.label("Label25").place().left(), f.label("Label1").place().right() + 4, 0.01);
+    EXPECT_EQ(f.label("Label25").place().top(), f.label("Label1").place().top());
+}
+
+TEST_F(DiffForm, NumbersItsAxesWhereTheTicksAre) {
+    open(kQuadratic);
+    std::multiset<std::string> captions;
+    for (const Label* label : graph().findChildren<Label*>()) {
+        const std::string caption = label->caption();
+        captions.insert(caption);
+        if (caption == "5") {
+            EXPECT_NEAR((graph().leftOf(*label) + graph().rightOf(*label)) / 2, 5, 0.05);
+        } else if (caption != "P" && caption != "Q") {
+            const double middle = label->place().center().y() / graph().height();
+            EXPECT_NEAR(65 - 130 * middle, std::stod(caption), 0.5) << caption;
+            EXPECT_LT(graph().rightOf(*label), 0) << caption;
+        }
+    }
+    EXPECT_EQ(captions, (std::multiset<std::string>{"60", "30", "-30", "-60", "5", "Q", "P"}));
+    EXPECT_EQ(form->caption("Label12"), "Q");
+    EXPECT_EQ(form->caption("Label14"), "P");
+}
+
+TEST_F(DiffForm, DrawsAxesTicksAndTheParabolaOfAQuadratic) {
+    open(kQuadratic);
+    EXPECT_EQ(axesAndTicks().size(), 72U);
+    EXPECT_EQ(graph().strokes(), axesAndTicks() + parabola(2, 2, 0));
+}
+
+TEST_F(DiffForm, DrawsTheCurveOfACubic) {
+    open(kCubic);
+    EXPECT_EQ(graph().strokes(), axesAndTicks() + cubic(1, -2, -3, 4));
+    nextExercise({.a = 2, .b = 4, .c = 5, .x = 1, .patternCase = 40});
+    EXPECT_EQ(graph().strokes(), axesAndTicks() + cubic(-2, 4, 5, 0));
+}
+
+TEST_F(DiffForm, DrawsAParabolaForTheFirstTwoCubics) {
+    open(kMismatched);
+    EXPECT_EQ(form->caption("Label5"), "P=  3Q³ +1Q² +2Q+5");
+    EXPECT_EQ(graph().strokes(), axesAndTicks() + parabola(3, 1, 2));
+    DiffDraws eighteenth = kMismatched;
+    eighteenth.patternCase = 18;
+    nextExercise(eighteenth);
+    EXPECT_EQ(form->caption("Label5"), "P=  3Q³ +1Q² +2Q-5");
+    EXPECT_EQ(graph().strokes(), axesAndTicks() + parabola(3, 1, 2));
+}
+
+TEST_F(DiffForm, EndsAParabolaWithThePieceThatBeginsBeyondTwoThousand) {
+    open({.a = 2, .x = 1, .patternCase = 2});
+    // 2Q² passes 2000 between the 1041st and the 1042nd point.
+    ASSERT_EQ(graph().strokes().size(), 72U + 1042U);
+    EXPECT_EQ(graph().strokes()[72].x1, -10);
+    EXPECT_NEAR(graph().strokes().back().x1, 31.64, 1e-3);
+    EXPECT_GT(graph().strokes().back().y1, 2000);
+    EXPECT_LT(graph().strokes()[graph().strokes().size() - 2].y1, 2000);
+}
+
+TEST_F(DiffForm, EndsACubicWithThePieceThatBeginsBeyondFiveThousand) {
+    open({.a = 1, .x = 1, .patternCase = 45});
+    // -1Q³ passes -5000 between the 603rd and the 604th point.
+    ASSERT_EQ(graph().strokes().size(), 72U + 604U);
+    EXPECT_EQ(graph().strokes()[72].x1, -7);
+    EXPECT_NEAR(graph().strokes().back().x1, 17.12, 1e-3);
+    EXPECT_LT(graph().strokes().back().y1, -5000);
+    EXPECT_GT(graph().strokes()[graph().strokes().size() - 2].y1, -5000);
+}
+
+TEST_F(DiffForm, DrawsTheAxesOnceHoweverManyCurvesAreOutOfReach) {
+    draws.append(DiffDraws{.a = 3, .x = 5, .patternCase = 1}.script());
+    draws.append(DiffDraws{.a = 2, .x = 5, .patternCase = 45}.script());
+    const FormDriver& f = open(kQuadratic);
+    EXPECT_TRUE(draws.isUsedUp());
+    EXPECT_EQ(draws.randomized(), 3);
+    EXPECT_EQ(graph().strokes(), axesAndTicks() + parabola(2, 2, 0));
+    EXPECT_EQ(f.caption("Label5"), "P=  2Q² +2Q");
+    EXPECT_EQ(f.caption("Label49"), "P= 2Q² +2Q");
+}
+
+TEST_F(DiffForm, IsSolvedByKeysAlone) {
+    const FormDriver& f = open(kQuadratic);
+    f.type("Text1", "14,0");
+    EXPECT_EQ(f.box("Text1").content(), "14.0");
+    f.press("Text1", Qt::Key_Return);
+    f.press("Command13", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("Label10"));
+    EXPECT_EQ(f.focus(), "Command15");
+    draws.append(kCubic.script());
+    f.press("Command15", Qt::Key_Return);
+    EXPECT_TRUE(areHidden({"Label10", "Label27", "Command14"}));
+    EXPECT_TRUE(areShown({"Command13", "Command15"}));
+    EXPECT_EQ(f.caption("Label5"), "P=  1Q³ -2Q² -3Q+4");
+    EXPECT_EQ(f.caption("Label25"), "2");
+    EXPECT_EQ(f.box("Text1").content(), "");
+    EXPECT_EQ(f.focus(), "Text1");
+}
+
+TEST_F(DiffForm, LeavesOnlyTheNextExerciseWhenSolved) {
+    const FormDriver& f = open(kQuadratic);
+    answer("14");
+    EXPECT_TRUE(areShown({"Label10", "Command15"}));
+    EXPECT_TRUE(areHidden({"Label27", "Command13", "Command14"}));
+    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
+    EXPECT_EQ(f.box("Text1").content(), "14");
+    EXPECT_EQ(f.focus(), "Command15");
+    f.box("Text1").setFocus();
+    f.press("Text1", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Text1");
+}
+
+TEST_F(DiffForm, DrawsTheRightTangentThreeToEitherSideOnAParabola) {
+    open(kQuadratic);
+    answer("14");
+    EXPECT_EQ(drawnLater(), (std::vector{kIn.line(6, 66, 0, -18, kGreen)}));
+}
+
+TEST_F(DiffForm, DrawsTheRightTangentTwoToEitherSideOnACubic) {
+    open(kCubic);
+    answer("1");
+    EXPECT_EQ(drawnLater(), (std::vector{kIn.line(4, 0, 0, -4, kGreen)}));
+}
+
+TEST_F(DiffForm, DrawsTheSlopeOfTheCubicThroughTheParabolaOfTheFirstTwoCubics) {
+    open(kMismatched);
+    answer("89");
+    EXPECT_TRUE(form->isShown("Label10"));
+    EXPECT_EQ(drawnLater(), (std::vector{kIn.line(6, 32 + 3 * 89, 0, 32 - 3 * 89, kGreen)}));
+}
+
+TEST_F(DiffForm, DrawsTheSlopeThatWasTypedInRed) {
+    const FormDriver& f = open(kQuadratic);
+    answer("1.5");
+    EXPECT_TRUE(areShown({"Label27", "Command13", "Command14", "Command15"}));
+    EXPECT_TRUE(areHidden({"Label10"}));
+    EXPECT_EQ(f.box("Text1").backColour(), kRed);
+    EXPECT_EQ(f.box("Text1").content(), "1.5");
+    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_EQ(drawnLater(), (std::vector{kIn.line(5, 27, 1, 21, kRed)}));
+}
+
+TEST_F(DiffForm, PilesUpTheTangentsOfAllTriesUntilTheNextExercise) {
+    open(kQuadratic);
+    answer("1");
+    answer("");
+    answer("-2.25");
+    answer("14");
+    EXPECT_EQ(drawnLater(), (std::vector{kIn.line(5, 26, 1, 22, kRed), kIn.line(5, 24, 1, 24, kRed),
+                                         kIn.line(5, 19.5, 1, 28.5, kRed), kIn.line(6, 66, 0, -18, kGreen)}));
+    nextExercise(kCubic);
+    EXPECT_EQ(graph().strokes(), axesAndTicks() + cubic(1, -2, -3, 4));
+}
+
+TEST_F(DiffForm, ShowsRightInFrontOfAWrongThatStays) {
+    const FormDriver& f = open(kQuadratic);
+    answer("13");
+    answer("14");
+    EXPECT_TRUE(areShown({"Label10", "Label27"}));
+    EXPECT_TRUE(areHidden({"Command13", "Command14"}));
+    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
+    const Label& right = f.label("Label10");
+    const Label& wrong = f.label("Label27");
+    EXPECT_EQ(right.place(), wrong.place());
+    ASSERT_EQ(right.parent(), wrong.parent());
+    EXPECT_GT(right.parent()->children().indexOf(&right), right.parent()->children().indexOf(&wrong));
+    nextExercise(kCubic);
+    EXPECT_TRUE(areHidden({"Label10", "Label27"}));
+}
+
+struct TypedRow {
+    const char* name;
+    const char* typed;
+    bool isRight;
+};
+
+class DiffTyped : public DiffForm, public testing::WithParamInterface<TypedRow> {};
+
+TEST_P(DiffTyped, IsTakenWithinTheHalfOpenBandRoundFourteen) {
+    const FormDriver& f = open(kQuadratic);
+    answer(GetParam().typed);
+    EXPECT_EQ(f.isShown("Label10"), GetParam().isRight);
+    EXPECT_EQ(f.isShown("Label27"), !GetParam().isRight);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, DiffTyped,
+    testing::Values(TypedRow{"ALittleMore", "14.004", true}, TypedRow{"TooMuch", "14.006", false},
+                    TypedRow{"UpperEnd", "14.005", true}, TypedRow{"LowerEnd", "13.995", false},
+                    TypedRow{"ALittleLess", "13.996", true}, TypedRow{"TooLittle", "13.994", false},
+                    TypedRow{"Negative", "-14", false}, TypedRow{"WithUnit", "14 kr", true},
+                    TypedRow{"Nothing", "", false}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(DiffForm, TakesAnEmptyBoxForASlopeOfZero) {
+    const FormDriver& f = open({.a = 2, .b = 3, .x = 1, .patternCase = 34});
+    f.click("Command13");
+    EXPECT_TRUE(f.isShown("Label10"));
+    EXPECT_EQ(drawnLater(), (std::vector{kIn.line(3, -1, -1, -1, kGreen)}));
+}
+
+TEST_F(DiffForm, GivesTheAnswerWithTheRightTangentAndThenTheTypedOne) {
+    const FormDriver& f = open(kQuadratic);
+    answer("1,5");
+    f.click("Command14");
+    EXPECT_EQ(f.box("Text1").content(), "14");
+    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
+    EXPECT_TRUE(f.isShown("Text1"));
+    EXPECT_TRUE(areHidden({"Command13", "Command14", "Label10", "Label27"}));
+    EXPECT_TRUE(f.isShown("Command15"));
+    EXPECT_EQ(f.focus(), "Command15");
+    EXPECT_EQ(drawnLater(), (std::vector{kIn.line(5, 27, 1, 21, kRed), kIn.line(6, 66, 0, -18, kGreen),
+                                         kIn.line(5, 27, 1, 21, kRed)}));
+}
+
+TEST_F(DiffForm, DrawsWhatStandsInTheBoxWhenTheAnswerIsAskedFor) {
+    const FormDriver& f = open(kCubic);
+    answer("7");
+    f.type("Text1", "");
+    f.click("Command14");
+    EXPECT_EQ(f.box("Text1").content(), "1");
+    EXPECT_EQ(drawnLater(), (std::vector{kIn.line(4, 12, 0, -16, kRed), kIn.line(4, 0, 0, -4, kGreen),
+                                         kIn.line(4, -2, 0, -2, kRed)}));
+}
+
+TEST_F(DiffForm, GivesANegativeSlopeWholeInEveryLocale) {
+    const DecimalMark danish(",");
+    const FormDriver& f = open({.a = 3, .b = 4, .c = 5, .x = 5, .patternCase = 12});
+    answer("1");
+    f.click("Command14");
+    EXPECT_EQ(f.box("Text1").content(), "-26");
+    EXPECT_EQ(f.caption("Label18"), "P'(5)=-26");
+}
+
+TEST_F(DiffForm, TakesAnyTypedText) {
+    const FormDriver& f = open(kCubic);
+    for (const std::string& typed :
+         {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
+        f.box("Text1").setContent(typed);
+        f.click("Command13");
+        EXPECT_EQ(f.box("Text1").backColour(), kRed);
+        f.click("Command14");
+        EXPECT_FALSE(f.page().grab().isNull());
+        EXPECT_EQ(f.box("Text1").content(), "1");
+        nextExercise(kCubic);
+    }
+}
+
+TEST_F(DiffForm, ExplainsTheGeneralSolution) {
+    const FormDriver& f = open(kQuadratic);
+    constexpr test::FixedText kTexts[]{
+        {"Label24", "Generel løsning"},
+        {"Label6",
+         "Differentiér funktionen ledvis: Det enkelte led i polynomiet differentieres ved at gange ledet med "
+         "den oprindelige eksponent og reducere eksponenten med 1."},
+        {"Label33", "Aktuel løsning"},
+        {"Command4", "Vis"},
+        {"Command5", "Vis"},
+        {"Command2", "&Luk"}};
+    test::expectTexts(f, kTexts);
+    f.click("Command1");
+    EXPECT_EQ(f.caption("Label26"), "P = aQ³ + bQ² + cQ + d");
+    EXPECT_EQ(f.caption("Label30"), "P'= 3aQ³ + 2bQ + c");
+    EXPECT_TRUE(areShown({"Label26", "Label6", "Label30"}));
+}
+
+TEST_F(DiffForm, WorksTheSolutionOutWithTheNumbersOfTheExercise) {
+    const FormDriver& f = open(kMismatched);
+    EXPECT_EQ(f.caption("Label49"), "P=  3Q³ +1Q² +2Q+5");
+    EXPECT_EQ(f.caption("Label37"), "P'=3·3Q² +2·1Q + 2");
+    EXPECT_EQ(f.caption("Label7"), "For Q = 3 fås");
+    EXPECT_EQ(f.caption("Label47"), "P'(3)=3·3·3² +2·1·3+2");
+    EXPECT_EQ(f.caption("Label18"), "P'(3)=89");
+    nextExercise({.a = 2, .c = 3, .x = 1, .patternCase = 13});
+    EXPECT_EQ(f.caption("Label5"), "P= -2Q² +3");
+    EXPECT_EQ(f.caption("Label49"), "P=-2Q² +3");
+    EXPECT_EQ(f.caption("Label37"), "P'=2·(-2)Q");
+    EXPECT_EQ(f.caption("Label7"), "For Q = 1 fås");
+    EXPECT_EQ(f.caption("Label47"), "P'(1)=2·(-2)·1");
+    EXPECT_EQ(f.caption("Label18"), "P'(1)=-4");
+}
+
+TEST_F(DiffForm, OpensItsHelpStepByStep) {
+    const FormDriver& f = open(kQuadratic);
+    f.click("Command1");
+    EXPECT_TRUE(areShown({"Picture2", "Label49", "Label7"}));
+    EXPECT_TRUE(areHidden({"Label37", "Label47", "Label18"}));
+    EXPECT_EQ(f.focus(), "Command4");
+    f.press("Command4", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("Label37"));
+    EXPECT_TRUE(areHidden({"Label47", "Label18"}));
+    EXPECT_EQ(f.focus(), "Command5");
+    f.press("Command5", Qt::Key_Return);
+    EXPECT_TRUE(areShown({"Label37", "Label47", "Label18"}));
+    EXPECT_EQ(f.focus(), "Command2");
+    f.press("Command2", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("Picture2"));
+    EXPECT_EQ(f.focus(), "Text1");
+}
+
+TEST_F(DiffForm, ShowsTheFirstStepWithTheSecond) {
+    const FormDriver& f = open(kQuadratic);
+    f.click("Command1");
+    f.click("Command5");
+    EXPECT_TRUE(areShown({"Label37", "Label47", "Label18"}));
+}
+
+TEST_F(DiffForm, KeepsTheShownStepsUntilTheNextExercise) {
+    const FormDriver& f = open(kQuadratic);
+    f.click("Command1");
+    f.click("Command5");
+    f.click("Command2");
+    f.click("Command1");
+    EXPECT_TRUE(areShown({"Label37", "Label47", "Label18", "Label6"}));
+    EXPECT_EQ(f.focus(), "Command4");
+    nextExercise(kCubic);
+    EXPECT_TRUE(areHidden({"Picture2", "Label37", "Label47", "Label18"}));
+    EXPECT_TRUE(f.isShown("Label6"));
+}
+
+TEST_F(DiffForm, LeavesThePanelOpenWhileTheExerciseGoesOn) {
+    const FormDriver& f = open(kQuadratic);
+    f.click("Command1");
+    answer("1");
+    EXPECT_TRUE(areShown({"Picture2", "Label27"}));
+    f.click("Command14");
+    EXPECT_TRUE(f.isShown("Picture2"));
+    EXPECT_EQ(f.focus(), "Command15");
+}
+
+TEST_F(DiffForm, HasRoomForTheTextsOfEveryPattern) {
+    for (int patternCase = 1; patternCase <= 50; ++patternCase) {
+        const DiffDraws drawn{.a = 2, .b = 4, .c = 5, .d = 5, .x = 2, .patternCase = patternCase};
+        if (form == nullptr) {
+            open(drawn);
+        } else {
+            nextExercise(drawn);
+        }
+        form->click("Command1");
+        form->click("Command5");
+        ASSERT_EQ(test::flawsOf(form->page()), std::vector<std::string>{}) << form->caption("Label5");
+        form->click("Command2");
+        ASSERT_EQ(test::flawsOf(form->page()), std::vector<std::string>{}) << form->caption("Label5");
+    }
+}
+
+}  // namespace
+}  // namespace tavrune
