@@ -6,6 +6,7 @@
 #include "topics/basics/konvert_exercise.h"
 #include "topics/basics/lininter_exercise.h"
 #include "topics/basics/tomto_exercise.h"
+#include "topics/calculus/integ_exercise.h"
 #include "topics/polynomial/roedder_exercise.h"
 #include "topics/polynomial/rogt_exercise.h"
 #include "topics/polynomial/topp_exercise.h"
@@ -26,6 +27,7 @@ void Generator(benchmark::State& bench) {
 }
 BENCHMARK(Generator<BrokState>)->Name("Generator/Brok");
 BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
+BENCHMARK(Generator<IntegState>)->Name("Generator/Integ");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
 BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
 BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");

@@ -13,6 +13,7 @@
 #include "topics/basics/konvert.h"
 #include "topics/basics/lininter.h"
 #include "topics/basics/tomto.h"
+#include "topics/calculus/integ.h"
 #include "topics/polynomial/roedder.h"
 #include "topics/polynomial/rogt.h"
 #include "topics/polynomial/topp.h"
@@ -54,6 +55,7 @@ constexpr std::array kPages{
     Entry{PageName::Topp, form<Topp>},
     Entry{PageName::Roedder, form<Roedder>},
     Entry{PageName::Rogt, form<Rogt>},
+    Entry{PageName::Integ, form<Integ>},
 };
 // clang-format on
 
