@@ -7,6 +7,7 @@
 #include "topics/basics/lininter_exercise.h"
 #include "topics/basics/tomto_exercise.h"
 #include "topics/calculus/diff_exercise.h"
+#include "topics/calculus/integ_exercise.h"
 #include "topics/polynomial/roedder_exercise.h"
 #include "topics/polynomial/rogt_exercise.h"
 #include "topics/polynomial/topp_exercise.h"
@@ -28,6 +29,7 @@ void Generator(benchmark::State& bench) {
 BENCHMARK(Generator<BrokState>)->Name("Generator/Brok");
 BENCHMARK(Generator<DiffState>)->Name("Generator/Diff");
 BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
+BENCHMARK(Generator<IntegState>)->Name("Generator/Integ");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
 BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
 BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");

@@ -14,6 +14,7 @@
 #include "topics/basics/lininter.h"
 #include "topics/basics/tomto.h"
 #include "topics/calculus/diff.h"
+#include "topics/calculus/integ.h"
 #include "topics/polynomial/roedder.h"
 #include "topics/polynomial/rogt.h"
 #include "topics/polynomial/topp.h"
@@ -56,6 +57,7 @@ constexpr std::array kPages{
     Entry{PageName::Roedder, form<Roedder>},
     Entry{PageName::Rogt, form<Rogt>},
     Entry{PageName::Diff, form<Diff>},
+    Entry{PageName::Integ, form<Integ>},
 };
 // clang-format on
 

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "numeric/draws.h"
+
+namespace tavrune {
+
+/// One function p = aQ² + bQ + c and the limits between which it is integrated. Drawn numbers: whole, and
+/// singles.
+struct IntegState {
+    /// Signed; 0 where the shape has no such term. Sizes 1 to 4, 1 to 4 and 1 to 5.
+    float a = 0;
+    float b = 0;
+    float c = 0;
+    /// The upper limit, 2 to 7.
+    float w = 0;
+    /// The lower limit, 1 to 6, less than w.
+    float v = 0;
+    /// 1 to 26: which terms p has, and with which signs.
+    int shape = 0;
+    /// From v to w, unrounded.
+    double integral = 0;
+};
+
+/// Draws until v is less than w and p at v is 60 or less in size.
+void newExercise(IntegState& state, Draws& draws);
+
+/// p at Q.
+[[nodiscard]] double valueAt(const IntegState& state, double q);
+
+[[nodiscard]] bool isRight(const IntegState& state, double typed);
+
+/// The integral with two decimals, as the student is shown it.
+[[nodiscard]] std::string answerText(const IntegState& state);
+
+/// p as the task shows it: "-2Q²+3Q-4".
+[[nodiscard]] std::string functionText(const IntegState& state);
+
+/// A sum of terms cut into labels: the cubic term, its raised 3, the square one, its raised 2, the linear
+/// one. What an exercise has no term for is empty; together they read as the sum.
+using IntegRow = std::array<std::string, 5>;
+
+/// The steps of the worked solution.
+struct IntegWorked {
+    /// p: as the task shows it, in some shapes with blanks.
+    std::string function;
+    /// "(2/3)·Q", "³", "-(3/2)·Q", "²", "+4·Q"
+    IntegRow primitive;
+    /// p behind the first integral sign: up to the raised 2, and behind it. Without a square nothing stands
+    /// behind.
+    std::string integrandHead;
+    std::string integrandTail;
+    /// P at both limits, the limits as letters: "((2/3)·w", "³", ...; "- ((2/3)·v", "³", ...
+    IntegRow upperWithLetters;
+    IntegRow lowerWithLetters;
+    /// p behind the second integral sign, and P with the limits as numbers.
+    std::string integrand;
+    IntegRow upperWithNumbers;
+    IntegRow lowerWithNumbers;
+    /// "= 12.67"
+    std::string value;
+};
+
+[[nodiscard]] IntegWorked workedSolution(const IntegState& state);
+
+}  // namespace tavrune
