@@ -8,6 +8,7 @@
 #include "topics/basics/tomto_exercise.h"
 #include "topics/calculus/diff_exercise.h"
 #include "topics/calculus/integ_exercise.h"
+#include "topics/calculus/integ2_exercise.h"
 #include "topics/polynomial/roedder_exercise.h"
 #include "topics/polynomial/rogt_exercise.h"
 #include "topics/polynomial/topp_exercise.h"
@@ -33,6 +34,7 @@ BENCHMARK(Generator<IntegState>)->Name("Generator/Integ");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
 BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
 BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");
+BENCHMARK(Generator<Integ2State>)->Name("Generator/Integ2");
 BENCHMARK(Generator<RoedderState>)->Name("Generator/Roedder");
 BENCHMARK(Generator<RogtState>)->Name("Generator/Rogt");
 BENCHMARK(Generator<ToppState>)->Name("Generator/Topp");

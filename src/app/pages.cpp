@@ -15,6 +15,7 @@
 #include "topics/basics/tomto.h"
 #include "topics/calculus/diff.h"
 #include "topics/calculus/integ.h"
+#include "topics/calculus/integ2.h"
 #include "topics/polynomial/roedder.h"
 #include "topics/polynomial/rogt.h"
 #include "topics/polynomial/topp.h"
@@ -53,6 +54,7 @@ constexpr std::array kPages{
     Entry{PageName::Dlinie, form<Dlinie>},
     Entry{PageName::Lininter, form<Lininter>},
     Entry{PageName::Tomto, form<Tomto>},
+    Entry{PageName::Integ2, form<Integ2>},
     Entry{PageName::Topp, form<Topp>},
     Entry{PageName::Roedder, form<Roedder>},
     Entry{PageName::Rogt, form<Rogt>},

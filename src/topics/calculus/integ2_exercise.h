@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+
+#include "numeric/draws.h"
+
+namespace tavrune {
+
+/// A function in two linear pieces, P1 = a1 Q + b1 up to the kink k and P2 = a2 Q + b2 after it, whose
+/// integral from v to w is asked for. The pieces need not meet at k.
+struct Integ2State {
+    float a1 = 0;
+    float b1 = 0;
+    float a2 = 0;
+    float b2 = 0;
+    float k = 0;
+    /// 0 <= v < k < w <= 9, all whole.
+    float v = 0;
+    float w = 0;
+    /// The integral from v to k, the one from k to w, and their sum; all unrounded.
+    double first = 0;
+    double second = 0;
+    double total = 0;
+};
+
+/// Draws until the limits stand on the graph and the pieces are of one of three families: a fall and a rise,
+/// a rise and a fall, two falls.
+void newExercise(Integ2State& state, Draws& draws);
+
+/// The heights of the two pieces at q, wherever q lies.
+[[nodiscard]] double heightOfFirst(const Integ2State& state, double q);
+[[nodiscard]] double heightOfSecond(const Integ2State& state, double q);
+
+[[nodiscard]] bool isRight(const Integ2State& state, double typed);
+
+/// The whole integral with two decimals, as the student is shown it.
+[[nodiscard]] std::string answerText(const Integ2State& state);
+
+/// One of the two integrals as the help works it out. A raised 2 stands after each of the squared terms. No
+/// sign is looked at: "+" stands before every b.
+struct Integ2Worked {
+    /// "(-1Q+3)"
+    std::string integrand;
+    /// "((-1/2)*4" and "+3*4)"
+    std::string upperSquared;
+    std::string upperLinear;
+    /// "-((-1/2)*2" and "+3*2)"
+    std::string lowerSquared;
+    std::string lowerLinear;
+};
+
+[[nodiscard]] Integ2Worked workedFirst(const Integ2State& state);
+[[nodiscard]] Integ2Worked workedSecond(const Integ2State& state);
+
+/// What a term of the last sum shows from now on: its integral if that is above 0, otherwise what it shows
+/// already, in brackets. summandText(0, "5") -> "(5)"
+[[nodiscard]] std::string summandText(double integral, const std::string& shown);
+
+}  // namespace tavrune

@@ -1,0 +1,722 @@
+#include "topics/calculus/integ2.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <set>
+#include <string>
+
+#include <QTest>
+#include <QTextLayout>
+
+#include <gtest/gtest.h>
+
+#include "graph/graph_box.h"
+#include "support/decimal_mark.h"
+#include "support/fixed_texts.h"
+#include "support/form_driver.h"
+#include "support/looks.h"
+#include "support/strokes.h"
+#include "topics/calculus/integ2_script.h"
+
+namespace tavrune {
+namespace {
+
+using test::DecimalMark;
+using test::FixedText;
+using test::FormDriver;
+using test::ScriptedDraws;
+using test::integ2::Family;
+using test::integ2::Numbers;
+
+constexpr Family kFall = Family::FallThenRise;
+constexpr Family kRise = Family::RiseThenFall;
+constexpr Family kTwoFalls = Family::TwoFalls;
+
+// P1 = -1Q+6 up to 3 and P2 = 1Q+2 after it; the integral from 0 to 6 is 13.5 + 19.5.
+const Numbers kPlain{.a1 = 1, .b1 = 6, .a2 = 1, .b2 = 2, .k = 3, .back = 3, .forth = 3};
+// P1 = -2Q+6 up to 4 and P2 = 3Q+2 after it, which leaves the graph; from 3 to 7 it is -1 + 55.5.
+const Numbers kSteep{.a1 = 2, .b1 = 6, .a2 = 3, .b2 = 2, .k = 4, .back = 1, .forth = 3};
+// P1 = 1.5Q+2 up to 5 and P2 = -1.5Q+7 after it; from 2 to 8 it is 21.75 - 8.25.
+const Numbers kHalves{.a1 = 3, .b1 = 2, .a2 = 3, .b2 = 7, .k = 5, .back = 3, .forth = 3};
+// P1 = -1Q+1 up to 6 and P2 = -0.5Q+1 after it; from 5 to 9 it is -4.5 - 8.25.
+const Numbers kBelow{.a1 = 2, .b1 = 1, .a2 = 1, .b2 = 1, .k = 6, .back = 1, .forth = 3};
+
+const test::StrokesIn kIn{{0, 20, 10, -10}};
+// Two axes, 27 ticks along one of them, 30 times 3 along the other.
+constexpr std::size_t kStrokesOfAxes = 119;
+
+/// A piece of the function by its own numbers.
+struct Line {
+    double a;
+    double b;
+
+    [[nodiscard]] double at(double q) const { return a * q + b; }
+};
+
+/// A hundred strokes for each unit from `from` to `to`.
+template <class Draw>
+std::vector<Stroke> each(int from, int to, Draw draw) {
+    std::vector<Stroke> strokes;
+    double x = from;
+    for (int i = 0; i < (to - from) * 100; ++i) {
+        strokes.push_back(draw(x));
+        x += 0.01;
+    }
+    return strokes;
+}
+
+std::vector<Stroke> dots(const Line& line, int from, int to) {
+    return each(from, to, [&line](double x) { return kIn.point(x, line.at(x)); });
+}
+
+std::vector<Stroke> hatched(const Line& line, int from, int to, const QColor& colour) {
+    return each(from, to, [&](double x) { return kIn.line(x, 0, x, line.at(x), colour); });
+}
+
+std::vector<Stroke> operator+(std::vector<Stroke> first, const std::vector<Stroke>& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+class Integ2Form : public testing::Test {
+protected:
+    void script(Family family, const Numbers& n) { draws.append(test::integ2::script(family, n)); }
+
+    FormDriver& open(Family family, const Numbers& n) {
+        script(family, n);
+        form = std::make_unique<FormDriver>(PageName::Integ2, draws);
+        return *form;
+    }
+
+    FormDriver& openPlain() { return open(kFall, kPlain); }
+
+    void nextExercise(Family family, const Numbers& n) {
+        script(family, n);
+        form->click("Command3");
+    }
+
+    void answer(const std::string& typed) const {
+        form->type("Text1", typed);
+        form->click("Command1");
+    }
+
+    void openHelp(int times = 1) const {
+        for (int i = 0; i < times; ++i) {
+            form->click("Command4");
+        }
+    }
+
+    [[nodiscard]] const GraphBox& graph(const std::string& name) const { return form->find<GraphBox>(name); }
+
+    [[nodiscard]] std::vector<Stroke> plotOf(const std::string& box) const {
+        return test::strokesFrom(graph(box), kStrokesOfAxes);
+    }
+
+    /// What the last row of the worked solution reads.
+    [[nodiscard]] std::string lastRow() const {
+        return form->caption("Label93") + form->caption("Label278") + form->caption("Label98") +
+               form->caption("Label103");
+    }
+
+    [[nodiscard]] std::string row(std::initializer_list<const char*> labels) const {
+        std::string joined;
+        for (const char* label : labels) {
+            joined += form->caption(label);
+        }
+        return joined;
+    }
+
+    ScriptedDraws draws;
+    std::unique_ptr<FormDriver> form;
+};
+
+TEST_F(Integ2Form, StandsCoveredAndEmptyUntilItIsOnScreen) {
+    const FormDriver unshown = FormDriver::unshown(PageName::Integ2, draws);
+    EXPECT_EQ(unshown.page().windowTitle().toStdString(),
+              "Tavrune - Integralregning - Bestemt integrale - Niveau 2");
+    for (const char* hidden : {"Command2", "Label15", "Label16", "Picture2"}) {
+        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
+    }
+    EXPECT_TRUE(unshown.isShown("Command3"));
+    for (const char* blank : {"Label2", "Label5", "Label18", "Label7", "Label10", "Label20", "Label13",
+                              "Label12", "Label29", "Label28", "Label96", "Label101", "Label103"}) {
+        EXPECT_EQ(unshown.caption(blank), "") << blank;
+    }
+}
+
+TEST_F(Integ2Form, HasItsFixedTextsToTheLetter) {
+    constexpr FixedText kTexts[]{
+        {"Label201", "Beregn det bestemte integrale"},
+        {"Label202", "P1="},
+        {"Label203", "Q"},
+        {"Label204", "+"},
+        {"Label205", "for 0<Q<"},
+        {"Label206", "P2="},
+        {"Label207", "Q"},
+        {"Label208", "+"},
+        {"Label209", "for"},
+        {"Label210", "<Q<10"},
+        {"Label211", "∫"},
+        {"Label212", "P1  dQ+"},
+        {"Label213", "∫"},
+        {"Label214", "P2  dQ ="},
+        {"Label215", "Y"},
+        {"Label216", "X"},
+        {"Label217", "Generel løsning"},
+        {"Label218",
+         "Denne opgave er du nødt til at dele op i to dele. Først skal du beregne det bestemte integrale fra "
+         "Q=v til Q=k med P1=aQ+b som funktion. Dernæst skal du beregne det bestemte integrale fra Q=k til "
+         "Q=w , med  P2=    Q+    som funktion. Til sidst lægger du disse to integraler sammen. "},
+        {"Label224", "(aQ + b) dQ"},
+        {"Label229", "Q+    dQ"},
+        {"Label234", "(aQ+b) dQ +"},
+        {"Label239", "Q+    dQ"},
+        {"Label243", " ( (a/2)·k  + b·k ) - ( (a/2)·v  + b·v ) )+  "},
+        {"Label246", "( ( (   /2)·w  +   ·w ) - ( (   /2) ·k  +    ·k)"},
+        {"Label254", "Aktuel løsning"},
+        {"Label255", "Først beregner du det med rødt markerede integrale."},
+        {"Label256", "Rødt integrale:"},
+        {"Label74", "dQ ="},
+        {"Label266", "Dernæst beregner du det med grønt markerede integrale."},
+        {"Label267", "Grønt integrale:"},
+        {"Label104", "dQ ="},
+        {"Label277", "Til sidst lægger du de to integraler sammen."},
+        {"Label278", "+"},
+        {"Label15", "RIGTIGT"},
+        {"Label16", "FORKERT"},
+        {"Command6", "Vis"},
+        {"Command5", "&Luk"},
+    };
+    test::expectTexts(openPlain(), kTexts);
+    for (const char* red : {"Label255", "Label256"}) {
+        EXPECT_EQ(form->label(red).textColour(), kRed);
+    }
+    for (const char* green : {"Label266", "Label267"}) {
+        EXPECT_EQ(form->label(green).textColour(), kGreen);
+    }
+}
+
+TEST_F(Integ2Form, AsksForTheSumOfTwoIntegrals) {
+    const DecimalMark danish(",");
+    const FormDriver& f = open(kRise, kHalves);
+    EXPECT_EQ(row({"Label202", "Label2", "Label203", "Label204", "Label5", "Label205", "Label18"}),
+              "P1=1,5Q+2for 0<Q<5");
+    EXPECT_EQ(
+        row({"Label206", "Label7", "Label207", "Label208", "Label10", "Label209", "Label20", "Label210"}),
+        "P2=-1,5Q+7for5<Q<10");
+    EXPECT_EQ(row({"Label13", "Label12", "Label29", "Label28"}), "2558");
+    for (const char* hidden : {"Command2", "Label15", "Label16", "Picture2"}) {
+        EXPECT_FALSE(f.isShown(hidden)) << hidden;
+    }
+    for (const char* shown : {"Command1", "Command3", "Command4", "Picture4", "Label2", "Label28"}) {
+        EXPECT_TRUE(f.isShown(shown)) << shown;
+    }
+    EXPECT_EQ(f.focus(), "Text1");
+}
+
+TEST_F(Integ2Form, DrawsAxesAndTicksOnBothBoxesFirst) {
+    openPlain();
+    std::vector<Stroke> expected{kIn.line(0, 20, 0, -10), kIn.line(0, 0, 20, 0)};
+    for (int x = -7; x <= 19; ++x) {
+        expected.push_back(kIn.point(x, 0.1));
+    }
+    for (int y = -10; y <= 19; ++y) {
+        expected.push_back(kIn.point(0.05, y));
+        expected.push_back(kIn.point(0.075, y));
+        expected.push_back(kIn.point(0.1, y));
+    }
+    ASSERT_EQ(expected.size(), kStrokesOfAxes);
+    for (const char* box : {"Picture1", "Picture3"}) {
+        const std::vector<Stroke>& strokes = graph(box).strokes();
+        ASSERT_GT(strokes.size(), kStrokesOfAxes) << box;
+        EXPECT_EQ(std::vector<Stroke>(strokes.begin(), strokes.begin() + kStrokesOfAxes), expected) << box;
+    }
+}
+
+struct PlotRow {
+    const char* name;
+    Family family;
+    Numbers numbers;
+    Line first;
+    Line second;
+};
+
+void PrintTo(const PlotRow& row, std::ostream* out) { *out << row.name; }
+
+class Integ2Plot : public Integ2Form, public testing::WithParamInterface<PlotRow> {};
+
+TEST_P(Integ2Plot, DotsBothPiecesToTheRightEndOnBothBoxes) {
+    const PlotRow& row = GetParam();
+    open(row.family, row.numbers);
+    const int k = row.numbers.k;
+    for (const char* box : {"Picture1", "Picture3"}) {
+        EXPECT_EQ(plotOf(box).size(), 1000U);
+        EXPECT_EQ(plotOf(box), dots(row.first, 0, k) + dots(row.second, k, 10)) << box;
+    }
+    EXPECT_EQ(form->focus(), "Text1");
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, Integ2Plot,
+                         testing::Values(PlotRow{"OfAFallAndARise", kFall, kPlain, {-1, 6}, {1, 2}},
+                                         PlotRow{"OfARiseAndAFall", kRise, kHalves, {1.5, 2}, {-1.5, 7}},
+                                         PlotRow{"OfTwoFalls", kTwoFalls, kBelow, {-1, 1}, {-0.5, 1}}),
+                         [](const auto& row) { return row.param.name; });
+
+struct SteepRow {
+    const char* name;
+    Numbers numbers;
+    Line second;
+    /// The dot that is the first beyond 20, counted in hundredths from the kink.
+    int lastDot;
+};
+
+void PrintTo(const SteepRow& row, std::ostream* out) { *out << row.name; }
+
+class Integ2Steep : public Integ2Form, public testing::WithParamInterface<SteepRow> {};
+
+TEST_P(Integ2Steep, EndsItsPlotWithTheFirstDotAboveTwenty) {
+    const SteepRow& row = GetParam();
+    open(kFall, row.numbers);
+    const int k = row.numbers.k;
+    const double lastX = k + row.lastDot / 100.0;
+    ASSERT_LE(row.second.at(lastX - 0.01), 20 + 1e-9);
+    ASSERT_GT(row.second.at(lastX), 20 + 1e-9);
+    std::vector<Stroke> second = dots(row.second, k, 10);
+    second.resize(static_cast<std::size_t>(row.lastDot) + 1);
+    for (const char* box : {"Picture1", "Picture3"}) {
+        EXPECT_EQ(plotOf(box), dots({-static_cast<double>(row.numbers.a1), 6}, 0, k) + second) << box;
+        EXPECT_FLOAT_EQ(plotOf(box).back().x1, static_cast<float>(lastX));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Integ2Steep,
+    testing::Values(SteepRow{"WithinTheGraph", kSteep, {3, 2}, 201},
+                    // At 9.5 it is just 20 high.
+                    SteepRow{"OneDotAfterJustTwenty", {.b1 = 6, .a2 = 2, .b2 = 1, .k = 2}, {2, 1}, 751},
+                    SteepRow{"NearTheRightEnd", {.b1 = 6, .a2 = 2, .b2 = 1, .k = 6}, {2, 1}, 351},
+                    SteepRow{"FromTheHighestKink", {.b1 = 6, .a2 = 3, .b2 = 3, .k = 4}, {3, 3}, 167}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(Integ2Form, LeavesTheFocusWhereItWasIfThePlotLeavesTheGraph) {
+    openPlain();
+    nextExercise(kFall, kSteep);
+    EXPECT_EQ(form->focus(), "Command3");
+    script(kFall, kPlain);
+    form->press("Command3", Qt::Key_Return);
+    EXPECT_EQ(form->focus(), "Text1");
+    nextExercise(kTwoFalls, kBelow);
+    EXPECT_EQ(form->focus(), "Text1");
+}
+
+TEST_F(Integ2Form, ShowsPiecesApartAtTheKinkAndWantsTheirSumAllTheSame) {
+    openPlain();
+    const std::vector<Stroke> plot = plotOf("Picture1");
+    ASSERT_EQ(plot.size(), 1000U);
+    EXPECT_NEAR(plot[299].x1, 2.99, 1e-5);
+    EXPECT_NEAR(plot[299].y1, 3.01, 1e-5);
+    EXPECT_EQ(plot[300].x1, 3);
+    EXPECT_EQ(plot[300].y1, 5);
+    answer("33");
+    EXPECT_TRUE(form->isShown("Label15"));
+}
+
+TEST_F(Integ2Form, ClearsBothBoxesWithEachExercise) {
+    openPlain();
+    answer("33");
+    openHelp();
+    form->click("Command6");
+    EXPECT_EQ(plotOf("Picture1").size(), 1600U);
+    EXPECT_EQ(plotOf("Picture3").size(), 1600U);
+    nextExercise(kTwoFalls, kBelow);
+    for (const char* box : {"Picture1", "Picture3"}) {
+        EXPECT_EQ(plotOf(box), dots({-1, 1}, 0, 6) + dots({-0.5, 1}, 6, 10)) << box;
+    }
+}
+
+TEST_F(Integ2Form, IsSolvedByKeysAlone) {
+    const FormDriver& f = open(kRise, kHalves);
+    f.type("Text1", "13,5");
+    EXPECT_EQ(f.box("Text1").content(), "13.5");
+    f.press("Text1", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Command1");
+    f.press("Command1", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("Label15"));
+    EXPECT_EQ(f.focus(), "Command3");
+    script(kFall, kPlain);
+    f.press("Command3", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("Label15"));
+    EXPECT_TRUE(f.isShown("Command1"));
+    EXPECT_EQ(f.box("Text1").content(), "");
+    EXPECT_EQ(f.focus(), "Text1");
+}
+
+TEST_F(Integ2Form, HatchesBothPiecesInBlueWhenSolved) {
+    const FormDriver& f = open(kRise, kHalves);
+    answer("1");
+    answer("13.5");
+    EXPECT_TRUE(f.isShown("Label15"));
+    for (const char* hidden : {"Label16", "Command1", "Command2"}) {
+        EXPECT_FALSE(f.isShown(hidden)) << hidden;
+    }
+    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
+    EXPECT_EQ(f.box("Text1").content(), "13.5");
+    EXPECT_EQ(f.focus(), "Command3");
+    const std::vector<Stroke> plot = dots({1.5, 2}, 0, 5) + dots({-1.5, 7}, 5, 10);
+    EXPECT_EQ(plotOf("Picture1"), plot + hatched({1.5, 2}, 2, 5, kBlue) + hatched({-1.5, 7}, 5, 8, kBlue));
+    EXPECT_EQ(plotOf("Picture3"), plot);
+}
+
+TEST_F(Integ2Form, HatchesDownwardBelowTheAxis) {
+    openPlain();
+    nextExercise(kTwoFalls, kBelow);
+    answer("-12.75");
+    const std::vector<Stroke> hatch = test::strokesFrom(graph("Picture1"), kStrokesOfAxes + 1000);
+    EXPECT_EQ(hatch, hatched({-1, 1}, 5, 6, kBlue) + hatched({-0.5, 1}, 6, 9, kBlue));
+    EXPECT_TRUE(std::all_of(hatch.begin(), hatch.end(), [](const Stroke& s) { return s.y2 < 0; }));
+}
+
+TEST_F(Integ2Form, MarksAWrongAnswerAndLetsTheStudentGoOn) {
+    const FormDriver& f = openPlain();
+    for (const char* wrong : {"1", "", "-33"}) {
+        answer(wrong);
+        EXPECT_TRUE(f.isShown("Label16"));
+        EXPECT_FALSE(f.isShown("Label15"));
+        EXPECT_TRUE(f.isShown("Command1"));
+        EXPECT_TRUE(f.isShown("Command2"));
+        EXPECT_EQ(f.box("Text1").backColour(), kRed);
+        EXPECT_EQ(f.box("Text1").content(), wrong);
+        EXPECT_EQ(f.focus(), "Text1");
+    }
+    EXPECT_EQ(plotOf("Picture1").size(), 1000U);
+}
+
+TEST_F(Integ2Form, TakesABandThatIsOpenBelowAndClosedAbove) {
+    openPlain();
+    for (const char* wrong : {"32.995", "32.99", "33.0051"}) {
+        answer(wrong);
+        EXPECT_TRUE(form->isShown("Label16")) << wrong;
+    }
+    for (const char* right : {"33.005", "32.9951"}) {
+        nextExercise(kFall, kPlain);
+        answer(right);
+        EXPECT_TRUE(form->isShown("Label15")) << right;
+    }
+}
+
+TEST_F(Integ2Form, GivesTheAnswerWithTheHatchAndWithoutAVerdict) {
+    const DecimalMark danish(",");
+    const FormDriver& f = open(kFall, kSteep);
+    answer("1");
+    f.click("Command2");
+    EXPECT_EQ(f.box("Text1").content(), "54,5");
+    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
+    for (const char* hidden : {"Command1", "Command2", "Label15", "Label16"}) {
+        EXPECT_FALSE(f.isShown(hidden)) << hidden;
+    }
+    EXPECT_EQ(f.focus(), "Command3");
+    // 400 and 202 dots before it.
+    EXPECT_EQ(test::strokesFrom(graph("Picture1"), kStrokesOfAxes + 602),
+              hatched({-2, 6}, 3, 4, kBlue) + hatched({3, 2}, 4, 7, kBlue));
+    EXPECT_EQ(plotOf("Picture3").size(), 602U);
+    f.box("Text1").setFocus();
+    f.press("Text1", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Text1") << "Enter goes nowhere while OK is hidden";
+}
+
+TEST_F(Integ2Form, HatchesFromTheAxisToTheLastWholeNumber) {
+    openPlain();
+    answer("33");
+    EXPECT_EQ(test::strokesFrom(graph("Picture1"), kStrokesOfAxes + 1000),
+              hatched({-1, 6}, 0, 3, kBlue) + hatched({1, 2}, 3, 6, kBlue));
+    nextExercise(kTwoFalls, kBelow);
+    answer("-12.75");
+    EXPECT_NEAR(graph("Picture1").strokes().back().x1, 8.99, 1e-5);
+}
+
+TEST_F(Integ2Form, TakesAnyTypedText) {
+    openPlain();
+    for (const std::string& typed :
+         {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
+        form->box("Text1").setContent(typed);
+        form->click("Command1");
+        EXPECT_TRUE(form->isShown("Label16"));
+        form->click("Command2");
+        EXPECT_FALSE(form->page().grab().isNull());
+        EXPECT_EQ(form->box("Text1").content(), "33");
+        nextExercise(kFall, kPlain);
+    }
+}
+
+TEST_F(Integ2Form, WorksTheRedAndTheGreenIntegralOut) {
+    const DecimalMark danish(",");
+    open(kRise, kHalves);
+    openHelp();
+    EXPECT_EQ(row({"Label258", "Label259"}), "52");
+    EXPECT_EQ(row({"Label71", "Label74"}), "(1,5Q+2)dQ =");
+    EXPECT_EQ(row({"Label260", "Label261", "Label262", "Label263", "Label264", "Label265", "Label96"}),
+              "((1,5/2)*5²+2*5)-((1,5/2)*2²+2*2) = 21,75");
+    EXPECT_EQ(row({"Label269", "Label270"}), "85");
+    EXPECT_EQ(row({"Label83", "Label104"}), "(-1,5Q+7)dQ =");
+    EXPECT_EQ(row({"Label271", "Label272", "Label273", "Label274", "Label275", "Label276", "Label101"}),
+              "((-1,5/2)*8²+7*8)-((-1,5/2)*5²+7*5) = -8,25");
+    EXPECT_EQ(form->caption("Label103"), " = 13,5");
+}
+
+TEST_F(Integ2Form, ComposesItsRowsWithTheExerciseButItsResultsOnlyWhenHelpIsOpened) {
+    openPlain();
+    EXPECT_EQ(form->caption("Label260"), "((-1/2)*3");
+    EXPECT_EQ(row({"Label96", "Label101", "Label103"}), "");
+    openHelp();
+    EXPECT_EQ(row({"Label96", "Label101", "Label103"}), " = 13.5 = 19.5 = 33");
+    nextExercise(kTwoFalls, kBelow);
+    EXPECT_EQ(form->caption("Label260"), "((-1/2)*6");
+    EXPECT_EQ(row({"Label96", "Label101", "Label103"}), " = 13.5 = 19.5 = 33");
+    EXPECT_EQ(lastRow(), "13.5+19.5 = 33");
+}
+
+TEST_F(Integ2Form, AddsTwoPositiveIntegralsInItsLastRow) {
+    openPlain();
+    openHelp(2);
+    EXPECT_EQ(lastRow(), "13.5+19.5 = 33");
+}
+
+TEST_F(Integ2Form, BracketsTheOldTermOfTheLastRowForAnIntegralThatIsNotPositive) {
+    const DecimalMark danish(",");
+    open(kTwoFalls, kBelow);
+    EXPECT_EQ(lastRow(), "rødt integrale+grønt integrale");
+    openHelp();
+    EXPECT_EQ(lastRow(), "(rødt integrale)+(grønt integrale) = -12,75");
+    openHelp();
+    EXPECT_EQ(lastRow(), "((rødt integrale))+((grønt integrale)) = -12,75");
+    nextExercise(kFall, kSteep);
+    EXPECT_EQ(lastRow(), "((rødt integrale))+((grønt integrale)) = -12,75");
+    openHelp();
+    EXPECT_EQ(lastRow(), "(((rødt integrale)))+55,5 = 54,5");
+    nextExercise(kRise, kHalves);
+    openHelp();
+    EXPECT_EQ(lastRow(), "21,75+(55,5) = 13,5");
+    openHelp();
+    EXPECT_EQ(lastRow(), "21,75+((55,5)) = 13,5");
+}
+
+TEST_F(Integ2Form, BracketsTheOldTermForAnIntegralOfZero) {
+    // -2Q+6 from 2 to 4.
+    open(kFall, {.a1 = 2, .b1 = 6, .a2 = 1, .b2 = 1, .k = 4, .back = 2, .forth = 1});
+    openHelp();
+    EXPECT_EQ(lastRow(), "(rødt integrale)+5.5 = 5.5");
+    EXPECT_EQ(form->caption("Label96"), " = 0");
+}
+
+TEST_F(Integ2Form, OpensItsHelpCoveredAndUncoversItWithARedAndAGreenHatch) {
+    const FormDriver& f = open(kRise, kHalves);
+    openHelp();
+    EXPECT_TRUE(f.isShown("Picture2"));
+    EXPECT_TRUE(f.isShown("Picture4"));
+    EXPECT_EQ(f.focus(), "Command6");
+    const std::vector<Stroke> plot = plotOf("Picture3");
+    EXPECT_EQ(plot.size(), 1000U);
+    f.press("Command6", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("Picture4"));
+    EXPECT_EQ(f.focus(), "Command5");
+    const std::vector<Stroke> hatch =
+        hatched({1.5, 2}, 2, 5, kRed) + hatched({-1.5, 7}, 5, 8, rgb(0, 130, 0));
+    EXPECT_EQ(plotOf("Picture3"), plot + hatch);
+    EXPECT_EQ(plotOf("Picture1"), plot);
+    f.click("Command6");
+    EXPECT_EQ(plotOf("Picture3"), plot + hatch + hatch) << "each Vis hatches once more";
+    f.press("Command5", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("Picture2"));
+    EXPECT_TRUE(f.isShown("Picture4"));
+    EXPECT_NE(f.focus(), "Command5");
+}
+
+TEST_F(Integ2Form, IsCoveredAgainWheneverItsHelpIsOpened) {
+    openPlain();
+    openHelp();
+    form->click("Command6");
+    form->click("Command5");
+    openHelp();
+    EXPECT_TRUE(form->isShown("Picture4"));
+    form->click("Command6");
+    nextExercise(kTwoFalls, kBelow);
+    EXPECT_FALSE(form->isShown("Picture2"));
+    EXPECT_TRUE(form->isShown("Picture4"));
+}
+
+TEST_F(Integ2Form, LeavesThePanelOpenWhileTheExerciseGoesOn) {
+    openPlain();
+    openHelp();
+    form->click("Command6");
+    answer("1");
+    form->click("Command2");
+    EXPECT_TRUE(form->isShown("Picture2"));
+    EXPECT_FALSE(form->isShown("Picture4"));
+    EXPECT_EQ(plotOf("Picture1").size(), 1600U);
+}
+
+TEST_F(Integ2Form, LeavesTheTaskAndItsBoxInSightOfTheHelp) {
+    openPlain();
+    openHelp();
+    const QRectF panel = form->find<Panel>("Picture2").place();
+    for (const char* name : {"Label202", "Label206", "Label13", "Label29", "Label214"}) {
+        EXPECT_FALSE(panel.intersects(form->label(name).place())) << name;
+    }
+    EXPECT_FALSE(panel.intersects(form->box("Text1").place()));
+}
+
+TEST_F(Integ2Form, CoversTheWholeOfTheActualColumnButNotItsGraph) {
+    SeededDraws seeded(7);
+    const FormDriver f(PageName::Integ2, seeded);
+    const Panel& cover = f.find<Panel>("Picture4");
+    EXPECT_EQ(cover.backColour(), kWhite);
+    const auto& siblings = f.find("Picture2").children();
+    const qsizetype first = siblings.indexOf(&f.label("Label255"));
+    const qsizetype last = siblings.indexOf(&f.label("Label103"));
+    ASSERT_LT(first, last);
+    ASSERT_LT(last, siblings.indexOf(&cover));
+    ASSERT_GT(siblings.indexOf(&f.find("Picture3")), siblings.indexOf(&cover));
+    for (int exercise = 0; exercise < 60; ++exercise) {
+        f.button("Command4").click();
+        for (qsizetype i = 0; i <= last; ++i) {
+            const auto* const label = qobject_cast<Label*>(siblings[i]);
+            if (label == nullptr) {
+                continue;
+            }
+            const bool isCovered = i >= first;
+            ASSERT_EQ(cover.place().intersects(label->place()), isCovered) << label->caption();
+            ASSERT_EQ(cover.place().contains(label->place()), isCovered) << label->caption();
+        }
+        f.button("Command3").click();
+    }
+}
+
+TEST_F(Integ2Form, SetsItsRowsSideBySide) {
+    open(kRise, kHalves);
+    openHelp();
+    const auto rightOf = [this](const char* name) { return form->label(name).place().right(); };
+    const auto leftOf = [this](const char* name) { return form->label(name).place().left(); };
+    // 4200 and 20 twips.
+    EXPECT_EQ(leftOf("Label71"), 280);
+    EXPECT_DOUBLE_EQ(leftOf("Label74"), form->label("Label71").place().width() + 4220 / 15.0);
+    EXPECT_DOUBLE_EQ(leftOf("Label104"), form->label("Label83").place().width() + 4220 / 15.0);
+    const std::vector<std::vector<const char*>> rows{
+        {"Label202", "Label2", "Label203", "Label204", "Label5"},
+        {"Label205", "Label18"},
+        {"Label206", "Label7", "Label207", "Label208", "Label10"},
+        {"Label20", "Label210"},
+        {"Label260", "Label261", "Label262", "Label263", "Label264", "Label265", "Label96"},
+        {"Label271", "Label272", "Label273", "Label274", "Label275", "Label276", "Label101"},
+        {"Label93", "Label278", "Label98", "Label103"}};
+    for (const std::vector<const char*>& row : rows) {
+        for (std::size_t i = 1; i < row.size(); ++i) {
+            EXPECT_DOUBLE_EQ(leftOf(row[i]), rightOf(row[i - 1])) << row[i];
+        }
+    }
+}
+
+/// Where a gap of a label's text stands on its parent: the blanks at `at`, as the text is laid out in the
+/// label's width. Gives their place in one line, with the height of the label's text.
+QRectF gapIn(const Label& label, qsizetype at, int blanks) {
+    QTextLayout layout(label.text(), label.font());
+    QTextOption option;
+    option.setWrapMode(label.wordWrap() ? QTextOption::WordWrap : QTextOption::NoWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    // What is painted has lines of whole pixels, without the font's leading.
+    const QFontMetricsF metrics(label.font());
+    const double lineHeight = std::ceil(metrics.ascent()) + std::ceil(metrics.descent());
+    QRectF gap;
+    double y = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(label.wordWrap() ? label.place().width() : 1e6);
+        const int first = static_cast<int>(at);
+        if (first >= line.textStart() && first + blanks < line.textStart() + line.textLength()) {
+            const double left = line.cursorToX(first);
+            gap = {left, y, line.cursorToX(first + blanks) - left, lineHeight};
+        }
+        y += lineHeight;
+    }
+    layout.endLayout();
+    return gap.translated(label.place().topLeft());
+}
+
+struct GapRow {
+    const char* name;
+    const char* sentence;
+    /// What stands before the gap.
+    const char* before;
+    int blanks;
+    const char* letter;
+    const char* caption;
+};
+
+void PrintTo(const GapRow& row, std::ostream* out) { *out << row.name; }
+
+class Integ2Gaps : public Integ2Form, public testing::WithParamInterface<GapRow> {};
+
+TEST_P(Integ2Gaps, HoldTheirLetters) {
+    const GapRow& row = GetParam();
+    openPlain();
+    openHelp();
+    const Label& sentence = form->label(row.sentence);
+    const Label& letter = form->label(row.letter);
+    EXPECT_EQ(letter.caption(), row.caption);
+    const QString before = QString::fromUtf8(row.before);
+    const qsizetype at = sentence.text().indexOf(before);
+    ASSERT_GE(at, 0);
+    ASSERT_EQ(sentence.text().mid(at + before.size(), row.blanks), QString(row.blanks, ' '));
+    const QRectF gap = gapIn(sentence, at + before.size(), row.blanks);
+    ASSERT_GT(gap.width(), 0) << "the gap is broken between two lines";
+    EXPECT_GE(letter.place().left(), gap.left() - 0.5);
+    EXPECT_LE(letter.place().left() + letter.textWidth(), gap.right() + 1);
+    EXPECT_NEAR(letter.place().top(), gap.top(), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Integ2Gaps,
+    testing::Values(GapRow{"SlopeOfP2", "Label218", "P2=", 4, "Label219", "α"},
+                    GapRow{"ConstantOfP2", "Label218", "P2=    Q+", 4, "Label220", "β"},
+                    GapRow{"SecondIntegral", "Label229", "Q+", 4, "Label230", "β)"},
+                    GapRow{"SecondTermOfTheSum", "Label239", "Q+", 4, "Label240", "β)"},
+                    GapRow{"SquareOfK", "Label243", " ( (a/2)·k", 2, "Label244", "²"},
+                    GapRow{"SquareOfV", "Label243", " ( (a/2)·k  + b·k ) - ( (a/2)·v", 2, "Label245", "²"},
+                    GapRow{"SlopeAtW", "Label246", "( ( (", 3, "Label247", "α"},
+                    GapRow{"SquareOfW", "Label246", "( ( (   /2)·w", 2, "Label248", "²"},
+                    GapRow{"ConstantAtW", "Label246", "( ( (   /2)·w  +", 3, "Label249", "β"},
+                    GapRow{"SlopeAtK", "Label246", "·w ) - ( (", 3, "Label250", "α"},
+                    GapRow{"SecondSquareOfK", "Label246", "/2) ·k", 2, "Label251", "²"},
+                    GapRow{"ConstantAtK", "Label246", "/2) ·k  +", 4, "Label252", "β"}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(Integ2Form, HasRoomForTheLongestNumbers) {
+    const DecimalMark danish(",");
+    for (const auto& [family, numbers] :
+         {std::pair{kTwoFalls, Numbers{.a1 = 1, .b1 = 5, .a2 = 1, .b2 = 1, .k = 6, .back = 1, .forth = 3}},
+          std::pair{kTwoFalls, kBelow}, std::pair{kRise, kHalves}, std::pair{kFall, kSteep}}) {
+        open(family, numbers);
+        EXPECT_EQ(test::flawsOf(form->page()), std::vector<std::string>{});
+        openHelp(8);
+        form->click("Command6");
+        EXPECT_EQ(test::flawsOf(form->page()), std::vector<std::string>{});
+    }
+}
+
+TEST_F(Integ2Form, KeepsItsSumInSightHoweverOftenTheHelpWasOpened) {
+    open(kTwoFalls, kBelow);
+    openHelp(300);
+    form->click("Command6");
+    const std::string brackets(300, '(');
+    EXPECT_EQ(form->caption("Label93").rfind(brackets + "rødt", 0), 0U);
+    const QRectF first = form->label("Label93").place();
+    const QRectF second = form->label("Label98").place();
+    const QRectF sum = form->label("Label103").place();
+    EXPECT_LE(first.right(), form->label("Label278").place().left());
+    EXPECT_LE(form->label("Label278").place().right(), second.left());
+    EXPECT_LE(second.right(), sum.left());
+    EXPECT_LT(sum.right(), form->find<Panel>("Picture2").place().width());
+}
+
+}  // namespace
+}  // namespace tavrune
