@@ -44,6 +44,7 @@ private:
     };
 
     struct HelpPanel {
+        AfsaetHelp help;
         Panel* panel;
         Button* close;
         std::vector<Step> steps;

@@ -520,8 +520,8 @@ AfsaetHelp helpFor(const AfsaetState& state) {
     return AfsaetHelp::TwoPoints;
 }
 
-std::vector<AfsaetStep> workedSteps(const AfsaetState& state) {
-    switch (helpFor(state)) {
+std::vector<AfsaetStep> workedSteps(const AfsaetState& state, AfsaetHelp help) {
+    switch (help) {
         case AfsaetHelp::TwoPoints:
             return stepsOfTwoPoints(state);
         case AfsaetHelp::ElasticityAtPointPrice:

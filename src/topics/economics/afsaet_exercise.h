@@ -98,8 +98,8 @@ struct AfsaetStep {
     [[nodiscard]] bool hasFraction() const { return !denominator.empty(); }
 };
 
-/// The steps of the panel that `helpFor` tells.
-[[nodiscard]] std::vector<AfsaetStep> workedSteps(const AfsaetState& state);
+/// The steps of a panel, with the numbers of the exercise also where `helpFor` tells another one.
+[[nodiscard]] std::vector<AfsaetStep> workedSteps(const AfsaetState& state, AfsaetHelp help);
 
 /// "P = -0.5Q + 4"
 [[nodiscard]] std::string equationText(const AfsaetState& state);

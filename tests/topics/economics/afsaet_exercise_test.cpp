@@ -46,7 +46,7 @@ AfsaetState exercise(const char* name) { return exercise(sample(name).script());
 
 std::vector<std::string> stepTexts(const AfsaetState& state) {
     std::vector<std::string> texts;
-    for (const AfsaetStep& step : workedSteps(state)) {
+    for (const AfsaetStep& step : workedSteps(state, helpFor(state))) {
         if (step.hasFraction()) {
             texts.push_back(step.numerator);
             texts.push_back(step.denominator);

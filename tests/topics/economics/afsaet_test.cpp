@@ -597,6 +597,23 @@ TEST_F(AfsaetForm, RebuildsTheStepsForTheNextExercise) {
     EXPECT_EQ(f.caption("Label212"), "= -1");
 }
 
+TEST_F(AfsaetForm, WorksEveryWayOutWithTheNumbersOfAnyExercise) {
+    SeededDraws seeded(6);
+    for (int exercise = 0; exercise < 30; ++exercise) {
+        const FormDriver any(PageName::Afsaet, seeded);
+        for (Button* button : any.page().findChildren<Button*>()) {
+            if (button->caption() == "Vis") {
+                button->click();
+            }
+        }
+        const std::string equation = equationText(dynamic_cast<const Afsaet&>(any.page()).state());
+        for (const char* label : {"Label215", "Label235", "Label267", "Label295", "Label326", "Label347",
+                                  "Label377", "Label391", "Label411"}) {
+            EXPECT_EQ(any.caption(label), equation) << label;
+        }
+    }
+}
+
 TEST_F(AfsaetForm, ExplainsEveryWayToTheLetter) {
     const FormDriver& f = open("TwoPointsInPrices");
     for (const auto& [panel, texts] : std::vector<std::pair<const char*, Names>>{
