@@ -16,6 +16,7 @@
 #include "topics/calculus/diff.h"
 #include "topics/calculus/integ.h"
 #include "topics/calculus/integ2.h"
+#include "topics/economics/afsaet.h"
 #include "topics/polynomial/roedder.h"
 #include "topics/polynomial/rogt.h"
 #include "topics/polynomial/topp.h"
@@ -55,6 +56,7 @@ constexpr std::array kPages{
     Entry{PageName::Lininter, form<Lininter>},
     Entry{PageName::Tomto, form<Tomto>},
     Entry{PageName::Integ2, form<Integ2>},
+    Entry{PageName::Afsaet, form<Afsaet>},
     Entry{PageName::Topp, form<Topp>},
     Entry{PageName::Roedder, form<Roedder>},
     Entry{PageName::Rogt, form<Rogt>},
