@@ -6,6 +6,7 @@
 #include "topics/basics/konvert_exercise.h"
 #include "topics/basics/lininter_exercise.h"
 #include "topics/basics/tomto_exercise.h"
+#include "topics/economics/gtm_exercise.h"
 #include "topics/polynomial/roedder_exercise.h"
 #include "topics/polynomial/rogt_exercise.h"
 #include "topics/polynomial/topp_exercise.h"
@@ -29,6 +30,7 @@ BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
 BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
 BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");
+BENCHMARK(Generator<GtmState>)->Name("Generator/Gtm");
 BENCHMARK(Generator<RoedderState>)->Name("Generator/Roedder");
 BENCHMARK(Generator<RogtState>)->Name("Generator/Rogt");
 BENCHMARK(Generator<ToppState>)->Name("Generator/Topp");

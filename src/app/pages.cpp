@@ -13,6 +13,7 @@
 #include "topics/basics/konvert.h"
 #include "topics/basics/lininter.h"
 #include "topics/basics/tomto.h"
+#include "topics/economics/gtm.h"
 #include "topics/polynomial/roedder.h"
 #include "topics/polynomial/rogt.h"
 #include "topics/polynomial/topp.h"
@@ -51,6 +52,7 @@ constexpr std::array kPages{
     Entry{PageName::Dlinie, form<Dlinie>},
     Entry{PageName::Lininter, form<Lininter>},
     Entry{PageName::Tomto, form<Tomto>},
+    Entry{PageName::Gtm, form<Gtm>},
     Entry{PageName::Topp, form<Topp>},
     Entry{PageName::Roedder, form<Roedder>},
     Entry{PageName::Rogt, form<Rogt>},
