@@ -10,6 +10,7 @@
 #include "topics/calculus/integ_exercise.h"
 #include "topics/calculus/integ2_exercise.h"
 #include "topics/economics/afsaet_exercise.h"
+#include "topics/economics/gtm_exercise.h"
 #include "topics/polynomial/roedder_exercise.h"
 #include "topics/polynomial/rogt_exercise.h"
 #include "topics/polynomial/topp_exercise.h"
@@ -37,6 +38,7 @@ BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
 BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");
 BENCHMARK(Generator<Integ2State>)->Name("Generator/Integ2");
 BENCHMARK(Generator<AfsaetState>)->Name("Generator/afsaet");
+BENCHMARK(Generator<GtmState>)->Name("Generator/Gtm");
 BENCHMARK(Generator<RoedderState>)->Name("Generator/Roedder");
 BENCHMARK(Generator<RogtState>)->Name("Generator/Rogt");
 BENCHMARK(Generator<ToppState>)->Name("Generator/Topp");

@@ -17,6 +17,7 @@
 #include "topics/calculus/integ.h"
 #include "topics/calculus/integ2.h"
 #include "topics/economics/afsaet.h"
+#include "topics/economics/gtm.h"
 #include "topics/polynomial/roedder.h"
 #include "topics/polynomial/rogt.h"
 #include "topics/polynomial/topp.h"
@@ -57,6 +58,7 @@ constexpr std::array kPages{
     Entry{PageName::Tomto, form<Tomto>},
     Entry{PageName::Integ2, form<Integ2>},
     Entry{PageName::Afsaet, form<Afsaet>},
+    Entry{PageName::Gtm, form<Gtm>},
     Entry{PageName::Topp, form<Topp>},
     Entry{PageName::Roedder, form<Roedder>},
     Entry{PageName::Rogt, form<Rogt>},

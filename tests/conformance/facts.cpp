@@ -20,7 +20,7 @@ const std::vector<FormFacts>& allForms() {
         {Name::Tomto, "Command1", "Command2", "Command3", "Command7", "Label5", "Label5", false, false,
          "Text1", "", "Option1", "", ""},
         {Name::Gtm, "Command1", "Command2", "Command3", "Hjaelp", "Labelt", "Labelt", false, false, "Text9",
-         "Text1", "", "Picturehlp", ""},
+         "Text1", "", "Picturehlp", "", 3},
         {Name::Laddi1, "Command1", "Command2", "Command4", "Command6", "Label23", "Label22", false, true,
          "Text7", "", "", "Picture7", "Luk"},
         {Name::Laddi2, "Command1", "Command2", "Command4", "Command3", "Label40", "Label39", true, true,

@@ -30,6 +30,8 @@ struct FormFacts {
     /// none.
     std::string panel;
     std::string close;
+    /// The boxes that the exercise itself fills, to tell what is given.
+    int filledBoxes = 0;
 
     [[nodiscard]] bool hasOneLabel() const { return right == wrong; }
 };

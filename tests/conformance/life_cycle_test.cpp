@@ -62,6 +62,16 @@ protected:
         return boxes;
     }
 
+    /// White, and empty but for those that tell what is given.
+    void expectFreshBoxes(const FormDriver& form) const {
+        int filled = 0;
+        for (const AnswerBox* box : visibleBoxes(form)) {
+            EXPECT_EQ(box->backColour(), kWhite) << box->objectName().toStdString();
+            filled += box->text().trimmed().isEmpty() ? 0 : 1;
+        }
+        EXPECT_EQ(filled, facts().filledBoxes);
+    }
+
     std::unique_ptr<SeededDraws> draws;
 };
 
@@ -153,10 +163,7 @@ TEST_P(EveryForm, AsksAtItsFirstTick) {
     }
     chooseOption(form);
     EXPECT_TRUE(form.isShown(facts().ok));
-    for (const AnswerBox* box : visibleBoxes(form)) {
-        EXPECT_EQ(box->text().trimmed(), "") << box->objectName().toStdString();
-        EXPECT_EQ(box->backColour(), kWhite);
-    }
+    expectFreshBoxes(form);
 }
 
 TEST_P(EveryForm, OffersTheAnswerAfterAWrongTryAndKeepsOk) {
@@ -195,9 +202,7 @@ TEST_P(EveryForm, StartsTheNextExerciseFromEveryState) {
     form.press(facts().newExercise, Qt::Key_Return);
     chooseOption(form);
     EXPECT_TRUE(form.isShown(facts().ok));
-    for (const AnswerBox* box : visibleBoxes(form)) {
-        EXPECT_EQ(box->text().trimmed(), "");
-    }
+    expectFreshBoxes(form);
 }
 
 TEST_P(EveryPanel, ClosesItsHelpWithTheNextExercise) {

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <vector>
+
+#include "controls/panel.h"
+#include "topics/economics/gtm_exercise.h"
+
+namespace tavrune {
+
+/// Writes formulas into a box, the top of each at one of `tops`, in units, in place of all that stood there.
+/// Each label begins where the one before it ends; exponents are raised and take no room of their own.
+void showFormulas(Panel& box, const std::vector<Formula>& formulas, const std::vector<double>& tops);
+
+}  // namespace tavrune

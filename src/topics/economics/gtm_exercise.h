@@ -1,0 +1,110 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "numeric/draws.h"
+
+namespace tavrune {
+
+/// The three cost functions of one product: AVC = aQ² + bQ + c, TVC = aQ³ + bQ² + cQ and MC = aQ² + bQ + c,
+/// each with coefficients of its own.
+enum class GtmFunction { Average, Total, Marginal };
+
+inline constexpr std::array kGtmFunctions{GtmFunction::Average, GtmFunction::Total, GtmFunction::Marginal};
+
+/// a, b and c: in falling powers of Q.
+using GtmCoefficients = std::array<double, 3>;
+
+/// One function of a product, from which the other two are to be found.
+///
+/// The first coefficients of AVC and TVC are rounded to two decimals. All others are multiples of a half and
+/// exact.
+struct GtmState {
+    GtmCoefficients avc{};
+    GtmCoefficients tvc{};
+    GtmCoefficients mc{};
+    GtmFunction given = GtmFunction::Average;
+
+    [[nodiscard]] const GtmCoefficients& of(GtmFunction function) const;
+
+    bool operator==(const GtmState&) const = default;
+};
+
+/// The exercise of "&Ny opgave". Draws until the given function touches or clears the axis, and MC and AVC
+/// with it.
+void newExercise(GtmState& s, Draws& draws);
+
+/// The exercise of the first tick. It is drawn by looser rules: only here can MC fall for ever, and c be
+/// drawn a second time.
+void firstExercise(GtmState& s, Draws& draws);
+
+/// The coefficients as a task shows them: a with the point in every locale, so that the box can be read back.
+[[nodiscard]] std::array<std::string, 3> taskTexts(const GtmCoefficients& given);
+
+/// Which of the three typed coefficients are right: to the digit, those of the given function too.
+[[nodiscard]] std::array<bool, 3> judge(const GtmState& s, GtmFunction function,
+                                        const GtmCoefficients& typed);
+
+/// The height of a function at Q.
+[[nodiscard]] double heightAt(GtmFunction function, const GtmCoefficients& coefficients, double q);
+
+struct GtmPoint {
+    double q;
+    double y;
+};
+
+/// A curve as the points that are joined: none, or a single one, is nothing to draw.
+using GtmCurve = std::vector<GtmPoint>;
+
+/// How far the curve of the task runs: a parabola of the first tick runs farther than later ones.
+enum class GtmReach { FirstTick, Later };
+
+[[nodiscard]] GtmCurve curveOfTask(const GtmState& s, GtmReach reach);
+
+/// The curve through what was typed. Any numbers may come in: a curve that does not come near the axis within
+/// 10,000 units of Q has no points, and one ends where no single can hold its height.
+[[nodiscard]] GtmCurve curveOfTry(GtmFunction function, const GtmCoefficients& typed);
+
+[[nodiscard]] GtmCurve curveOfAnswer(const GtmState& s, GtmFunction function);
+
+/// The two texts below the diagram of the help.
+struct GtmMethod {
+    const char* first;
+    const char* second;
+};
+
+[[nodiscard]] const GtmMethod& methodFor(GtmFunction given);
+
+/// A label of a formula.
+struct FormulaPiece {
+    enum class Kind { Text, IntegralSign, Fraction };
+
+    /// Of a fraction, what stands below its bar; above it is a 1.
+    std::string text;
+    /// Raised behind the Q with which the text begins; empty for none.
+    std::string exponent{};
+    Kind kind = Kind::Text;
+};
+
+/// A row of labels side by side.
+struct Formula {
+    std::vector<FormulaPiece> pieces;
+    /// From the left of a Q to the left of its exponent, in twips.
+    double exponentOffset = 120;
+};
+
+// The steps of the worked solutions, formula by formula.
+/// From AVC to TVC.
+[[nodiscard]] std::vector<Formula> workedProduct(const GtmState& s);
+/// From TVC to MC.
+[[nodiscard]] std::vector<Formula> workedDerivative(const GtmState& s);
+/// From TVC to AVC, where TVC is given.
+[[nodiscard]] std::vector<Formula> workedQuotient(const GtmState& s);
+/// From MC to TVC.
+[[nodiscard]] std::vector<Formula> workedIntegral(const GtmState& s);
+/// From TVC to AVC, where MC is given.
+[[nodiscard]] std::vector<Formula> workedQuotientOfIntegral(const GtmState& s);
+
+}  // namespace tavrune

@@ -1,0 +1,806 @@
+#include "topics/economics/gtm.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "graph/graph_box.h"
+#include "numeric/text.h"
+#include "support/decimal_mark.h"
+#include "support/fixed_texts.h"
+#include "support/form_driver.h"
+#include "support/looks.h"
+#include "support/strokes.h"
+#include "topics/economics/gtm_script.h"
+
+namespace tavrune {
+namespace {
+
+using test::DecimalMark;
+using test::FormDriver;
+using test::ScriptedDraws;
+using test::gtm::Avc;
+using test::gtm::firstScript;
+using test::gtm::Kind;
+using test::gtm::Mc;
+using test::gtm::Numbers;
+using test::gtm::Tvc;
+
+constexpr test::StrokesIn kGraph{{0, 20, 10, 0}};
+
+const QColor kAvcRight(0, 190, 0);
+const QColor kAvcWrong(255, 190, 0);
+const QColor kTvcRight(0, 0, 255);
+const QColor kTvcWrong(255, 0, 255);
+const QColor kMcRight(200, 90, 0);
+const QColor kMcWrong(255, 90, 0);
+
+using Strokes = std::vector<Stroke>;
+using Nine = std::array<const char*, 9>;
+
+Strokes operator+(Strokes one, const Strokes& other) {
+    one.insert(one.end(), other.begin(), other.end());
+    return one;
+}
+
+double parabola(const Numbers& k, double q) { return k.a * q * q + k.b * q + k.c; }
+double cubic(const Numbers& k, double q) { return q * parabola(k, q); }
+
+/// A curve of `height` from `start` on in steps of 0.1, as long as `goesOn` to the next point, and to that
+/// point too where `drawsLast`.
+template <class Height, class GoesOn>
+Strokes chain(const Height& height, double start, const QColor& colour, GoesOn goesOn) {
+    Strokes strokes;
+    double q = start;
+    do {
+        const double next = q + 0.1;
+        strokes.push_back(kGraph.line(q, height(q), next, height(next), colour));
+        q = next;
+    } while (goesOn(q, height(q)));
+    return strokes;
+}
+
+/// Coordinates are compared as singles; what is computed in another order may differ in its last digit.
+void expectAlike(const Strokes& drawn, const Strokes& expected) {
+    ASSERT_EQ(drawn.size(), expected.size());
+    const auto isNear = [](float x, float y) {
+        return std::abs(x - y) <= 1e-5F * std::max(1.0F, std::abs(y));
+    };
+    for (std::size_t i = 0; i < drawn.size(); ++i) {
+        const Stroke& d = drawn[i];
+        const Stroke& e = expected[i];
+        Stroke alike = d;
+        alike.x1 = e.x1;
+        alike.y1 = e.y1;
+        alike.x2 = e.x2;
+        alike.y2 = e.y2;
+        ASSERT_EQ(alike, e) << i;
+        ASSERT_TRUE(isNear(d.x1, e.x1) && isNear(d.y1, e.y1) && isNear(d.x2, e.x2) && isNear(d.y2, e.y2))
+            << i << testing::PrintToString(d) << testing::PrintToString(e);
+        ASSERT_TRUE(i == 0 || d.colour != drawn[i - 1].colour || d.x1 == drawn[i - 1].x2) << i;
+    }
+}
+
+class GtmForm : public testing::Test {
+protected:
+    FormDriver& open(const Numbers& k, Kind kind) {
+        draws.append(firstScript(k, kind));
+        form = std::make_unique<FormDriver>(PageName::Gtm, draws);
+        return *form;
+    }
+
+    void next(const Numbers& k, Kind kind) {
+        draws.append(test::gtm::script(k, kind));
+        form->click("Command1");
+    }
+
+    /// AVC = Q² - 2Q + 4.
+    FormDriver& openPlain() { return open({1, -2, 4}, Avc); }
+
+    void fill(const Nine& typed) const {
+        for (std::size_t i = 0; i < typed.size(); ++i) {
+            form->box("Text" + std::to_string(i + 1)).setContent(typed.at(i));
+        }
+    }
+
+    void answer(const Nine& typed) const {
+        fill(typed);
+        form->click("Command2");
+    }
+
+    [[nodiscard]] std::vector<std::string> contents() const {
+        std::vector<std::string> all;
+        for (int i = 1; i <= 9; ++i) {
+            all.push_back(form->box("Text" + std::to_string(i)).content());
+        }
+        return all;
+    }
+
+    /// The numbers of the red boxes.
+    [[nodiscard]] std::set<int> redBoxes() const {
+        std::set<int> red;
+        for (int i = 1; i <= 9; ++i) {
+            const QColor colour = form->box("Text" + std::to_string(i)).backColour();
+            EXPECT_TRUE(colour == kRed || colour == kWhite);
+            if (colour == kRed) {
+                red.insert(i);
+            }
+        }
+        return red;
+    }
+
+    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+
+    [[nodiscard]] Strokes drawnAfter(std::size_t strokes) const {
+        return test::strokesFrom(graph(), strokes);
+    }
+
+    /// The digits of the ways of the diagram that are red; a way is red as a whole or not at all.
+    [[nodiscard]] std::string redWays() const {
+        std::string red;
+        for (const char way : {'1', '2', '3', '4'}) {
+            int redLines = 0;
+            for (const char* index : {"_0", "_1", "_2", "_3"}) {
+                const QColor colour = form->find<LineControl>(std::string("Line") + way + index).colour();
+                EXPECT_TRUE(colour == kRed || colour == kBlack);
+                redLines += colour == kRed ? 1 : 0;
+            }
+            EXPECT_TRUE(redLines == 0 || redLines == 4) << way;
+            if (redLines == 4) {
+                red += way;
+            }
+        }
+        return red;
+    }
+
+    [[nodiscard]] std::set<std::string> redNames() const {
+        std::set<std::string> red;
+        for (const char* name : {"Label25", "Label26", "Label27"}) {
+            const QColor colour = form->label(name).textColour();
+            EXPECT_TRUE(colour == kRed || colour == kBlack);
+            if (colour == kRed) {
+                red.insert(name);
+            }
+        }
+        return red;
+    }
+
+    [[nodiscard]] std::set<std::string> shownOf(const std::vector<const char*>& names) const {
+        std::set<std::string> shown;
+        for (const char* name : names) {
+            if (form->isShown(name)) {
+                shown.insert(name);
+            }
+        }
+        return shown;
+    }
+
+    [[nodiscard]] std::set<std::string> shownPanels() const {
+        return shownOf({"Picturehlp", "PictureHlpGen", "Picture3", "Picture6"});
+    }
+
+    [[nodiscard]] std::set<std::string> shownSteps() const {
+        return shownOf({"Picture2", "Picture9", "Picture4", "Picture5", "Picture7", "Picture8"});
+    }
+
+    ScriptedDraws draws;
+    std::unique_ptr<FormDriver> form;
+};
+
+TEST_F(GtmForm, StartsEmptyWithItsTitle) {
+    const FormDriver f = FormDriver::unshown(PageName::Gtm, draws);
+    EXPECT_EQ(f.page().windowTitle().toStdString(), "Tavrune - Gennemsnit-total-marginal");
+    for (int i = 1; i <= 9; ++i) {
+        EXPECT_EQ(f.box("Text" + std::to_string(i)).content(), "");
+    }
+    for (const char* hidden : {"Command3", "Labelt", "Picturehlp", "PictureHlpGen", "Picture3", "Picture6",
+                               "Picture2", "Picture9", "Picture4", "Picture5", "Picture7", "Picture8"}) {
+        EXPECT_FALSE(f.isShown(hidden)) << hidden;
+    }
+    EXPECT_TRUE(f.find<GraphBox>("Picture1").strokes().empty());
+}
+
+/// All captions within a control, blanks and all.
+std::multiset<std::string> captionsIn(const QWidget& widget) {
+    std::multiset<std::string> captions;
+    for (const Label* label : widget.findChildren<Label*>()) {
+        captions.insert(label->caption());
+    }
+    return captions;
+}
+
+void expectCaptions(const QWidget& widget, const std::vector<std::string>& expected) {
+    const std::multiset<std::string> captions = captionsIn(widget);
+    for (const std::string& caption : expected) {
+        EXPECT_EQ(captions.count(caption), std::count(expected.begin(), expected.end(), caption)) << caption;
+    }
+}
+
+TEST_F(GtmForm, NamesItsRowsAndTheRimOfItsGraph) {
+    const FormDriver& f = openPlain();
+    const std::multiset<std::string> captions = captionsIn(f.page());
+    for (const char* caption : {"Bestem koeficienterne til forskrifterne for de to manglende funktioner.",
+                                "Gennemsnit:", "AVC=", "Total:", "TVC=", "Marginal:", "MC=", "0", "Q³ +"}) {
+        EXPECT_EQ(captions.count(caption), 1U) << caption;
+    }
+    EXPECT_EQ(captions.count("Q² +"), 3U);
+    EXPECT_EQ(captions.count("Q +"), 2U);
+    // Along Q, and up the costs.
+    EXPECT_EQ(captions.count("5"), 2U);
+    EXPECT_EQ(captions.count("10"), 2U);
+}
+
+struct ShownRow {
+    const char* name;
+    Numbers drawn;
+    Kind kind;
+    std::vector<std::string> contents;
+};
+
+class GtmTasks : public GtmForm, public testing::WithParamInterface<ShownRow> {};
+
+TEST_P(GtmTasks, FillTheBoxesOfTheGivenFunctionOnly) {
+    const DecimalMark danish(",");
+    const ShownRow& row = GetParam();
+    const FormDriver& f = open(row.drawn, row.kind);
+    EXPECT_EQ(contents(), row.contents);
+    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_TRUE(f.isShown("Command2"));
+    EXPECT_FALSE(f.isShown("Command3"));
+    fill({"1", "2", "3", "4", "5", "6", "7", "8", "9"});
+    next(row.drawn, row.kind);
+    EXPECT_EQ(contents(), row.contents);
+    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_EQ(redBoxes(), std::set<int>{});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, GtmTasks,
+    testing::Values(ShownRow{"Average", {1.5, -3, 8}, Avc, {"1.5", "-3", "8", "", "", "", "", "", ""}},
+                    ShownRow{"Total", {2, -3, 8}, Tvc, {"", "", "", "2", "-3", "8", "", "", ""}},
+                    ShownRow{"Marginal", {0.5, 0, 9}, Mc, {"", "", "", "", "", "", "0.5", "0", "9"}},
+                    ShownRow{"Constant", {0, 0, 7}, Tvc, {"", "", "", "0", "0", "7", "", "", ""}}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(GtmForm, LeavesNoTextOfARejectedFirstTryBehind) {
+    // MC = 3Q² - 8Q + 4 crosses the axis.
+    draws.append(test::gtm::script({1, -4, 4}, Avc));
+    open({2, -3, 8}, Mc);
+    EXPECT_EQ(contents(), (std::vector<std::string>{"", "", "", "", "", "", "2", "-3", "8"}));
+    EXPECT_EQ(graph().strokes().size(), 171U);
+}
+
+TEST_F(GtmForm, PlotsAGivenParabolaToFifteenAtTheFirstTickAndToElevenLater) {
+    for (const Kind kind : {Avc, Mc}) {
+        const Numbers k{1, -2, 4};
+        const auto height = [&](double q) { return parabola(k, q); };
+        open(k, kind);
+        EXPECT_EQ(graph().strokes().size(), 171U);
+        expectAlike(graph().strokes(), chain(height, -2, kBlack, [](double q, double) { return q <= 15; }));
+        next(k, kind);
+        EXPECT_EQ(graph().strokes().size(), 131U);
+        expectAlike(graph().strokes(), chain(height, -2, kBlack, [](double q, double) { return q <= 11; }));
+    }
+}
+
+TEST_F(GtmForm, PlotsAGivenCubicUpToFourHundredEachTime) {
+    const Numbers k{1.5, -3, 8};
+    const auto height = [&](double q) { return cubic(k, q); };
+    const Strokes expected =
+        chain(height, -2, kBlack, [&](double q, double) { return height(q + 0.1) <= 400; });
+    open(k, Tvc);
+    expectAlike(graph().strokes(), expected);
+    next(k, Tvc);
+    expectAlike(graph().strokes(), expected);
+}
+
+TEST_F(GtmForm, KeepsTheScaleOfTheFirstTick) {
+    EXPECT_NE(FormDriver::unshown(PageName::Gtm, draws).find<GraphBox>("Picture1").scale(), kGraph.scale);
+    openPlain();
+    EXPECT_EQ(graph().scale(), kGraph.scale);
+    next({1, -2, 4}, Avc);
+    EXPECT_EQ(graph().scale(), kGraph.scale);
+}
+
+TEST_F(GtmForm, DrawsAvcThenTvcThenMcInTheColoursOfARightAnswer) {
+    const FormDriver& f = openPlain();
+    answer({"1", "-2", "4", "1", "-2", "4", "3", "-4", "4"});
+    const Numbers avc{1, -2, 4};
+    const Numbers mc{3, -4, 4};
+    const auto total = [&](double q) { return cubic(avc, q); };
+    expectAlike(
+        drawnAfter(171),
+        chain([&](double q) { return parabola(avc, q); }, -3, kAvcRight,
+              [](double q, double y) { return q <= 15.05 && y <= 400; }) +
+            chain(total, -3, kTvcRight, [&](double q, double) { return std::abs(total(q + 0.1)) <= 400; }) +
+            chain([&](double q) { return parabola(mc, q); }, -3, kMcRight,
+                  [](double q, double y) { return q <= 15 && y <= 210; }));
+    EXPECT_TRUE(f.isShown("Labelt"));
+    EXPECT_EQ(f.caption("Labelt"), "RIGTIGT");
+    EXPECT_EQ(f.label("Labelt").backColour(), QColor(0, 130, 0));
+    EXPECT_FALSE(f.isShown("Command2"));
+    EXPECT_FALSE(f.isShown("Command3"));
+    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(redBoxes(), std::set<int>{});
+}
+
+TEST_F(GtmForm, DrawsWholeLevelCurvesOfATry) {
+    open({0, 0, 5}, Avc);
+    answer({"0", "0", "5", "0", "0", "5", "0", "0", "5"});
+    const std::map<QRgb, std::size_t> expected{
+        {kAvcRight.rgb(), 181}, {kTvcRight.rgb(), 230}, {kMcRight.rgb(), 181}};
+    std::map<QRgb, std::size_t> counts;
+    for (const Stroke& stroke : drawnAfter(171)) {
+        ++counts[stroke.colour.rgb()];
+    }
+    EXPECT_EQ(counts, expected);
+}
+
+struct MarkRow {
+    const char* name;
+    Nine typed;
+    std::set<int> red;
+    std::vector<QColor> colours;
+};
+
+class GtmMarks : public GtmForm, public testing::WithParamInterface<MarkRow> {};
+
+/// The colours of the curves in the order drawn.
+std::vector<QColor> coloursOf(const Strokes& strokes) {
+    std::vector<QColor> colours;
+    for (const Stroke& stroke : strokes) {
+        if (colours.empty() || colours.back() != stroke.colour) {
+            colours.push_back(stroke.colour);
+        }
+    }
+    return colours;
+}
+
+TEST_P(GtmMarks, ReddenEachWrongBoxAndColourTheCurveOfItsFunction) {
+    const MarkRow& row = GetParam();
+    const FormDriver& f = openPlain();
+    answer(row.typed);
+    EXPECT_EQ(redBoxes(), row.red);
+    EXPECT_EQ(coloursOf(drawnAfter(171)), row.colours);
+    EXPECT_TRUE(f.isShown("Labelt"));
+    EXPECT_EQ(f.caption("Labelt"), "FORKERT");
+    EXPECT_EQ(f.label("Labelt").backColour(), kRed);
+    EXPECT_TRUE(f.isShown("Command2"));
+    EXPECT_TRUE(f.isShown("Command3"));
+    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_EQ(contents(), std::vector<std::string>(row.typed.begin(), row.typed.end()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, GtmMarks,
+                         testing::Values(MarkRow{"OnlyAvc",
+                                                 {"1", "-2", "5", "1", "-2", "4", "3", "-4", "4"},
+                                                 {3},
+                                                 {kAvcWrong, kTvcRight, kMcRight}},
+                                         MarkRow{"OnlyTvc",
+                                                 {"1", "-2", "4", "1.1", "2", "4", "3", "-4", "4"},
+                                                 {4, 5},
+                                                 {kAvcRight, kTvcWrong, kMcRight}},
+                                         MarkRow{"OnlyMc",
+                                                 {"1", "-2", "4", "1", "-2", "4", "3.01", "-4", "4"},
+                                                 {7},
+                                                 {kAvcRight, kTvcRight, kMcWrong}},
+                                         MarkRow{"NothingIsTyped",
+                                                 {"", "", "", "", "", "", "", "", ""},
+                                                 {1, 2, 3, 4, 5, 6, 7, 8, 9},
+                                                 {kAvcWrong, kTvcWrong, kMcWrong}},
+                                         MarkRow{"AHugeNumberDrawsNothing",
+                                                 {"1", "-2", "4", "1", "-2", "4", "3", "-4", "1e308"},
+                                                 {9},
+                                                 {kAvcRight, kTvcRight}},
+                                         MarkRow{"FourHundredForFourDrawsNoMc",
+                                                 {"1", "-2", "4", "1", "-2", "4", "3", "-4", "400"},
+                                                 {9},
+                                                 {kAvcRight, kTvcRight}}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(GtmForm, TakesAnAlteredBoxOfTheGivenFunctionForWrong) {
+    const FormDriver& f = openPlain();
+    answer({"2", "-2", "4", "1", "-2", "4", "3", "-4", "4"});
+    EXPECT_EQ(f.caption("Labelt"), "FORKERT");
+    EXPECT_EQ(redBoxes(), std::set<int>{1});
+    answer({"1", "-2", "4", "1", "-2", "4", "3", "-4", "4"});
+    EXPECT_EQ(f.caption("Labelt"), "RIGTIGT");
+    EXPECT_EQ(redBoxes(), std::set<int>{});
+}
+
+TEST_F(GtmForm, WantsSeventeenHundredthsForTheThirdOfAHalf) {
+    const FormDriver& f = open({0.5, -4, 9}, Mc);
+    EXPECT_EQ(f.box("Text7").content(), "0.5");
+    answer({"0.1667", "-2", "9", "0.17", "-2", "9", "0.5", "-4", "9"});
+    EXPECT_EQ(redBoxes(), std::set<int>{1});
+    f.type("Text1", "0,17");
+    f.click("Command2");
+    EXPECT_EQ(f.caption("Labelt"), "RIGTIGT");
+}
+
+TEST_F(GtmForm, IsSolvedByKeysAlone) {
+    const FormDriver& f = openPlain();
+    for (const char* given : {"Text1", "Text2", "Text3"}) {
+        f.press(given, Qt::Key_Return);
+    }
+    const std::array<const char*, 6> typed{"1", "-2", "4", "3,0", "-4", "4"};
+    for (std::size_t i = 0; i < typed.size(); ++i) {
+        const std::string box = "Text" + std::to_string(i + 4);
+        ASSERT_EQ(f.focus(), box);
+        f.type(box, typed.at(i));
+        f.press(box, Qt::Key_Return);
+    }
+    EXPECT_EQ(f.box("Text7").content(), "3.0");
+    EXPECT_EQ(f.focus(), "Command2");
+    f.press("Command2", Qt::Key_Return);
+    EXPECT_EQ(f.caption("Labelt"), "RIGTIGT");
+    f.press("Text9", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Command1");
+}
+
+TEST_F(GtmForm, PilesUpTriesAndAnswerUntilTheNextExercise) {
+    const FormDriver& f = openPlain();
+    std::size_t before = graph().strokes().size();
+    for (const char* tried : {"1", "2", "3"}) {
+        answer({"1", "-2", "4", tried, "-2", "4", "3", "-4", "1"});
+        EXPECT_GT(graph().strokes().size(), before);
+        before = graph().strokes().size();
+    }
+    f.click("Command3");
+    EXPECT_GT(graph().strokes().size(), before);
+    next({1, -2, 4}, Avc);
+    EXPECT_EQ(graph().strokes().size(), 131U);
+}
+
+TEST_F(GtmForm, GivesTheCoefficientsAndDrawsAvcThenMcThenTvc) {
+    const DecimalMark danish(",");
+    const FormDriver& f = open({0.5, -3, 9}, Mc);
+    answer({"", "", "", "", "", "", "", "", ""});
+    const std::size_t before = graph().strokes().size();
+    f.click("Command3");
+    EXPECT_EQ(contents(),
+              (std::vector<std::string>{"0,17", "-1,5", "9", "0,17", "-1,5", "9", "0,5", "-3", "9"}));
+    EXPECT_EQ(redBoxes(), std::set<int>{});
+    for (const char* hidden : {"Command2", "Command3", "Labelt"}) {
+        EXPECT_FALSE(f.isShown(hidden)) << hidden;
+    }
+    EXPECT_EQ(f.focus(), "Command1");
+    const auto avc = [](double q) { return 0.17 * q * q - 1.5 * q + 9; };
+    const auto mc = [](double q) { return 0.5 * q * q - 3 * q + 9; };
+    const auto tvc = [&](double q) { return q * avc(q); };
+    expectAlike(drawnAfter(before), chain(avc, -4, kAvcRight, [](double q, double) {
+                                        return q <= 15.05;
+                                    }) + chain(mc, -2, kMcRight, [](double q, double y) {
+                                        return q <= 21 && std::abs(y) <= 110;
+                                    }) + chain(tvc, -4, kTvcRight, [&](double q, double) {
+                                        return q <= 20 && std::abs(tvc(q + 0.1)) <= 400;
+                                    }));
+}
+
+TEST_F(GtmForm, TakesAnythingTyped) {
+    const FormDriver& f = openPlain();
+    const std::array<std::string, 5> hostile{"1e308", "-1e999", "æ;", std::string(10'000, '9'), "400"};
+    for (std::size_t box = 1; box <= 9; ++box) {
+        for (const std::string& typed : hostile) {
+            fill({"1", "-2", "4", "1", "-2", "4", "3", "-4", "4"});
+            f.box("Text" + std::to_string(box)).setContent(typed);
+            const std::size_t before = graph().strokes().size();
+            f.click("Command2");
+            EXPECT_EQ(f.caption("Labelt"), "FORKERT");
+            EXPECT_LE(graph().strokes().size() - before, 181U + 230U + 181U);
+        }
+    }
+    EXPECT_FALSE(f.page().grab().isNull());
+}
+
+struct GuideRow {
+    const char* name;
+    Kind kind;
+    const char* given;
+    const char* ways;
+    const char* panel;
+    const char* firstVis;
+    const char* secondVis;
+    const char* close;
+    const char* firstStep;
+    const char* secondStep;
+    const char* firstText;
+    const char* secondText;
+};
+
+void PrintTo(const GuideRow& row, std::ostream* out) { *out << row.name; }
+
+constexpr const char* kDifferentiate =
+    " Når du skal fra TVC til MC skal du differentiere TVC-funktionen. Det gøres ved ledvis at gange "
+    "koefficienten "
+    "med eksponenten og derefter trække én fra eksponenten (se evt differentialregning).";
+
+class GtmGuides : public GtmForm, public testing::WithParamInterface<GuideRow> {};
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, GtmGuides,
+    testing::Values(
+        GuideRow{
+            "Average", Avc, "Label27", "24", "PictureHlpGen", "Command4", "Command5", "Command6", "Picture2",
+            "Picture9",
+            " Du kender her AVC-funktionen. Du skal nu først finde TVC-funktionen og derefter MC-funktionen. "
+            "Metoden er vist i diagrammet ovenfor. Først skal du gange AVC med mængden(Q).Derved får du TVC.",
+            kDifferentiate},
+        GuideRow{"Total", Tvc, "Label26", "23", "Picture3", "Command7", "Command8", "Command9", "Picture4",
+                 "Picture5",
+                 " Du kender her TVC-funktionen og skal finde AVC-funktionen samt MC-funktonen. Som det "
+                 "fremgår af "
+                 "diagrammet ovenfor findes AVC-funktionen ved at dividere TVC-funktionen med antallet(Q).",
+                 kDifferentiate},
+        GuideRow{"Marginal", Mc, "Label25", "13", "Picture6", "Command10", "Command11", "Command12",
+                 "Picture7", "Picture8",
+                 " Du kender MC-funktionen og skal, som det fremgår af diagrammet ovenfor, først finde "
+                 "TVC-funktionen og derefter AVC-funktionen. TVC-funktionen finder du ved at integrere "
+                 "MC-funktionen (se evt. integralregning).",
+                 " AVC-funktionen findes nu ved at dividere TVC-funktionen med antallet (Q)."}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_P(GtmGuides, LightUpTheWayOfTheExerciseAndOpenItsPanel) {
+    const GuideRow& row = GetParam();
+    const FormDriver& f = open({1, -2, 4}, row.kind);
+    EXPECT_EQ(redWays(), "");
+    EXPECT_EQ(redNames(), std::set<std::string>{});
+    f.click("Hjaelp");
+    EXPECT_EQ(redWays(), row.ways);
+    EXPECT_EQ(redNames(), std::set<std::string>{row.given});
+    EXPECT_EQ(shownPanels(), (std::set<std::string>{"Picturehlp", row.panel}));
+    EXPECT_EQ(shownSteps(), std::set<std::string>{});
+    EXPECT_EQ(f.caption("Labelhlp_0"), row.firstText);
+    EXPECT_EQ(f.caption("Labelhlp_1"), row.secondText);
+    EXPECT_EQ(f.focus(), row.firstVis);
+}
+
+TEST_P(GtmGuides, RevealTheirTwoStepsAndHideThemWithThePanel) {
+    const GuideRow& row = GetParam();
+    const FormDriver& f = open({1, -2, 4}, row.kind);
+    f.click("Hjaelp");
+    f.press(row.firstVis, Qt::Key_Return);
+    EXPECT_EQ(shownSteps(), std::set<std::string>{row.firstStep});
+    f.press(row.secondVis, Qt::Key_Return);
+    EXPECT_EQ(shownSteps(), (std::set<std::string>{row.firstStep, row.secondStep}));
+    f.click(row.close);
+    EXPECT_EQ(shownSteps(), std::set<std::string>{});
+    EXPECT_EQ(shownPanels(), std::set<std::string>{});
+    EXPECT_EQ(redWays(), "");
+    f.click("Hjaelp");
+    EXPECT_EQ(shownSteps(), std::set<std::string>{});
+}
+
+TEST_P(GtmGuides, BlackenTheNamesOnlyWhereMcIsGiven) {
+    const GuideRow& row = GetParam();
+    const FormDriver& f = open({1, -2, 4}, row.kind);
+    f.click("Hjaelp");
+    f.click(row.close);
+    EXPECT_EQ(redNames(), row.kind == Mc ? std::set<std::string>{} : std::set<std::string>{row.given});
+}
+
+TEST_P(GtmGuides, CloseWithTheNextExerciseAndStayRed) {
+    const GuideRow& row = GetParam();
+    const FormDriver& f = open({1, -2, 4}, row.kind);
+    f.click("Hjaelp");
+    f.click(row.firstVis);
+    f.click(row.secondVis);
+    next({1, -2, 4}, row.kind);
+    EXPECT_EQ(shownPanels(), std::set<std::string>{});
+    EXPECT_EQ(shownSteps(), std::set<std::string>{});
+    EXPECT_EQ(redWays(), row.ways);
+    EXPECT_EQ(redNames(), std::set<std::string>{row.given});
+}
+
+TEST_F(GtmForm, LetsTheRedOfEarlierHelpStandUntilALuk) {
+    const FormDriver& f = open({1, -2, 4}, Avc);
+    f.click("Hjaelp");
+    next({1, -2, 4}, Tvc);
+    f.click("Hjaelp");
+    EXPECT_EQ(redWays(), "234");
+    EXPECT_EQ(redNames(), (std::set<std::string>{"Label26", "Label27"}));
+    next({1, -2, 4}, Mc);
+    f.click("Hjaelp");
+    EXPECT_EQ(redWays(), "1234");
+    EXPECT_EQ(redNames(), (std::set<std::string>{"Label25", "Label26", "Label27"}));
+    f.click("Command12");
+    EXPECT_EQ(redWays(), "");
+    EXPECT_EQ(redNames(), std::set<std::string>{});
+}
+
+TEST_F(GtmForm, LeavesPanelsAndBoxesAsTheyAreWhileTheHelpIsOpen) {
+    const FormDriver& f = openPlain();
+    f.click("Hjaelp");
+    f.click("Command4");
+    answer({"1", "-2", "4", "1", "-2", "4", "3", "-4", "1"});
+    EXPECT_EQ(shownPanels(), (std::set<std::string>{"Picturehlp", "PictureHlpGen"}));
+    EXPECT_EQ(shownSteps(), std::set<std::string>{"Picture2"});
+    f.click("Command3");
+    EXPECT_EQ(shownPanels(), (std::set<std::string>{"Picturehlp", "PictureHlpGen"}));
+    f.click("Hjaelp");
+    EXPECT_EQ(shownSteps(), std::set<std::string>{"Picture2"});
+}
+
+TEST_F(GtmForm, NamesTheFunctionsAndTheWaysOfItsDiagram) {
+    const FormDriver& f = openPlain();
+    test::expectTexts(f, std::array{test::FixedText{"Label25", "Marginal    (MC)"},
+                                    test::FixedText{"Label26", "Total (TVC)"},
+                                    test::FixedText{"Label27", "Gennem- snit (AVC)"}});
+    expectCaptions(f.find("Picturehlp"), {"d(TVC)", "dQ", "dQ", "∫", "(MC)", "TVC", "Q", "AVC*Q"});
+}
+
+TEST_F(GtmForm, ExplainsTheGeneralSolutions) {
+    const FormDriver& f = openPlain();
+    expectCaptions(f.find("PictureHlpGen"),
+                   {"Generel løsning", "Aktuel løsning", "Gang AVC-funktionen med Q", "TVC = Q*(aQ + bQ +c)",
+                    "=   aQ + bQ +cQ ", "Differentiér TVC-funktionen", "TVC = aQ + bQ +cQ",
+                    "MC = d(TVC)/dQ =", "3*aQ + 2*bQ + c", "2", "2", "2", "2", "3", "3"});
+    expectCaptions(
+        f.find("Picture3"),
+        {"Generel løsning", "Aktuel løsning", "Divider TVC-fuktionen med Q", "AVC = (aQ + bQ + cQ)/Q ",
+         "= aQ + bQ + c", "Differentiér TVC-funktionen", "TVC = aQ + bQ + cQ",
+         "MC = d(TVC)/dQ = ", "3*aQ + 2*bQ + c", "3", "3", "2", "2", "2", "2"});
+    expectCaptions(f.find("Picture6"),
+                   {"Generel løsning", "Aktuel løsning", "Integrér MC-funktionen", "TVC = ", "∫",
+                    "(aQ + bQ + c)", "aQ + ", "bQ + cQ", "= aQ + bQ + c", "= aQ + bQ + c",
+                    "Dividér TVC-funktionen med Q", "AVC = (aQ + bQ +cQ)/Q", "1", "1", "Q"});
+    for (const char* vis : {"Command4", "Command5", "Command7", "Command8", "Command10", "Command11"}) {
+        EXPECT_EQ(f.button(vis).caption(), "Vis") << vis;
+    }
+    for (const char* close : {"Command6", "Command9", "Command12"}) {
+        EXPECT_EQ(f.button(close).caption(), "&Luk") << close;
+    }
+}
+
+/// The labels of a step, as they stand: rows from above, each from left to right, exponents apart.
+struct StepText {
+    std::vector<std::vector<const Label*>> rows;
+    std::vector<const Label*> exponents;
+
+    explicit StepText(const QWidget& box) {
+        std::map<double, std::vector<const Label*>> byTop;
+        for (const Label* label : box.findChildren<Label*>(Qt::FindDirectChildrenOnly)) {
+            if (label->textSize() == 8) {
+                exponents.push_back(label);
+            } else {
+                byTop[label->place().top()].push_back(label);
+            }
+        }
+        for (auto& [top, row] : byTop) {
+            std::sort(row.begin(), row.end(), [](const Label* one, const Label* other) {
+                return one->place().left() < other->place().left();
+            });
+            rows.push_back(row);
+        }
+    }
+
+    [[nodiscard]] std::vector<std::string> texts() const {
+        std::vector<std::string> texts;
+        for (const auto& row : rows) {
+            std::string text;
+            for (const Label* label : row) {
+                text += label->caption();
+            }
+            texts.push_back(text);
+        }
+        return texts;
+    }
+};
+
+using Texts = std::vector<std::string>;
+
+TEST_F(GtmForm, SetsEachPieceWhereTheOneBeforeItEnds) {
+    const DecimalMark danish(",");
+    const FormDriver& f = open({1.5, -3, 8}, Avc);
+    f.click("Hjaelp");
+    f.click("Command4");
+    f.click("Command5");
+    const StepText product(f.find("Picture2"));
+    EXPECT_EQ(product.texts(), (Texts{"TVC = Q*(1,5Q -3Q +8)", "= 1,5Q -3Q +8Q"}));
+    EXPECT_EQ(product.exponents.size(), 3U);
+    const StepText derivative(f.find("Picture9"));
+    EXPECT_EQ(derivative.texts(), (Texts{"TVC = 1,5Q -3Q +8Q", "3 * 1,5Q + 2 * -3Q +8", "= 4,5Q -6Q +8"}));
+    EXPECT_EQ(derivative.exponents.size(), 4U);
+    for (const auto& row : product.rows) {
+        double right = 0;
+        for (const Label* label : row) {
+            EXPECT_EQ(label->place().left(), right) << label->caption();
+            EXPECT_EQ(label->place().width(), label->textWidth()) << label->caption();
+            right = label->place().right();
+        }
+    }
+}
+
+/// From the left of the Q before an exponent to the left of the exponent, in twips, for each exponent.
+std::vector<double> exponentOffsets(const StepText& step) {
+    std::vector<double> offsets;
+    for (const Label* exponent : step.exponents) {
+        double offset = 1e9;
+        for (const auto& row : step.rows) {
+            for (const Label* label : row) {
+                const QPointF apart = exponent->place().topLeft() - label->place().topLeft();
+                const bool isAboveIt = -10 < apart.y() && apart.y() < 0;
+                if (label->caption() == "Q " && isAboveIt && apart.x() > 0) {
+                    offset = std::min(offset, apart.x() * 15);
+                }
+            }
+        }
+        offsets.push_back(std::round(offset * 100) / 100);
+    }
+    return offsets;
+}
+
+TEST_F(GtmForm, RaisesExponentsBehindTheirQ) {
+    const FormDriver& f = open({1.5, -3, 8}, Mc);
+    f.click("Hjaelp");
+    f.click("Command10");
+    f.click("Command11");
+    const StepText integral(f.find("Picture7"));
+    EXPECT_EQ(integral.exponents.size(), 5U);
+    EXPECT_EQ(exponentOffsets(integral), (std::vector<double>{120, 100, 100, 120, 120}));
+    EXPECT_EQ(exponentOffsets(StepText(f.find("Picture8"))), (std::vector<double>{100, 100, 120}));
+    next({1.5, -3, 8}, Tvc);
+    f.click("Hjaelp");
+    f.click("Command7");
+    EXPECT_EQ(exponentOffsets(StepText(f.find("Picture4"))), (std::vector<double>{120, 120, 120}));
+}
+
+TEST_F(GtmForm, SetsItsFractionsWithBarsIntoTheRow) {
+    const FormDriver& f = open({1.5, -3, 8}, Mc);
+    f.click("Hjaelp");
+    f.click("Command10");
+    const QWidget& box = f.find("Picture7");
+    const auto bars = box.findChildren<LineControl*>();
+    ASSERT_EQ(bars.size(), 2);
+    for (const LineControl* bar : bars) {
+        EXPECT_FALSE(bar->isHidden());
+        std::string texts;
+        for (const Label* label : box.findChildren<Label*>()) {
+            const QRectF place = label->place();
+            if (place.left() == bar->place().left() &&
+                std::abs(place.center().y() - bar->place().top()) < 9) {
+                EXPECT_EQ(place.width(), bar->place().width());
+                texts += label->caption();
+            }
+        }
+        EXPECT_EQ(texts, bar == bars.front() ? "13" : "12");
+    }
+}
+
+TEST_F(GtmForm, RewritesAStepWithTheNumbersOfTheNextExercise) {
+    const FormDriver& f = open({1.5, -3, 8}, Tvc);
+    f.click("Hjaelp");
+    f.click("Command7");
+    f.click("Command7");
+    EXPECT_EQ(StepText(f.find("Picture4")).texts(), (Texts{"AVC = (1.5Q -3Q +8Q)/Q", "= 1.5Q -3Q +8"}));
+    next({2, 0, 5}, Tvc);
+    f.click("Hjaelp");
+    f.click("Command7");
+    f.click("Command8");
+    EXPECT_EQ(StepText(f.find("Picture4")).texts(), (Texts{"AVC = (2Q +0Q +5Q)/Q", "= 2Q +0Q +5"}));
+    EXPECT_EQ(StepText(f.find("Picture5")).texts(),
+              (Texts{"TVC = 2Q +0Q +5Q", "3 * 2Q + 2 * 0Q +5", "= 6Q +0Q +5"}));
+}
+
+TEST_F(GtmForm, HasRoomForTheLongestNumbers) {
+    const DecimalMark danish(",");
+    const FormDriver& f = openPlain();
+    const std::vector<std::pair<Numbers, Kind>> longest{
+        {{4.5, -7, 9}, Avc}, {{4.5, -7, 9}, Tvc}, {{3.5, -9, 9}, Mc}};
+    for (const auto& [numbers, kind] : longest) {
+        next(numbers, kind);
+        f.click("Hjaelp");
+        for (const Button* button : f.page().findChildren<Button*>()) {
+            if (button->caption() == "Vis" && button->isVisible()) {
+                f.click(button->objectName().toStdString());
+            }
+        }
+        EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
+    }
+}
+
+}  // namespace
+}  // namespace tavrune
