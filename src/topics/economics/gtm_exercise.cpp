@@ -12,8 +12,7 @@
 namespace tavrune {
 namespace {
 
-/// The drawn coefficients. All that is computed from them stays single until it is rounded: in doubles, some
-/// parabolas that just touch the axis would be rejected.
+/// The drawn coefficients, and what is made of them: singles until they are rounded.
 struct Drawn {
     float a;
     float b;
@@ -34,10 +33,10 @@ Drawn drawCoefficients(Draws& draws) {
 }
 
 /// Above 0 where aQ² + bQ + c crosses the axis.
-float discriminantOf(float a, float b, float c) { return b * b - 4 * a * c; }
+double discriminantOf(float a, float b, float c) { return Power(b, 2) - 4 * a * c; }
 
 /// Kept: the quarter of b² is multiplied by a, where the height of a vertex wants a division.
-float lowestOf(float a, float b, float c) { return -(b * b) / 4 * a + c; }
+double lowestOf(float a, float b, float c) { return -Power(b, 2) / 4 * a + c; }
 
 /// Draws which function is given and makes the other two of it. False if they are rejected.
 bool completeExercise(GtmState& s, const Drawn& drawn, Draws& draws) {
