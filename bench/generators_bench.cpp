@@ -1,6 +1,8 @@
 #include <benchmark/benchmark.h>
 
+#include "numeric/arithmetic.h"
 #include "numeric/draws.h"
+#include "topics/addition/vaddi1_exercise.h"
 #include "topics/basics/brok_exercise.h"
 #include "topics/basics/dlinie_exercise.h"
 #include "topics/basics/konvert_exercise.h"
@@ -12,6 +14,16 @@
 
 namespace tavrune {
 namespace {
+
+// Drawn and solved in two steps, of which the second can fail.
+void newExercise(Vaddi1State& state, Draws& draws) {
+    drawTask(state, draws);
+    try {
+        solve(state);
+    } catch (const ArithmeticFailure& failure) {
+        benchmark::DoNotOptimize(failure);
+    }
+}
 
 /// One exercise with its solution, drawn as the program draws it: reseeded from the clock.
 template <class State>
@@ -32,6 +44,7 @@ BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");
 BENCHMARK(Generator<RoedderState>)->Name("Generator/Roedder");
 BENCHMARK(Generator<RogtState>)->Name("Generator/Rogt");
 BENCHMARK(Generator<ToppState>)->Name("Generator/Topp");
+BENCHMARK(Generator<Vaddi1State>)->Name("Generator/Vaddi1");
 
 }  // namespace
 }  // namespace tavrune

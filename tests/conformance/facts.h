@@ -31,6 +31,10 @@ struct FormFacts {
     std::string panel;
     std::string close;
 
+    /// A step of the worked solution that ends the program with a failure of the arithmetic, in exercises
+    /// that are told.
+    bool stepsMayFail = false;
+
     [[nodiscard]] bool hasOneLabel() const { return right == wrong; }
 };
 
