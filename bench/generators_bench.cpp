@@ -2,6 +2,7 @@
 
 #include "numeric/arithmetic.h"
 #include "numeric/draws.h"
+#include "topics/addition/laddi1_exercise.h"
 #include "topics/addition/vaddi1_exercise.h"
 #include "topics/basics/brok_exercise.h"
 #include "topics/basics/dlinie_exercise.h"
@@ -39,6 +40,7 @@ void Generator(benchmark::State& bench) {
 BENCHMARK(Generator<BrokState>)->Name("Generator/Brok");
 BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
+BENCHMARK(Generator<Laddi1State>)->Name("Generator/Laddi1");
 BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
 BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");
 BENCHMARK(Generator<RoedderState>)->Name("Generator/Roedder");

@@ -8,6 +8,7 @@
 
 #include "shell/how_to_use.h"
 #include "shell/opstart.h"
+#include "topics/addition/laddi1.h"
 #include "topics/addition/vaddi1.h"
 #include "topics/basics/brok.h"
 #include "topics/basics/dlinie.h"
@@ -52,6 +53,7 @@ constexpr std::array kPages{
     Entry{PageName::Dlinie, form<Dlinie>},
     Entry{PageName::Lininter, form<Lininter>},
     Entry{PageName::Tomto, form<Tomto>},
+    Entry{PageName::Laddi1, form<Laddi1>},
     Entry{PageName::Vaddi1, form<Vaddi1>},
     Entry{PageName::Topp, form<Topp>},
     Entry{PageName::Roedder, form<Roedder>},
