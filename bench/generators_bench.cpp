@@ -1,6 +1,9 @@
 #include <benchmark/benchmark.h>
 
+#include "numeric/arithmetic.h"
 #include "numeric/draws.h"
+#include "topics/addition/laddi1_exercise.h"
+#include "topics/addition/vaddi1_exercise.h"
 #include "topics/basics/brok_exercise.h"
 #include "topics/basics/dlinie_exercise.h"
 #include "topics/basics/konvert_exercise.h"
@@ -18,6 +21,16 @@
 namespace tavrune {
 namespace {
 
+// Drawn and solved in two steps, of which the second can fail.
+void newExercise(Vaddi1State& state, Draws& draws) {
+    drawTask(state, draws);
+    try {
+        solve(state);
+    } catch (const ArithmeticFailure& failure) {
+        benchmark::DoNotOptimize(failure);
+    }
+}
+
 /// One exercise with its solution, drawn as the program draws it: reseeded from the clock.
 template <class State>
 void Generator(benchmark::State& bench) {
@@ -34,6 +47,7 @@ BENCHMARK(Generator<DiffState>)->Name("Generator/Diff");
 BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
 BENCHMARK(Generator<IntegState>)->Name("Generator/Integ");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
+BENCHMARK(Generator<Laddi1State>)->Name("Generator/Laddi1");
 BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
 BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");
 BENCHMARK(Generator<Integ2State>)->Name("Generator/Integ2");
@@ -42,6 +56,7 @@ BENCHMARK(Generator<GtmState>)->Name("Generator/Gtm");
 BENCHMARK(Generator<RoedderState>)->Name("Generator/Roedder");
 BENCHMARK(Generator<RogtState>)->Name("Generator/Rogt");
 BENCHMARK(Generator<ToppState>)->Name("Generator/Topp");
+BENCHMARK(Generator<Vaddi1State>)->Name("Generator/Vaddi1");
 
 }  // namespace
 }  // namespace tavrune

@@ -8,6 +8,8 @@
 
 #include "shell/how_to_use.h"
 #include "shell/opstart.h"
+#include "topics/addition/laddi1.h"
+#include "topics/addition/vaddi1.h"
 #include "topics/basics/brok.h"
 #include "topics/basics/dlinie.h"
 #include "topics/basics/konvert.h"
@@ -59,6 +61,8 @@ constexpr std::array kPages{
     Entry{PageName::Integ2, form<Integ2>},
     Entry{PageName::Afsaet, form<Afsaet>},
     Entry{PageName::Gtm, form<Gtm>},
+    Entry{PageName::Laddi1, form<Laddi1>},
+    Entry{PageName::Vaddi1, form<Vaddi1>},
     Entry{PageName::Topp, form<Topp>},
     Entry{PageName::Roedder, form<Roedder>},
     Entry{PageName::Rogt, form<Rogt>},

@@ -33,6 +33,10 @@ struct FormFacts {
     /// The boxes that the exercise itself fills, to tell what is given.
     int filledBoxes = 0;
 
+    /// A step of the worked solution that ends the program with a failure of the arithmetic, in exercises
+    /// that are told.
+    bool stepsMayFail = false;
+
     [[nodiscard]] bool hasOneLabel() const { return right == wrong; }
 };
 

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "conformance/facts.h"
+#include "numeric/arithmetic.h"
 #include "support/decimal_mark.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
@@ -270,10 +271,15 @@ TEST_P(EveryForm, WalksByEnterThroughAllItsBoxesToOk) {
 
 TEST_P(EveryForm, EndsItsEnterChainByItsKind) {
     const FormDriver form = open();
+    AnswerBox& last = form.box(facts().lastBox);
+    // Not every exercise asks for it.
+    for (int exercise = 0; exercise < 100 && !last.isVisible(); ++exercise) {
+        form.click(facts().newExercise);
+        chooseOption(form);
+    }
+    ASSERT_TRUE(last.isVisible());
     answerWrongly(form);
     form.click(facts().giveAnswer);
-    AnswerBox& last = form.box(facts().lastBox);
-    ASSERT_TRUE(last.isVisible()) << "the seed must give an exercise that shows its last box";
     last.setFocus();
     form.press(facts().lastBox, Qt::Key_Return);
     EXPECT_EQ(form.focus(), facts().lastBoxGoesOn ? facts().newExercise : facts().lastBox);
@@ -368,7 +374,11 @@ TEST_P(EveryForm, HasNoTextCutOffInItsHelpWithEveryStepShown) {
         static_cast<void>(form.answerMessage());
         for (Button* button : form.page().findChildren<Button*>()) {
             if (button->caption() == "Vis" && button->isVisible() && button->isEnabled()) {
-                button->click();
+                try {
+                    button->click();
+                } catch (const ArithmeticFailure&) {
+                    EXPECT_TRUE(facts().stepsMayFail) << button->objectName().toStdString();
+                }
             }
         }
         ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << "exercise " << exercise;

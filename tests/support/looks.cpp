@@ -135,6 +135,11 @@ bool isCovered(const QWidget& widget, const QPoint& pointOnPage, const QWidget& 
     return false;
 }
 
+/// An underlined sign that stands just on the plain one of a caption.
+bool isSignOver(const Word& sign, const Word& word) {
+    return sign.owner->font().underline() && sign.text.size() == 1 && word.text.contains(sign.text);
+}
+
 class Inspection {
 public:
     explicit Inspection(const QWidget& page) : page_(page) {
@@ -210,7 +215,7 @@ private:
             for (std::size_t j = i + 1; j < words_.size(); ++j) {
                 const Word& a = words_[i];
                 const Word& b = words_[j];
-                if (a.owner == b.owner) {
+                if (a.owner == b.owner || isSignOver(a, b) || isSignOver(b, a)) {
                     continue;
                 }
                 const QRectF both = a.place.intersected(b.place);

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "controls/control.h"
+#include "graph/graph_box.h"
+#include "topics/addition/addition_model.h"
+
+namespace tavrune {
+
+/// The green of the right sum.
+inline const QColor kSumGreen = rgb(0, 190, 0);
+/// The quantity of the second function.
+inline const QColor kBandGreen = rgb(0, 255, 0);
+
+/// Runs `action` with `from`, `from` + `step`, .. up to `to`: a running sum of doubles, so that the number of
+/// passes is that of the sum. `step` is above 0, and the ends are near enough for it to move the sum.
+template <class Action>
+void stepThrough(double from, double to, double step, Action action) {
+    for (double at = from; at <= to; at += step) {
+        action(at);
+    }
+}
+
+// Ticks, drawn with each exercise: the frames keep identical ones once.
+/// Round a graph of 0..10 on both axes.
+void drawFrameTicks(GraphBox& frame);
+/// Round a graph of 0..20 in Q and 0..10 in P.
+void drawWideFrameTicks(GraphBox& frame);
+
+/// A piece of a function on a box whose y runs downwards from the price `top`: from Q = `from` to Q = `to`.
+void drawPiece(GraphBox& box, double top, const Piece& piece, double from, double to,
+               const QColor& colour = kBlack);
+
+/// A red square at a quantity and a price, of upright strokes: beside the box for a blank quantity, at the
+/// right edge for "oo". Prices run downwards from 10.
+void drawMark(GraphBox& box, const TableCell& quantity, double price);
+
+/// A thick level line from Q = `from` to Q = `to` at a price, standing on the axis for the price 0. Prices
+/// run downwards from 10.
+void drawBand(GraphBox& box, double from, double to, double price, const QColor& colour);
+
+}  // namespace tavrune

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace tavrune {
+
+/// A cell of a help table: a number, a blank where there is no value, "oo" where a level line has any
+/// quantity at its own price, or nothing at all as long as no exercise has filled it.
+class TableCell {
+public:
+    TableCell() = default;
+    // Numbers stand where cells are wanted throughout.
+    TableCell(double number) : content_(number) {}
+
+    [[nodiscard]] static TableCell blank() { return holding(Blank{}); }
+    [[nodiscard]] static TableCell unbounded() { return holding(Unbounded{}); }
+
+    /// Nothing has filled it yet: its text is empty, its number 0.
+    [[nodiscard]] bool isEmpty() const { return std::holds_alternative<std::monostate>(content_); }
+    [[nodiscard]] bool isBlank() const { return std::holds_alternative<Blank>(content_); }
+    [[nodiscard]] bool isUnbounded() const { return std::holds_alternative<Unbounded>(content_); }
+    /// Neither blank nor "oo".
+    [[nodiscard]] bool isNumeric() const { return !isBlank() && !isUnbounded(); }
+
+    /// Throws ArithmeticFailure, a type mismatch, for a blank and for "oo".
+    [[nodiscard]] double number() const;
+
+    /// As the student sees it: the number, " ", "oo" or nothing.
+    [[nodiscard]] std::string text() const;
+
+    /// Two numbers are equal as numbers; all else is equal where it reads the same.
+    bool operator==(const TableCell&) const = default;
+
+private:
+    struct Blank {
+        bool operator==(const Blank&) const = default;
+    };
+    struct Unbounded {
+        bool operator==(const Unbounded&) const = default;
+    };
+
+    using Content = std::variant<std::monostate, Blank, Unbounded, double>;
+
+    static TableCell holding(Content content) {
+        TableCell cell;
+        cell.content_ = content;
+        return cell;
+    }
+
+    Content content_;
+};
+
+/// The cell through one of the rounding rules if it is a number, otherwise as it is.
+[[nodiscard]] TableCell rounded(const TableCell& cell, double (*rule)(double));
+
+/// "( 0 ; 10 ) til ( 2.5 ; 5 )": a segment of the sum by its ends, quantity before price.
+[[nodiscard]] std::string stretchText(const TableCell& fromQ, const TableCell& fromP, const TableCell& toQ,
+                                      const TableCell& toP);
+
+/// A straight piece of a function, P = slope·Q + intercept.
+struct Piece {
+    double slope = 0;
+    double intercept = 0;
+
+    [[nodiscard]] double at(double q) const { return slope * q + intercept; }
+};
+
+/// How a typed value is tested against its target, for the verdict and for the red mark.
+enum class Rule {
+    /// target - 0.005 < typed <= target + 0.005. Kept: a value just at the lower end is wrong and stays
+    /// white.
+    Near,
+    /// Both ends fit.
+    NearClosed,
+    Exactly,
+    /// Kept: the verdict compares the truth of target - 0.005 < typed, as -1 or 0, with target + 0.005, so
+    /// that any value fits a target above 0. The mark goes by the true bounds.
+    Chained,
+};
+
+struct Target {
+    double value = 0;
+    Rule rule = Rule::Near;
+
+    [[nodiscard]] bool isFit(double typed) const;
+    /// True if a wrong answer turns the field red.
+    [[nodiscard]] bool isMarked(double typed) const;
+};
+
+/// What a field of an answer row asks for.
+enum class Slot { Slope, Intercept, Start, End };
+
+/// One field that is judged: its row, from 0 at the top, what it asks for, and its target.
+struct AnswerField {
+    int row;
+    Slot slot;
+    Target target;
+};
+
+/// The row in which a segment is typed: a lone one stands in the second row.
+[[nodiscard]] constexpr int rowOf(int segment, int segmentCount) { return segmentCount == 1 ? 1 : segment; }
+
+}  // namespace tavrune

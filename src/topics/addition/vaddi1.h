@@ -1,0 +1,57 @@
+#pragma once
+
+#include <memory>
+
+#include "graph/graph_box.h"
+#include "shell/exercise_form.h"
+#include "topics/addition/answer_rows.h"
+#include "topics/addition/vaddi1_exercise.h"
+
+namespace tavrune {
+
+namespace Ui {
+class Vaddi1;
+}
+
+/// Two straight functions, to be added by their quantities.
+class Vaddi1 : public ExerciseForm {
+    Q_OBJECT
+
+public:
+    explicit Vaddi1(Draws& draws);
+    ~Vaddi1() override;
+
+    [[nodiscard]] const Vaddi1State& state() const { return state_; }
+
+protected:
+    void firstTick() override;
+    void newExercise() override;
+    void judge() override;
+    void giveAnswer() override;
+    void help() override;
+
+private:
+    void showRows();
+    void showTask();
+    void drawGraphs();
+    void drawGivenFunctions();
+    void drawTypedSum();
+    void drawSum();
+    void fillAnswer();
+    void markEnds(GraphBox& box, const Vaddi1State::Column& quantities);
+    void drawStack(std::size_t row);
+    void showPrices();
+    void showQuantities();
+    void showSum();
+    void closeHelp();
+
+    std::unique_ptr<Ui::Vaddi1> ui_;
+    AnswerRows rows_;
+    HelpColumn columnP_;
+    HelpColumn columnQ1_;
+    HelpColumn columnQ2_;
+    HelpColumn columnQtotal_;
+    Vaddi1State state_;
+};
+
+}  // namespace tavrune

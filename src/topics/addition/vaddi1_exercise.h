@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "numeric/draws.h"
+#include "topics/addition/addition_model.h"
+
+namespace tavrune {
+
+/// Two straight functions and their horizontal sum. All of it lives as long as the form: what an exercise
+/// does not set keeps what the one before has left.
+struct Vaddi1State {
+    /// Whole numbers.
+    double slope1 = 0;
+    double intercept1 = 0;
+    double slope2 = 0;
+    double intercept2 = 0;
+    /// +1 both functions rising, -1 both falling.
+    int direction = 1;
+
+    using Column = std::array<TableCell, 3>;
+    Column tableP;
+    Column tableQ1;
+    Column tableQ2;
+    /// Kept: its third cell reaches into the next exercise with a level second function.
+    Column tableQtotal;
+
+    /// From Q = 0 to the kink. Kept: a lone segment leaves it as it was.
+    double firstSlope = 0;
+    double firstIntercept = 0;
+    /// 0 with one segment.
+    double kinkQuantity = 0;
+    /// The second segment, or the only one.
+    double secondSlope = 0;
+    double secondIntercept = 0;
+    int segmentCount = 1;
+    /// Where a falling sum meets P = 0.
+    TableCell upperEnd;
+    /// Kept: it stays set after the first exercise that has an upper end, so every later one is judged with
+    /// it.
+    bool upperEndAsked = false;
+
+    [[nodiscard]] Piece function1() const { return {slope1, intercept1}; }
+    [[nodiscard]] Piece function2() const { return {slope2, intercept2}; }
+    [[nodiscard]] Piece firstSegment() const { return {firstSlope, firstIntercept}; }
+    [[nodiscard]] Piece secondSegment() const { return {secondSlope, secondIntercept}; }
+};
+
+/// Draws until not both functions are level, and none of them lies on an edge of the graph.
+void drawTask(Vaddi1State& state, Draws& draws);
+
+/// True if the drawn functions add up to one segment: both start at one price, or a level one swallows the
+/// other.
+[[nodiscard]] bool isOneSegment(const Vaddi1State& state);
+
+/// True if the sum of the drawn functions ends at P = 0.
+[[nodiscard]] bool hasUpperEnd(const Vaddi1State& state);
+
+/// Fills the help table and the answer. Kept: for two rising functions, the second from 10, whose kink is
+/// exact to two decimals, this fails with an overflow.
+void solve(Vaddi1State& state);
+
+/// The fields that are judged; the help table is not among them.
+[[nodiscard]] std::vector<AnswerField> answerFields(const Vaddi1State& state);
+
+/// "Her fra ( 0 ; 10 ) til ( 2.5 ; 5 ) og fra ( 2.5 ; 5 ) til ( 12.5 ; 0 )."
+[[nodiscard]] std::string pathText(const Vaddi1State& state);
+
+}  // namespace tavrune

@@ -1,0 +1,77 @@
+#include "topics/addition/vertical_form.h"
+
+#include "numeric/rounding.h"
+#include "topics/addition/vertical_graphs.h"
+
+namespace tavrune {
+namespace {
+
+/// The sum as the answer shows it. Kept: the upper end is written whether it is asked for or not.
+void write(const AnswerRows& rows, const VerticalSum& sum) {
+    for (std::size_t segment = 0; segment < sum.segments.size(); ++segment) {
+        const int row = sum.rowOfSegment(segment);
+        rows.write(row, Slot::Slope, sum.segments[segment].slope);
+        rows.write(row, Slot::Intercept, sum.segments[segment].intercept);
+    }
+    for (std::size_t at = 0; at < sum.breaks.size(); ++at) {
+        rows.write(sum.rowOfSegment(at), Slot::End, RoundUp2(sum.breaks[at]));
+        rows.write(sum.rowOfSegment(at + 1), Slot::Start, RoundUp2(sum.breaks[at]));
+    }
+    if (sum.breaks.empty()) {
+        rows.write(sum.rowOfSegment(0), Slot::Start, 0);
+    }
+    rows.write(sum.rowOfSegment(sum.last()), Slot::End, RoundUp2(sum.upperEnd));
+}
+
+}  // namespace
+
+void VerticalForm::helpPanel(Panel* panel, QWidget* firstVis) {
+    panel_ = panel;
+    firstVis_ = firstVis;
+}
+
+void VerticalForm::judge() {
+    rows_.whiten();
+    hideVerdict();
+    const VerticalSum right = sum();
+    const std::vector<AnswerField> fields = answerFields(right);
+    if (rows_.areFit(fields)) {
+        solved();
+        drawSum(*graphs_.sum.box, right);
+        return;
+    }
+    failed();
+    rows_.mark(fields);
+    focusOnFirstRow();
+}
+
+void VerticalForm::giveAnswer() {
+    panel_->hide();
+    const VerticalSum right = sum();
+    drawTypedSum(*graphs_.sum.box, rows_, right);
+    rows_.whiten();
+    drawSum(*graphs_.sum.box, right);
+    write(rows_, right);
+    given();
+}
+
+void VerticalForm::help() { openPanel(panel_, firstVis_); }
+
+void VerticalForm::clearGraphs() {
+    drawFrameTicks(*graphs_.function1.frame);
+    drawFrameTicks(*graphs_.function2.frame);
+    drawTallFrameTicks(*graphs_.sum.frame);
+    for (const Graph& graph : {graphs_.function1, graphs_.function2, graphs_.sum}) {
+        graph.box->Cls();
+    }
+}
+
+void VerticalForm::startAsking() {
+    rows_.blank();
+    focusOnFirstRow();
+    showAsking();
+}
+
+void VerticalForm::focusOnFirstRow() { focusOn(rows_.box(sum().rowOfSegment(0), Slot::Slope)); }
+
+}  // namespace tavrune

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <vector>
+
+#include "graph/graph_box.h"
+#include "topics/addition/addition_graphs.h"
+#include "topics/addition/answer_rows.h"
+#include "topics/addition/vertical_model.h"
+
+namespace tavrune {
+
+// The given functions stand on boxes of 0..10 on both axes, their sum on a tall one of 0..10 in Q and 0..20
+// in P; prices run downwards from the top.
+inline constexpr double kFunctionTop = 10;
+inline constexpr double kSumTop = 20;
+inline constexpr double kLastGivenQ = 10;
+
+/// Ticks round the tall graph, drawn with each exercise: its frame keeps identical ones once.
+void drawTallFrameTicks(GraphBox& frame);
+
+/// A red square at a quantity and a price of a given function, of level strokes.
+void drawLevelMark(GraphBox& box, double quantity, double price);
+
+/// Dotted lines from top to bottom of a given function's box. The box draws solid lines again afterwards.
+void drawUprights(GraphBox& box, const std::vector<double>& quantities);
+
+/// The segments of the right sum, in its green, the last to Q = 10 whether it has an upper end or not.
+void drawSum(GraphBox& box, const VerticalSum& sum);
+
+/// In red, what is typed in the rows down to the one of the last segment. Kept: the rows above a lone segment
+/// too, from what stands in their hidden boxes.
+void drawTypedSum(GraphBox& box, const AnswerRows& rows, const VerticalSum& sum);
+
+}  // namespace tavrune
