@@ -26,7 +26,7 @@ const std::vector<FormFacts>& allForms() {
         {Name::Laddi2, "Command1", "Command2", "Command4", "Command3", "Label40", "Label39", true, true,
          "Text15", "", "", "Picture7", "Luk"},
         {Name::Vaddi1, "Command1", "Command2", "Command4", "Command3", "Label42", "Label41", true, true,
-         "Text20", "Text7", "", "Picture3", "Command5", true},
+         "Text20", "Text7", "", "Picture3", "Command5", 0, true},
         {Name::Vaddi2, "Command1", "Command2", "Command4", "Command3", "Label75", "Label74", true, true,
          "Text31", "Text1", "", "Picture10", "Command7"},
         {Name::Vaddi3, "Command1", "Command2", "Command4", "Command3", "Label49", "Label45", true, true,
