@@ -31,9 +31,9 @@ struct FormFacts {
     std::string panel;
     std::string close;
 
-    /// A step of the worked solution that ends the program with a failure of the arithmetic, in exercises
-    /// that are told.
-    bool stepsMayFail = false;
+    /// Some exercises end the program with a failure of the arithmetic, as they are drawn or in a step of
+    /// their worked solution.
+    bool mayFail = false;
 
     [[nodiscard]] bool hasOneLabel() const { return right == wrong; }
 };
