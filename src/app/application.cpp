@@ -1,6 +1,5 @@
 #include "app/application.h"
 
-#include <QMessageBox>
 #include <QStyleFactory>
 
 #include "numeric/text.h"
@@ -28,17 +27,16 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void Application::endAfter(ArithmeticFailure::Kind kind) {
-    if (isEnding_) {
+    if (!message_.isNull()) {
         return;
     }
-    isEnding_ = true;
-    auto* const box = new QMessageBox(QMessageBox::Critical, "Tavrune", QString::fromUtf8(messageFor(kind)),
-                                      QMessageBox::Ok);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText);
-    box->setWindowModality(Qt::ApplicationModal);
-    connect(box, &QMessageBox::finished, this, [] { exit(1); });
-    box->show();
+    message_ = new QMessageBox(QMessageBox::Critical, "Tavrune", QString::fromUtf8(messageFor(kind)),
+                               QMessageBox::Ok);
+    message_->setAttribute(Qt::WA_DeleteOnClose);
+    message_->setTextFormat(Qt::PlainText);
+    message_->setWindowModality(Qt::ApplicationModal);
+    connect(message_, &QMessageBox::finished, this, [] { exit(1); });
+    message_->show();
 }
 
 }  // namespace tavrune

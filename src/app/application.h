@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QMessageBox>
+#include <QPointer>
 
 #include "numeric/arithmetic.h"
 
@@ -25,7 +27,8 @@ public:
 private:
     void endAfter(ArithmeticFailure::Kind kind);
 
-    bool isEnding_ = false;
+    /// What tells of the failure, as long as it stands: a second failure adds nothing to it.
+    QPointer<QMessageBox> message_;
 };
 
 }  // namespace tavrune

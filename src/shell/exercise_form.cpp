@@ -64,6 +64,7 @@ void ExerciseForm::enterChain(std::initializer_list<AnswerBox*> boxes, LastBox l
 }
 
 void ExerciseForm::enterGoes(AnswerBox* box, std::vector<QWidget*> candidates) {
+    disconnect(box, &AnswerBox::enterPressed, this, nullptr);
     connect(box, &AnswerBox::enterPressed, this, [targets = std::move(candidates)] {
         for (QWidget* target : targets) {
             if (target->isVisible()) {

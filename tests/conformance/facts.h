@@ -33,9 +33,9 @@ struct FormFacts {
     /// The boxes that the exercise itself fills, to tell what is given.
     int filledBoxes = 0;
 
-    /// A step of the worked solution that ends the program with a failure of the arithmetic, in exercises
-    /// that are told.
-    bool stepsMayFail = false;
+    /// Some exercises end the program with a failure of the arithmetic, as they are drawn or in a step of
+    /// their worked solution.
+    bool mayFail = false;
 
     [[nodiscard]] bool hasOneLabel() const { return right == wrong; }
 };

@@ -249,6 +249,18 @@ TEST_F(LifeCycle, EnterPassesByABoxThatIsHidden) {
     EXPECT_EQ(s.focus(), "second");
 }
 
+TEST_F(LifeCycle, TakesTheLastWordOnWhereEnterGoes) {
+    Sample& s = open();
+    s.enterGoes(&s.first, {&s.ok});
+    s.enterGoes(&s.first, {&s.newExerciseButton});
+    QTest::keyClick(&s.first, Qt::Key_Return);
+    EXPECT_EQ(s.focus(), "new");
+    s.newExerciseButton.hide();
+    s.first.setFocus();
+    QTest::keyClick(&s.first, Qt::Key_Return);
+    EXPECT_EQ(s.focus(), "first");
+}
+
 TEST_F(LifeCycle, ClearedBoxesAreEmptyAndWhite) {
     Sample& s = open();
     s.first.setContent("7");

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QTest>
+#include <QTimer>
 
 namespace tavrune::test {
 
@@ -15,6 +16,18 @@ void settle() {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
     }
+}
+
+ProgramEnd readFailure() {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) {
+        return {};
+    }
+    ProgramEnd end{box->text().toStdString()};
+    QTimer::singleShot(0, box, [box] { QTest::keyClick(box->button(QMessageBox::Ok), Qt::Key_Return); });
+    end.status = QCoreApplication::exec();
+    settle();
+    return end;
 }
 
 FormDriver::FormDriver(PageName name, Draws& draws) : page_(makePage(name, draws)) { show(); }

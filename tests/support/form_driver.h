@@ -76,4 +76,14 @@ private:
 /// Lets everything happen that is due now.
 void settle();
 
+/// How a failure of the arithmetic ends the program.
+struct ProgramEnd {
+    std::string message;
+    int status = 0;
+};
+
+/// Reads the message of a failure, presses its button, and lets the program end. An empty message if nothing
+/// has failed.
+[[nodiscard]] ProgramEnd readFailure();
+
 }  // namespace tavrune::test

@@ -45,8 +45,9 @@ Vaddi1::Vaddi1(Draws& draws)
 Vaddi1::~Vaddi1() = default;
 
 void Vaddi1::firstTick() {
-    ExerciseForm::firstTick();
+    newExercise();
     ui_->Label30->hide();
+    giveFinalWrongColour();
 }
 
 void Vaddi1::newExercise() {

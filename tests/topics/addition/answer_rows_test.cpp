@@ -1,0 +1,118 @@
+#include "topics/addition/answer_rows.h"
+
+#include <array>
+
+#include <gtest/gtest.h>
+
+namespace tavrune {
+namespace {
+
+/// Two rows, of which the first has no start.
+class TwoRows : public testing::Test {
+protected:
+    AnswerBox slope1, intercept1, end1, slope2, intercept2, start2, end2;
+    std::vector<AnswerBox*> boxes{&slope1, &intercept1, &end1, &slope2, &intercept2, &start2, &end2};
+    AnswerRows rows{{{&slope1, &intercept1, nullptr, &end1}, {&slope2, &intercept2, &start2, &end2}}};
+};
+
+TEST_F(TwoRows, FindTheBoxOfEachSlot) {
+    EXPECT_EQ(rows.box(0, Slot::Slope), &slope1);
+    EXPECT_EQ(rows.box(0, Slot::Intercept), &intercept1);
+    EXPECT_EQ(rows.box(0, Slot::Start), nullptr);
+    EXPECT_EQ(rows.box(0, Slot::End), &end1);
+    EXPECT_EQ(rows.box(1, Slot::Slope), &slope2);
+    EXPECT_EQ(rows.box(1, Slot::Start), &start2);
+    EXPECT_THROW(static_cast<void>(rows.box(2, Slot::Slope)), std::out_of_range);
+}
+
+TEST_F(TwoRows, ReadWhatTheyBeginWith) {
+    slope2.setContent("-1.5x");
+    intercept2.setContent("7,9");
+    EXPECT_EQ(rows.typed(1, Slot::Slope), -1.5);
+    EXPECT_EQ(rows.typedSegment(1).slope, -1.5);
+    EXPECT_EQ(rows.typedSegment(1).intercept, 7);
+    EXPECT_EQ(rows.typedSegment(0).at(3), 0);
+}
+
+TEST_F(TwoRows, GoBackToOneBlankOnWhite) {
+    for (AnswerBox* box : boxes) {
+        box->setContent("12");
+        box->mark(true);
+    }
+    rows.blank();
+    for (const AnswerBox* box : boxes) {
+        EXPECT_EQ(box->content(), " ");
+        EXPECT_EQ(box->backColour(), kWhite);
+    }
+}
+
+TEST_F(TwoRows, TurnWhiteWithoutLosingWhatIsTyped) {
+    for (AnswerBox* box : boxes) {
+        box->setContent("12");
+        box->mark(true);
+    }
+    rows.whiten();
+    for (const AnswerBox* box : boxes) {
+        EXPECT_EQ(box->content(), "12");
+        EXPECT_EQ(box->backColour(), kWhite);
+    }
+}
+
+TEST_F(TwoRows, AreWrittenASlotAtATime) {
+    rows.write(1, Slot::End, TableCell::unbounded());
+    rows.write(0, Slot::Slope, -2.5);
+    EXPECT_EQ(end2.content(), "oo");
+    EXPECT_EQ(slope1.content(), "-2.5");
+    rows.write(1, Slot::End, TableCell());
+    EXPECT_EQ(end2.content(), "");
+}
+
+TEST_F(TwoRows, FitOnlyIfEachFieldDoes) {
+    const std::vector<AnswerField> fields{{0, Slot::Slope, {-2}}, {1, Slot::End, {5.33}}};
+    EXPECT_FALSE(rows.areFit(fields));
+    slope1.setContent("-2");
+    EXPECT_FALSE(rows.areFit(fields));
+    end2.setContent("5.33");
+    EXPECT_TRUE(rows.areFit(fields));
+    intercept2.setContent("not asked for");
+    EXPECT_TRUE(rows.areFit(fields));
+}
+
+TEST_F(TwoRows, MarkTheFieldsThatAreOffAndNoOther) {
+    slope1.setContent("-2");
+    end2.setContent("5.34");
+    rows.mark({{0, Slot::Slope, {-2}}, {1, Slot::End, {5.33}}});
+    EXPECT_EQ(end2.backColour(), kRed);
+    for (const AnswerBox* box : boxes) {
+        if (box != &end2) {
+            EXPECT_EQ(box->backColour(), kWhite);
+        }
+    }
+}
+
+TEST_F(TwoRows, LeaveAValueAtTheLowerEndWrongAndWhite) {
+    const std::vector<AnswerField> fields{{0, Slot::Slope, {0.67}}};
+    slope1.setContent("0.665");
+    EXPECT_FALSE(rows.areFit(fields));
+    rows.mark(fields);
+    EXPECT_EQ(slope1.backColour(), kWhite);
+}
+
+TEST(HelpColumn, IsFilledFromTheTopAndBlankedWithoutLosingItsColour) {
+    AnswerBox top;
+    AnswerBox middle;
+    AnswerBox bottom;
+    const HelpColumn column{&top, &middle, &bottom};
+    writeColumn(column, std::array<TableCell, 3>{TableCell(0.0), TableCell::unbounded(), TableCell::blank()});
+    EXPECT_EQ(top.content(), "0");
+    EXPECT_EQ(middle.content(), "oo");
+    EXPECT_EQ(bottom.content(), " ");
+    top.mark(true);
+    blankColumn(column);
+    EXPECT_EQ(top.content(), " ");
+    EXPECT_EQ(middle.content(), " ");
+    EXPECT_EQ(top.backColour(), kRed);
+}
+
+}  // namespace
+}  // namespace tavrune

@@ -1,0 +1,1093 @@
+#include "topics/addition/vaddi1.h"
+
+#include <set>
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "app/program.h"
+#include "graph/graph_box.h"
+#include "numeric/arithmetic.h"
+#include "numeric/text.h"
+#include "support/decimal_mark.h"
+#include "support/fixed_texts.h"
+#include "support/form_driver.h"
+#include "support/scripted_draws.h"
+#include "support/strokes.h"
+#include "topics/addition/vaddi1_tasks.h"
+
+namespace tavrune {
+namespace {
+
+using test::DecimalMark;
+using test::FormDriver;
+using test::ScriptedDraws;
+using test::scriptOf;
+using Task = test::Vaddi1Task;
+using Strokes = std::vector<Stroke>;
+
+constexpr Task kFalling{-1, -4, 8, -3, 10};  // -3Q+10 to 0.67, then -1.72Q+9.15 to 5.33
+constexpr Task kRising{1, 2, 1, 5, 6};       // 2Q+1 to 2.5, then 1.43Q+2.43
+constexpr Task kLevelFirst{-1, 0, 8, -2, 5};
+constexpr Task kSecondThenLevel{-1, 0, 6, -3, 10};
+constexpr Task kLevelSecond{-1, -2, 5, 0, 8};
+constexpr Task kFirstThenLevel{1, 4, 0, 0, 7};  // 4Q+0 to 1.75, then 7
+constexpr Task kSameStart{-1, -3, 7, -3, 7};    // -1.5Q+7 to 4.67
+constexpr Task kStartAtTen{1, 3, 0, 2, 10};     // 3Q+0 to 3.33, then 10
+constexpr Task kOverflow{1, 5, 3, 2, 10};
+
+const test::StrokesIn kGiven{{0, 0, 10, 10}};
+const test::StrokesIn kResult{{0, 0, 20, 10}};
+const QColor kSum(0, 190, 0);
+const QColor kFirstBand(0, 0, 255);
+const QColor kSecondBand(0, 255, 0);
+
+const std::vector<std::string> kTableBoxes{"Text7",  "Text10", "Text13", "Text16", "Text8",  "Text11",
+                                           "Text14", "Text17", "Text9",  "Text12", "Text15", "Text18"};
+const std::vector<std::string> kAnswerBoxes{"Text4", "Text5", "Text6", "Text1", "Text2", "Text3", "Text20"};
+
+Strokes operator+(Strokes first, const Strokes& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+/// `count` upright strokes from `left` on.
+Strokes mark(double left, double price, int count) {
+    Strokes strokes;
+    double x = left;
+    for (int i = 0; i < count; ++i) {
+        strokes.push_back(kGiven.line(x, 10 - price - 0.15, x, 10 - price + 0.15, kRed));
+        x += 0.05;
+    }
+    return strokes;
+}
+
+constexpr double kOff = -5;
+constexpr double kAtOo = 9.85;
+Strokes markAt(double q, double price, int count) { return mark(q - 0.15, price, count); }
+Strokes markOff(double price) { return mark(kOff, price, 7); }
+
+/// `count` level strokes from `base` on.
+Strokes band(const test::StrokesIn& in, double from, double to, double base, int count,
+             const QColor& colour) {
+    Strokes strokes;
+    double y = base;
+    for (int i = 0; i < count; ++i) {
+        strokes.push_back(in.line(from, 10 - y, to, 10 - y, colour));
+        y += 0.05;
+    }
+    return strokes;
+}
+
+Strokes bandAt(const test::StrokesIn& in, double from, double to, int price, const QColor& colour) {
+    return band(in, from, to, price == 0 ? 0 : price - 0.1, price >= 8 ? 4 : 5, colour);
+}
+
+class Vaddi1Form : public testing::Test {
+protected:
+    FormDriver& open(const Task& task) {
+        draws.append(scriptOf(task));
+        form = std::make_unique<FormDriver>(PageName::Vaddi1, draws);
+        return *form;
+    }
+
+    void next(const Task& task) {
+        draws.append(scriptOf(task));
+        form->click("Command1");
+    }
+
+    [[nodiscard]] const GraphBox& box(const std::string& name) const { return form->find<GraphBox>(name); }
+
+    /// What stands on the box of a function after the function itself.
+    [[nodiscard]] Strokes later(const std::string& name) const { return test::strokesFrom(box(name), 1); }
+
+    [[nodiscard]] const Strokes& result() const { return box("Picture7").strokes(); }
+
+    [[nodiscard]] std::string textOf(const std::string& name) const { return form->box(name).content(); }
+
+    /// The contents of a column of boxes, from the top.
+    [[nodiscard]] std::string column(int first) const {
+        return textOf("Text" + std::to_string(first)) + "|" + textOf("Text" + std::to_string(first + 1)) +
+               "|" + textOf("Text" + std::to_string(first + 2));
+    }
+
+    /// Types into the boxes of the answer; empty texts are passed over.
+    void type(const std::vector<std::string>& texts) const {
+        ASSERT_EQ(texts.size(), kAnswerBoxes.size());
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            if (!texts[i].empty()) {
+                form->type(kAnswerBoxes[i], texts[i]);
+            }
+        }
+    }
+
+    void answer(const std::vector<std::string>& texts) const {
+        type(texts);
+        form->click("Command2");
+    }
+
+    /// Types the form's own answer, key by key, into the boxes that are shown.
+    void typeOwnAnswer() const {
+        const Vaddi1State& s = dynamic_cast<const Vaddi1&>(form->page()).state();
+        const double targets[]{s.firstSlope,      s.firstIntercept, s.kinkQuantity,     s.secondSlope,
+                               s.secondIntercept, s.kinkQuantity,   s.upperEnd.number()};
+        for (std::size_t i = 0; i < kAnswerBoxes.size(); ++i) {
+            if (form->isShown(kAnswerBoxes[i])) {
+                form->type(kAnswerBoxes[i], NumberText(targets[i]));
+            }
+        }
+    }
+
+    [[nodiscard]] std::set<std::string> redBoxes() const {
+        std::set<std::string> red;
+        for (const AnswerBox* each : form->page().findChildren<AnswerBox*>()) {
+            if (each->backColour() == kRed) {
+                red.insert(each->objectName().toStdString());
+            } else {
+                EXPECT_EQ(each->backColour(), kWhite);
+            }
+        }
+        return red;
+    }
+
+    ScriptedDraws draws;
+    std::unique_ptr<FormDriver> form;
+};
+
+const std::vector<std::string> kFallingAnswer{"-3", "10", "0.67", "-1.72", "9.15", "0.67", "5.33"};
+const std::vector<std::string> kRisingAnswer{"2", "1", "2.5", "1.43", "2.43", "2.5", ""};
+const std::vector<std::string> kSameStartAnswer{"", "", "", "-1.5", "7", "0", "4.67"};
+const std::vector<std::string> kLevelAnswer{"", "", "", "0", "8", "0", ""};
+
+const Strokes kFallingSum{kResult.line(0, 0, 0.67, 10 - (-3 * 0.67 + 10), kSum),
+                          kResult.line(0.67, 10 - (-1.72 * 0.67 + 9.15), 20, 10 - (-1.72 * 20 + 9.15), kSum)};
+const Strokes kRisingSum{kResult.line(0, 9, 2.5, 4, kSum),
+                         kResult.line(2.5, 10 - (1.43 * 2.5 + 2.43), 20, 10 - (1.43 * 20 + 2.43), kSum)};
+
+// What is on the page.
+
+TEST_F(Vaddi1Form, StartsWithoutAnswerAndWithItsEmptyLabels) {
+    const FormDriver unshown = FormDriver::unshown(PageName::Vaddi1, draws);
+    EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Vandret addition - Niveau 1");
+    for (const char* hidden : {"Command4", "Label41", "Label42", "Picture3"}) {
+        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
+    }
+    for (const char* empty : {"Label2", "Label3", "Label5", "Label6", "Label23", "Label30", "Label43"}) {
+        EXPECT_EQ(unshown.caption(empty), "") << empty;
+    }
+    EXPECT_TRUE(unshown.isShown("Label30"));
+    EXPECT_EQ(unshown.label("Label41").backColour(), QColor(192, 0, 0));
+}
+
+TEST_F(Vaddi1Form, HidesTheOneEmptyLabelAndFinishesTheRedOfForkertAtItsFirstTick) {
+    const FormDriver& f = open(kFalling);
+    EXPECT_FALSE(f.isShown("Label30"));
+    EXPECT_TRUE(f.isShown("Label43"));
+    EXPECT_EQ(f.label("Label41").backColour(), kRed);
+    EXPECT_EQ(f.label("Label42").backColour(), QColor(0, 128, 0));
+}
+
+TEST_F(Vaddi1Form, BearsItsFixedTexts) {
+    const FormDriver& f = open(kFalling);
+    constexpr test::FixedText kTexts[]{
+        {"Label1", "P=    Q +     for Q  0, P  0"},
+        {"Label4", "P=    Q +     for Q  0, P  0"},
+        {"Label9_0", "<"},
+        {"Label9_1", "<"},
+        {"Label9_2", ">"},
+        {"Label9_3", ">"},
+        {"Label9_4", ">"},
+        {"Label9_5", ">"},
+        {"Label11", "<"},
+        {"Label13", "<"},
+        {"Label40", "   P             Q1           Q2         Qtotal"},
+        {"Label39",
+         "Adder de ovenstående linier vandret og indtast de nye forskrifter i felterne nederst. Brug evt. "
+         "hjælpeskemaet øverst til højre."},
+        {"Label35", "P="},
+        {"Label36", "Q +"},
+        {"Label37", "for         0<Q"},
+        {"Label31", "P="},
+        {"Label32", "Q +"},
+        {"Label33", "for"},
+        {"Label34", "<Q"},
+        {"Label27", "1)"},
+        {"Label26", "2)"},
+        {"Label29", "3)"},
+        {"Vis1", "Vis"},
+        {"Vis2", "Vis"},
+        {"Vis3", "Vis"},
+        {"Command5", "&Luk"},
+    };
+    test::expectTexts(f, kTexts);
+}
+
+TEST_F(Vaddi1Form, TellsTheMethodInThreeSteps) {
+    const FormDriver& f = open(kFalling);
+    const auto sentences = [&f](const char* name) { return f.label(name).text().simplified().toStdString(); };
+    EXPECT_EQ(sentences("Label24"),
+              "Bestem P-værdierne til de opgivne funktioners endepunkter vha. definitionsmængderne og indsæt "
+              "dem i hjælpeskemaet efter størrelse. Hvis funktionerne er voksende, indsættes for nemheds "
+              "skyld 10 som nederste værdi i hjælpeskemaet, ellers indsættes 0. Hvis der er en vandret linie "
+              "indsættes dennes P-værdi to gange.");
+    EXPECT_EQ(sentences("Label25"),
+              "Bestem for hver P-værdi de tilsvarende Q-værdier for hver funktion, indsæt dem i "
+              "hjælpeskemaet under \"Q1\" og \"Q2\" og addér dem i \"Qtotal\". Hvis der er en vandret linie, "
+              "indsættes 0 som første Q-værdi og uendeligt (oo) som anden.");
+    EXPECT_EQ(sentences("Label28"),
+              "Beregn den eller de resulterende funktioner ved at beregne forskrifterne for linierne mellem "
+              "de samhørende Qtotal- og P-værdier.");
+}
+
+TEST_F(Vaddi1Form, NumbersTheAxesInSteps) {
+    open(kFalling);
+    const auto captionsOn = [this](const char* name) {
+        std::multiset<std::string> captions;
+        for (const Label* label : box(name).findChildren<Label*>(Qt::FindDirectChildrenOnly)) {
+            captions.insert(label->caption());
+        }
+        return captions;
+    };
+    const std::multiset<std::string> given{"0", "2", "4", "6", "8",  "10", "0",
+                                           "2", "4", "6", "8", "10", "P",  "Q"};
+    EXPECT_EQ(captionsOn("Picture1"), given);
+    EXPECT_EQ(captionsOn("Picture2"), given);
+    EXPECT_EQ(captionsOn("Picture6"),
+              (std::multiset<std::string>{"0", "2",  "4",  "6",  "8",  "10", "0",  "2", "4", "6",
+                                          "8", "10", "12", "14", "16", "18", "20", "P", "Q", "Resultat"}));
+}
+
+TEST_F(Vaddi1Form, LaysItsAxesOverTheTicksOfItsFrames) {
+    open(kFalling);
+    const auto corners = [this](const char* outer, const char* inner) {
+        const GraphBox& frame = box(outer);
+        const QRectF place = box(inner).Control::place();
+        const double perX = frame.Control::place().width() / frame.scale().x2;
+        const double perY = frame.Control::place().height() / frame.scale().y2;
+        return QRectF(place.left() / perX, place.top() / perY, place.width() / perX, place.height() / perY);
+    };
+    const auto expectNear = [](const QRectF& a, const QRectF& b) {
+        EXPECT_NEAR(a.left(), b.left(), 0.05);
+        EXPECT_NEAR(a.top(), b.top(), 0.05);
+        EXPECT_NEAR(a.right(), b.right(), 0.05);
+        EXPECT_NEAR(a.bottom(), b.bottom(), 0.05);
+    };
+    expectNear(corners("Picture1", "Picture4"), QRectF(1, 0.2, 8, 8));
+    expectNear(corners("Picture2", "Picture5"), QRectF(1, 0.2, 8, 8));
+    expectNear(corners("Picture6", "Picture7"), QRectF(1, 1, 18, 8));
+}
+
+TEST_F(Vaddi1Form, AsksWithBlankWhiteBoxesAndTheFocusInTheTable) {
+    const DecimalMark danish(",");
+    const FormDriver& f = open(kFalling);
+    EXPECT_EQ(f.caption("Label2"), "-4");
+    EXPECT_EQ(f.caption("Label3"), "8");
+    EXPECT_EQ(f.caption("Label5"), "-3");
+    EXPECT_EQ(f.caption("Label6"), "10");
+    for (const AnswerBox* each : f.page().findChildren<AnswerBox*>()) {
+        EXPECT_EQ(each->content(), " ");
+        EXPECT_EQ(each->backColour(), kWhite);
+    }
+    EXPECT_EQ(f.focus(), "Text7");
+    next(kFirstThenLevel);
+    EXPECT_EQ(f.caption("Label2"), "4");
+    EXPECT_EQ(f.caption("Label3"), "0");
+    EXPECT_EQ(f.caption("Label5"), "0");
+    EXPECT_EQ(f.caption("Label6"), "7");
+}
+
+TEST_F(Vaddi1Form, WritesALevelFallingLineWithoutAMinus) {
+    const FormDriver& f = open(kLevelFirst);
+    EXPECT_EQ(f.caption("Label2"), "0");
+}
+
+struct RowsRow {
+    const char* name;
+    Task task;
+    bool hasFirstRow;
+    bool hasUpperEnd;
+};
+
+class Vaddi1Rows : public Vaddi1Form, public testing::WithParamInterface<RowsRow> {};
+
+TEST_P(Vaddi1Rows, AreShownByTheSegmentsAndTheDirection) {
+    const RowsRow& row = GetParam();
+    const FormDriver& f = open(row.hasFirstRow ? kLevelSecond : kFalling);
+    next(row.task);
+    for (const char* name :
+         {"Label35", "Label36", "Label37", "Label9_0", "Text4", "Text5", "Text6", "Label11"}) {
+        EXPECT_EQ(f.isShown(name), row.hasFirstRow) << name;
+    }
+    EXPECT_EQ(f.isShown("Label13"), !row.hasFirstRow);
+    EXPECT_EQ(f.isShown("Text20"), row.hasUpperEnd);
+    EXPECT_EQ(f.isShown("Label9_1"), row.hasUpperEnd);
+    for (const char* name : {"Label31", "Label32", "Label33", "Label34", "Text1", "Text2", "Text3"}) {
+        EXPECT_TRUE(f.isShown(name)) << name;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, Vaddi1Rows,
+                         testing::Values(RowsRow{"TwoFallingOnes", kFalling, true, true},
+                                         RowsRow{"TwoRisingOnes", kRising, true, false},
+                                         RowsRow{"OneStartFalling", kSameStart, false, true},
+                                         RowsRow{"OneStartRising", {1, 1, 5, 5, 5}, false, false},
+                                         RowsRow{"LevelDemandFirstAbove", kLevelFirst, false, false},
+                                         RowsRow{"LevelDemandFirstBelow", kSecondThenLevel, true, false},
+                                         RowsRow{"LevelDemandSecondAbove", kLevelSecond, false, false},
+                                         RowsRow{"LevelDemandSecondBelow", {-1, -3, 10, 0, 6}, true, false},
+                                         RowsRow{"LevelSupplyFirst", {1, 0, 3, 2, 7}, false, false},
+                                         RowsRow{"LevelSupplySecondAbove", kFirstThenLevel, true, false},
+                                         RowsRow{
+                                             "LevelSupplySecondAtTheStart", {1, 2, 5, 0, 5}, false, false}),
+                         [](const auto& row) { return row.param.name; });
+
+// The graphs.
+
+TEST_F(Vaddi1Form, TicksItsFramesOnceHoweverManyExercisesThereAre) {
+    open(kFalling);
+    const auto given = [this](const char* name) {
+        const test::StrokesIn in{box(name).scale()};
+        Strokes ticks;
+        for (int i = 0; i <= 10; ++i) {
+            ticks.push_back(in.line(1 + 0.8 * i, 8.2, 1 + 0.8 * i, 8.4));
+            ticks.push_back(in.line(0.8, 0.2 + 0.8 * i, 1, 0.2 + 0.8 * i));
+        }
+        return ticks;
+    };
+    const test::StrokesIn wide{box("Picture6").scale()};
+    Strokes result;
+    for (int i = 0; i <= 10; ++i) {
+        result.push_back(wide.line(0.8, 1 + 0.8 * i, 1, 1 + 0.8 * i));
+    }
+    for (int i = 0; i <= 20; ++i) {
+        result.push_back(wide.line(1 + 0.9 * i, 9, 1 + 0.9 * i, 9.2));
+    }
+    for (int exercise = 0; exercise < 50; ++exercise) {
+        ASSERT_EQ(box("Picture1").strokes(), given("Picture1"));
+        ASSERT_EQ(box("Picture2").strokes(), given("Picture2"));
+        ASSERT_EQ(result, box("Picture6").strokes());
+        draws.append(scriptOf(kRising));
+        form->button("Command1").click();
+    }
+}
+
+TEST_F(Vaddi1Form, DrawsEachFunctionInItsBoxAndNoResult) {
+    open(kFalling);
+    EXPECT_EQ(box("Picture4").strokes(), (Strokes{kGiven.line(0, 2, 10, 42)}));
+    EXPECT_EQ(box("Picture5").strokes(), (Strokes{kGiven.line(0, 0, 10, 30)}));
+    EXPECT_TRUE(result().empty());
+    next(kFirstThenLevel);
+    EXPECT_EQ(box("Picture4").strokes(), (Strokes{kGiven.line(0, 10, 10, -30)}));
+    EXPECT_EQ(box("Picture5").strokes(), (Strokes{kGiven.line(0, 3, 10, 3)}));
+}
+
+TEST_F(Vaddi1Form, ClearsTheThreeGraphsForTheNextExercise) {
+    const FormDriver& f = open(kFalling);
+    f.click("Command3");
+    f.click("Vis3");
+    next(kRising);
+    EXPECT_EQ(box("Picture4").strokes().size(), 1U);
+    EXPECT_EQ(box("Picture5").strokes().size(), 1U);
+    EXPECT_TRUE(result().empty());
+}
+
+// The focus.
+
+TEST_F(Vaddi1Form, WalksThroughTheTableRowByRowAndThenTheAnswer) {
+    const FormDriver& f = open(kFalling);
+    std::vector<std::string> chain = kTableBoxes;
+    chain.insert(chain.end(), kAnswerBoxes.begin(), kAnswerBoxes.end());
+    chain.emplace_back("Command2");
+    for (std::size_t i = 0; i + 1 < chain.size(); ++i) {
+        f.press(chain[i], Qt::Key_Return);
+        EXPECT_EQ(f.focus(), chain[i + 1]) << "from " << chain[i];
+    }
+}
+
+TEST_F(Vaddi1Form, PassesTheRowsOverThatAreNotShown) {
+    const FormDriver& f = open(kLevelFirst);
+    f.press("Text18", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Text1");
+    f.press("Text3", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Command2");
+    next(kSameStart);
+    f.press("Text18", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Text1");
+    f.press("Text3", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Text20");
+}
+
+TEST_F(Vaddi1Form, WalksOnToTheNextExerciseWhereOkIsGone) {
+    const FormDriver& f = open(kFalling);
+    answer(kFallingAnswer);
+    f.press("Text3", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Text20");
+    f.press("Text20", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Command1");
+    f.press("Text18", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Text4");
+    form = nullptr;
+    const FormDriver& rising = open(kRising);
+    answer(kRisingAnswer);
+    ASSERT_TRUE(rising.isShown("Label42"));
+    rising.press("Text3", Qt::Key_Return);
+    EXPECT_EQ(rising.focus(), "Command1");
+}
+
+TEST_F(Vaddi1Form, GoesStraightFromTheTableToTheAnswer) {
+    const FormDriver& f = open(kFalling);
+    f.box("Text18").setFocus();
+    std::vector<std::string> visited;
+    QObject::connect(qApp, &QApplication::focusChanged, &f.page(), [&visited](QWidget*, QWidget* now) {
+        if (now != nullptr) {
+            visited.push_back(now->objectName().toStdString());
+        }
+    });
+    f.press("Text18", Qt::Key_Return);
+    EXPECT_EQ(visited, std::vector<std::string>{"Text4"});
+}
+
+// The verdict.
+
+TEST_F(Vaddi1Form, JudgesTwoSegmentsRightAndDrawsThemGreen) {
+    const FormDriver& f = open(kFalling);
+    answer(kFallingAnswer);
+    EXPECT_TRUE(f.isShown("Label42"));
+    EXPECT_FALSE(f.isShown("Label41"));
+    EXPECT_FALSE(f.isShown("Command2"));
+    EXPECT_FALSE(f.isShown("Command4"));
+    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_TRUE(redBoxes().empty());
+    EXPECT_EQ(result(), kFallingSum);
+}
+
+TEST_F(Vaddi1Form, JudgesTwoRisingSegmentsRight) {
+    open(kRising);
+    answer(kRisingAnswer);
+    EXPECT_TRUE(form->isShown("Label42"));
+    EXPECT_EQ(result(), kRisingSum);
+}
+
+TEST_F(Vaddi1Form, DrawsALoneSegmentFromZeroToTwenty) {
+    open(kSameStart);
+    answer(kSameStartAnswer);
+    EXPECT_TRUE(form->isShown("Label42"));
+    EXPECT_EQ(result(), (Strokes{kResult.line(0, 3, 20, 10 - (-1.5 * 20 + 7), kSum)}));
+    form = nullptr;
+    open(kLevelFirst);
+    answer(kLevelAnswer);
+    EXPECT_TRUE(form->isShown("Label42"));
+    EXPECT_EQ(result(), (Strokes{kResult.line(0, 2, 20, 2, kSum)}));
+}
+
+TEST_F(Vaddi1Form, TakesABlankStartForZero) {
+    open(kSameStart);
+    std::vector<std::string> typed = kSameStartAnswer;
+    typed[5] = "";
+    answer(typed);
+    EXPECT_EQ(textOf("Text3"), " ");
+    EXPECT_TRUE(form->isShown("Label42"));
+}
+
+TEST_F(Vaddi1Form, PaysNoHeedToTheTable) {
+    const FormDriver& f = open(kFalling);
+    for (const std::string& name : kTableBoxes) {
+        f.type(name, "99");
+    }
+    answer(kFallingAnswer);
+    EXPECT_TRUE(f.isShown("Label42"));
+    EXPECT_EQ(textOf("Text7"), "99");
+}
+
+TEST_F(Vaddi1Form, LeavesForkertBehindRigtigt) {
+    const FormDriver& f = open(kFalling);
+    f.click("Command2");
+    EXPECT_TRUE(f.isShown("Label41"));
+    answer(kFallingAnswer);
+    EXPECT_TRUE(f.isShown("Label41"));
+    EXPECT_TRUE(f.isShown("Label42"));
+    const QObjectList& siblings = f.label("Label42").parent()->children();
+    EXPECT_GT(siblings.indexOf(&f.label("Label42")), siblings.indexOf(&f.label("Label41")));
+    EXPECT_EQ(f.label("Label41").place(), f.label("Label42").place());
+    next(kRising);
+    EXPECT_FALSE(f.isShown("Label41"));
+    EXPECT_FALSE(f.isShown("Label42"));
+}
+
+struct NudgeRow {
+    const char* name;
+    std::size_t field;
+    const char* typed;
+    bool isRed;
+};
+
+class Vaddi1Nudge : public Vaddi1Form, public testing::WithParamInterface<NudgeRow> {};
+
+TEST_P(Vaddi1Nudge, IsWrong) {
+    const NudgeRow& row = GetParam();
+    const FormDriver& f = open(kFalling);
+    std::vector<std::string> typed = kFallingAnswer;
+    typed[row.field] = row.typed;
+    answer(typed);
+    EXPECT_TRUE(f.isShown("Label41"));
+    EXPECT_FALSE(f.isShown("Label42"));
+    EXPECT_TRUE(f.isShown("Command4"));
+    EXPECT_TRUE(f.isShown("Command2"));
+    EXPECT_EQ(f.focus(), "Text4");
+    const std::set<std::string> marked{kAnswerBoxes[row.field]};
+    EXPECT_EQ(redBoxes(), row.isRed ? marked : std::set<std::string>{});
+    EXPECT_TRUE(result().empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, Vaddi1Nudge,
+                         testing::Values(NudgeRow{"InTheFirstSlope", 0, "-3.01", true},
+                                         NudgeRow{"InTheFirstIntercept", 1, "10.01", true},
+                                         NudgeRow{"InTheEndOfTheFirst", 2, "0.68", true},
+                                         NudgeRow{"InTheSecondSlope", 3, "-1.73", true},
+                                         NudgeRow{"InTheSecondIntercept", 4, "9.14", true},
+                                         NudgeRow{"InTheStartOfTheSecond", 5, "0.66", true},
+                                         NudgeRow{"InTheUpperEnd", 6, "5.34", true},
+                                         NudgeRow{"JustAtTheLowerEndAndWhite", 2, "0.665", false},
+                                         NudgeRow{"JustBelowTheLowerEnd", 2, "0.66499", true},
+                                         NudgeRow{"JustAboveTheUpperEnd", 2, "0.67501", true}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(Vaddi1Form, TakesTheUpperEndOfTheBand) {
+    open(kFalling);
+    std::vector<std::string> typed = kFallingAnswer;
+    typed[2] = "0.675";
+    typed[5] = "0.66501";
+    answer(typed);
+    EXPECT_TRUE(form->isShown("Label42"));
+}
+
+TEST_F(Vaddi1Form, WantsTheSegmentsInTheirOrder) {
+    open(kRising);
+    answer({"1.43", "2.43", "2.5", "2", "1", "2.5", ""});
+    EXPECT_TRUE(form->isShown("Label41"));
+    EXPECT_EQ(redBoxes(), (std::set<std::string>{"Text4", "Text5", "Text1", "Text2"}));
+}
+
+TEST_F(Vaddi1Form, SendsTheFocusToTheFirstRowThatIsShown) {
+    const FormDriver& f = open(kLevelFirst);
+    f.click("Command2");
+    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_EQ(redBoxes(), std::set<std::string>{"Text2"});
+    next(kRising);
+    f.click("Command2");
+    EXPECT_EQ(f.focus(), "Text4");
+}
+
+TEST_F(Vaddi1Form, WhitensTheBoxesAtEachJudgingAndInTheNextExercise) {
+    const FormDriver& f = open(kRising);
+    f.click("Command2");
+    EXPECT_EQ(redBoxes(), (std::set<std::string>{"Text4", "Text5", "Text6", "Text1", "Text2", "Text3"}));
+    answer({"2", "1", "2.5", "9", "2.43", "2.5", ""});
+    EXPECT_EQ(redBoxes(), std::set<std::string>{"Text1"});
+    next(kRising);
+    EXPECT_TRUE(redBoxes().empty());
+}
+
+TEST_F(Vaddi1Form, IsSolvedByItsOwnAnswerKeyByKey) {
+    int number = 0;
+    test::forEachVaddi1Draw([&](const Task& t) {
+        // Some fifty, spread over the space of draws by a stride that divides none of its ranges.
+        if (++number % 53 != 0 || !t.isAccepted() || (t.direction == 1 && t.intercept2 == 10)) {
+            return;
+        }
+        const FormDriver& f = open(t);
+        typeOwnAnswer();
+        f.click("Command2");
+        ASSERT_TRUE(f.isShown("Label42")) << nameOf(t);
+        ASSERT_TRUE(redBoxes().empty()) << nameOf(t);
+        form = nullptr;
+    });
+    EXPECT_EQ(number, 2592);
+}
+
+// The upper end of an earlier exercise.
+
+TEST_F(Vaddi1Form, CannotBeSolvedWithoutAnUpperEndAfterOneWasAskedFor) {
+    const FormDriver& f = open(kFalling);
+    for (const Task& t : {kRising, kLevelFirst, kSecondThenLevel, kLevelSecond, kFirstThenLevel}) {
+        next(t);
+        EXPECT_FALSE(f.isShown("Text20"));
+        EXPECT_EQ(textOf("Text20"), " ");
+        typeOwnAnswer();
+        f.click("Command2");
+        EXPECT_TRUE(f.isShown("Label41")) << nameOf(t);
+        EXPECT_FALSE(f.isShown("Label42")) << nameOf(t);
+        EXPECT_EQ(redBoxes(), std::set<std::string>{"Text20"}) << nameOf(t);
+        f.click("Command4");
+        EXPECT_EQ(textOf("Text20"), "5.33") << nameOf(t);
+        EXPECT_FALSE(f.isShown("Text20"));
+        EXPECT_TRUE(redBoxes().empty());
+    }
+}
+
+TEST_F(Vaddi1Form, CanBeSolvedAgainWithTheNextUpperEnd) {
+    open(kFalling);
+    next(kRising);
+    next(kSameStart);
+    answer(kSameStartAnswer);
+    EXPECT_TRUE(form->isShown("Label42"));
+}
+
+TEST_F(Vaddi1Form, ForgetsTheUpperEndWhenItIsOpenedAnew) {
+    open(kFalling);
+    form = nullptr;
+    open(kRising);
+    answer(kRisingAnswer);
+    EXPECT_TRUE(form->isShown("Label42"));
+}
+
+TEST_F(Vaddi1Form, EndsTheTypedLineAtTheHiddenUpperEndAfterOneWasAskedFor) {
+    const FormDriver& f = open(kFalling);
+    next(kRising);
+    answer({"1", "2", "3", "0.5", "4", "6", ""});
+    f.click("Command4");
+    const Strokes typed{kResult.line(0, 8, 3, 5, kRed), kResult.line(6, 3, 0, 6, kRed)};
+    EXPECT_EQ(result(), typed + kRisingSum);
+}
+
+// The given answer.
+
+TEST_F(Vaddi1Form, GivesTheWholeAnswerOverTheTypedLines) {
+    const DecimalMark danish(",");
+    const FormDriver& f = open(kFalling);
+    answer({"-1", "9", "2", "-2", "8", "1", "4"});
+    f.click("Command3");
+    f.click("Command4");
+    for (const char* hidden : {"Picture3", "Command2", "Command4", "Label41", "Label42"}) {
+        EXPECT_FALSE(f.isShown(hidden)) << hidden;
+    }
+    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(column(7), "10|8|0");
+    EXPECT_EQ(column(10), " |0|2");
+    EXPECT_EQ(column(13), "0|0,67|3,33");
+    EXPECT_EQ(column(16), "0|0,67|5,33");
+    const std::vector<std::string> shown{"-3", "10", "0,67", "-1,72", "9,15", "0,67", "5,33"};
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        EXPECT_EQ(textOf(kAnswerBoxes[i]), shown[i]) << kAnswerBoxes[i];
+    }
+    EXPECT_TRUE(redBoxes().empty());
+    const Strokes typed{kResult.line(0, 1, 2, 3, kRed), kResult.line(1, 4, 4, 10, kRed)};
+    EXPECT_EQ(result(), typed + kFallingSum);
+}
+
+TEST_F(Vaddi1Form, RunsTheTypedLineToTwentyWhereNoUpperEndIsAskedFor) {
+    const FormDriver& f = open(kRising);
+    answer({"1", "2", "3", "0.5", "4", "6", ""});
+    f.click("Command4");
+    const Strokes typed{kResult.line(0, 8, 3, 5, kRed), kResult.line(6, 3, 20, -4, kRed)};
+    EXPECT_EQ(result(), typed + kRisingSum);
+}
+
+TEST_F(Vaddi1Form, DrawsTheHiddenRowToOfALoneSegment) {
+    const FormDriver& f = open(kSameStart);
+    answer({"", "", "", "-1", "6", "", "6"});
+    f.click("Command4");
+    const Strokes strokes{
+        kResult.line(0, 10, 0, 10, kRed),
+        kResult.line(0, 4, 6, 10, kRed),
+        // The first segment collapses to a dot at the start of the outer function.
+        kResult.line(0, 3, 0, 3, kSum),
+        kResult.line(0, 3, 20, 10 - (-1.5 * 20 + 7), kSum),
+    };
+    EXPECT_EQ(result(), strokes);
+    EXPECT_EQ(textOf("Text4"), "-3");
+    EXPECT_EQ(textOf("Text5"), "7");
+    EXPECT_EQ(textOf("Text6"), "0");
+    EXPECT_EQ(textOf("Text3"), "0");
+    EXPECT_EQ(column(7), "7|0| ");
+    EXPECT_EQ(column(16), "0|4.67| ");
+}
+
+TEST_F(Vaddi1Form, GivesWhatNoExerciseHasSetAsZeroOrNothing) {
+    const FormDriver& f = open(kLevelSecond);
+    f.click("Command2");
+    f.click("Command4");
+    EXPECT_EQ(column(7), "8|8| ");
+    EXPECT_EQ(column(10), " | | ");
+    EXPECT_EQ(column(13), "0|oo| ");
+    EXPECT_EQ(column(16), "0|| ");
+    EXPECT_EQ(textOf("Text4"), "0");
+    EXPECT_EQ(textOf("Text5"), "0");
+    EXPECT_EQ(textOf("Text6"), "0");
+    EXPECT_EQ(textOf("Text1"), "0");
+    EXPECT_EQ(textOf("Text2"), "8");
+    EXPECT_EQ(textOf("Text3"), "0");
+    EXPECT_EQ(textOf("Text20"), "");
+    const Strokes strokes{kResult.line(0, 10, 0, 10, kRed), kResult.line(0, 10, 20, 10, kRed),
+                          kResult.line(0, 10, 0, 10, kSum), kResult.line(0, 2, 20, 2, kSum)};
+    EXPECT_EQ(result(), strokes);
+}
+
+TEST_F(Vaddi1Form, ShowsTheThirdTotalOfTheExerciseBeforeForALevelSecondFunction) {
+    const FormDriver& f = open(kFalling);
+    for (const auto& [before, total] : {std::pair{kRising, "0|5.3| "}, {kLevelFirst, "0|oo| "}}) {
+        next(before);
+        next(kLevelSecond);
+        f.click("Command2");
+        f.click("Command4");
+        EXPECT_EQ(column(16), total);
+    }
+}
+
+TEST_F(Vaddi1Form, GivesTheAnswerWhateverIsTyped) {
+    const FormDriver& f = open(kFalling);
+    for (const std::string& typed :
+         {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
+        for (const std::string& name : kAnswerBoxes) {
+            f.box(name).setContent(typed);
+        }
+        f.click("Command2");
+        f.click("Command4");
+        EXPECT_FALSE(f.page().grab().isNull());
+        EXPECT_EQ(textOf("Text1"), "-1.72");
+        EXPECT_EQ(result().size(), 4U);
+        next(kFalling);
+    }
+}
+
+// The help.
+
+TEST_F(Vaddi1Form, OpensItsHelpAtTheFirstStepAndClosesItToTheTable) {
+    const FormDriver& f = open(kFalling);
+    f.click("Command3");
+    EXPECT_TRUE(f.isShown("Picture3"));
+    EXPECT_EQ(f.focus(), "Vis1");
+    f.press("Vis1", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Vis2");
+    f.press("Vis2", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Vis3");
+    f.press("Vis3", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Command5");
+    f.press("Command5", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("Picture3"));
+    EXPECT_EQ(f.focus(), "Text7");
+    f.click("Command3");
+    next(kRising);
+    EXPECT_FALSE(f.isShown("Picture3"));
+}
+
+struct StepsRow {
+    const char* name;
+    Task task;
+    Strokes marks1;
+    Strokes marks2;
+    Strokes bands1;
+    Strokes bands2;
+    const char* text;
+};
+
+Strokes first(double to, int price) { return bandAt(kGiven, 0, to, price, kFirstBand); }
+Strokes second(double to, int price) { return bandAt(kGiven, 0, to, price, kSecondBand); }
+
+class Vaddi1Steps : public Vaddi1Form, public testing::WithParamInterface<StepsRow> {};
+
+TEST_P(Vaddi1Steps, MarkTheEndsAndThenTheQuantities) {
+    const StepsRow& row = GetParam();
+    const FormDriver& f = open(row.task);
+    f.click("Command3");
+    f.click("Vis1");
+    EXPECT_EQ(later("Picture4"), row.marks1);
+    EXPECT_EQ(later("Picture5"), row.marks2);
+    EXPECT_EQ(column(10), " | | ");
+    EXPECT_EQ(f.caption("Label23"), "");
+    f.click("Vis2");
+    EXPECT_EQ(later("Picture4"), row.marks1 + row.marks1 + row.bands1);
+    EXPECT_EQ(later("Picture5"), row.marks2 + row.marks2 + row.bands2);
+    EXPECT_EQ(f.caption("Label23"), row.text);
+    EXPECT_TRUE(result().empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Vaddi1Steps,
+    testing::Values(StepsRow{"Falling", kFalling, markOff(10) + markAt(0, 8, 6) + markAt(2, 0, 7),
+                             markAt(0, 10, 6) + markAt(3.33, 0, 7), first(0, 8) + first(2, 0),
+                             second(0.67, 8) + second(3.33, 0),
+                             "Her fra ( 0 ; 10 ) til ( 0.67 ; 8 ) og fra ( 0.67 ; 8 ) til ( 5.33 ; 0 )."},
+                    StepsRow{"Rising", kRising, markAt(0, 1, 6) + markAt(4.5, 10, 7),
+                             markOff(1) + markAt(0, 6, 6) + markAt(0.8, 10, 6),
+                             first(2.5, 6) + first(4.5, 10), second(0, 6) + second(0.8, 10),
+                             "Her fra ( 0 ; 1 ) til ( 2.5 ; 6 ) og fra ( 2.5 ; 6 ) til ( 5.3 ; 10 )."},
+                    StepsRow{"LevelFirstAlone",
+                             kLevelFirst,
+                             markAt(0, 8, 6) + mark(kAtOo, 8, 6) + markOff(-5),
+                             markOff(8) + markOff(8) + markOff(-5),
+                             {},
+                             {},
+                             "Her fra ( 0 ; 8 ) til ( oo ; 8 )."},
+                    StepsRow{"LevelSecondAlone",
+                             kLevelSecond,
+                             markOff(8) + markOff(8) + markOff(-5),
+                             markAt(0, 8, 6) + mark(kAtOo, 8, 6) + markOff(-5),
+                             {},
+                             {},
+                             "Her fra ( 0 ; 8 ) til (  ; 8 )."},
+                    StepsRow{"SecondThenLevel", kSecondThenLevel,
+                             markOff(10) + markAt(0, 6, 6) + mark(kAtOo, 6, 6), markAt(0, 10, 6), first(0, 6),
+                             second(1.33, 6) + second(1.33, 6),
+                             "Her fra ( 0 ; 10 ) til ( 1.33 ; 6 ) og fra ( 1.33 ; 6 ) til ( oo ; 6 )."},
+                    StepsRow{"FirstThenLevel", kFirstThenLevel, markAt(0, 0, 6),
+                             markOff(0) + markAt(0, 7, 6) + mark(kAtOo, 7, 6),
+                             first(1.75, 7) + first(1.75, 7), second(0, 7),
+                             "Her fra ( 0 ; 0 ) til ( 1.75 ; 7 ) og fra ( 1.75 ; 7 ) til (   ; 7 )."},
+                    StepsRow{"OneStart", kSameStart, markAt(0, 7, 6) + markAt(2.33, 0, 7) + markOff(-5),
+                             markAt(0, 7, 6) + markAt(2.33, 0, 7) + markOff(-5), first(2.33, 0),
+                             second(2.33, 0), "Her fra ( 0 ; 7 ) til ( 4.67 ; 0 )."},
+                    StepsRow{"StartAtTen", kStartAtTen, markAt(0, 0, 6), markOff(0) + markAt(0, 10, 6),
+                             first(3.33, 10) + first(3.33, 10), second(0, 10) + second(0, 10),
+                             "Her fra ( 0 ; 0 ) til ( 3.33 ; 10 ) og fra ( 3.33 ; 10 ) til ( 3.33 ; 10 )."}),
+    [](const auto& row) { return row.param.name; });
+
+struct StackRow {
+    const char* name;
+    Task task;
+    Strokes stack;
+    Strokes sum;
+};
+
+Strokes blue(double to, int price) { return bandAt(kResult, 0, to, price, kFirstBand); }
+Strokes green(double from, double to, int price) { return bandAt(kResult, from, to, price, kSecondBand); }
+
+class Vaddi1Stack : public Vaddi1Form, public testing::WithParamInterface<StackRow> {};
+
+TEST_P(Vaddi1Stack, PutsTheSecondQuantityOnTheFirst) {
+    const StackRow& row = GetParam();
+    const FormDriver& f = open(row.task);
+    f.click("Command3");
+    f.click("Vis3");
+    EXPECT_EQ(result(), row.stack + row.sum);
+    EXPECT_EQ(f.focus(), "Command5");
+    EXPECT_FALSE(f.isShown("Command2"));
+    EXPECT_TRUE(f.isShown("Picture3"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Vaddi1Stack,
+    testing::Values(
+        StackRow{"Falling", kFalling, blue(0, 8) + green(0, 0.67, 8) + blue(2, 0) + green(2, 5.33, 0),
+                 kFallingSum},
+        StackRow{"RisingWithoutTheRowAtTen", kRising, blue(2.5, 6) + green(2.5, 2.5, 6), kRisingSum},
+        StackRow{"SecondThenLevel",
+                 kSecondThenLevel,
+                 blue(0, 6) + green(0, 1.33, 6) + green(0, 1.33, 6),
+                 {kResult.line(0, 0, 1.33, 10 - (-3 * 1.33 + 10), kSum), kResult.line(1.33, 4, 20, 4, kSum)}},
+        StackRow{"FirstThenLevel",
+                 kFirstThenLevel,
+                 blue(1.75, 7) + green(1.75, 1.75, 7) + blue(1.75, 7),
+                 {kResult.line(0, 10, 1.75, 3, kSum), kResult.line(1.75, 3, 20, 3, kSum)}},
+        StackRow{"StartAtTen",
+                 kStartAtTen,
+                 blue(3.33, 10) + green(3.33, 3.33, 10),
+                 {kResult.line(0, 10, 3.33, 10 - 3 * 3.33, kSum), kResult.line(3.33, 0, 20, 0, kSum)}}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(Vaddi1Form, WritesItsPricesAtTheFirstStepAndTheRestAtTheSecond) {
+    const DecimalMark danish(",");
+    const FormDriver& f = open(kFalling);
+    f.click("Command3");
+    f.click("Vis1");
+    EXPECT_EQ(column(7), "10|8|0");
+    for (const int blank : {10, 13, 16}) {
+        EXPECT_EQ(column(blank), " | | ") << blank;
+    }
+    f.click("Vis2");
+    EXPECT_EQ(column(10), " |0|2");
+    EXPECT_EQ(column(13), "0|0,67|3,33");
+    EXPECT_EQ(column(16), "0|0,67|5,33");
+    EXPECT_EQ(f.caption("Label23"),
+              "Her fra ( 0 ; 10 ) til ( 0,67 ; 8 ) og fra ( 0,67 ; 8 ) til ( 5,33 ; 0 ).");
+    EXPECT_EQ(textOf("Text1"), " ");
+    EXPECT_TRUE(f.isShown("Command2"));
+    next(kRising);
+    EXPECT_EQ(f.caption("Label23"), "");
+    EXPECT_EQ(column(7), " | | ");
+}
+
+TEST_F(Vaddi1Form, RunsTheStepsBeforeWhicheverIsPressedFirst) {
+    const FormDriver& f = open(kFalling);
+    f.click("Command3");
+    f.click("Vis3");
+    EXPECT_EQ(column(7), "10|8|0");
+    EXPECT_EQ(column(13), "0|0.67|3.33");
+    EXPECT_NE(f.caption("Label23"), "");
+    const Strokes once = later("Picture4");
+    EXPECT_EQ(once.size(), 7U + 6U + 7U + 4U + 5U);
+    f.click("Vis2");
+    EXPECT_EQ(later("Picture4"), once + once);
+    EXPECT_EQ(f.focus(), "Vis3");
+    f.click("Vis1");
+    EXPECT_EQ(f.focus(), "Vis2");
+    EXPECT_EQ(later("Picture4").size(), 2 * once.size() + 7U + 6U + 7U);
+    f.click("Vis3");
+    EXPECT_EQ(result().size(), 2 * (4U + 4U + 5U + 5U + 2U));
+}
+
+TEST_F(Vaddi1Form, FillsTheAnswerAtTheThirdStepAndLeavesTheVerdictAlone) {
+    const FormDriver& f = open(kFalling);
+    f.click("Command3");
+    f.click("Vis3");
+    for (std::size_t i = 0; i < kAnswerBoxes.size(); ++i) {
+        EXPECT_EQ(textOf(kAnswerBoxes[i]), kFallingAnswer[i]) << kAnswerBoxes[i];
+    }
+    EXPECT_FALSE(f.isShown("Command4"));
+    EXPECT_FALSE(f.isShown("Label41"));
+
+    next(kFalling);
+    f.click("Command2");
+    EXPECT_FALSE(redBoxes().empty());
+    f.click("Command3");
+    f.click("Vis3");
+    EXPECT_TRUE(redBoxes().empty());
+    EXPECT_TRUE(f.isShown("Command4"));
+    EXPECT_TRUE(f.isShown("Label41"));
+    EXPECT_FALSE(f.isShown("Command2"));
+    // What was filled in is drawn as if it had been typed.
+    const std::size_t before = result().size();
+    f.click("Command4");
+    EXPECT_EQ(result().size(), before + 4);
+    EXPECT_EQ(result()[before], kResult.line(0, 0, 0.67, 10 - (0.67 * -3 + 10), kRed));
+    EXPECT_EQ(result()[before + 1],
+              kResult.line(0.67, 10 - (0.67 * -1.72 + 9.15), 5.33, 10 - (-1.72 * 5.33 + 9.15), kRed));
+}
+
+TEST_F(Vaddi1Form, LeavesWhatIsDrawnUntilTheNextExercise) {
+    const FormDriver& f = open(kRising);
+    f.click("Command3");
+    f.click("Vis2");
+    const Strokes drawn = box("Picture4").strokes();
+    f.click("Command5");
+    answer(kRisingAnswer);
+    EXPECT_EQ(box("Picture4").strokes(), drawn);
+    EXPECT_TRUE(f.isShown("Label42"));
+}
+
+// The two failures that end the program.
+
+ArithmeticFailure::Kind failureOf(Button& button) {
+    try {
+        button.click();
+    } catch (const ArithmeticFailure& failure) {
+        return failure.kind();
+    }
+    ADD_FAILURE() << "nothing failed";
+    return ArithmeticFailure::Kind::DivisionByZero;
+}
+
+TEST_F(Vaddi1Form, FailsAtTheThirdStepOnABlankPriceAfterItHasStackedTheSecondRow) {
+    const FormDriver& f = open(kSameStart);
+    f.click("Command2");
+    f.click("Command3");
+    EXPECT_EQ(failureOf(f.button("Vis3")), ArithmeticFailure::Kind::TypeMismatch);
+    EXPECT_EQ(column(7), "7|0| ");
+    EXPECT_EQ(column(10), "0|2.33| ");
+    EXPECT_EQ(column(13), "0|2.33| ");
+    EXPECT_EQ(column(16), "0|4.67| ");
+    EXPECT_EQ(f.caption("Label23"), "Her fra ( 0 ; 7 ) til ( 4.67 ; 0 ).");
+    EXPECT_EQ(later("Picture4"), markAt(0, 7, 6) + markAt(2.33, 0, 7) + markOff(-5) + first(2.33, 0));
+    EXPECT_FALSE(f.isShown("Command2"));
+    EXPECT_TRUE(f.isShown("Command4"));
+    EXPECT_TRUE(f.isShown("Label41"));
+    EXPECT_EQ(f.focus(), "Command5");
+    EXPECT_EQ(result(), blue(2.33, 0) + green(2.33, 2.33 + 2.33, 0));
+    EXPECT_EQ(textOf("Text1"), " ");
+    EXPECT_EQ(redBoxes(), (std::set<std::string>{"Text1", "Text2", "Text20"}));
+}
+
+TEST_F(Vaddi1Form, FailsAtTheThirdStepInEveryExerciseWithOneSegment) {
+    const FormDriver& f = open(kFalling);
+    for (const Task& t : {kLevelFirst, kLevelSecond, kSameStart, Task{1, 1, 5, 5, 5}}) {
+        next(t);
+        f.click("Command3");
+        EXPECT_EQ(failureOf(f.button("Vis3")), ArithmeticFailure::Kind::TypeMismatch) << nameOf(t);
+        EXPECT_FALSE(f.isShown("Command2")) << nameOf(t);
+        if (!t.isSloping()) {
+            EXPECT_TRUE(result().empty()) << nameOf(t);
+        }
+    }
+}
+
+TEST_F(Vaddi1Form, OverflowsAfterTheTaskIsShownDrawnAndHasTheFocus) {
+    const FormDriver& f = open(kFalling);
+    f.click("Command2");
+    f.click("Command3");
+    f.click("Vis2");
+    draws.append(scriptOf(kOverflow));
+    EXPECT_EQ(failureOf(f.button("Command1")), ArithmeticFailure::Kind::Overflow);
+    EXPECT_EQ(f.caption("Label2"), "5");
+    EXPECT_EQ(f.caption("Label3"), "3");
+    EXPECT_EQ(f.caption("Label5"), "2");
+    EXPECT_EQ(f.caption("Label6"), "10");
+    EXPECT_EQ(f.caption("Label23"), "");
+    for (const AnswerBox* each : f.page().findChildren<AnswerBox*>()) {
+        EXPECT_EQ(each->content(), " ");
+    }
+    EXPECT_TRUE(redBoxes().empty());
+    for (const char* hidden : {"Picture3", "Label41", "Label42", "Command4", "Text20", "Label9_1"}) {
+        EXPECT_FALSE(f.isShown(hidden)) << hidden;
+    }
+    EXPECT_TRUE(f.isShown("Text4"));
+    EXPECT_TRUE(f.isShown("Command2"));
+    EXPECT_EQ(box("Picture4").strokes(), (Strokes{kGiven.line(0, 7, 10, -43)}));
+    EXPECT_EQ(box("Picture5").strokes(), (Strokes{kGiven.line(0, 0, 10, -20)}));
+    EXPECT_TRUE(result().empty());
+    EXPECT_EQ(f.focus(), "Text7");
+}
+
+TEST_F(Vaddi1Form, TellsOfABlankPriceAndEndsTheProgramWithStatusOne) {
+    const FormDriver& f = open(kLevelFirst);
+    f.click("Command3");
+    f.click("Vis3");
+    const test::ProgramEnd end = test::readFailure();
+    EXPECT_EQ(end.message,
+              "Der blev regnet med et felt, som ikke er et tal. Tavrune kan ikke fortsætte og lukker nu.");
+    EXPECT_EQ(end.status, 1);
+}
+
+TEST_F(Vaddi1Form, TellsOfTheOverflowAndEndsTheProgramWithStatusOne) {
+    const FormDriver& f = open(kFalling);
+    draws.append(scriptOf(kOverflow));
+    f.press("Command1", Qt::Key_Return);
+    const test::ProgramEnd end = test::readFailure();
+    EXPECT_EQ(end.message,
+              "Et tal blev for stort til at regne med. Tavrune kan ikke fortsætte og lukker nu.");
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(f.focus(), "Text7");
+}
+
+TEST_F(Vaddi1Form, MayOverflowAtItsFirstTickBeforeTheRestOfIt) {
+    const FormDriver& f = open(kOverflow);
+    EXPECT_EQ(f.caption("Label6"), "10");
+    EXPECT_EQ(f.focus(), "Text7");
+    EXPECT_TRUE(f.isShown("Label30"));
+    EXPECT_EQ(f.label("Label41").backColour(), QColor(192, 0, 0));
+    const test::ProgramEnd end = test::readFailure();
+    EXPECT_EQ(end.message, messageFor(ArithmeticFailure::Kind::Overflow));
+    EXPECT_EQ(end.status, 1);
+}
+
+TEST(Vaddi1Failure, EndsTheWholeRunOfTheProgramWithStatusOne) {
+    ScriptedDraws draws(scriptOf(kOverflow));
+    Program program(draws);
+    QTimer::singleShot(0, [&program] { program.open(PageName::Vaddi1); });
+    std::string told;
+    QTimer reader;
+    reader.callOnTimeout([&told, &reader] {
+        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            reader.stop();
+            told = box->text().toStdString();
+            QTest::keyClick(box->button(QMessageBox::Ok), Qt::Key_Return);
+        }
+    });
+    reader.start(0);
+    EXPECT_EQ(program.run(), 1);
+    EXPECT_EQ(told, messageFor(ArithmeticFailure::Kind::Overflow));
+    test::settle();
+}
+
+}  // namespace
+}  // namespace tavrune
