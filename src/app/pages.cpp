@@ -9,6 +9,7 @@
 #include "shell/how_to_use.h"
 #include "shell/opstart.h"
 #include "topics/addition/vaddi1.h"
+#include "topics/addition/vaddi2.h"
 #include "topics/basics/brok.h"
 #include "topics/basics/dlinie.h"
 #include "topics/basics/konvert.h"
@@ -53,6 +54,7 @@ constexpr std::array kPages{
     Entry{PageName::Lininter, form<Lininter>},
     Entry{PageName::Tomto, form<Tomto>},
     Entry{PageName::Vaddi1, form<Vaddi1>},
+    Entry{PageName::Vaddi2, form<Vaddi2>},
     Entry{PageName::Topp, form<Topp>},
     Entry{PageName::Roedder, form<Roedder>},
     Entry{PageName::Rogt, form<Rogt>},
