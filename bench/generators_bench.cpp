@@ -4,6 +4,7 @@
 #include "numeric/draws.h"
 #include "topics/addition/laddi1_exercise.h"
 #include "topics/addition/vaddi1_exercise.h"
+#include "topics/addition/vaddi2_exercise.h"
 #include "topics/basics/brok_exercise.h"
 #include "topics/basics/dlinie_exercise.h"
 #include "topics/basics/konvert_exercise.h"
@@ -57,6 +58,7 @@ BENCHMARK(Generator<RoedderState>)->Name("Generator/Roedder");
 BENCHMARK(Generator<RogtState>)->Name("Generator/Rogt");
 BENCHMARK(Generator<ToppState>)->Name("Generator/Topp");
 BENCHMARK(Generator<Vaddi1State>)->Name("Generator/Vaddi1");
+BENCHMARK(Generator<Vaddi2State>)->Name("Generator/Vaddi2");
 
 }  // namespace
 }  // namespace tavrune

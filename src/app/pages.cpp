@@ -10,6 +10,7 @@
 #include "shell/opstart.h"
 #include "topics/addition/laddi1.h"
 #include "topics/addition/vaddi1.h"
+#include "topics/addition/vaddi2.h"
 #include "topics/basics/brok.h"
 #include "topics/basics/dlinie.h"
 #include "topics/basics/konvert.h"
@@ -63,6 +64,7 @@ constexpr std::array kPages{
     Entry{PageName::Gtm, form<Gtm>},
     Entry{PageName::Laddi1, form<Laddi1>},
     Entry{PageName::Vaddi1, form<Vaddi1>},
+    Entry{PageName::Vaddi2, form<Vaddi2>},
     Entry{PageName::Topp, form<Topp>},
     Entry{PageName::Roedder, form<Roedder>},
     Entry{PageName::Rogt, form<Rogt>},

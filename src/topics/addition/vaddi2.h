@@ -1,0 +1,67 @@
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "graph/graph_box.h"
+#include "shell/exercise_form.h"
+#include "topics/addition/answer_rows.h"
+#include "topics/addition/vaddi2_exercise.h"
+
+namespace tavrune {
+
+namespace Ui {
+class Vaddi2;
+}
+
+/// Three straight functions, to be added by their quantities.
+class Vaddi2 : public ExerciseForm {
+    Q_OBJECT
+
+public:
+    explicit Vaddi2(Draws& draws);
+    ~Vaddi2() override;
+
+    [[nodiscard]] const Vaddi2State& state() const { return state_; }
+
+protected:
+    void firstTick() override;
+    void newExercise() override;
+    void judge() override;
+    void giveAnswer() override;
+    void help() override;
+
+private:
+    /// What the form has for each of the functions.
+    struct GivenFunction {
+        Label* slope;
+        Label* intercept;
+        GraphBox* frame;
+        GraphBox* graph;
+        HelpColumn quantities;
+        QColor band;
+    };
+
+    void chainBoxes();
+    void showRows();
+    void showTask();
+    void drawGraphs();
+    void drawTypedSum();
+    void drawSum(double lastQ);
+    void fillTable();
+    void fillAnswer();
+    void showPrices();
+    void showQuantities();
+    void showSum();
+    void drawStack(std::size_t row);
+    void closeHelp();
+
+    std::unique_ptr<Ui::Vaddi2> ui_;
+    AnswerRows rows_;
+    HelpColumn columnP_;
+    std::array<GivenFunction, Vaddi2State::kFunctions> given_;
+    HelpColumn columnQtotal_;
+    Vaddi2State state_;
+};
+
+}  // namespace tavrune

@@ -1,0 +1,207 @@
+#include "topics/addition/vaddi2_exercise.h"
+
+#include <algorithm>
+
+#include "numeric/arithmetic.h"
+#include "numeric/rounding.h"
+
+namespace tavrune {
+namespace {
+
+constexpr double kTop = 10;
+/// From here on a quantity counts as unbounded.
+constexpr double kManyQ = 1000;
+
+const TableCell kBlank = TableCell::blank();
+const TableCell kUnbounded = TableCell::unbounded();
+
+/// A price at which functions start, one or several.
+struct Start {
+    double price;
+    bool isLevel;
+};
+
+bool isRejected(const Vaddi2State& s) {
+    const auto levels = std::count(s.slope.begin(), s.slope.end(), 0);
+    if (levels > 1) {
+        return true;
+    }
+    for (std::size_t f = 0; f < Vaddi2State::kFunctions; ++f) {
+        if (s.slope[f] == 0 && (s.intercept[f] == 0 || s.intercept[f] == kTop)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void drawFunctions(Vaddi2State& s, Draws& draws) {
+    draws.Randomize();
+    s.direction = draws.Rnd() < 0.25F ? 1 : -1;
+    const double lowest = s.direction == 1 ? 0 : 5;
+    do {
+        for (std::size_t f = 0; f < Vaddi2State::kFunctions; ++f) {
+            const double steepness = Int(draws.Rnd() * 5);
+            s.slope[f] = s.direction * steepness;
+            s.intercept[f] = Int(draws.Rnd() * 5) + lowest;
+        }
+    } while (isRejected(s));
+}
+
+/// The different starts, the outer one first: the lowest of rising functions, the highest of falling ones.
+std::vector<Start> startsOf(const Vaddi2State& s) {
+    std::vector<Start> all;
+    for (std::size_t f = 0; f < Vaddi2State::kFunctions; ++f) {
+        all.push_back({s.intercept[f], s.slope[f] == 0});
+    }
+    std::sort(all.begin(), all.end(), [&s](const Start& one, const Start& other) {
+        return s.direction * one.price < s.direction * other.price;
+    });
+    std::vector<Start> starts;
+    for (const Start& start : all) {
+        if (!starts.empty() && starts.back().price == start.price) {
+            starts.back().isLevel = starts.back().isLevel || start.isLevel;
+        } else {
+            starts.push_back(start);
+        }
+    }
+    return starts;
+}
+
+/// What a function offers at a price: nothing on the far side of its start.
+TableCell quantityAt(double price, const Piece& f, int direction) {
+    if (f.slope == 0) {
+        if (direction * f.intercept < direction * price) {
+            return kUnbounded;
+        }
+        return f.intercept == price ? TableCell(0.0) : kBlank;
+    }
+    const double quantity = (price - f.intercept) / f.slope;
+    return quantity < 0 ? kBlank : TableCell(quantity);
+}
+
+TableCell plus(const TableCell& total, const TableCell& cell) {
+    if (total.isUnbounded() || cell.isUnbounded()) {
+        return kUnbounded;
+    }
+    return cell.isNumeric() ? TableCell(total.number() + cell.number()) : total;
+}
+
+void fillRow(Vaddi2State& s, std::size_t row, double price) {
+    s.tableP[row] = price;
+    TableCell total = 0.0;
+    for (std::size_t f = 0; f < Vaddi2State::kFunctions; ++f) {
+        s.tableQ[f][row] = quantityAt(price, s.function(f), s.direction);
+        total = plus(total, s.tableQ[f][row]);
+    }
+    s.tableQtotal[row] = total;
+    if (!total.isUnbounded()) {
+        return;
+    }
+    // The market price does not pass the level function, so the others keep their quantities.
+    for (Vaddi2State::Column& column : s.tableQ) {
+        if (!column[row].isUnbounded()) {
+            column[row] = column[row - 1];
+        }
+    }
+}
+
+void fillTable(Vaddi2State& s, const std::vector<Start>& starts) {
+    const auto rows = static_cast<std::size_t>(s.segmentCount) + 1;
+    for (std::size_t row = 0; row < s.tableP.size(); ++row) {
+        if (row < rows) {
+            const double end = s.direction == 1 ? kTop : 0;
+            fillRow(s, row, row < starts.size() ? starts[row].price : end);
+        } else {
+            s.tableP[row] = s.tableQtotal[row] = kBlank;
+            for (Vaddi2State::Column& column : s.tableQ) {
+                column[row] = kBlank;
+            }
+        }
+    }
+}
+
+void joinRows(Vaddi2State& s) {
+    for (std::size_t row = 0; row < static_cast<std::size_t>(s.segmentCount); ++row) {
+        const double fromP = s.tableP[row].number();
+        const double fromQ = s.tableQtotal[row].number();
+        const TableCell& to = s.tableQtotal[row + 1];
+        double slope = 0;
+        if (!to.isUnbounded()) {
+            slope = Divide(fromP - s.tableP[row + 1].number(), fromQ - to.number());
+        }
+        s.segmentSlope[row] = slope;
+        s.segmentIntercept[row] = fromP - slope * fromQ;
+    }
+}
+
+void roundColumn(Vaddi2State::Column& column) {
+    for (TableCell& cell : column) {
+        cell = rounded(cell, RoundSigned2Fine);
+        if (cell.isNumeric() && cell.number() >= kManyQ) {
+            cell = kUnbounded;
+        }
+    }
+}
+
+}  // namespace
+
+bool Vaddi2State::isAnyLevel() const { return std::find(slope.begin(), slope.end(), 0) != slope.end(); }
+
+void newExercise(Vaddi2State& state, Draws& draws) {
+    drawFunctions(state, draws);
+    solve(state);
+}
+
+void solve(Vaddi2State& s) {
+    const std::vector<Start> starts = startsOf(s);
+    // A level function ends the sum.
+    const auto level =
+        std::find_if(starts.begin(), starts.end(), [](const Start& start) { return start.isLevel; });
+    const auto end = level == starts.end() ? level : level + 1;
+    s.segmentCount = static_cast<int>(end - starts.begin());
+    fillTable(s, starts);
+    joinRows(s);
+    for (Vaddi2State::Column& column : s.tableQ) {
+        roundColumn(column);
+    }
+    roundColumn(s.tableQtotal);
+    for (std::size_t row = 0; row < static_cast<std::size_t>(s.segmentCount); ++row) {
+        s.segmentSlope[row] = RoundSigned2Fine(s.segmentSlope[row]);
+        s.segmentIntercept[row] = RoundUp2(s.segmentIntercept[row]);
+    }
+}
+
+std::vector<AnswerField> answerFields(const Vaddi2State& s) {
+    std::vector<AnswerField> fields;
+    for (int segment = 0; segment < s.segmentCount; ++segment) {
+        const int row = rowOf(segment, s.segmentCount);
+        fields.push_back({row, Slot::Slope, {s.segment(segment).slope}});
+        fields.push_back({row, Slot::Intercept, {s.segment(segment).intercept}});
+        if (segment > 0) {
+            fields.push_back({row, Slot::Start, {s.startOf(segment).number()}});
+        } else if (s.segmentCount == 1) {
+            fields.push_back({row, Slot::Start, {0, Rule::Exactly}});
+        }
+        if (segment + 1 < s.segmentCount || s.upperEndAsked()) {
+            fields.push_back({row, Slot::End, {s.endOf(segment).number()}});
+        }
+    }
+    return fields;
+}
+
+std::array<std::string, 2> pathLines(const Vaddi2State& s) {
+    const auto stretch = [&s](std::size_t row) {
+        return stretchText(s.tableQtotal[row], s.tableP[row], s.tableQtotal[row + 1], s.tableP[row + 1]);
+    };
+    const std::string first = "Her fra " + stretch(0);
+    switch (s.segmentCount) {
+        case 1:
+            return {first + ".", ""};
+        case 2:
+            return {first + " og fra " + stretch(1) + ".", ""};
+        default:
+            return {first + ", fra " + stretch(1) + " og fra ", stretch(2) + "."};
+    }
+}
+
+}  // namespace tavrune

@@ -1,0 +1,913 @@
+#include "topics/addition/vaddi2.h"
+
+#include <array>
+#include <cmath>
+#include <map>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "graph/graph_box.h"
+#include "numeric/text.h"
+#include "support/decimal_mark.h"
+#include "support/fixed_texts.h"
+#include "support/form_driver.h"
+#include "support/looks.h"
+#include "support/scripted_draws.h"
+#include "support/strokes.h"
+
+namespace tavrune {
+namespace {
+
+using test::cellOf;
+using test::DecimalMark;
+using test::FormDriver;
+using test::Script;
+using test::ScriptedDraws;
+
+using Strokes = std::vector<Stroke>;
+
+struct Exercise {
+    const char* name;
+    int direction;
+    std::array<std::pair<int, int>, 3> functions;
+    int segments;
+    bool isEndAsked;
+};
+
+// -1Q+9, -0.67Q+8.33 from 2, -0.4Q+7 from 5 to 17.5.
+const Exercise kThree{"ThreeWithAnEnd", -1, {{{-1, 9}, {-2, 7}, {-1, 5}}}, 3, true};
+// 2Q+1, 0.67Q+2.33 from 1, 0.57Q+2.57 from 2.5.
+const Exercise kThreeRising{"ThreeRising", 1, {{{2, 1}, {1, 3}, {4, 4}}}, 3, false};
+// -1Q+9, -0.67Q+8.33 from 2, 5 from 5.
+const Exercise kThreeLevel{"ThreeOfWhichTheLastIsLevel", -1, {{{-1, 9}, {-2, 7}, {0, 5}}}, 3, false};
+// -0.67Q+9, -0.4Q+7.4 from 6 to 18.5.
+const Exercise kTwo{"TwoWithAnEnd", -1, {{{-1, 9}, {-2, 9}, {-1, 5}}}, 2, true};
+// -1Q+9, 7 from 2.
+const Exercise kTwoLevel{"TwoOfWhichTheLastIsLevel", -1, {{{-1, 9}, {0, 7}, {-1, 5}}}, 2, false};
+// -0.57Q+8 to 14.
+const Exercise kOne{"OneWithAnEnd", -1, {{{-1, 8}, {-2, 8}, {-4, 8}}}, 1, true};
+// 1.
+const Exercise kOneLevel{"OneLevel", 1, {{{4, 3}, {0, 1}, {2, 2}}}, 1, false};
+
+const std::array kAll{kThree, kThreeRising, kThreeLevel, kTwo, kTwoLevel, kOne, kOneLevel};
+
+Script scriptOf(const Exercise& exercise) {
+    Script script{exercise.direction == 1 ? 0.1F : 0.9F};
+    for (const auto& [slope, intercept] : exercise.functions) {
+        script.push_back(cellOf(std::abs(slope), 5));
+        script.push_back(cellOf(intercept - (exercise.direction == 1 ? 0 : 5), 5));
+    }
+    return script;
+}
+
+const GraphScale kScale{0, 0, 10, 10};
+const GraphScale kSumScale{0, 0, 20, 10};
+const QColor kSum(0, 190, 0);
+const QColor kBand1(0, 0, 255);
+const QColor kBand2(0, 255, 0);
+
+Strokes operator+(Strokes first, const Strokes& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+/// P = slope·Q + intercept with prices running down from 10.
+Stroke piece(const GraphScale& scale, double slope, double intercept, double from, double to,
+             const QColor& colour = kBlack) {
+    return test::StrokesIn{scale}.line(from, 10 - (slope * from + intercept), to,
+                                       10 - (slope * to + intercept), colour);
+}
+
+Stroke green(double slope, double intercept, double from, double to) {
+    return piece(kSumScale, slope, intercept, from, to, kSum);
+}
+
+Stroke red(double slope, double intercept, double from, double to) {
+    return piece(kSumScale, slope, intercept, from, to, kRed);
+}
+
+/// Six upright strokes at a price, the first at x.
+Strokes mark(double first, double last, double price) {
+    Strokes strokes;
+    for (double x = first; x <= last; x += 0.05) {
+        strokes.push_back(test::StrokesIn{kScale}.line(x, 10 - price - 0.15, x, 10 - price + 0.15, kRed));
+    }
+    EXPECT_EQ(strokes.size(), 6U);
+    return strokes;
+}
+
+Strokes startMark(double price) { return mark(-0.15, 0.15, price); }
+Strokes rightMark(double price) { return mark(9.85, 10.15, price); }
+
+/// Five level strokes round a price, the lowest first; above the axis for the price 0.
+Strokes band(const GraphScale& scale, double from, double to, double price, const QColor& colour) {
+    const double middle = price == 0 ? 9.9 : 10 - price;
+    Strokes strokes;
+    for (const double t : {-0.1, -0.05, 0.0, 0.05, 0.1}) {
+        strokes.push_back(test::StrokesIn{scale}.line(from, middle - t, to, middle - t, colour));
+    }
+    return strokes;
+}
+
+Strokes band1(double to, double price) { return band(kScale, 0, to, price, kBand1); }
+Strokes band2(double to, double price) { return band(kScale, 0, to, price, kBand2); }
+Strokes band3(double to, double price) { return band(kScale, 0, to, price, kBlack); }
+
+Strokes stack(double from, double to, double price, const QColor& colour) {
+    return band(kSumScale, from, to, price, colour);
+}
+
+class Vaddi2Form : public testing::Test {
+protected:
+    FormDriver& open(const Exercise& exercise) {
+        draws.append(scriptOf(exercise));
+        form = std::make_unique<FormDriver>(PageName::Vaddi2, draws);
+        return *form;
+    }
+
+    void next(const Exercise& exercise) {
+        draws.append(scriptOf(exercise));
+        form->click("Command1");
+    }
+
+    void type(const std::map<std::string, std::string>& texts) const {
+        for (const auto& [box, text] : texts) {
+            form->type(box, text);
+        }
+    }
+
+    void answer(const std::map<std::string, std::string>& texts) const {
+        type(texts);
+        form->click("Command2");
+    }
+
+    [[nodiscard]] const GraphBox& graph(const std::string& name) const { return form->find<GraphBox>(name); }
+    [[nodiscard]] const Strokes& sum() const { return graph("Picture9").strokes(); }
+
+    /// What stands on the graph of a function besides the function.
+    [[nodiscard]] Strokes drawnOn(const std::string& name) const { return test::strokesFrom(graph(name), 1); }
+
+    [[nodiscard]] std::vector<std::string> contents(int first, int last) const {
+        std::vector<std::string> texts;
+        for (int i = first; i <= last; ++i) {
+            texts.push_back(form->box("Text" + std::to_string(i)).content());
+        }
+        return texts;
+    }
+
+    [[nodiscard]] std::set<std::string> redBoxes() const {
+        std::set<std::string> names;
+        for (int i = 1; i <= 31; ++i) {
+            const std::string name = "Text" + std::to_string(i);
+            if (form->box(name).backColour() == kRed) {
+                names.insert(name);
+            }
+        }
+        return names;
+    }
+
+    [[nodiscard]] std::set<std::string> shownOf(const std::set<std::string>& names) const {
+        std::set<std::string> shown;
+        for (const std::string& name : names) {
+            if (form->isShown(name)) {
+                shown.insert(name);
+            }
+        }
+        return shown;
+    }
+
+    ScriptedDraws draws;
+    std::unique_ptr<FormDriver> form;
+};
+
+const std::map<std::string, std::string> kRightOfThree{
+    {"Text21", "-1"},   {"Text22", "9"}, {"Text23", "2"},   {"Text24", "-0.67"},
+    {"Text25", "8.33"}, {"Text26", "2"}, {"Text27", "5"},   {"Text28", "-0.4"},
+    {"Text29", "7"},    {"Text30", "5"}, {"Text31", "17.5"}};
+const std::map<std::string, std::string> kRightOfTwo{{"Text21", "-0.67"}, {"Text22", "9"},   {"Text23", "6"},
+                                                     {"Text24", "-0.4"},  {"Text25", "7.4"}, {"Text26", "6"},
+                                                     {"Text27", "18.5"}};
+const std::map<std::string, std::string> kRightOfOne{{"Text24", "-0.57"}, {"Text25", "8"}, {"Text27", "14"}};
+
+TEST_F(Vaddi2Form, HasTheTextsOfItsDesign) {
+    const FormDriver unshown = FormDriver::unshown(PageName::Vaddi2, draws);
+    EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Vandret addition - Niveau 2");
+    const test::FixedText texts[]{
+        {"Label1", "P=    Q +    for Q>0, P>0"},
+        {"Label4", "P=    Q +    for Q>0, P>0"},
+        {"Label31", "P=    Q +    for Q>0, P>0"},
+        {"Label62", "    P             Q1         Q2         Q3        Qtotal"},
+        {"Label63", "P="},
+        {"Label64", "Q +"},
+        {"Label65", " for          0<Q"},
+        {"Label9", "<"},
+        {"Label13", "<"},
+        {"Label66", "P="},
+        {"Label67", "Q +"},
+        {"Label68", " for"},
+        {"Label69", "<Q"},
+        {"Label23", "<"},
+        {"Label11", "<"},
+        {"Label70", "P="},
+        {"Label71", "Q +"},
+        {"Label72", " for"},
+        {"Label73", "<Q"},
+        {"Label44", "<"},
+        {"Label38", "1)"},
+        {"Label40", "2)"},
+        {"Label42", "3)"},
+        {"Label25", ""},
+        {"Label27", ""},
+        {"Label49", ""},
+        {"Vis1", "Vis"},
+        {"Vis2", "Vis"},
+        {"Vis3", "Vis"},
+        {"Command7", "&Luk"},
+    };
+    test::expectTexts(unshown, texts);
+    EXPECT_FALSE(unshown.isShown("Picture10"));
+    EXPECT_TRUE(unshown.isShown("Label49"));
+}
+
+TEST_F(Vaddi2Form, TellsTheMethodInItsHelp) {
+    const FormDriver& f = open(kThree);
+    const auto sentences = [&f](const char* label) {
+        return f.label(label).text().simplified().toStdString();
+    };
+    EXPECT_EQ(sentences("Label15"),
+              "Bestem P-værdierne til de opgivne funktioners endepunkter vha. definitionsmængderne og indsæt "
+              "dem i hjælpeskemaet efter størrelse. Hvis funktionerne er voksende, indsættes for nemheds "
+              "skyld 10 som nederste værdi i hjælpeskemaet, ellers indsættes 0. Hvis der er en vandret linie "
+              "indsættes dennes P-værdi to gange.");
+    EXPECT_EQ(sentences("Label29"),
+              "Bestem for hver P-værdi de tilsvarende Q-værdier for hver funktion, indsæt dem i "
+              "hjælpeskemaet under \"Q1\" og \"Q2\" og addér dem i \"Qtotal\". Hvis der er en vandret "
+              "linie, indsættes 0 som første Q-værdi og uendeligt (oo) som anden.");
+    EXPECT_EQ(sentences("Label36"),
+              "Beregn den eller de resulterende funktioner ved at beregne forskrifterne for linierne mellem "
+              "de samhørende Qtotal- og P-værdier.");
+}
+
+TEST_F(Vaddi2Form, UnderlinesTheSignsOfAtLeast) {
+    const FormDriver& f = open(kThree);
+    for (int i = 0; i < 6; ++i) {
+        const std::string name = "Label47_" + std::to_string(i);
+        EXPECT_EQ(f.caption(name), ">") << name;
+        EXPECT_TRUE(f.label(name).font().underline()) << name;
+    }
+    for (const char* name : {"Label9", "Label13", "Label23", "Label11", "Label44"}) {
+        EXPECT_TRUE(f.label(name).font().underline()) << name;
+    }
+}
+
+TEST_F(Vaddi2Form, HidesTheBlankLabelAtItsFirstTick) {
+    const FormDriver& f = open(kThree);
+    EXPECT_FALSE(f.isShown("Label49"));
+}
+
+TEST_F(Vaddi2Form, TellsTheThreeFunctions) {
+    const FormDriver& f = open(kThreeLevel);
+    const test::FixedText texts[]{{"Label2", "-1"}, {"Label3", "9"},  {"Label5", "-2"},
+                                  {"Label6", "7"},  {"Label32", "0"}, {"Label33", "5"}};
+    test::expectTexts(f, texts);
+}
+
+TEST_F(Vaddi2Form, StartsEveryExerciseBlankAndWhite) {
+    const FormDriver& f = open(kThree);
+    f.click("Command3");
+    f.click("Vis3");
+    f.click("Command7");
+    f.type("Text21", "5");
+    next(kOne);
+    EXPECT_EQ(contents(1, 31), std::vector<std::string>(31, " "));
+    EXPECT_EQ(redBoxes(), std::set<std::string>{});
+    EXPECT_EQ(f.caption("Label25"), "");
+    EXPECT_EQ(f.caption("Label27"), "");
+    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_TRUE(f.isShown("Command2"));
+    EXPECT_EQ(draws.randomized(), 2);
+    EXPECT_TRUE(draws.isUsedUp());
+}
+
+/// What is shown of the answer rows, by the exercise.
+class Vaddi2Rows : public Vaddi2Form, public testing::WithParamInterface<Exercise> {};
+
+INSTANTIATE_TEST_SUITE_P(Exercises, Vaddi2Rows, testing::ValuesIn(kAll),
+                         [](const testing::TestParamInfo<Exercise>& row) { return row.param.name; });
+
+TEST_P(Vaddi2Rows, ShowWhatTheExerciseAsksFor) {
+    const std::set<std::string> firstRow{"Label63", "Text21", "Label64", "Text22",
+                                         "Label65", "Label9", "Label13", "Text23"};
+    const std::set<std::string> secondRow{"Label66", "Text24", "Label67", "Text25",
+                                          "Label68", "Text26", "Label69"};
+    const std::set<std::string> secondEnd{"Label11", "Text27"};
+    const std::set<std::string> loneStart{"Label23"};
+    const std::set<std::string> thirdRow{"Label70", "Text28", "Label71", "Text29",
+                                         "Label72", "Text30", "Label73"};
+    const std::set<std::string> thirdEnd{"Label44", "Text31"};
+    std::set<std::string> every;
+    std::set<std::string> expected;
+    const auto add = [&](const std::set<std::string>& names, bool isShown) {
+        every.insert(names.begin(), names.end());
+        if (isShown) {
+            expected.insert(names.begin(), names.end());
+        }
+    };
+    const auto& [name, direction, functions, segments, isEndAsked] = GetParam();
+    add(firstRow, segments > 1);
+    add(secondRow, true);
+    add(secondEnd, segments == 3 || isEndAsked);
+    add(loneStart, segments == 1);
+    add(thirdRow, segments == 3);
+    add(thirdEnd, segments == 3 && isEndAsked);
+
+    open(GetParam());
+    EXPECT_EQ(shownOf(every), expected);
+    // Whatever came before.
+    for (const Exercise& before : {kThree, kOne}) {
+        next(before);
+        next(GetParam());
+        EXPECT_EQ(shownOf(every), expected) << before.name;
+    }
+}
+
+TEST_P(Vaddi2Rows, AreWalkedByEnterAfterTheTable) {
+    const FormDriver& f = open(GetParam());
+    std::vector<std::string> expected;
+    for (int row = 1; row <= 4; ++row) {
+        for (int column = 0; column < 5; ++column) {
+            expected.push_back("Text" + std::to_string(row + 4 * column));
+        }
+    }
+    for (int i = 21; i <= 31; ++i) {
+        if (f.isShown("Text" + std::to_string(i))) {
+            expected.push_back("Text" + std::to_string(i));
+        }
+    }
+    std::vector<std::string> walked;
+    while (f.focus().rfind("Text", 0) == 0 && walked.size() < 40) {
+        walked.push_back(f.focus());
+        f.press(f.focus(), Qt::Key_Return);
+    }
+    EXPECT_EQ(walked, expected);
+    EXPECT_EQ(f.focus(), "Command2");
+}
+
+TEST_P(Vaddi2Rows, LeadToTheNextExerciseWithoutOk) {
+    const FormDriver& f = open(GetParam());
+    const auto& [name, direction, functions, segments, isEndAsked] = GetParam();
+    f.click("Command3");
+    f.click("Vis3");
+    f.click("Command7");
+    const std::string last = segments == 3 ? (isEndAsked ? "Text31" : "Text30")
+                             : isEndAsked  ? "Text27"
+                                           : "Text26";
+    f.box(last).setFocus();
+    f.press(last, Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Command1");
+}
+
+TEST_P(Vaddi2Rows, TakeTheAnswerThatTheyAreGiven) {
+    const FormDriver& f = open(GetParam());
+    f.click("Command2");
+    f.click("Command4");
+    std::map<std::string, std::string> given;
+    for (int i = 21; i <= 31; ++i) {
+        const std::string name = "Text" + std::to_string(i);
+        if (f.isShown(name)) {
+            EXPECT_NE(f.box(name).content(), " ") << name;
+            given[name] = f.box(name).content();
+        } else {
+            EXPECT_EQ(f.box(name).content(), " ") << name;
+        }
+    }
+    next(GetParam());
+    answer(given);
+    EXPECT_TRUE(f.isShown("Label75"));
+    EXPECT_EQ(redBoxes(), std::set<std::string>{});
+}
+
+TEST_P(Vaddi2Rows, HaveRoomInEveryState) {
+    const DecimalMark danish(",");
+    const FormDriver& f = open(GetParam());
+    for (const AnswerBox* box : f.page().findChildren<AnswerBox*>()) {
+        if (box->isVisible()) {
+            f.type(box->objectName().toStdString(), "-99.75");
+        }
+    }
+    f.click("Command2");
+    EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
+    f.click("Command4");
+    EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
+    f.click("Command3");
+    f.click("Vis3");
+    EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
+}
+
+TEST_F(Vaddi2Form, DrawsTheTicksOfItsFramesOnce) {
+    open(kThree);
+    next(kOne);
+    for (const char* name : {"Picture1", "Picture2", "Picture6"}) {
+        const test::StrokesIn in{graph(name).scale()};
+        Strokes expected;
+        for (double t = 0.2; t <= 8.5; t += 0.8) {
+            expected.push_back(in.line(t + 0.8, 8.2, t + 0.8, 8.4));
+            expected.push_back(in.line(0.8, t, 1, t));
+        }
+        ASSERT_EQ(expected.size(), 22U);
+        EXPECT_EQ(graph(name).strokes(), expected) << name;
+    }
+    const test::StrokesIn in{graph("Picture8").scale()};
+    Strokes expected;
+    for (double t = 0.2; t <= 8.5; t += 0.8) {
+        expected.push_back(in.line(0.8, t + 0.8, 1, t + 0.8));
+    }
+    for (double t = 1; t <= 19.1; t += 0.9) {
+        expected.push_back(in.line(t, 9, t, 9.2));
+    }
+    ASSERT_EQ(expected.size(), 32U);
+    EXPECT_EQ(graph("Picture8").strokes(), expected);
+}
+
+TEST_F(Vaddi2Form, NumbersTheQuantitiesOfTheSumInOneLabelUnderTheirTicks) {
+    const FormDriver& f = open(kThree);
+    const Label& numbers = f.label("Label55");
+    EXPECT_EQ(f.label("Label55").text().simplified().toStdString(), "0 2 4 6 8 10 12 14 16 18 20");
+    const GraphBox& frame = graph("Picture8");
+    const QString text = numbers.text();
+    const QFontMetricsF metrics(numbers.font());
+    qsizetype at = 0;
+    for (int q = 0; q <= 20; q += 2) {
+        const QString number = QString::number(q);
+        at = text.indexOf(number, at);
+        const double left = numbers.place().left() + metrics.horizontalAdvance(text.left(at));
+        const double middle = left + metrics.horizontalAdvance(number) / 2;
+        const double tick =
+            (1 + 0.9 * q) * frame.Control::place().width() / static_cast<double>(frame.scale().x2);
+        EXPECT_NEAR(middle, tick, 4) << q;
+        at += number.size();
+    }
+}
+
+TEST_F(Vaddi2Form, DrawsTheFunctionsAndClearsWhatWasDrawn) {
+    const FormDriver& f = open(kThree);
+    f.click("Command3");
+    f.click("Vis3");
+    next(kThreeRising);
+    EXPECT_EQ(graph("Picture4").strokes(), Strokes{piece(kScale, 2, 1, 0, 10)});
+    EXPECT_EQ(graph("Picture5").strokes(), Strokes{piece(kScale, 1, 3, 0, 10)});
+    EXPECT_EQ(graph("Picture7").strokes(), Strokes{piece(kScale, 4, 4, 0, 10)});
+    EXPECT_EQ(sum(), Strokes{});
+    EXPECT_EQ(graph("Picture9").scale(), kSumScale);
+}
+
+TEST_F(Vaddi2Form, IsSolvedByKeysAlone) {
+    const FormDriver& f = open(kTwo);
+    while (f.focus() != "Text21") {
+        f.press(f.focus(), Qt::Key_Return);
+    }
+    for (const char* keys : {"-0,67", "9", "6", "-0,4", "7,4", "6", "18,5"}) {
+        const std::string box = f.focus();
+        f.type(box, keys);
+        f.press(box, Qt::Key_Return);
+    }
+    EXPECT_EQ(f.focus(), "Command2");
+    f.press("Command2", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("Label75"));
+    EXPECT_FALSE(f.isShown("Label74"));
+    EXPECT_FALSE(f.isShown("Command2"));
+    EXPECT_FALSE(f.isShown("Command4"));
+    EXPECT_EQ(f.focus(), "Command1");
+}
+
+TEST_F(Vaddi2Form, DrawsThreeRightSegmentsToTheEdgeOfTheGraph) {
+    open(kThree);
+    answer(kRightOfThree);
+    EXPECT_TRUE(form->isShown("Label75"));
+    EXPECT_EQ(sum(), (Strokes{green(-1, 9, 0, 2), green(-0.67, 8.33, 2, 5), green(-0.4, 7, 5, 20)}));
+}
+
+TEST_F(Vaddi2Form, DrawsTwoRightSegmentsToTheEdgeOfTheGraph) {
+    open(kTwo);
+    answer(kRightOfTwo);
+    EXPECT_EQ(sum(), (Strokes{green(-0.67, 9, 0, 6), green(-0.4, 7.4, 6, 20)}));
+    next(kTwoLevel);
+    answer({{"Text21", "-1"}, {"Text22", "9"}, {"Text23", "2"}, {"Text25", "7"}, {"Text26", "2"}});
+    EXPECT_EQ(sum(), (Strokes{green(-1, 9, 0, 2), green(0, 7, 2, 20)}));
+}
+
+TEST_F(Vaddi2Form, DrawsOneRightSegmentToTheEdgeOfTheGraph) {
+    open(kOne);
+    answer(kRightOfOne);
+    EXPECT_TRUE(form->isShown("Label75"));
+    EXPECT_EQ(sum(), Strokes{green(-0.57, 8, 0, 20)});
+}
+
+TEST_F(Vaddi2Form, DoesNotReadItsTable) {
+    open(kThree);
+    for (int i = 1; i <= 20; ++i) {
+        form->type("Text" + std::to_string(i), "99");
+    }
+    answer(kRightOfThree);
+    EXPECT_TRUE(form->isShown("Label75"));
+    EXPECT_EQ(contents(1, 20), std::vector<std::string>(20, "99"));
+}
+
+TEST_F(Vaddi2Form, MarksEachFieldThatIsOffAndNoOther) {
+    const auto expectEachMarked = [this](const Exercise& exercise,
+                                         const std::map<std::string, std::string>& right) {
+        open(exercise);
+        for (const auto& [box, text] : right) {
+            std::map<std::string, std::string> typed = right;
+            typed[box] = text + "9";
+            answer(typed);
+            EXPECT_EQ(redBoxes(), std::set<std::string>{box}) << exercise.name;
+            EXPECT_TRUE(form->isShown("Label74"));
+            EXPECT_TRUE(form->isShown("Command4"));
+            EXPECT_TRUE(form->isShown("Command2"));
+        }
+    };
+    // A 9 after 7.4 or 0.4 is off by 0.09, after 8.33 by 0.009.
+    expectEachMarked(kThree, kRightOfThree);
+    expectEachMarked(kTwo, kRightOfTwo);
+    expectEachMarked(kOne, kRightOfOne);
+}
+
+TEST_F(Vaddi2Form, GivesTheFocusToTheFirstFieldAfterAWrongTry) {
+    for (const Exercise& exercise : kAll) {
+        const FormDriver& f = open(exercise);
+        f.click("Command2");
+        EXPECT_EQ(f.focus(), exercise.segments == 1 ? "Text24" : "Text21") << exercise.name;
+    }
+}
+
+TEST_F(Vaddi2Form, LeavesTheLowerEndOfTheToleranceWrongAndWhite) {
+    open(kThree);
+    std::map<std::string, std::string> typed = kRightOfThree;
+    typed["Text31"] = "17.495";
+    answer(typed);
+    EXPECT_TRUE(form->isShown("Label74"));
+    EXPECT_EQ(redBoxes(), std::set<std::string>{});
+    answer({{"Text31", "17.505"}});
+    EXPECT_TRUE(form->isShown("Label75"));
+}
+
+TEST_F(Vaddi2Form, WantsALoneSegmentToStartAtZeroExactly) {
+    open(kOne);
+    std::map<std::string, std::string> typed = kRightOfOne;
+    for (const char* start : {"0.004", "-0.001"}) {
+        typed["Text26"] = start;
+        answer(typed);
+        EXPECT_TRUE(form->isShown("Label74")) << start;
+        EXPECT_EQ(redBoxes(), std::set<std::string>{"Text26"}) << start;
+    }
+    form->box("Text26").setContent("");
+    form->click("Command2");
+    EXPECT_TRUE(form->isShown("Label75"));
+}
+
+TEST_F(Vaddi2Form, FitsABlankStartOfThreeEqualIntercepts) {
+    open(kOne);
+    EXPECT_EQ(form->box("Text26").content(), " ");
+    answer(kRightOfOne);
+    EXPECT_EQ(form->box("Text26").content(), " ");
+    EXPECT_TRUE(form->isShown("Label75"));
+}
+
+TEST_F(Vaddi2Form, LeavesTheWrongVerdictUnderTheRightOne) {
+    const FormDriver& f = open(kOne);
+    f.click("Command2");
+    answer(kRightOfOne);
+    EXPECT_TRUE(f.isShown("Label74"));
+    EXPECT_TRUE(f.isShown("Label75"));
+    EXPECT_FALSE(f.isShown("Command4"));
+    const QObjectList& siblings = f.label("Label75").parent()->children();
+    EXPECT_GT(siblings.indexOf(&f.label("Label75")), siblings.indexOf(&f.label("Label74")));
+}
+
+TEST_F(Vaddi2Form, DoesNotAskForAnEndAgainAfterOneThatHadIt) {
+    open(kOne);
+    answer(kRightOfOne);
+    next(kOneLevel);
+    answer({{"Text25", "1"}});
+    EXPECT_TRUE(form->isShown("Label75"));
+    EXPECT_EQ(sum(), Strokes{green(0, 1, 0, 20)});
+}
+
+TEST_F(Vaddi2Form, GivesTheAnswerInAllItsFields) {
+    const FormDriver& f = open(kThree);
+    f.click("Command3");
+    f.click("Command2");
+    f.click("Command4");
+    EXPECT_EQ(contents(1, 20), (std::vector<std::string>{"9", "7", "5", "0",    //
+                                                         "0", "2", "4", "9",    //
+                                                         " ", "0", "1", "3.5",  //
+                                                         " ", " ", "0", "5",    //
+                                                         "0", "2", "5", "17.5"}));
+    EXPECT_EQ(contents(21, 31), (std::vector<std::string>{"-1", "9", "2", "-0.67", "8.33", "2", "5", "-0.4",
+                                                          "7", "5", "17.5"}));
+    EXPECT_EQ(redBoxes(), std::set<std::string>{});
+    for (const char* hidden : {"Picture10", "Command2", "Command4", "Label74", "Label75"}) {
+        EXPECT_FALSE(f.isShown(hidden)) << hidden;
+    }
+    EXPECT_EQ(f.focus(), "Command1");
+}
+
+TEST_F(Vaddi2Form, BlanksTheThirdRowOfTheTableForALevelFunctionInTheMiddle) {
+    const FormDriver& f = open(kTwoLevel);
+    f.click("Command2");
+    f.click("Command4");
+    EXPECT_EQ(contents(1, 20), (std::vector<std::string>{"9", "7", "5",  " ",  //
+                                                         "0", "2", "2",  " ",  //
+                                                         " ", "0", "oo", " ",  //
+                                                         " ", " ", " ",  " ",  //
+                                                         "0", "2", "oo", " "}));
+    EXPECT_EQ(contents(21, 31),
+              (std::vector<std::string>{"-1", "9", "2", "0", "7", "2", " ", " ", " ", " ", " "}));
+}
+
+TEST_F(Vaddi2Form, GivesZeroForTheStartOfALoneSegment) {
+    const FormDriver& f = open(kOne);
+    answer({{"Text26", "3"}});
+    f.click("Command4");
+    EXPECT_EQ(contents(21, 31),
+              (std::vector<std::string>{" ", " ", " ", "-0.57", "8", "0", "14", " ", " ", " ", " "}));
+}
+
+TEST_F(Vaddi2Form, DrawsThreeTypedSegmentsInRedBeforeTheRightOnes) {
+    const FormDriver& f = open(kThree);
+    answer({{"Text21", "-2"},
+            {"Text22", "8"},
+            {"Text23", "3"},
+            {"Text24", "-0.5"},
+            {"Text25", "7"},
+            {"Text26", "3.5"},
+            {"Text27", "6"},
+            {"Text28", "-0.25"},
+            {"Text29", "6"},
+            {"Text30", "6.5"},
+            {"Text31", "16"}});
+    EXPECT_EQ(sum(), Strokes{});
+    f.click("Command4");
+    EXPECT_EQ(sum(), (Strokes{red(-2, 8, 0, 3), red(-0.5, 7, 3.5, 6), red(-0.25, 6, 6.5, 16),
+                              green(-1, 9, 0, 2), green(-0.67, 8.33, 2, 5), green(-0.4, 7, 5, 17.5)}));
+}
+
+TEST_F(Vaddi2Form, DrawsThreeSegmentsWithoutAnEndPastTheGraph) {
+    const FormDriver& f = open(kThreeRising);
+    answer({{"Text21", "1"},
+            {"Text22", "2"},
+            {"Text23", "3"},
+            {"Text24", "0.5"},
+            {"Text25", "1"},
+            {"Text26", "4"},
+            {"Text27", "5"},
+            {"Text28", "0.25"},
+            {"Text29", "2"},
+            {"Text30", "6"}});
+    f.click("Command4");
+    EXPECT_EQ(sum(), (Strokes{red(1, 2, 0, 3), red(0.5, 1, 4, 5), red(0.25, 2, 6, 50), green(2, 1, 0, 1),
+                              green(0.67, 2.33, 1, 2.5), green(0.57, 2.57, 2.5, 50)}));
+}
+
+TEST_F(Vaddi2Form, DrawsTwoTypedSegmentsToTheTypedEndOrPastTheGraph) {
+    const FormDriver& f = open(kTwo);
+    const std::map<std::string, std::string> typed{{"Text21", "-2"}, {"Text22", "8"},  {"Text23", "3"},
+                                                   {"Text24", "-1"}, {"Text25", "12"}, {"Text26", "4"}};
+    type(typed);
+    answer({{"Text27", "15"}});
+    f.click("Command4");
+    EXPECT_EQ(sum(), (Strokes{red(-2, 8, 0, 3), red(-1, 12, 4, 15), green(-0.67, 9, 0, 6),
+                              green(-0.4, 7.4, 6, 18.5)}));
+    next(kTwoLevel);
+    answer(typed);
+    f.click("Command4");
+    EXPECT_EQ(sum(), (Strokes{red(-2, 8, 0, 3), red(-1, 12, 4, 50), green(-1, 9, 0, 2), green(0, 7, 2, 50)}));
+}
+
+TEST_F(Vaddi2Form, DrawsALoneTypedSegmentAsIfItsFarEndHadNoIntercept) {
+    const FormDriver& f = open(kOne);
+    const test::StrokesIn in{kSumScale};
+    answer({{"Text24", "-0.5"}, {"Text25", "6"}, {"Text26", "2"}, {"Text27", "12"}});
+    f.click("Command4");
+    // From 5 at the typed start to -6 at the typed end.
+    EXPECT_EQ(sum(), (Strokes{in.line(2, 5, 12, 16, kRed), green(-0.57, 8, 0, 14)}));
+    next(kOneLevel);
+    answer({{"Text24", "0.5"}, {"Text25", "6"}, {"Text26", "2"}});
+    f.click("Command4");
+    EXPECT_EQ(sum(), (Strokes{in.line(2, 3, 50, -15, kRed), green(0, 1, 0, 50)}));
+}
+
+TEST_F(Vaddi2Form, OpensAndClosesItsHelp) {
+    const FormDriver& f = open(kThree);
+    f.click("Command3");
+    EXPECT_TRUE(f.isShown("Picture10"));
+    EXPECT_EQ(f.focus(), "Vis1");
+    f.press("Vis1", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Vis2");
+    f.press("Vis2", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Vis3");
+    f.press("Vis3", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "Command7");
+    f.press("Command7", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("Picture10"));
+    EXPECT_EQ(f.focus(), "Text1");
+}
+
+TEST_F(Vaddi2Form, WritesThePricesAndMarksTheEndsOfSlopingFunctions) {
+    const FormDriver& f = open(kThree);
+    f.click("Command3");
+    f.click("Vis1");
+    EXPECT_EQ(contents(1, 4), (std::vector<std::string>{"9", "7", "5", "0"}));
+    EXPECT_EQ(contents(5, 31), std::vector<std::string>(27, " "));
+    EXPECT_EQ(drawnOn("Picture4"), startMark(9) + startMark(0));
+    EXPECT_EQ(drawnOn("Picture5"), startMark(7) + startMark(0));
+    EXPECT_EQ(drawnOn("Picture7"), startMark(5) + startMark(0));
+    EXPECT_EQ(sum(), Strokes{});
+    EXPECT_EQ(f.caption("Label25"), "");
+}
+
+TEST_F(Vaddi2Form, MarksTheUpperEdgeForRisingFunctions) {
+    const FormDriver& f = open(kThreeRising);
+    f.click("Command3");
+    f.click("Vis1");
+    EXPECT_EQ(drawnOn("Picture4"), startMark(1) + startMark(10));
+    EXPECT_EQ(drawnOn("Picture5"), startMark(3) + startMark(10));
+    EXPECT_EQ(drawnOn("Picture7"), startMark(4) + startMark(10));
+}
+
+TEST_F(Vaddi2Form, MarksALevelFunctionAtBothSidesAndNoEdge) {
+    const FormDriver& f = open(kThreeLevel);
+    f.click("Command3");
+    f.click("Vis1");
+    EXPECT_EQ(drawnOn("Picture4"), startMark(9));
+    EXPECT_EQ(drawnOn("Picture5"), startMark(7));
+    EXPECT_EQ(drawnOn("Picture7"), startMark(5) + rightMark(5));
+}
+
+TEST_F(Vaddi2Form, DoesNotMarkAFunctionThatTheSumDoesNotReach) {
+    const FormDriver& f = open(kTwoLevel);
+    f.click("Command3");
+    f.click("Vis1");
+    EXPECT_EQ(drawnOn("Picture4"), startMark(9));
+    EXPECT_EQ(drawnOn("Picture5"), startMark(7) + rightMark(7));
+    EXPECT_EQ(drawnOn("Picture7"), Strokes{});
+    next(kOneLevel);
+    f.click("Vis1");
+    EXPECT_EQ(drawnOn("Picture4"), Strokes{});
+    EXPECT_EQ(drawnOn("Picture5"), startMark(1) + rightMark(1));
+    EXPECT_EQ(drawnOn("Picture7"), Strokes{});
+}
+
+TEST_F(Vaddi2Form, DrawsABandForEachQuantityAndTellsThePath) {
+    const FormDriver& f = open(kThree);
+    f.click("Command3");
+    f.click("Vis2");
+    EXPECT_EQ(f.focus(), "Vis3");
+    EXPECT_EQ(drawnOn("Picture4"),
+              startMark(9) + startMark(0) + band1(0, 9) + band1(2, 7) + band1(4, 5) + band1(9, 0));
+    EXPECT_EQ(drawnOn("Picture5"), startMark(7) + startMark(0) + band2(0, 7) + band2(1, 5) + band2(3.5, 0));
+    EXPECT_EQ(drawnOn("Picture7"), startMark(5) + startMark(0) + band3(0, 5) + band3(5, 0));
+    EXPECT_EQ(sum(), Strokes{});
+    EXPECT_EQ(f.caption("Label25"), "Her fra ( 0 ; 9 ) til ( 2 ; 7 ), fra ( 2 ; 7 ) til ( 5 ; 5 ) og fra ");
+    EXPECT_EQ(f.caption("Label27"), "( 5 ; 5 ) til ( 17.5 ; 0 ).");
+    EXPECT_EQ(contents(17, 20), (std::vector<std::string>{"0", "2", "5", "17.5"}));
+    EXPECT_EQ(contents(21, 31), std::vector<std::string>(11, " "));
+    EXPECT_TRUE(f.isShown("Command2"));
+}
+
+TEST_F(Vaddi2Form, DrawsNoBandForAnUnboundedQuantity) {
+    const FormDriver& f = open(kTwoLevel);
+    f.click("Command3");
+    f.click("Vis2");
+    EXPECT_EQ(drawnOn("Picture4"), startMark(9) + band1(0, 9) + band1(2, 7) + band1(2, 5));
+    EXPECT_EQ(drawnOn("Picture5"), startMark(7) + rightMark(7) + band2(0, 7));
+    EXPECT_EQ(drawnOn("Picture7"), Strokes{});
+    EXPECT_EQ(f.caption("Label25"), "Her fra ( 0 ; 9 ) til ( 2 ; 7 ) og fra ( 2 ; 7 ) til ( oo ; 5 ).");
+    EXPECT_EQ(f.caption("Label27"), "");
+}
+
+TEST_F(Vaddi2Form, StacksTheQuantitiesAndDrawsTheSum) {
+    const FormDriver& f = open(kThree);
+    f.click("Command3");
+    f.click("Vis3");
+    EXPECT_EQ(sum(), (stack(0, 2, 7, kBand1) + stack(2, 2, 7, kBand2) +                           //
+                      stack(0, 4, 5, kBand1) + stack(4, 5, 5, kBand2) + stack(5, 5, 5, kBlack) +  //
+                      stack(0, 9, 0, kBand1) + stack(9, 12.5, 0, kBand2) + stack(12.5, 17.5, 0, kBlack) +
+                      Strokes{green(-1, 9, 0, 2), green(-0.67, 8.33, 2, 5), green(-0.4, 7, 5, 50)}));
+    EXPECT_EQ(contents(21, 31), (std::vector<std::string>{"-1", "9", "2", "-0.67", "8.33", "2", "5", "-0.4",
+                                                          "7", "5", "17.5"}));
+    EXPECT_FALSE(f.isShown("Command2"));
+    EXPECT_EQ(f.focus(), "Command7");
+}
+
+TEST_F(Vaddi2Form, StacksOnlyNumbers) {
+    const FormDriver& f = open(kOneLevel);
+    f.click("Command3");
+    f.click("Vis3");
+    EXPECT_EQ(sum(), Strokes{green(0, 1, 0, 50)});
+    EXPECT_EQ(f.box("Text26").content(), "0");
+    next(kThreeLevel);
+    f.click("Vis3");
+    EXPECT_EQ(sum(), (stack(0, 2, 7, kBand1) + stack(2, 2, 7, kBand2) +                           //
+                      stack(0, 4, 5, kBand1) + stack(4, 5, 5, kBand2) + stack(5, 5, 5, kBlack) +  //
+                      stack(0, 4, 0, kBand1) + stack(4, 5, 0, kBand2) +
+                      Strokes{green(-1, 9, 0, 2), green(-0.67, 8.33, 2, 5), green(0, 5, 5, 50)}));
+    next(kOne);
+    f.click("Vis3");
+    EXPECT_EQ(sum(), (stack(0, 8, 0, kBand1) + stack(8, 12, 0, kBand2) + stack(12, 14, 0, kBlack) +
+                      Strokes{green(-0.57, 8, 0, 50)}));
+    EXPECT_EQ(f.box("Text26").content(), "0");
+}
+
+TEST_F(Vaddi2Form, DrawsTheStepsOnTopOfOneAnother) {
+    const FormDriver& f = open(kTwo);
+    f.click("Command3");
+    f.click("Vis1");
+    f.click("Vis2");
+    f.click("Vis3");
+    const Strokes marks = startMark(9) + startMark(0);
+    const Strokes bands = band1(0, 9) + band1(4, 5) + band1(9, 0);
+    EXPECT_EQ(drawnOn("Picture4"), marks + marks + bands + marks + bands);
+    const std::size_t once = sum().size();
+    f.click("Vis3");
+    EXPECT_EQ(sum().size(), 2 * once);
+}
+
+TEST_F(Vaddi2Form, KeepsTheOfferOfTheAnswerAfterItsLastStep) {
+    const FormDriver& f = open(kThree);
+    f.click("Command2");
+    EXPECT_FALSE(redBoxes().empty());
+    f.click("Command3");
+    f.click("Vis3");
+    EXPECT_EQ(redBoxes(), std::set<std::string>{});
+    EXPECT_TRUE(f.isShown("Label74"));
+    EXPECT_TRUE(f.isShown("Command4"));
+    EXPECT_FALSE(f.isShown("Command2"));
+    // What stands in the boxes by now is the right answer.
+    f.click("Command4");
+    EXPECT_EQ(test::strokesFrom(graph("Picture9"), sum().size() - 6),
+              (Strokes{red(-1, 9, 0, 2), red(-0.67, 8.33, 2, 5), red(-0.4, 7, 5, 17.5), green(-1, 9, 0, 2),
+                       green(-0.67, 8.33, 2, 5), green(-0.4, 7, 5, 17.5)}));
+}
+
+TEST_F(Vaddi2Form, KeepsThePanelOpenWhileTheExerciseGoesOn) {
+    const FormDriver& f = open(kOne);
+    f.click("Command3");
+    answer(kRightOfOne);
+    EXPECT_TRUE(f.isShown("Label75"));
+    EXPECT_TRUE(f.isShown("Picture10"));
+    f.click("Vis3");
+    EXPECT_TRUE(f.isShown("Label75"));
+}
+
+TEST_F(Vaddi2Form, TakesAnyTypedNumber) {
+    const FormDriver& f = open(kOne);
+    for (const char* text : {"1e308", "-1e308", "abc", "", "1e999"}) {
+        for (const char* box : {"Text24", "Text25", "Text26", "Text27"}) {
+            f.box(box).setContent(text);
+        }
+        f.click("Command2");
+        EXPECT_TRUE(f.isShown("Label74")) << text;
+        f.click("Command4");
+        EXPECT_EQ(sum().size(), 2U) << text;
+        next(kOne);
+    }
+}
+
+TEST(Vaddi2Play, IsSolvedByItsOwnAnswerThroughManyExercises) {
+    SeededDraws draws(11);
+    const FormDriver f(PageName::Vaddi2, draws);
+    for (int exercise = 0; exercise < 200; ++exercise) {
+        const auto& state = dynamic_cast<const Vaddi2&>(f.page()).state();
+        std::size_t asked = 0;
+        for (const AnswerField& field : answerFields(state)) {
+            constexpr std::array<std::array<const char*, 4>, 3> kNames{
+                {{"Text21", "Text22", "", "Text23"},
+                 {"Text24", "Text25", "Text26", "Text27"},
+                 {"Text28", "Text29", "Text30", "Text31"}}};
+            const std::size_t slot = field.slot == Slot::Slope       ? 0
+                                     : field.slot == Slot::Intercept ? 1
+                                     : field.slot == Slot::Start     ? 2
+                                                                     : 3;
+            const std::string name = kNames.at(static_cast<std::size_t>(field.row)).at(slot);
+            ASSERT_TRUE(f.isShown(name)) << "exercise " << exercise;
+            f.box(name).setContent(NumberText(field.target.value));
+            ++asked;
+        }
+        std::size_t shown = 0;
+        for (int i = 21; i <= 31; ++i) {
+            shown += f.isShown("Text" + std::to_string(i)) ? 1 : 0;
+        }
+        ASSERT_EQ(shown, asked) << "exercise " << exercise;
+        f.button("Command2").click();
+        ASSERT_TRUE(f.isShown("Label75")) << "exercise " << exercise;
+        f.button("Command3").click();
+        f.button("Vis3").click();
+        f.button("Command1").click();
+    }
+}
+
+}  // namespace
+}  // namespace tavrune
