@@ -1,5 +1,6 @@
 #include "topics/calculus/diff_exercise.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdlib>
@@ -548,6 +549,22 @@ TEST(DiffSpace, WorksOutTheSlopeInItsTexts) {
         ASSERT_EQ(rightSide(e.texts.derivative, "P'=", {.q = e.state.pointQ}), slope) << e.texts.derivative;
         ASSERT_EQ(rightSide(e.texts.derivativeAtPoint, name, {}), slope) << e.texts.derivativeAtPoint;
         ASSERT_EQ(rightSide(e.texts.value, name, {}), slope) << e.texts.value;
+    }
+}
+
+TEST(DiffSpace, HasItsPointFromOneToFiveAndNeverInBrackets) {
+    for (const SpacePoint& e : acceptedSpace()) {
+        ASSERT_EQ(e.state.pointQ, std::floor(e.state.pointQ)) << e.texts.atPoint;
+        ASSERT_GE(e.state.pointQ, 1) << e.texts.atPoint;
+        ASSERT_LE(e.state.pointQ, 5) << e.texts.atPoint;
+        const std::string point = std::to_string(e.drawn.x);
+        ASSERT_EQ(e.texts.atPoint, "For Q = " + point + " fås");
+        // The brackets of P'() and, if it is negative, of the first coefficient.
+        const std::string& text = e.texts.derivativeAtPoint;
+        ASSERT_EQ(text.rfind("P'(" + point + ")=", 0), 0U) << text;
+        ASSERT_EQ(std::count(text.begin(), text.end(), '('), e.state.coefficientA < 0 ? 2 : 1) << text;
+        ASSERT_NE(text.find("·" + point), std::string::npos) << text;
+        ASSERT_EQ(std::count(e.texts.value.begin(), e.texts.value.end(), '('), 1) << e.texts.value;
     }
 }
 

@@ -266,11 +266,51 @@ TEST_F(DiffForm, DrawsTheRightTangentTwoToEitherSideOnACubic) {
     EXPECT_EQ(drawnLater(), (std::vector{kIn.line(4, 0, 0, -4, kGreen)}));
 }
 
-TEST_F(DiffForm, DrawsTheSlopeOfTheCubicThroughTheParabolaOfTheFirstTwoCubics) {
-    open(kMismatched);
+TEST_F(DiffForm, DrawsTheRightTangentTwoToEitherSideFromTheNineteenthPatternOn) {
+    // 1Q³ +1Q² +1Q at 3: the height is 39, the slope 34.
+    open({.a = 1, .b = 1, .c = 1, .x = 3, .patternCase = 19});
+    answer("34");
+    EXPECT_TRUE(form->isShown("Label10"));
+    EXPECT_EQ(drawnLater(), (std::vector{kIn.line(5, 39 + 2 * 34, 1, 39 - 2 * 34, kGreen)}));
+}
+
+/// The tangents of the first two cubics: the slope of the cubic, through the parabola.
+class DiffFirstCubics : public DiffForm, public testing::WithParamInterface<int> {
+protected:
+    FormDriver& openMismatched() {
+        DiffDraws drawn = kMismatched;
+        drawn.patternCase = GetParam();
+        return open(drawn);
+    }
+
+    [[nodiscard]] static Stroke rightTangent() { return kIn.line(6, 32 + 3 * 89, 0, 32 - 3 * 89, kGreen); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Rows, DiffFirstCubics, testing::Values(17, 18),
+                         [](const auto& row) { return "Case" + std::to_string(row.param); });
+
+TEST_P(DiffFirstCubics, DrawTheSlopeOfTheCubicThreeToEitherSideThroughTheParabola) {
+    openMismatched();
     answer("89");
     EXPECT_TRUE(form->isShown("Label10"));
-    EXPECT_EQ(drawnLater(), (std::vector{kIn.line(6, 32 + 3 * 89, 0, 32 - 3 * 89, kGreen)}));
+    EXPECT_EQ(drawnLater(), (std::vector{rightTangent()}));
+}
+
+TEST_P(DiffFirstCubics, DrawATypedSlopeTwoToEitherSideThroughTheParabola) {
+    openMismatched();
+    // The slope that the parabola has there.
+    answer("19");
+    EXPECT_TRUE(form->isShown("Label27"));
+    EXPECT_EQ(drawnLater(), (std::vector{kIn.line(5, 32 + 2 * 19, 1, 32 - 2 * 19, kRed)}));
+}
+
+TEST_P(DiffFirstCubics, DrawBothTangentsThroughTheParabolaWhenTheAnswerIsGiven) {
+    const FormDriver& f = openMismatched();
+    answer("-1.5");
+    f.click("Command14");
+    EXPECT_EQ(f.box("Text1").content(), "89");
+    const Stroke typed = kIn.line(5, 29, 1, 35, kRed);
+    EXPECT_EQ(drawnLater(), (std::vector{typed, rightTangent(), typed}));
 }
 
 TEST_F(DiffForm, DrawsTheSlopeThatWasTypedInRed) {

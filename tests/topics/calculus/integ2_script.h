@@ -49,13 +49,17 @@ struct Ranges {
 
 [[nodiscard]] inline Script kink(const Numbers& n) { return {cellOf(n.k - 2, 5)}; }
 
+[[nodiscard]] inline Script piecesAndKink(Family family, const Numbers& n) {
+    return pieces(family, n) + kink(n);
+}
+
 [[nodiscard]] inline Script limits(const Numbers& n) {
     return {cellOf(n.back - 1, 3), cellOf(n.forth - 1, 3)};
 }
 
 /// One whole try.
 [[nodiscard]] inline Script numbers(Family family, const Numbers& n) {
-    return pieces(family, n) + kink(n) + limits(n);
+    return piecesAndKink(family, n) + limits(n);
 }
 
 [[nodiscard]] inline Script script(Family family, const Numbers& n) {

@@ -12,12 +12,14 @@
 #include <gtest/gtest.h>
 
 #include "graph/graph_box.h"
+#include "numeric/text.h"
 #include "support/decimal_mark.h"
 #include "support/fixed_texts.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
 #include "support/strokes.h"
 #include "topics/calculus/integ2_script.h"
+#include "topics/calculus/integ2_space.h"
 
 namespace tavrune {
 namespace {
@@ -310,6 +312,23 @@ TEST_F(Integ2Form, LeavesTheFocusWhereItWasIfThePlotLeavesTheGraph) {
     EXPECT_EQ(form->focus(), "Text1");
 }
 
+TEST_F(Integ2Form, LeavesTheFocusWhereItWasAtTheFirstTickToo) {
+    script(kFall, kSteep);
+    FormDriver f = FormDriver::unshown(PageName::Integ2, draws);
+    f.button("Command4").setFocus();
+    f.show();
+    ASSERT_EQ(f.caption("Label5"), "6");
+    EXPECT_EQ(f.focus(), "Command4");
+}
+
+TEST_F(Integ2Form, TakesTheFocusAtTheFirstTickIfThePlotStaysOnTheGraph) {
+    script(kFall, kPlain);
+    FormDriver f = FormDriver::unshown(PageName::Integ2, draws);
+    f.button("Command4").setFocus();
+    f.show();
+    EXPECT_EQ(f.focus(), "Text1");
+}
+
 TEST_F(Integ2Form, ShowsPiecesApartAtTheKinkAndWantsTheirSumAllTheSame) {
     openPlain();
     const std::vector<Stroke> plot = plotOf("Picture1");
@@ -462,6 +481,27 @@ TEST_F(Integ2Form, WorksTheRedAndTheGreenIntegralOut) {
     EXPECT_EQ(row({"Label271", "Label272", "Label273", "Label274", "Label275", "Label276", "Label101"}),
               "((-1,5/2)*8²+7*8)-((-1,5/2)*5²+7*5) = -8,25");
     EXPECT_EQ(form->caption("Label103"), " = 13,5");
+}
+
+TEST_F(Integ2Form, ShowsBothIntegralsAndTheirSumForAllPairsOfFalls) {
+    const DecimalMark danish(",");
+    openPlain();
+    int exercises = 0;
+    test::integ2::forEachTry(kTwoFalls, [&](const test::integ2::Point& p) {
+        if (p.fate() != test::integ2::Fate::Taken) {
+            return;
+        }
+        SCOPED_TRACE(testing::PrintToString(p));
+        // Without letting the page be painted in between: that is most of the time.
+        script(p.family, p.n);
+        form->button("Command3").click();
+        form->button("Command4").click();
+        ASSERT_EQ(form->caption("Label96"), " = " + NumberText(p.first() / 4.0));
+        ASSERT_EQ(form->caption("Label101"), " = " + NumberText(p.second() / 4.0));
+        ASSERT_EQ(form->caption("Label103"), " = " + NumberText((p.first() + p.second()) / 4.0));
+        ++exercises;
+    });
+    EXPECT_EQ(exercises, 1512);
 }
 
 TEST_F(Integ2Form, ComposesItsRowsWithTheExerciseButItsResultsOnlyWhenHelpIsOpened) {

@@ -334,8 +334,6 @@ TEST(IntegSpace, ReachesEveryShapeAndEveryPairOfLimits) {
         ASSERT_EQ(std::tuple(s.a, s.b, s.c), std::tuple(point.a, point.b, point.c));
         ASSERT_EQ(s.w, point.drawn.w);
         ASSERT_EQ(s.v, point.drawn.v);
-        ASSERT_GE(s.v, 1);
-        ASSERT_LT(s.v, s.w);
         shapes.insert(s.shape);
         functions.insert({s.a, s.b, s.c});
         limits.insert({s.w, s.v});
@@ -344,6 +342,16 @@ TEST(IntegSpace, ReachesEveryShapeAndEveryPairOfLimits) {
     EXPECT_EQ(limits.size(), 21U);
     // Signed sizes of a, b and c, each 0 too, without the three zeros.
     EXPECT_EQ(functions.size(), 9U * 9 * 11 - 1);
+}
+
+TEST(IntegSpace, HasWholeLimitsTheLowerAtLeastOneAndLessThanTheUpper) {
+    forEachExercise([](const SpacePoint&, const IntegState& s) {
+        ASSERT_EQ(s.v, std::floor(s.v)) << functionText(s);
+        ASSERT_EQ(s.w, std::floor(s.w)) << functionText(s);
+        ASSERT_GE(s.v, 1) << functionText(s);
+        ASSERT_LT(s.v, s.w) << functionText(s);
+        ASSERT_LE(s.w, 7) << functionText(s);
+    });
 }
 
 TEST(IntegSpace, AgreesWithSimpsonsRule) {
