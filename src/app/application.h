@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QTranslator>
 
 #include "numeric/arithmetic.h"
 
@@ -24,6 +25,9 @@ public:
 
 private:
     void endAfter(ArithmeticFailure::Kind kind);
+    void speakDanish();
+
+    QTranslator danish_;
 
     bool isEnding_ = false;
 };
