@@ -1,16 +1,46 @@
 #include "app/application.h"
 
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QPalette>
 #include <QStyleFactory>
 
 #include "numeric/text.h"
 
 namespace tavrune {
+namespace {
+
+/// The colours that the pages are drawn for, on a dark desktop too: graphs and help panels are white, and
+/// what right and wrong look like is told.
+QPalette lightPalette() {
+    QPalette palette(QColor(239, 239, 239));
+    palette.setColor(QPalette::Highlight, QColor(48, 140, 198));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+}  // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName("Tavrune");
     // The one style that takes the colours of state from the palette on every desktop.
     setStyle(QStyleFactory::create("Fusion"));
+    setPalette(lightPalette());
+    QIcon icon;
+    for (const char* size : {"16", "32", "48", "128"}) {
+        icon.addFile(QString(":/icons/%1.png").arg(size));
+    }
+    setWindowIcon(icon);
+    setDesktopFileName("org.tavrune.Tavrune");
+    speakDanish();
     useDecimalMarkOf(QLocale());
+}
+
+void Application::speakDanish() {
+    // Qt's own words: the buttons of message boxes, the context menus of boxes.
+    if (danish_.load("qtbase_da", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        installTranslator(&danish_);
+    }
 }
 
 void Application::useDecimalMarkOf(const QLocale& locale) {

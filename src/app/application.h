@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
+#include <QTranslator>
 
 #include "numeric/arithmetic.h"
 
@@ -26,6 +27,9 @@ public:
 
 private:
     void endAfter(ArithmeticFailure::Kind kind);
+    void speakDanish();
+
+    QTranslator danish_;
 
     /// What tells of the failure, as long as it stands: a second failure adds nothing to it.
     QPointer<QMessageBox> message_;

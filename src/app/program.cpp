@@ -20,6 +20,8 @@ void Program::open(PageName name) {
     connect(page_, &Page::chosen, this, &Program::open);
     connect(page_, &Page::aboutChosen, this, &Program::openAbout);
     connect(page_, &Page::closeChosen, this, &Program::closeChosen);
+    connect(page_, &Page::zoomed, this, &Program::zoomAll);
+    page_->setZoom(zoom_);
     page_->showMaximized();
     // The new page stands first, so that there is no moment without a window, in which the program would end.
     if (last != nullptr) {
@@ -33,9 +35,22 @@ int Program::run() {
     return QCoreApplication::exec();
 }
 
+void Program::zoomAll(ZoomStep step) {
+    zoom_ = step;
+    if (page_ != nullptr) {
+        page_->setZoom(step);
+    }
+    if (about_ != nullptr) {
+        about_->setZoom(step);
+    }
+}
+
 void Program::openAbout() {
     if (about_ == nullptr) {
         about_ = new FrmAbout;
+        about_->setZoom(zoom_);
+        bindZoomKeys(
+            about_, [this] { return zoom_; }, [this](ZoomStep step) { zoomAll(step); });
     }
     about_->setWindowState(about_->windowState() & ~Qt::WindowMinimized);
     about_->show();

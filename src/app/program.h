@@ -35,7 +35,11 @@ signals:
     void closeChosen();
 
 private:
+    void zoomAll(ZoomStep step);
+
     Draws& draws_;
+    // For every page, until the program ends.
+    ZoomStep zoom_;
     QPointer<Page> page_;
     QPointer<FrmAbout> about_;
 };

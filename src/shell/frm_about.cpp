@@ -13,9 +13,16 @@ FrmAbout::FrmAbout() {
     ui.setupUi(this);
     setObjectName(fromUtf8(textOf(PageName::FrmAbout)));
     setFont(designFont());
-    setFixedSize(size());
+    designSize_ = size();
+    setFixedSize(designSize_);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
+    move(centredOn(screen()->geometry(), size()));
+}
+
+void FrmAbout::setZoom(ZoomStep step) {
+    zoomControls(*this, step);
+    setFixedSize(designSize_ * step.factor());
     move(centredOn(screen()->geometry(), size()));
 }
 

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "shell/zoom.h"
+
 namespace tavrune {
 
 /// The about box: a window of its own with no buttons, in the middle of the screen. It stays when the start
@@ -11,6 +13,11 @@ class FrmAbout : public QWidget {
 
 public:
     FrmAbout();
+
+    void setZoom(ZoomStep step);
+
+private:
+    QSize designSize_;
 };
 
 /// Where a box of `size` stands to have its middle in the middle of `screen`.

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QScrollArea>
 
 #include "controls/control.h"
 #include "shell/page_name.h"
 #include "shell/topic_menu.h"
+#include "shell/zoom.h"
 
 namespace tavrune {
 
@@ -22,7 +24,14 @@ public:
     [[nodiscard]] PageName name() const { return name_; }
     [[nodiscard]] TopicMenu& topicMenu() { return topicMenu_; }
 
+    /// The size of the page, which Ctrl with plus, minus or 0 changes. Where the window is too small for it,
+    /// the page can be scrolled, and follows the focus.
+    [[nodiscard]] ZoomStep zoom() const { return zoom_; }
+    void setZoom(ZoomStep step);
+
 signals:
+    /// The user has asked for another size, which the page has now.
+    void zoomed(ZoomStep step);
     /// A menu entry or a page's own button asks for another page.
     void chosen(PageName target);
     /// The about box is asked for; this page stays.
@@ -47,7 +56,9 @@ private:
     void designIsReady();
 
     PageName name_;
+    QScrollArea* view_;
     QWidget* design_;
+    ZoomStep zoom_;
     TopicMenu topicMenu_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QMenuBar>
+#include <QScrollArea>
 
 #include <gtest/gtest.h>
 
@@ -99,8 +100,9 @@ TEST(Opstart, GreetsInItsOwnTextsAndColours) {
 
 TEST(Opstart, StandsOnADarkGround) {
     const Opstart page({640, 480});
-    EXPECT_EQ(page.centralWidget()->palette().color(QPalette::Window), QColor(64, 64, 64));
-    EXPECT_TRUE(page.centralWidget()->autoFillBackground());
+    const QWidget* const design = page.findChild<QScrollArea*>()->widget();
+    EXPECT_EQ(design->palette().color(QPalette::Window), QColor(64, 64, 64));
+    EXPECT_TRUE(design->autoFillBackground());
 }
 
 TEST(Opstart, IsTheOnePageWithASecondMenu) {

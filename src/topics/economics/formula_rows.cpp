@@ -54,6 +54,7 @@ private:
     Label* addLabel(const std::string& text, double left, double top) {
         auto* const label = new Label(&box_);
         label->setPlace(QRectF(left, top, 0, 0));
+        label->setZoom(box_.zoom());
         label->setAutoSize(true);
         label->setCaption(text);
         label->show();
@@ -64,6 +65,7 @@ private:
     double addFraction(const std::string& denominator, double left) {
         auto* const bar = new LineControl(&box_);
         bar->setPlace(QRectF(left, top_ + kBar, 1, 1));
+        bar->setZoom(box_.zoom());
         bar->show();
         Label* const numerator = addLabel("", left, top_ + kNumerator);
         const Fraction fraction(numerator, bar, addLabel("", left, top_ + kDenominator));

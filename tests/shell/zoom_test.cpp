@@ -1,0 +1,222 @@
+#include "shell/zoom.h"
+
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "app/program.h"
+#include "graph/graph_box.h"
+#include "support/form_driver.h"
+
+namespace tavrune {
+namespace {
+
+using test::FormDriver;
+using test::settle;
+
+TEST(ZoomStep, GoesThroughItsSizesAndStaysWithinThem) {
+    ZoomStep step;
+    EXPECT_EQ(step.smaller(), step);
+    for (const int percent : {100, 125, 150, 175, 200, 250, 300}) {
+        EXPECT_EQ(step.percent(), percent);
+        EXPECT_EQ(step.factor(), percent / 100.0);
+        EXPECT_EQ(step.larger().smaller() == step, percent != 300);
+        step = step.larger();
+    }
+    EXPECT_EQ(step.percent(), 300);
+    EXPECT_EQ(step.smaller().percent(), 250);
+}
+
+class ZoomedPage : public testing::Test {
+protected:
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+        QTest::keyClick(&form.page(), key, modifiers);
+        settle();
+    }
+
+    [[nodiscard]] QScrollArea& view() const { return *form.page().findChild<QScrollArea*>(); }
+
+    SeededDraws draws{4};
+    FormDriver form{PageName::Lininter, draws};
+};
+
+TEST_F(ZoomedPage, StartsAtTheSizeOfItsDesign) { EXPECT_EQ(form.page().zoom().percent(), 100); }
+
+TEST_F(ZoomedPage, GrowsAndShrinksByTheKeysStepByStep) {
+    press(Qt::Key_Plus);
+    EXPECT_EQ(form.page().zoom().percent(), 125);
+    press(Qt::Key_Equal);
+    EXPECT_EQ(form.page().zoom().percent(), 150);
+    press(Qt::Key_Minus);
+    EXPECT_EQ(form.page().zoom().percent(), 125);
+    press(Qt::Key_Plus);
+    press(Qt::Key_0);
+    EXPECT_EQ(form.page().zoom().percent(), 100);
+    press(Qt::Key_Minus);
+    EXPECT_EQ(form.page().zoom().percent(), 100);
+}
+
+TEST_F(ZoomedPage, TakesTheKeysWhileABoxHasTheFocusAndTypesNothing) {
+    AnswerBox& box = form.box("Text1");
+    ASSERT_TRUE(box.hasFocus());
+    QTest::keyClick(&box, Qt::Key_Plus, Qt::ControlModifier);
+    QTest::keyClick(&box, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(box.content(), "");
+    QTest::keyClick(&box, Qt::Key_Minus);
+    EXPECT_EQ(box.content(), "-");
+}
+
+TEST_F(ZoomedPage, ScalesEveryControlWithItsText) {
+    struct Before {
+        Control* control;
+        QRect geometry;
+        int textHeight;
+    };
+    std::vector<Before> all;
+    for (QWidget* widget : form.page().findChildren<QWidget*>()) {
+        if (auto* const control = dynamic_cast<Control*>(widget)) {
+            all.push_back({control, widget->geometry(), widget->font().pixelSize()});
+        }
+    }
+    ASSERT_GT(all.size(), 50U);
+    ZoomStep step;
+    while (step.percent() < 200) {
+        step = step.larger();
+    }
+    form.page().setZoom(step);
+    for (const Before& before : all) {
+        const QRect now = before.control->widget()->geometry();
+        // Whole units of the design become whole pixels; what code has placed may lie between them.
+        EXPECT_NEAR(now.left(), 2 * before.geometry.left(), 1);
+        EXPECT_NEAR(now.top(), 2 * before.geometry.top(), 1);
+        EXPECT_NEAR(now.width(), 2 * before.geometry.width(), 2);
+        EXPECT_NEAR(now.height(), 2 * before.geometry.height(), 2);
+        if (before.textHeight > 0) {
+            EXPECT_EQ(before.control->widget()->font().pixelSize(), 2 * before.textHeight)
+                << before.control->widget()->objectName().toStdString();
+        }
+    }
+}
+
+TEST_F(ZoomedPage, ComesBackToWhereItWas) {
+    const QRect before = form.button("Command10").geometry();
+    for (int times = 0; times < 10; ++times) {
+        press(Qt::Key_Plus);
+    }
+    EXPECT_EQ(form.page().zoom().percent(), 300);
+    press(Qt::Key_0);
+    EXPECT_EQ(form.button("Command10").geometry(), before);
+}
+
+TEST_F(ZoomedPage, KeepsItsExerciseItsFocusAndItsStrokes) {
+    form.type("Text1", "12");
+    const auto strokes = form.find<GraphBox>("Picture1").strokes();
+    press(Qt::Key_Plus);
+    EXPECT_EQ(form.box("Text1").content(), "12");
+    EXPECT_EQ(form.focus(), "Text1");
+    EXPECT_EQ(form.find<GraphBox>("Picture1").strokes(), strokes);
+}
+
+TEST_F(ZoomedPage, NeedsNoScrollingAtItsOwnSize) {
+    form.page().resize(form.page().minimumSize());
+    settle();
+    EXPECT_EQ(view().horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(view().verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(ZoomedPage, ScrollsToTheFocusWhereItIsLargerThanTheWindow) {
+    form.page().resize(form.page().minimumSize());
+    for (int times = 0; times < 6; ++times) {
+        press(Qt::Key_Plus);
+    }
+    EXPECT_GT(view().verticalScrollBar()->maximum(), 0);
+    const auto isInSight = [this](const std::string& name) {
+        const QWidget& widget = form.find(name);
+        return view().viewport()->rect().contains(
+            QRect(widget.mapTo(view().viewport(), QPoint(0, 0)), widget.size()));
+    };
+    focusOn(&form.button("Command10"));
+    EXPECT_TRUE(isInSight("Command10"));
+    EXPECT_FALSE(isInSight("Text1"));
+    focusOn(&form.box("Text1"));
+    EXPECT_TRUE(isInSight("Text1"));
+}
+
+class ZoomedProgram : public testing::Test {
+protected:
+    void press(Qt::Key key) {
+        QTest::keyClick(program.page(), key, Qt::ControlModifier);
+        settle();
+    }
+
+    SeededDraws draws{1};
+    Program program{draws};
+};
+
+TEST_F(ZoomedProgram, KeepsItsSizeFromPageToPage) {
+    program.open(PageName::Brok);
+    settle();
+    press(Qt::Key_Plus);
+    press(Qt::Key_Plus);
+    program.open(PageName::Opstart);
+    settle();
+    EXPECT_EQ(program.page()->zoom().percent(), 150);
+    press(Qt::Key_Minus);
+    program.open(PageName::Lininter);
+    settle();
+    EXPECT_EQ(program.page()->zoom().percent(), 125);
+    EXPECT_EQ(program.page()->findChild<Button*>("Command10")->width(), 95);
+}
+
+TEST_F(ZoomedProgram, SizesTheAboutBoxToo) {
+    program.open(PageName::Opstart);
+    program.openAbout();
+    settle();
+    const QSize before = program.about()->size();
+    press(Qt::Key_Plus);
+    EXPECT_EQ(program.about()->size(), before * 1.25);
+    QTest::keyClick(program.about(), Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(program.about()->size(), before);
+    EXPECT_EQ(program.page()->zoom().percent(), 100);
+}
+
+TEST_F(ZoomedProgram, OpensTheAboutBoxAtTheSizeOfThePages) {
+    program.open(PageName::Opstart);
+    program.openAbout();
+    settle();
+    const QSize before = program.about()->size();
+    program.about()->close();
+    settle();
+    press(Qt::Key_Plus);
+    program.openAbout();
+    settle();
+    EXPECT_EQ(program.about()->size(), before * 1.25);
+}
+
+TEST_F(ZoomedProgram, StartsAnewAtItsOwnSize) {
+    program.open(PageName::Brok);
+    settle();
+    press(Qt::Key_Plus);
+    Program next(draws);
+    next.open(PageName::Brok);
+    settle();
+    EXPECT_EQ(next.page()->zoom().percent(), 100);
+}
+
+TEST_F(ZoomedProgram, LetsTheStartPageBeScrolledToItsEnds) {
+    program.open(PageName::Opstart);
+    settle();
+    for (int times = 0; times < 6; ++times) {
+        press(Qt::Key_Plus);
+    }
+    const QWidget* const design = program.page()->findChild<QScrollArea*>()->widget();
+    const QRect all = design->childrenRect();
+    EXPECT_GE(design->width(), all.right());
+    EXPECT_GE(design->height(), all.bottom());
+}
+
+}  // namespace
+}  // namespace tavrune
