@@ -250,7 +250,8 @@ TEST_P(GtmTasks, FillTheBoxesOfTheGivenFunctionOnly) {
     EXPECT_EQ(f.focus(), "Text1");
     EXPECT_TRUE(f.isShown("Command2"));
     EXPECT_FALSE(f.isShown("Command3"));
-    fill({"1", "2", "3", "4", "5", "6", "7", "8", "9"});
+    answer({"1", "2", "3", "4", "5", "6", "7", "8", "9"});
+    EXPECT_FALSE(redBoxes().empty());
     next(row.drawn, row.kind);
     EXPECT_EQ(contents(), row.contents);
     EXPECT_EQ(f.focus(), "Text1");
@@ -480,9 +481,25 @@ TEST_F(GtmForm, GivesTheCoefficientsAndDrawsAvcThenMcThenTvc) {
                                     }));
 }
 
-TEST_F(GtmForm, TakesAnythingTyped) {
+TEST_F(GtmForm, PlotsTheFunctionsThatAreTypedAndNotThoseThatAreRight) {
+    openPlain();
+    answer({"2", "-1", "3", "0.5", "-1", "2", "1", "-1", "5"});
+    const auto avc = [](double q) { return 2 * q * q - q + 3; };
+    const auto tvc = [](double q) { return 0.5 * q * q * q - q * q + 2 * q; };
+    const auto mc = [](double q) { return q * q - q + 5; };
+    expectAlike(drawnAfter(171),
+                chain(avc, -3, kAvcWrong, [](double q, double y) {
+                    return q <= 15.05 && y <= 400;
+                }) + chain(tvc, -3, kTvcWrong, [&](double q, double) {
+                    return q <= 20 && std::abs(tvc(q + 0.1)) <= 400;
+                }) + chain(mc, -3, kMcWrong, [](double q, double y) { return q <= 15 && y <= 210; }));
+}
+
+TEST_F(GtmForm, JudgesAHundredHostileRowsWithBoundedCurves) {
     const FormDriver& f = openPlain();
-    const std::array<std::string, 5> hostile{"1e308", "-1e999", "æ;", std::string(10'000, '9'), "400"};
+    const std::array<std::string, 12> hostile{"1e308", "-1e999", "æ;",    std::string(10'000, '9'),
+                                              "400",   "1e39",   "-1e20", "1e-308",
+                                              "nan",   "inf",    "0x1p9", "-123456.75"};
     for (std::size_t box = 1; box <= 9; ++box) {
         for (const std::string& typed : hostile) {
             fill({"1", "-2", "4", "1", "-2", "4", "3", "-4", "4"});
@@ -622,6 +639,21 @@ TEST_F(GtmForm, LeavesPanelsAndBoxesAsTheyAreWhileTheHelpIsOpen) {
     EXPECT_EQ(shownPanels(), (std::set<std::string>{"Picturehlp", "PictureHlpGen"}));
     f.click("Hjaelp");
     EXPECT_EQ(shownSteps(), std::set<std::string>{"Picture2"});
+}
+
+TEST_F(GtmForm, KeepsTheTryItsVerdictAndItsCurvesWhenTheHelpIsClosed) {
+    const FormDriver& f = openPlain();
+    const Nine typed{"1", "-2", "4", "1", "-2", "4", "3", "-4", "1"};
+    answer(typed);
+    const Strokes strokes = graph().strokes();
+    f.click("Hjaelp");
+    f.click("Command4");
+    f.click("Command6");
+    EXPECT_EQ(contents(), std::vector<std::string>(typed.begin(), typed.end()));
+    EXPECT_EQ(redBoxes(), std::set<int>{9});
+    EXPECT_TRUE(f.isShown("Labelt"));
+    EXPECT_EQ(f.caption("Labelt"), "FORKERT");
+    EXPECT_EQ(graph().strokes(), strokes);
 }
 
 TEST_F(GtmForm, NamesTheFunctionsAndTheWaysOfItsDiagram) {
