@@ -190,6 +190,8 @@ TEST_F(ZoomedProgram, OpensTheAboutBoxAtTheSizeOfThePages) {
     const QSize before = program.about()->size();
     program.about()->close();
     settle();
+    program.page()->activateWindow();
+    settle();
     press(Qt::Key_Plus);
     program.openAbout();
     settle();
