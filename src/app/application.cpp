@@ -3,8 +3,8 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QPalette>
-#include <QStyleFactory>
 
+#include "controls/design_style.h"
 #include "numeric/text.h"
 
 namespace tavrune {
@@ -23,8 +23,7 @@ QPalette lightPalette() {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName("Tavrune");
-    // The one style that takes the colours of state from the palette on every desktop.
-    setStyle(QStyleFactory::create("Fusion"));
+    setStyle(new DesignStyle);
     setPalette(lightPalette());
     QIcon icon;
     for (const char* size : {"16", "32", "48", "128"}) {
