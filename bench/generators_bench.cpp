@@ -5,6 +5,7 @@
 #include "topics/addition/laddi1_exercise.h"
 #include "topics/addition/vaddi1_exercise.h"
 #include "topics/addition/vaddi2_exercise.h"
+#include "topics/addition/vaddi3_exercise.h"
 #include "topics/basics/brok_exercise.h"
 #include "topics/basics/dlinie_exercise.h"
 #include "topics/basics/konvert_exercise.h"
@@ -59,6 +60,7 @@ BENCHMARK(Generator<RogtState>)->Name("Generator/Rogt");
 BENCHMARK(Generator<ToppState>)->Name("Generator/Topp");
 BENCHMARK(Generator<Vaddi1State>)->Name("Generator/Vaddi1");
 BENCHMARK(Generator<Vaddi2State>)->Name("Generator/Vaddi2");
+BENCHMARK(Generator<Vaddi3State>)->Name("Generator/Vaddi3");
 
 }  // namespace
 }  // namespace tavrune
