@@ -16,7 +16,7 @@ using test::ScriptedDraws;
 /// How a field reads where a test compares it.
 std::string described(const AnswerField& field) {
     const char* const slots[]{"slope", "intercept", "start", "end"};
-    const char* const rules[]{"near", "closed", "exactly", "chained"};
+    const char* const rules[]{"near", "all marked", "closed", "exactly", "chained"};
     return std::to_string(field.row) + " " + slots[static_cast<int>(field.slot)] + " " +
            rules[static_cast<int>(field.target.rule)] + " " + std::to_string(field.target.value).substr(0, 4);
 }
