@@ -63,6 +63,16 @@ void ExerciseForm::enterChain(std::initializer_list<AnswerBox*> boxes, LastBox l
     }
 }
 
+void ExerciseForm::enterChainWhileShown(std::initializer_list<AnswerBox*> boxes, LastBox last) {
+    for (const auto* box = boxes.begin(); box != boxes.end(); ++box) {
+        std::vector<QWidget*> targets = after(last);
+        if (box + 1 != boxes.end()) {
+            targets.insert(targets.begin(), *(box + 1));
+        }
+        enterGoes(*box, std::move(targets));
+    }
+}
+
 void ExerciseForm::enterGoes(AnswerBox* box, std::vector<QWidget*> candidates) {
     disconnect(box, &AnswerBox::enterPressed, this, nullptr);
     connect(box, &AnswerBox::enterPressed, this, [targets = std::move(candidates)] {

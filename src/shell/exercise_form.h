@@ -61,6 +61,10 @@ protected:
     /// Enter goes from each box to the next; from the last as `last` says. Wants the buttons to be bound.
     void enterChain(std::initializer_list<AnswerBox*> boxes, LastBox last);
 
+    /// As `enterChain`, where not all boxes are always shown: before a hidden box, too, Enter goes as `last`
+    /// says.
+    void enterChainWhileShown(std::initializer_list<AnswerBox*> boxes, LastBox last);
+
     /// Enter goes from `box` to the first of `candidates` that is shown, or nowhere; of several words on one
     /// box the last counts.
     void enterGoes(AnswerBox* box, std::vector<QWidget*> candidates);

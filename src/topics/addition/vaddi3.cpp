@@ -26,14 +26,6 @@ void drawEndMark(GraphBox& box, double quantity, double price) {
     });
 }
 
-/// A thick level line round a price, on either side of it.
-void drawBar(GraphBox& box, double from, double to, double price, const QColor& colour) {
-    stepThrough(-0.1, 0.1, kStroke, [&](double offset) {
-        const double y = kTop - price - offset;
-        box.Line(from, y, to, y, colour);
-    });
-}
-
 /// An upright line where one piece passes into the next.
 void drawJoin(GraphBox& box, const Piece& before, double end, const Piece& after, double start,
               const QColor& colour) {
@@ -82,17 +74,10 @@ void Vaddi3::bindEnter() {
             rest.insert(rest.begin(), table_[column][row]);
         }
     }
-    enterChain({ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text4, ui_->Text5, ui_->Text6},
-               LastBox::OkOrNewExercise);
-    enterChain({ui_->Text8, ui_->Text9, ui_->Text10}, LastBox::OkOrNewExercise);
-    enterChain({ui_->Text37, ui_->Text38, ui_->Text39, ui_->Text47}, LastBox::OkOrNewExercise);
-    const auto goesOrEnds = [this](AnswerBox* box, AnswerBox* next) {
-        enterGoes(box, {next, ui_->Command2, ui_->Command1});
-    };
-    goesOrEnds(ui_->Text6, ui_->Text7);
-    goesOrEnds(ui_->Text7, ui_->Text8);
-    goesOrEnds(ui_->Text10, ui_->Text36);
-    goesOrEnds(ui_->Text36, ui_->Text37);
+    enterChainWhileShown(
+        {ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text4, ui_->Text5, ui_->Text6, ui_->Text7, ui_->Text8,
+         ui_->Text9, ui_->Text10, ui_->Text36, ui_->Text37, ui_->Text38, ui_->Text39, ui_->Text47},
+        LastBox::OkOrNewExercise);
 }
 
 void Vaddi3::firstTick() {
@@ -193,7 +178,7 @@ void Vaddi3::judge() {
     rows_.whiten();
     std::vector<AnswerField> fields = answerFields(state_);
     if (rows_.areFit(fields) && isUpperEndRight()) {
-        // "FORKERT" of a wrong try is not hidden; "RIGTIGT" lies in front of it.
+        // Kept: "FORKERT" of a wrong try is not hidden; "RIGTIGT" lies in front of it.
         solved();
         drawSum();
         return;
@@ -379,11 +364,11 @@ void Vaddi3::drawStacks() {
             }
             const TableCell& first = state_.helpTable[columns.quantities1[part]][row];
             if (first.isNumeric()) {
-                drawBar(box, 0, first.number(), price, kStackTeal);
+                drawThickLine(box, 0, first.number(), kTop - price, kStackTeal);
             }
             if (second.isNumeric()) {
-                drawBar(box, first.isNumeric() ? first.number() : 0,
-                        state_.helpTable[columns.totals[part]][row].number(), price, kBandGreen);
+                drawThickLine(box, first.isNumeric() ? first.number() : 0,
+                              state_.helpTable[columns.totals[part]][row].number(), kTop - price, kBandGreen);
             }
         }
     }
