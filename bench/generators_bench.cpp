@@ -3,6 +3,7 @@
 #include "numeric/arithmetic.h"
 #include "numeric/draws.h"
 #include "topics/addition/laddi1_exercise.h"
+#include "topics/addition/laddi2_exercise.h"
 #include "topics/addition/vaddi1_exercise.h"
 #include "topics/addition/vaddi2_exercise.h"
 #include "topics/addition/vaddi3_exercise.h"
@@ -50,6 +51,7 @@ BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
 BENCHMARK(Generator<IntegState>)->Name("Generator/Integ");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
 BENCHMARK(Generator<Laddi1State>)->Name("Generator/Laddi1");
+BENCHMARK(Generator<Laddi2State>)->Name("Generator/Laddi2");
 BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
 BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");
 BENCHMARK(Generator<Integ2State>)->Name("Generator/Integ2");
