@@ -1,5 +1,6 @@
 #include "shell/exercise_form.h"
 
+#include <QCoreApplication>
 #include <QTimer>
 
 namespace tavrune {
@@ -14,6 +15,19 @@ void styleVerdict(Label* label) {
     label->setAlignment(Qt::AlignCenter);
     label->setTextColour(kWhite);
     label->hide();
+}
+
+/// Runs an action of a form. A failure ends it; it is thrown on only where no application object takes it.
+void run(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const ArithmeticFailure& failure) {
+        auto* const handler = dynamic_cast<FailureHandler*>(QCoreApplication::instance());
+        if (handler == nullptr) {
+            throw;
+        }
+        handler->endAfter(failure.kind());
+    }
 }
 
 }  // namespace
@@ -39,6 +53,10 @@ void ExerciseForm::buttons(const Buttons& roles) {
     onClick(roles.help, &ExerciseForm::help);
 }
 
+void ExerciseForm::onClick(QAbstractButton* button, std::function<void()> action) {
+    connect(button, &QAbstractButton::clicked, this, [done = std::move(action)] { run(done); });
+}
+
 void ExerciseForm::verdict(const OneLabel& label) {
     oneLabel_ = label.label;
     right_ = wrong_ = label.label;
@@ -60,6 +78,16 @@ void ExerciseForm::enterChain(std::initializer_list<AnswerBox*> boxes, LastBox l
     for (const auto* box = boxes.begin(); box != boxes.end(); ++box) {
         const auto* const next = box + 1;
         enterGoes(*box, next == boxes.end() ? after(last) : std::vector<QWidget*>{*next});
+    }
+}
+
+void ExerciseForm::enterChainWhileShown(std::initializer_list<AnswerBox*> boxes, LastBox last) {
+    for (const auto* box = boxes.begin(); box != boxes.end(); ++box) {
+        std::vector<QWidget*> targets = after(last);
+        if (box + 1 != boxes.end()) {
+            targets.insert(targets.begin(), *(box + 1));
+        }
+        enterGoes(*box, std::move(targets));
     }
 }
 
@@ -161,7 +189,7 @@ void ExerciseForm::showEvent(QShowEvent* event) {
     hasTicked_ = true;
     loadStep();
     // The first exercise sets the focus, and that needs a form on screen.
-    QTimer::singleShot(0, this, [this] { firstTick(); });
+    QTimer::singleShot(0, this, [this] { run([this] { firstTick(); }); });
 }
 
 }  // namespace tavrune

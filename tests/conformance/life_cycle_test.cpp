@@ -11,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include "conformance/facts.h"
-#include "numeric/arithmetic.h"
 #include "support/decimal_mark.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
@@ -71,14 +70,10 @@ protected:
     }
 
     /// Presses every "Vis" of the help panels that are open.
-    void showAllSteps(const FormDriver& form) const {
+    static void showAllSteps(const FormDriver& form) {
         for (Button* button : form.page().findChildren<Button*>()) {
             if (button->caption() == "Vis" && button->isVisible() && button->isEnabled()) {
-                try {
-                    button->click();
-                } catch (const ArithmeticFailure&) {
-                    EXPECT_TRUE(facts().mayFail) << button->objectName().toStdString();
-                }
+                button->click();
             }
         }
     }
