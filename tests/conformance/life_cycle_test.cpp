@@ -372,7 +372,7 @@ TEST_P(EveryForm, HasNoTextCutOffOrOverAnother) {
     for (const char* mark : {".", ","}) {
         const DecimalMark inUse(mark);
         const FormDriver form = open(2005);
-        for (int exercise = 0; exercise < looks(60); ++exercise) {
+        for (int exercise = 0; exercise < looks(50); ++exercise) {
             ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << "exercise " << exercise;
             answerWrongly(form);
             form.click(facts().giveAnswer);
@@ -386,7 +386,7 @@ TEST_P(EveryForm, HasNoTextCutOffOrOverAnother) {
 
 TEST_P(EveryForm, HasNoTextCutOffInItsHelpWithEveryStepShown) {
     const FormDriver form = open(2006);
-    for (int exercise = 0; exercise < looks(60); ++exercise) {
+    for (int exercise = 0; exercise < looks(50); ++exercise) {
         form.click(facts().help);
         static_cast<void>(form.answerMessage());
         showAllSteps(form);
@@ -400,7 +400,7 @@ TEST_P(EveryForm, HasNoTextCutOffOrOverAnotherAtAnySize) {
     ZoomStep step;
     for (std::size_t size = 0; size < kZoomSteps.size(); ++size) {
         form.page().setZoom(step);
-        for (int exercise = 0; exercise < looks(6); ++exercise) {
+        for (int exercise = 0; exercise < looks(5); ++exercise) {
             ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << step.percent() << " %";
             form.click(facts().help);
             static_cast<void>(form.answerMessage());
