@@ -3,12 +3,17 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QStyleFactory>
 
 #include "numeric/text.h"
 
 namespace tavrune {
 namespace {
+
+/// In kilobytes. The style keeps the pictures of buttons under keys that die with their page: more room would
+/// only fill up with what nobody asks for any more.
+constexpr int kPictureCache = 1024;
 
 /// The colours that the pages are drawn for, on a dark desktop too: graphs and help panels are white, and
 /// what right and wrong look like is told.
@@ -26,6 +31,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     // The one style that takes the colours of state from the palette on every desktop.
     setStyle(QStyleFactory::create("Fusion"));
     setPalette(lightPalette());
+    QPixmapCache::setCacheLimit(kPictureCache);
     QIcon icon;
     for (const char* size : {"16", "32", "48", "128"}) {
         icon.addFile(QString(":/icons/%1.png").arg(size));
