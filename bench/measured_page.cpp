@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QMessageBox>
-#include <QWindow>
 
 #include "controls/button.h"
 #include "controls/option_button.h"
@@ -32,7 +31,7 @@ MeasuredPage::MeasuredPage(const test::FormFacts& facts) : facts_(facts) {
 MeasuredPage::~MeasuredPage() { qApp->removeEventFilter(this); }
 
 bool MeasuredPage::eventFilter(QObject* receiver, QEvent* event) {
-    if (event->type() == QEvent::Paint && receiver->isWidgetType()) {
+    if (event->type() == QEvent::Paint && receiver->isWidgetType() && draws_.drawn() != drawnBefore_) {
         isPainted_ = true;
     }
     return false;
@@ -86,16 +85,10 @@ void MeasuredPage::openByMenu(std::uint64_t seed) {
     program_.open(PageName::Form1);
     settle();
     draws_.start(seed);
-    take(opening, [this] {
-        const long long before = draws_.drawn();
-        program_.page()->topicMenu().actionFor(facts_.page)->trigger();
-        // The page stands on the display when its first exercise, which comes a moment later, is painted.
-        while (draws_.drawn() == before || !program_.page()->windowHandle()->isExposed()) {
-            QCoreApplication::processEvents();
-        }
-        isPainted_ = false;
-        program_.page()->update();
-    });
+    // What is painted before the first exercise is drawn does not count.
+    drawnBefore_ = draws_.drawn();
+    take(opening, [this] { program_.page()->topicMenu().actionFor(facts_.page)->trigger(); });
+    drawnBefore_ = kNone;
 }
 
 void MeasuredPage::judgeWrong() {

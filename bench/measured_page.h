@@ -66,7 +66,10 @@ private:
     test::FormFacts facts_;
     RepeatableDraws draws_;
     Program program_{draws_};
+    static constexpr long long kNone = -1;
     bool isPainted_ = false;
+    // A picture counts once there are other draws than these.
+    long long drawnBefore_ = kNone;
 };
 
 }  // namespace tavrune::bench

@@ -111,7 +111,8 @@ int main(int argc, char** argv) {
     long long count = 0;
     for (; std::chrono::steady_clock::now() < until; ++count) {
         const Bytes bytes = mutations.next();
-        std::printf("seed %llu, mutation %lld\n", static_cast<unsigned long long>(seed), count);
+        // What a crash leaves as the last line tells how to come back to it.
+        std::fprintf(stderr, "seed %llu, mutation %lld\n", static_cast<unsigned long long>(seed), count);
         LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
     }
     std::printf("%zu files and %lld mutations of them\n", corpus.size(), count);
