@@ -77,7 +77,7 @@ TEST_P(EveryPage, StandsRoughHands) {
         }
     }
     std::cout << textOf(GetParam()) << ": " << all << " events, " << openings << " openings, longest event "
-              << watchdog.longest().count() << " ms, known failures " << knownFailures << "\n";
+              << watchdog.longest().count() << " ms, known failures " << knownFailures << std::endl;
     EXPECT_TRUE(knownFailures == 0 || GetParam() == PageName::Vaddi1 || openings > 1);
 }
 
