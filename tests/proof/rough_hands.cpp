@@ -148,7 +148,6 @@ void RoughHands::begin() {
 }
 
 void RoughHands::openHome() {
-    lastButton_.clear();
     ++openings_;
     program_->open(home_);
     program_->page()->activateWindow();
@@ -158,6 +157,7 @@ void RoughHands::openHome() {
 }
 
 void RoughHands::watchButtons() {
+    lastButton_.clear();
     watched_ = program_->page();
     for (QAbstractButton* button : watched_->findChildren<QAbstractButton*>()) {
         QObject::connect(button, &QAbstractButton::pressed, button,
@@ -198,9 +198,17 @@ void RoughHands::act() {
     emptyHeavyBox();
     if (hasEnded_) {
         begin();
-    } else if (program_->page() == nullptr || program_->page()->name() != home_) {
+    } else if (program_->page() == nullptr || !isHome(*program_->page())) {
         openHome();
+    } else if (program_->page() != watched_) {
+        watchButtons();
     }
+}
+
+bool RoughHands::isHome(const Page& page) const {
+    // The two pages on the use of the program are one button apart.
+    return page.name() == home_ ||
+           (isOwnEntry(page.name(), PageName::Form1) && isOwnEntry(home_, PageName::Form1));
 }
 
 QWidget* RoughHands::keyReceiver(Program& program) {

@@ -46,6 +46,7 @@ private:
     void begin();
     void openHome();
     void watchButtons();
+    [[nodiscard]] bool isHome(const Page& page) const;
 
     void pressKey();
     void typeNumber();
