@@ -43,6 +43,7 @@ need_bench() { need libbenchmark-dev; }
 need_package() {
     need dpkg-dev file lintian appstream desktop-file-utils man-db groff-base xvfb xdotool qt6-translations-l10n
 }
+need_proof() { need strace dbus xvfb openbox xdotool x11-utils clang libclang-rt-dev; }
 
 # Configures once and builds what has changed.
 build() {

@@ -3,12 +3,17 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QPalette>
+#include <QPixmapCache>
 
 #include "controls/design_style.h"
 #include "numeric/text.h"
 
 namespace tavrune {
 namespace {
+
+/// In kilobytes. The style keeps the pictures of buttons under keys that die with their page: more room would
+/// only fill up with what nobody asks for any more.
+constexpr int kPictureCache = 1024;
 
 /// The colours that the pages are drawn for, on a dark desktop too: graphs and help panels are white, and
 /// what right and wrong look like is told.
@@ -25,6 +30,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName("Tavrune");
     setStyle(new DesignStyle);
     setPalette(lightPalette());
+    QPixmapCache::setCacheLimit(kPictureCache);
     QIcon icon;
     for (const char* size : {"16", "32", "48", "128"}) {
         icon.addFile(QString(":/icons/%1.png").arg(size));

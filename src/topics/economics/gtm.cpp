@@ -65,8 +65,9 @@ void Gtm::bindSteps() {
                        {ui_->Command11, ui_->Picture8, workedQuotientOfIntegral, twoRows}};
     for (const Step& step : steps) {
         onClick(step.vis, [this, step] {
-            step.box->show();
+            // The box comes last: labels are made faster where nothing is seen.
             showFormulas(*step.box, step.worked(state_), step.tops);
+            step.box->show();
         });
     }
 }

@@ -1,0 +1,158 @@
+#include "measured_page.h"
+
+#include <algorithm>
+#include <set>
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include "controls/button.h"
+#include "controls/option_button.h"
+
+namespace tavrune::bench {
+namespace {
+
+void settle() {
+    for (int round = 0; round < 5; ++round) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QGuiApplication::sync();
+        QCoreApplication::processEvents();
+    }
+}
+
+}  // namespace
+
+MeasuredPage::MeasuredPage(const test::FormFacts& facts) : facts_(facts) {
+    program_.open(PageName::Form1);
+    settle();
+    qApp->installEventFilter(this);
+}
+
+MeasuredPage::~MeasuredPage() { qApp->removeEventFilter(this); }
+
+bool MeasuredPage::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() == QEvent::Paint && receiver->isWidgetType() && draws_.drawn() != drawnBefore_) {
+        isPainted_ = true;
+    }
+    return false;
+}
+
+double MeasuredPage::timed(const std::function<void()>& action) {
+    isPainted_ = false;
+    const auto start = std::chrono::steady_clock::now();
+    action();
+    while (!isPainted_) {
+        QCoreApplication::processEvents();
+    }
+    QGuiApplication::sync();
+    return Milliseconds(std::chrono::steady_clock::now() - start).count();
+}
+
+bool MeasuredPage::dismissMessages() {
+    bool any = false;
+    while (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        any = true;
+        box->close();
+        settle();
+    }
+    return any;
+}
+
+void MeasuredPage::take(Samples& samples, const std::function<void()>& action) {
+    const double taken = timed(action);
+    settle();
+    // An exercise that cannot be solved is not what is measured here. The help that is a message is.
+    if (!dismissMessages() || facts_.page == PageName::Rogt) {
+        samples.push_back(taken);
+    }
+}
+
+void MeasuredPage::click(const std::string& button) const {
+    program_.page()->findChild<QAbstractButton*>(QString::fromStdString(button))->click();
+}
+
+std::vector<AnswerBox*> MeasuredPage::boxes() const {
+    std::vector<AnswerBox*> visible;
+    for (AnswerBox* box : program_.page()->findChildren<AnswerBox*>()) {
+        if (box->isVisible()) {
+            visible.push_back(box);
+        }
+    }
+    return visible;
+}
+
+void MeasuredPage::openByMenu(std::uint64_t seed) {
+    program_.open(PageName::Form1);
+    settle();
+    draws_.start(seed);
+    // What is painted before the first exercise is drawn does not count.
+    drawnBefore_ = draws_.drawn();
+    take(opening, [this] { program_.page()->topicMenu().actionFor(facts_.page)->trigger(); });
+    drawnBefore_ = kNone;
+}
+
+void MeasuredPage::judgeWrong() {
+    if (!facts_.option.empty()) {
+        click(facts_.option);
+    }
+    int typed = 3;
+    for (AnswerBox* box : boxes()) {
+        box->setContent(std::to_string(typed++) + ".25");
+    }
+    settle();
+    take(judging, [this] { click(facts_.ok); });
+}
+
+void MeasuredPage::judgeRight(std::uint64_t seed) {
+    // The answer that is given for an exercise, typed into the same exercise.
+    const auto drawAgain = [&] {
+        draws_.start(seed);
+        click(facts_.newExercise);
+        if (!facts_.option.empty()) {
+            click(facts_.option);
+        }
+        settle();
+    };
+    drawAgain();
+    click(facts_.giveAnswer);
+    std::vector<std::string> answers;
+    for (const AnswerBox* box : boxes()) {
+        answers.push_back(box->content());
+    }
+    drawAgain();
+    const std::vector<AnswerBox*> fields = boxes();
+    for (std::size_t i = 0; i < std::min(fields.size(), answers.size()); ++i) {
+        fields[i]->setContent(answers[i]);
+    }
+    settle();
+    take(judging, [this] { click(facts_.ok); });
+}
+
+void MeasuredPage::showAllSteps() const {
+    click(facts_.help);
+    std::set<Button*> shown;
+    for (bool goesOn = true; goesOn;) {
+        goesOn = false;
+        for (Button* button : program_.page()->findChildren<Button*>()) {
+            const bool isStep = button->text().contains("Vis") && button->isVisible();
+            // The last step of this form fails in some exercises.
+            const bool mayFail = facts_.mayFail && button->objectName() == "Vis3";
+            if (isStep && !mayFail && shown.insert(button).second) {
+                button->click();
+                goesOn = true;
+            }
+        }
+    }
+}
+
+void MeasuredPage::measure(std::uint64_t seed) {
+    openByMenu(seed);
+    draws_.start(seed + 1);
+    take(newExercise, [this] { click(facts_.newExercise); });
+    judgeWrong();
+    take(helping, [this] { showAllSteps(); });
+    judgeRight(seed + 2);
+    settle();
+}
+
+}  // namespace tavrune::bench

@@ -1,0 +1,198 @@
+// Measures everything that a student waits for, and prints one table. Wants a display of its own.
+//
+//     tavrune_speed START_PAGE BARE_WINDOW GENERATORS STRIPPED_BINARY
+//     tavrune_speed --idle PLACE_IN_THE_LIST
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <QApplication>
+#include <QTimer>
+
+#include "app/application.h"
+#include "app/pages.h"
+#include "measured_page.h"
+#include "speed_table.h"
+
+namespace tavrune::bench {
+namespace {
+
+constexpr int kStarts = 40;
+constexpr int kRounds = 40;
+constexpr double kStartBar = 1.25;
+constexpr double kOpeningBar = 16;
+constexpr double kActionBar = 8;
+constexpr double kGeneratorBar = 100'000;
+constexpr int kIdleSeconds = 10;
+
+std::string outputOf(const std::string& command) {
+    std::string output;
+    FILE* const pipe = popen(command.c_str(), "r");
+    std::array<char, 4096> buffer{};
+    while (pipe != nullptr && std::fgets(buffer.data(), buffer.size(), pipe) != nullptr) {
+        output += buffer.data();
+    }
+    if (pipe == nullptr || pclose(pipe) != 0) {
+        std::fprintf(stderr, "%s has failed\n", command.c_str());
+        std::exit(EXIT_FAILURE);
+    }
+    return output;
+}
+
+struct Start {
+    Samples milliseconds;
+    Samples megabytes;
+
+    void take(const std::string& program) {
+        const auto before = std::chrono::steady_clock::now().time_since_epoch();
+        std::istringstream told(outputOf("exec " + program));
+        double painted = 0;
+        double kilobytes = 0;
+        told >> painted >> kilobytes;
+        const double began = std::chrono::duration<double, std::micro>(before).count();
+        milliseconds.push_back((painted - began) / 1000);
+        megabytes.push_back(kilobytes / 1024);
+    }
+};
+
+void measureStart(SpeedTable& table, const std::string& ours, const std::string& bare) {
+    Start tavrune;
+    Start window;
+    // The first of each finds nothing in memory.
+    for (int i = -2; i < kStarts; ++i) {
+        if (i == 0) {
+            tavrune = {};
+            window = {};
+        }
+        tavrune.take(ours);
+        window.take(bare);
+    }
+    table.addRatio("Start to the painted start page, against a bare window", "ms", tavrune.milliseconds,
+                   window.milliseconds, kStartBar);
+    table.addRatio("Most memory up to then, against the same", "MB", tavrune.megabytes, window.megabytes,
+                   kStartBar);
+}
+
+void measurePages(SpeedTable& table) {
+    std::vector<std::unique_ptr<MeasuredPage>> pages;
+    for (const test::FormFacts& facts : test::builtForms()) {
+        pages.push_back(std::make_unique<MeasuredPage>(facts));
+    }
+    for (int round = 0; round < kRounds; ++round) {
+        for (const auto& page : pages) {
+            page->measure(static_cast<std::uint64_t>(round) * 1000 + 17);
+        }
+    }
+    const auto add = [&](const std::string& what, Samples MeasuredPage::*samples, double bar) {
+        for (const auto& page : pages) {
+            table.addTimes(std::string(textOf(page->facts().page)) + ": " + what, "ms", (*page).*samples,
+                           bar);
+        }
+    };
+    add("menu to the first exercise", &MeasuredPage::opening, kOpeningBar);
+    add("\"Ny opgave\"", &MeasuredPage::newExercise, kActionBar);
+    add("\"OK\" with its drawing", &MeasuredPage::judging, kActionBar);
+    add("help with all its steps", &MeasuredPage::helping, kActionBar);
+}
+
+void measureGenerators(SpeedTable& table, const std::string& generators) {
+    // Name, and of several figures in a row the exercises a second.
+    std::istringstream rows(outputOf(generators + " --benchmark_filter=Generator --benchmark_format=csv"
+                                                  " --benchmark_min_time=0.1 2>/dev/null"));
+    std::string row;
+    while (std::getline(rows, row)) {
+        if (row.rfind("\"Generator/", 0) != 0) {
+            continue;
+        }
+        std::vector<std::string> cells;
+        std::istringstream split(row);
+        for (std::string cell; std::getline(split, cell, ',');) {
+            cells.push_back(cell);
+        }
+        const std::string name = cells[0].substr(11, cells[0].size() - 12);
+        table.addRate(name + ": exercises with their solutions", "a second", std::atof(cells.at(6).c_str()),
+                      kGeneratorBar);
+    }
+}
+
+/// Voluntary waits of all threads so far: each is followed by a wake-up.
+long long waits() {
+    long long all = 0;
+    for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
+        std::ifstream status(task.path() / "status");
+        for (std::string word; status >> word;) {
+            if (word == "voluntary_ctxt_switches:") {
+                long long count = 0;
+                status >> count;
+                all += count;
+            }
+        }
+    }
+    return all;
+}
+
+/// Opens one form, leaves it alone, and tells how often it woke up. The caret does not blink here.
+int idle(int place) {
+    QApplication::setCursorFlashTime(0);
+    ClockDraws draws;
+    Program program(draws);
+    program.open(test::builtForms().at(static_cast<std::size_t>(place)).page);
+    long long before = 0;
+    QTimer::singleShot(2000, [&] { before = waits(); });
+    QTimer::singleShot(2000 + kIdleSeconds * 1000, [&] {
+        // The timer of this measurement is one.
+        std::printf("%lld\n", waits() - before - 1);
+        QCoreApplication::exit(0);
+    });
+    return QCoreApplication::exec();
+}
+
+void measureIdling(SpeedTable& table, const std::string& self) {
+    const std::vector<test::FormFacts> forms = test::builtForms();
+    std::string all = "for i in $(seq 0 " + std::to_string(forms.size() - 1) + "); do (echo $i $(" + self +
+                      " --idle $i)) & done; wait";
+    std::istringstream told(outputOf(all));
+    std::size_t place = 0;
+    double count = 0;
+    double most = 0;
+    std::size_t heard = 0;
+    while (told >> place >> count) {
+        most = std::max(most, count);
+        ++heard;
+    }
+    table.addFact("Forms left alone at once for " + std::to_string(kIdleSeconds) + " s", "",
+                  static_cast<double>(heard));
+    table.addCount("Wake-ups of any of them but the caret's", "", most, 0);
+}
+
+int measure(char** argv) {
+    SpeedTable table;
+    measureStart(table, argv[1], argv[2]);
+    measureIdling(table, argv[0]);
+    measurePages(table);
+    measureGenerators(table, argv[3]);
+    table.addFact("Stripped binary", "MB",
+                  static_cast<double>(std::filesystem::file_size(argv[4])) / (1024 * 1024));
+    std::fputs(table.text().c_str(), stdout);
+    return table.areAllMet() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+}  // namespace
+}  // namespace tavrune::bench
+
+int main(int argc, char** argv) {
+    const tavrune::Application application(argc, argv);
+    if (argc == 3 && std::strcmp(argv[1], "--idle") == 0) {
+        return tavrune::bench::idle(std::atoi(argv[2]));
+    }
+    if (argc != 5) {
+        std::fprintf(stderr, "%s START_PAGE BARE_WINDOW GENERATORS STRIPPED_BINARY\n", argv[0]);
+        return EXIT_FAILURE;
+    }
+    return tavrune::bench::measure(argv);
+}

@@ -1,0 +1,85 @@
+// Rough hands on every page. TAVRUNE_PROOF=full throws a million events at each; TAVRUNE_PROOF_EVENTS says
+// how many, TAVRUNE_PROOF_SEED which.
+
+#include <iostream>
+
+#include <gtest/gtest.h>
+
+#include "app/pages.h"
+#include "proof/counts.h"
+#include "proof/rough_hands.h"
+#include "proof/watchdog.h"
+
+namespace tavrune {
+namespace {
+
+// So few that what fails is soon repeated.
+constexpr long long kEventsASeed = 1'000;
+
+long long eventsAPage() {
+    const long long ordinary = test::kIsSanitized ? 10'000 : 1'000;
+    return test::numberFromEnvironment("TAVRUNE_PROOF_EVENTS", test::isFullProof() ? 1'000'000 : ordinary);
+}
+
+class EveryPage : public testing::TestWithParam<PageName> {
+protected:
+    /// Throws events of one seed; false if the page has not stood them.
+    bool throwEvents(std::uint64_t seed, long long count) {
+        SeededDraws draws(seed);
+        test::SeededChoices choices(seed);
+        const std::string where = std::string(textOf(GetParam())) + ", seed " + std::to_string(seed);
+        watchdog.begin(where + ", opening");
+        test::RoughHands hands(GetParam(), choices, draws);
+        std::string complaint = watchdog.end();
+        hands.onAct([this](const std::string& act) { watchdog.note(act); });
+        long long event = 0;
+        for (; event < count && complaint.empty(); ++event) {
+            watchdog.begin(where + ", event " + std::to_string(event));
+            const bool wasHeavy = hands.isHeavy();
+            hands.act();
+            complaint = watchdog.end(wasHeavy || hands.isHeavy());
+            if (complaint.empty()) {
+                complaint = hands.complaint();
+            }
+        }
+        openings += hands.openings();
+        knownFailures += hands.knownFailures();
+        EXPECT_TRUE(complaint.empty())
+            << where << ", event " << event - 1 << " (" << hands.lastAct() << "): " << complaint;
+        return complaint.empty();
+    }
+
+    test::Watchdog watchdog;
+    long long openings = 0;
+    long long knownFailures = 0;
+};
+
+std::string pageName(const testing::TestParamInfo<PageName>& page) {
+    std::string name;
+    for (const char letter : textOf(page.param)) {
+        // Letters of more than one byte are left out.
+        if (std::isalnum(static_cast<unsigned char>(letter)) != 0) {
+            name += letter;
+        }
+    }
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, EveryPage, testing::ValuesIn(builtPages()), pageName);
+
+TEST_P(EveryPage, StandsRoughHands) {
+    const auto first = static_cast<std::uint64_t>(test::numberFromEnvironment("TAVRUNE_PROOF_SEED", 1));
+    const long long all = eventsAPage();
+    std::uint64_t seed = first;
+    for (long long thrown = 0; thrown < all; thrown += kEventsASeed, ++seed) {
+        if (!throwEvents(seed, std::min(kEventsASeed, all - thrown))) {
+            return;
+        }
+    }
+    std::cout << textOf(GetParam()) << ": " << all << " events, " << openings << " openings, longest event "
+              << watchdog.longest().count() << " ms, known failures " << knownFailures << std::endl;
+    EXPECT_TRUE(knownFailures == 0 || GetParam() == PageName::Vaddi1 || openings > 1);
+}
+
+}  // namespace
+}  // namespace tavrune
