@@ -29,6 +29,8 @@ constexpr double kOpeningBar = 16;
 constexpr double kActionBar = 8;
 constexpr double kGeneratorBar = 100'000;
 constexpr int kIdleSeconds = 10;
+// Until all the windows stand that are opened at once.
+constexpr int kSettlingSeconds = 6;
 
 std::string outputOf(const std::string& command) {
     std::string output;
@@ -143,8 +145,8 @@ int idle(int place) {
     Program program(draws);
     program.open(test::builtForms().at(static_cast<std::size_t>(place)).page);
     long long before = 0;
-    QTimer::singleShot(2000, [&] { before = waits(); });
-    QTimer::singleShot(2000 + kIdleSeconds * 1000, [&] {
+    QTimer::singleShot(kSettlingSeconds * 1000, [&] { before = waits(); });
+    QTimer::singleShot((kSettlingSeconds + kIdleSeconds) * 1000, [&] {
         // The timer of this measurement is one.
         std::printf("%lld\n", waits() - before - 1);
         QCoreApplication::exit(0);
