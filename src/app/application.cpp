@@ -1,10 +1,13 @@
 #include "app/application.h"
 
+#include <QAccessible>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QPalette>
 #include <QStyleFactory>
 
+#include "controls/accessible_controls.h"
+#include "graph/accessible_graph.h"
 #include "numeric/text.h"
 
 namespace tavrune {
@@ -32,6 +35,8 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     }
     setWindowIcon(icon);
     setDesktopFileName("org.tavrune.Tavrune");
+    QAccessible::installFactory(accessibleControl);
+    QAccessible::installFactory(accessibleGraph);
     speakDanish();
     useDecimalMarkOf(QLocale());
 }

@@ -24,7 +24,7 @@ public:
     /// The function that a row spells.
     [[nodiscard]] Piece typedSegment(int row) const;
 
-    /// Every box back to one blank, and white.
+    /// Every box back to one blank, and white; those that are shown get names by the place of their row.
     void blank() const;
     void whiten() const;
     void write(int row, Slot slot, const TableCell& content) const;
@@ -35,8 +35,14 @@ public:
     void mark(const std::vector<AnswerField>& fields) const;
 
 private:
+    void nameBoxes() const;
+
     std::vector<Row> rows_;
 };
+
+/// A given function as a whole, for screen readers: on the page its numbers are laid into gaps of a text.
+/// "P = -3Q + 4 for Q ≥ 0, P ≥ 0"
+[[nodiscard]] QString wholeFunction(const Piece& function);
 
 /// Boxes of one column of a help table, from the top.
 using HelpColumn = std::vector<AnswerBox*>;

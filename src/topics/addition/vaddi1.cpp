@@ -80,6 +80,8 @@ void Vaddi1::showTask() {
     ui_->Label3->setCaption(NumberText(state_.intercept1));
     ui_->Label5->setCaption(NumberText(state_.slope2));
     ui_->Label6->setCaption(NumberText(state_.intercept2));
+    ui_->Label1->setAccessibleName(wholeFunction(state_.function1()));
+    ui_->Label4->setAccessibleName(wholeFunction(state_.function2()));
 }
 
 void Vaddi1::drawGraphs() {

@@ -1,0 +1,144 @@
+// What screen readers are told of every form: names that make sense alone, and graphs in words.
+
+#include <algorithm>
+#include <set>
+
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+#include "conformance/facts.h"
+#include "numeric/arithmetic.h"
+#include "support/blind_student.h"
+#include "support/form_driver.h"
+
+namespace tavrune {
+namespace {
+
+using test::BlindStudent;
+using test::FormDriver;
+using test::FormFacts;
+
+/// However much is drawn, nobody has to listen to more than this.
+constexpr std::size_t kLongestDescription = 3000;
+
+bool makesSense(const QString& name) {
+    static const QRegularExpression letters("^[A-Za-zÆØÅæøå][^&]+$");
+    static const QRegularExpression control(
+        "^(Text|Label|Command|Picture|Option|Frame|Line|Vis|Luk|Hjaelp)\\d*(_\\d+)?$");
+    return letters.match(name).hasMatch() && !control.match(name).hasMatch();
+}
+
+/// What is wrong with the names on a page as it stands.
+std::vector<std::string> flawsOfNames(const BlindStudent& student) {
+    std::vector<std::string> flaws;
+    std::set<QString> told;
+    for (const QAccessibleInterface* thing : student.things()) {
+        const bool isNamed = thing->state().focusable || thing->role() == QAccessible::Chart ||
+                             thing->role() == QAccessible::Notification;
+        if (!isNamed) {
+            continue;
+        }
+        const QString name = thing->text(QAccessible::Name);
+        if (!makesSense(name)) {
+            flaws.push_back("no sense: '" + name.toStdString() + "' on " +
+                            thing->object()->objectName().toStdString());
+        }
+        if (!told.insert(name).second) {
+            flaws.push_back("told twice: " + name.toStdString());
+        }
+    }
+    return flaws;
+}
+
+class EveryFormInWords : public testing::TestWithParam<FormFacts> {
+protected:
+    /// No message of a failure is left standing.
+    void TearDown() override { static_cast<void>(test::readFailure()); }
+
+    [[nodiscard]] FormDriver open(std::uint64_t seed) {
+        draws_ = std::make_unique<SeededDraws>(seed);
+        return {GetParam().page, *draws_};
+    }
+
+    static void expectWords(const BlindStudent& student) {
+        EXPECT_EQ(flawsOfNames(student), std::vector<std::string>{});
+        for (const QAccessibleInterface* graph : student.things(QAccessible::Chart)) {
+            const std::string words = test::descriptionOf(*graph);
+            EXPECT_EQ(words.rfind("Vandret akse fra ", 0), 0U) << words;
+            EXPECT_LT(words.size(), kLongestDescription) << words;
+        }
+    }
+
+    static void typeEverywhere(const BlindStudent& student, const std::string& text) {
+        for (const auto& [field, value] : student.fields()) {
+            student.type(field, text);
+        }
+    }
+
+    static void openAllSteps(const BlindStudent& student) {
+        student.press("Hjælp");
+        for (const QAccessibleInterface* button : student.things(QAccessible::Button)) {
+            const std::string name = test::nameOf(*button);
+            if (name.rfind("Vis ", 0) == 0 && button->state().disabled == 0) {
+                try {
+                    student.press(name);
+                } catch (const ArithmeticFailure&) {
+                    // Some worked solutions end so.
+                }
+            }
+        }
+    }
+
+private:
+    std::unique_ptr<SeededDraws> draws_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Forms, EveryFormInWords, testing::ValuesIn(test::builtForms()), test::asciiName);
+
+TEST_P(EveryFormInWords, HasNamesOfSenseInEveryState) {
+    const FormDriver form = open(7);
+    const BlindStudent student(form.page());
+    for (int exercise = 0; exercise < 8; ++exercise) {
+        expectWords(student);
+        for (const std::string& option : student.names(QAccessible::RadioButton)) {
+            student.choose(option);
+            expectWords(student);
+        }
+        typeEverywhere(student, "7654.25");
+        student.press("OK");
+        expectWords(student);
+        // One of the options may have been right.
+        if (student.hears(QAccessible::Button, "Giv svaret")) {
+            student.press("Giv svaret");
+        }
+        expectWords(student);
+        openAllSteps(student);
+        static_cast<void>(form.answerMessage());
+        expectWords(student);
+        student.press("Ny opgave");
+    }
+}
+
+TEST_P(EveryFormInWords, TellsOfItsGraphsInBoundedWordsWhateverIsTyped) {
+    const FormDriver form = open(8);
+    const BlindStudent student(form.page());
+    if (const auto options = student.names(QAccessible::RadioButton); !options.empty()) {
+        student.choose(options.front());
+    }
+    for (const char* hostile : {"1e308", "-1e308", "1e38", "1e-300", "3.3333333", "-.1"}) {
+        typeEverywhere(student, hostile);
+        student.press("OK");
+        expectWords(student);
+    }
+    for (int tried = 0; tried < 60; ++tried) {
+        typeEverywhere(student, std::to_string(tried) + ".0625");
+        if (student.hears(QAccessible::Button, "OK")) {
+            student.press("OK");
+        }
+    }
+    expectWords(student);
+}
+
+}  // namespace
+}  // namespace tavrune

@@ -1,0 +1,133 @@
+// A student who knows of a page only what a screen reader is told solves every form.
+
+#include "support/blind_student.h"
+
+#include <optional>
+
+#include <gtest/gtest.h>
+
+#include "conformance/facts.h"
+#include "support/form_driver.h"
+
+namespace tavrune {
+namespace {
+
+using test::BlindStudent;
+using test::FormDriver;
+using test::FormFacts;
+
+constexpr int kExercises = 6;
+
+/// What stands on the page when the answer has been given.
+struct Answer {
+    /// The option that is told to be right, if there is one.
+    std::string option;
+    std::map<std::string, std::string> fields;
+};
+
+std::string joined(const std::vector<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names) {
+        text += (text.empty() ? ": " : ", ") + name;
+    }
+    return text;
+}
+
+std::vector<std::string> keysOf(const std::map<std::string, std::string>& fields) {
+    std::vector<std::string> keys;
+    for (const auto& [name, value] : fields) {
+        keys.push_back(name);
+    }
+    return keys;
+}
+
+/// Answers what cannot be right, and hears so.
+void tryInVain(BlindStudent& student) {
+    if (const auto options = student.names(QAccessible::RadioButton); !options.empty()) {
+        student.choose(options.front());
+    }
+    int typed = 987654;
+    for (const auto& [field, value] : student.fields()) {
+        student.type(field, std::to_string(typed) + ".25");
+        typed += 1013;
+    }
+    static_cast<void>(student.heard());
+    student.press("OK");
+    const std::string verdict = "FORKERT" + joined(student.wrongFields());
+    EXPECT_EQ(student.heard(), std::vector{verdict});
+    EXPECT_EQ(student.verdict(), verdict);
+}
+
+Answer answerOf(const BlindStudent& student) {
+    student.press("Giv svaret");
+    EXPECT_EQ(student.verdict(), "");
+    Answer answer;
+    for (const QAccessibleInterface* option : student.things(QAccessible::RadioButton)) {
+        if (test::descriptionOf(*option) == "rigtigt svar") {
+            answer.option = test::nameOf(*option);
+        }
+    }
+    answer.fields = student.fields();
+    return answer;
+}
+
+/// The option that is right, or else the one that asks for just what the answer tells.
+void chooseOption(const BlindStudent& student, const Answer& answer) {
+    for (const std::string& option : student.names(QAccessible::RadioButton)) {
+        if (!answer.option.empty() && option != answer.option) {
+            continue;
+        }
+        student.choose(option);
+        if (keysOf(student.fields()) == keysOf(answer.fields)) {
+            return;
+        }
+    }
+}
+
+/// True if the page finds the answer right.
+bool repeat(BlindStudent& student, const Answer& answer) {
+    chooseOption(student, answer);
+    // Fields of the vain try may still stand beside the answer.
+    for (const auto& [field, value] : student.fields()) {
+        if (const auto told = answer.fields.find(field); told != answer.fields.end()) {
+            student.type(field, told->second);
+        }
+    }
+    static_cast<void>(student.heard());
+    student.press("OK");
+    const std::string verdict = student.verdict();
+    EXPECT_EQ(student.heard(), std::vector{verdict});
+    return verdict == "RIGTIGT";
+}
+
+class BlindStudentOn : public testing::TestWithParam<FormFacts> {};
+
+INSTANTIATE_TEST_SUITE_P(Forms, BlindStudentOn, testing::ValuesIn(test::builtForms()), test::asciiName);
+
+TEST_P(BlindStudentOn, SolvesItByWhatIsTold) {
+    int solved = 0;
+    int tried = 0;
+    for (const std::uint64_t seed : {31U, 32U, 33U}) {
+        SCOPED_TRACE(seed);
+        // One asks for the answers, the other gives them in the same exercises.
+        SeededDraws draws(seed);
+        SeededDraws sameDraws(seed);
+        const FormDriver form(GetParam().page, draws);
+        const FormDriver sameForm(GetParam().page, sameDraws);
+        BlindStudent asking(form.page());
+        BlindStudent answering(sameForm.page());
+        for (int exercise = 0; exercise < kExercises; ++exercise) {
+            tryInVain(asking);
+            solved += repeat(answering, answerOf(asking)) ? 1 : 0;
+            ++tried;
+            asking.press("Ny opgave");
+            answering.press("Ny opgave");
+        }
+    }
+    RecordProperty("solved", solved);
+    // Some answers are shown rounded in a way that is not judged right.
+    EXPECT_GT(solved * 10, tried * 7) << solved << " of " << tried;
+}
+
+}  // namespace
+}  // namespace tavrune
