@@ -21,6 +21,8 @@ constexpr double kDotGap = 0.015;
 
 constexpr std::size_t kFewestDots = 8;
 constexpr std::size_t kFewestInABlock = 3;
+/// Thick lines are made of no more.
+constexpr std::size_t kMostInAThickLine = 20;
 /// Up to here a chain is told corner by corner.
 constexpr std::size_t kMostCorners = 6;
 constexpr std::size_t kMostTurns = 4;
@@ -58,6 +60,8 @@ const char* nameOf(const QColor& colour) {
         ->name;
 }
 
+double tenths(double x) { return std::round(x * 10) / 10; }
+
 std::string number(double x) { return NumberText(std::round(x * 100) / 100); }
 
 std::string join(const std::vector<std::string>& texts, const std::string& last) {
@@ -88,6 +92,13 @@ public:
             return std::nullopt;
         }
         return QLineF(upright(part->p1()), upright(part->p2()));
+    }
+
+    /// A stroke seen or not; nothing for one that is nowhere.
+    [[nodiscard]] std::optional<QLineF> whole(const Stroke& stroke) const {
+        const QLineF line(upright({stroke.x1, stroke.y1}), upright({stroke.x2, stroke.y2}));
+        return std::isfinite(line.x1() + line.y1() + line.x2() + line.y2()) ? std::optional(line)
+                                                                            : std::nullopt;
     }
 
     [[nodiscard]] double lowest() const { return runsDown() ? 0 : bounds_.top(); }
@@ -132,8 +143,8 @@ bool areJoined(const Stroke& one, const Stroke& next) {
 /// Points that follow one another along a curve, each just right of the last.
 bool areDotted(const Stroke& one, const Stroke& next) {
     const View view(one.scale);
-    return haveOnePen(one, next) && next.x1 > one.x1 &&
-           next.x1 - one.x1 <= static_cast<float>(kDotGap * view.bounds().width());
+    return haveOnePen(one, next) && next.x1 > one.x1 && view.partOfWidth(next.x1 - one.x1) <= kDotGap &&
+           view.partOfHeight(next.y1 - one.y1) <= kDotGap;
 }
 
 /// Lines side by side, so close that they make an area or a thick line.
@@ -314,8 +325,13 @@ private:
                (isLevel && std::abs(seen->dx()) == view.bounds().width());
     }
 
+    /// Of itself: what is seen of a long line may be short.
+    [[nodiscard]] static bool isShort(const View& view, const Stroke& stroke) {
+        return view.isSmall(boxOf(QLineF(stroke.x1, stroke.y1, stroke.x2, stroke.y2)));
+    }
+
     void tellLine(const View& view, const QLineF& seen, const Stroke& pen) {
-        if (view.isSmall(boxOf(seen))) {
+        if (isShort(view, pen)) {
             say("Mærke i " + pointText(seen.center()), pen);
             return;
         }
@@ -331,7 +347,8 @@ private:
         }
         const auto one = view.seen(strokes_[first]);
         const auto other = view.seen(strokes_[first + 1]);
-        if (!one || !other || !view.isSmall(boxOf(*one)) || !view.isSmall(boxOf(*other))) {
+        if (!one || !other || !isShort(view, strokes_[first]) || !isShort(view, strokes_[first + 1]) ||
+            strokes_[first] == strokes_[first + 1]) {
             return false;
         }
         // Coordinates are singles: what is meant for one place may be off by their last digits.
@@ -348,32 +365,44 @@ private:
     }
 
     void tellBlock(const View& view, std::size_t first, std::size_t end) {
-        std::optional<QRectF> box;
-        for (std::size_t i = first; i < end; ++i) {
-            if (const auto seen = view.seen(strokes_[i])) {
-                box = box ? joined(*box, boxOf(*seen)) : boxOf(*seen);
-            }
-        }
-        if (!box) {
+        const Stroke& pen = strokes_[first];
+        const QRectF whole = boxAround(first, end, [&view](const Stroke& s) { return view.whole(s); });
+        const QRectF box = boxAround(first, end, [&view](const Stroke& s) { return view.seen(s); });
+        if (box.isNull()) {
             return;
         }
-        const Stroke& pen = strokes_[first];
-        const QPointF middle = box->center();
-        if (view.isSmall(*box)) {
-            say("Mærke i " + pointText(middle), pen);
-        } else if (view.partOfHeight(box->height()) <= kThickness) {
-            say("Tyk linie fra " + pointText({box->left(), middle.y()}) + " til " +
-                    pointText({box->right(), middle.y()}),
+        // Where the middle of what is thick lies is not to be seen to the last digit.
+        const QPointF middle = QPointF(tenths(whole.center().x()), tenths(whole.center().y()));
+        const bool isThick = end - first <= kMostInAThickLine;
+        if (isThick && view.isSmall(whole)) {
+            say("Mærke ved " + pointText(middle), pen);
+        } else if (isThick && view.partOfHeight(whole.height()) <= kThickness) {
+            say("Tyk linie fra " + pointText({box.left(), middle.y()}) + " til " +
+                    pointText({box.right(), middle.y()}),
                 pen);
-        } else if (view.partOfWidth(box->width()) <= kThickness) {
-            say("Tyk linie fra " + pointText({middle.x(), box->top()}) + " til " +
-                    pointText({middle.x(), box->bottom()}),
+        } else if (isThick && view.partOfWidth(whole.width()) <= kThickness) {
+            say("Tyk linie fra " + pointText({middle.x(), box.top()}) + " til " +
+                    pointText({middle.x(), box.bottom()}),
                 pen);
         } else {
-            say("Skraveret område fra x = " + number(box->left()) + " til x = " + number(box->right()) +
-                    ", mellem y = " + number(box->top()) + " og y = " + number(box->bottom()),
+            // Each line of a hatching stands for the strip on its right.
+            const double strip = std::max(0.0F, strokes_[first + 1].x1 - pen.x1);
+            say("Skraveret område fra x = " + number(box.left()) + " til x = " + number(box.right() + strip) +
+                    ", mellem y = " + number(box.top()) + " og y = " + number(box.bottom()),
                 pen);
         }
+    }
+
+    /// Null if no stroke has a part in it.
+    template <class Part>
+    [[nodiscard]] QRectF boxAround(std::size_t first, std::size_t end, Part partOf) const {
+        std::optional<QRectF> box;
+        for (std::size_t i = first; i < end; ++i) {
+            if (const std::optional<QLineF> part = partOf(strokes_[i])) {
+                box = box ? joined(*box, boxOf(*part)) : boxOf(*part);
+            }
+        }
+        return box.value_or(QRectF());
     }
 
     void tellChain(const View& view, std::size_t first, std::size_t end) {
@@ -384,7 +413,7 @@ private:
         const Stroke& pen = strokes_[first];
         if (end - first < kMostCorners) {
             for (const Points& run : runs) {
-                tellCorners(view, run, pen);
+                tellCorners(run, pen);
             }
             return;
         }
@@ -396,7 +425,7 @@ private:
             pen);
     }
 
-    void tellCorners(const View& view, const Points& run, const Stroke& pen) {
+    void tellCorners(const Points& run, const Stroke& pen) {
         std::vector<std::string> corners;
         for (const QPointF& corner : run) {
             if (const std::string text = pointText(corner); corners.empty() || corners.back() != text) {
@@ -406,7 +435,7 @@ private:
         if (corners.size() > 2) {
             say("Knækket linie gennem " + join(corners, " og "), pen);
         } else {
-            tellLine(view, {run.front(), run.back()}, pen);
+            say("Linie fra " + corners.front() + " til " + corners.back(), pen);
         }
     }
 

@@ -71,9 +71,11 @@ protected:
     }
 
     static void typeEverywhere(const BlindStudent& student, const std::string& text) {
-        for (const auto& [field, value] : student.fields()) {
-            student.type(field, text);
+        std::map<std::string, std::string> fields = student.fields();
+        for (auto& [field, value] : fields) {
+            value = text;
         }
+        student.type(fields);
     }
 
     static void openAllSteps(const BlindStudent& student) {
@@ -138,6 +140,80 @@ TEST_P(EveryFormInWords, TellsOfItsGraphsInBoundedWordsWhateverIsTyped) {
         }
     }
     expectWords(student);
+}
+
+/// Boxes that mean another thing in another exercise.
+TEST(NamesInWords, FollowTheNumberOfRoots) {
+    for (const PageName page : {PageName::Roedder, PageName::Rogt}) {
+        SeededDraws draws(3);
+        const FormDriver form(page, draws);
+        const BlindStudent student(form.page());
+        student.choose("To rødder");
+        EXPECT_TRUE(student.hears(QAccessible::EditableText, "rod 1"));
+        EXPECT_TRUE(student.hears(QAccessible::EditableText, "rod 2"));
+        student.choose("Dobbelt rod");
+        EXPECT_TRUE(student.hears(QAccessible::EditableText, "dobbelt rod"));
+        EXPECT_FALSE(student.hears(QAccessible::EditableText, "rod 2"));
+    }
+}
+
+TEST(NamesInWords, FollowTheCoordinateThatIsAskedFor) {
+    SeededDraws draws(3);
+    const FormDriver form(PageName::Lininter, draws);
+    const BlindStudent student(form.page());
+    std::set<std::string> names;
+    for (int exercise = 0; exercise < 20; ++exercise) {
+        const std::string letter = form.caption("Label16");
+        EXPECT_TRUE(student.hears(QAccessible::EditableText, "det nye punkts " + letter + "-koordinat"));
+        names.insert(letter);
+        student.press("Ny opgave");
+    }
+    EXPECT_EQ(names, (std::set<std::string>{"P", "Q"}));
+}
+
+/// Tasks that are laid out in pieces are told as a whole.
+TEST(NamesInWords, TellAnIntegralAsAWhole) {
+    SeededDraws draws(3);
+    const FormDriver form(PageName::Integ, draws);
+    EXPECT_TRUE(BlindStudent(form.page())
+                    .hears(QAccessible::StaticText, "integralet fra " + form.caption("Label12") + " til " +
+                                                        form.caption("Label11") + " af p dQ ="));
+}
+
+TEST(NamesInWords, TellAFunctionInTwoPiecesAsAWhole) {
+    SeededDraws draws(3);
+    const FormDriver form(PageName::Integ2, draws);
+    const BlindStudent student(form.page());
+    const auto text = [&form](const char* label) { return form.caption(label); };
+    EXPECT_TRUE(student.hears(QAccessible::StaticText, "P1 = " + text("Label2") + "Q + " + text("Label5") +
+                                                           " for 0 < Q < " + text("Label18")));
+    EXPECT_TRUE(student.hears(QAccessible::StaticText, "P2 = " + text("Label7") + "Q + " + text("Label10") +
+                                                           " for " + text("Label20") + " < Q < 10"));
+    EXPECT_TRUE(student.hears(QAccessible::StaticText,
+                              "integralet fra " + text("Label13") + " til " + text("Label12") + " af P1 dQ"));
+    EXPECT_TRUE(student.hears(QAccessible::StaticText, "plus integralet fra " + text("Label29") + " til " +
+                                                           text("Label28") + " af P2 dQ ="));
+}
+
+TEST(NamesInWords, TellTheGivenFunctionsOfAnAdditionAsAWhole) {
+    for (const PageName page : {PageName::Vaddi1, PageName::Vaddi2}) {
+        SeededDraws draws(3);
+        const FormDriver form(page, draws);
+        const std::string intercept = form.caption("Label3");
+        EXPECT_TRUE(BlindStudent(form.page())
+                        .hears(QAccessible::StaticText,
+                               "P = " + form.caption("Label2") + "Q + " + intercept + " for Q ≥ 0, P ≥ 0"));
+    }
+}
+
+TEST(NamesInWords, KeepAWorkedSolutionFromAllUntilItIsUncovered) {
+    SeededDraws draws(3);
+    const FormDriver form(PageName::Roedder, draws);
+    const BlindStudent student(form.page());
+    student.press("Hjælp");
+    EXPECT_FALSE(student.hears(QAccessible::StaticText, form.caption("Label45")));
+    student.press("Vis diskriminanten");
+    EXPECT_TRUE(student.hears(QAccessible::StaticText, form.caption("Label45")));
 }
 
 }  // namespace

@@ -126,9 +126,25 @@ TEST_F(Told, TellsAShortLineByItsMiddle) {
     EXPECT_EQ(told(), "Mærke i (3; 0), rød.");
 }
 
+TEST_F(Told, TellsTheEndsOfALongLineOfWhichLittleIsSeen) {
+    box.Line(-10, 9.5, 10, 29.5, kRed);
+    EXPECT_EQ(told(), "Linie fra (-10; 9.5) til (-9.5; 10), rød.");
+}
+
+TEST_F(Told, TakesAMarkDrawnTwiceForOne) {
+    box.Line(3, -0.5, 3, 0.5, kRed);
+    box.Line(3, -0.5, 3, 0.5, kRed);
+    EXPECT_EQ(told(), "Mærke i (3; 0), rød.");
+}
+
 TEST_F(Told, TakesShortLinesSideBySideForAMark) {
     repeat(7, 0.05, [this](double t) { box.Line(2.85, 3.85 + t, 3.15, 3.85 + t, kRed); });
-    EXPECT_EQ(told(), "Mærke i (3; 4), rød.");
+    EXPECT_EQ(told(), "Mærke ved (3; 4), rød.");
+}
+
+TEST_F(Told, TellsTheMiddleOfAMarkOfWhichHalfIsSeen) {
+    repeat(7, 0.05, [this](double t) { box.Line(9.85, 3.85 + t, 10.15, 3.85 + t, kRed); });
+    EXPECT_EQ(told(), "Mærke ved (10; 4), rød.");
 }
 
 TEST_F(Told, TakesLongLinesSideBySideForAThickOne) {
@@ -141,7 +157,12 @@ TEST_F(Told, TakesLongLinesSideBySideForAThickOne) {
 
 TEST_F(Told, TakesManyLinesSideBySideForAHatching) {
     repeat(400, 0.01, [this](double t) { box.Line(1 + t, 0, 1 + t, 2 + t, kBlue); });
-    EXPECT_EQ(told(), "Skraveret område fra x = 1 til x = 4.99, mellem y = 0 og y = 5.99, blå.");
+    EXPECT_EQ(told(), "Skraveret område fra x = 1 til x = 5, mellem y = 0 og y = 5.99, blå.");
+}
+
+TEST_F(Told, TellsAFlatHatchingAsAHatching) {
+    repeat(100, 0.01, [this](double t) { box.Line(2 + t, 0, 2 + t, -0.5, kBlue); });
+    EXPECT_EQ(told(), "Skraveret område fra x = 2 til x = 3, mellem y = -0.5 og y = 0, blå.");
 }
 
 TEST_F(Told, JoinsTheTwoHalvesOfALineWithItsCorners) {
@@ -179,6 +200,14 @@ TEST_F(Told, TellsHowACurveLeavesTheGraphAndComesBack) {
 TEST_F(Told, TellsADottedCurve) {
     repeat(300, 0.01, [this](double t) { box.PSet(1 + t, 2 + t); });
     EXPECT_EQ(told(), "Prikket kurve fra (1; 2) til (3.99; 4.99), sort.");
+}
+
+TEST_F(Told, TellsTwoDottedCurvesWhereOneJumps) {
+    repeat(100, 0.01, [this](double t) { box.PSet(1 + t, 2 + t); });
+    repeat(100, 0.01, [this](double t) { box.PSet(2 + t, 8 - t); });
+    EXPECT_EQ(told(),
+              "Prikket kurve fra (1; 2) til (1.99; 2.99), sort. "
+              "Prikket kurve fra (2; 8) til (2.99; 7.01), sort.");
 }
 
 TEST_F(Told, LeavesTheMiddleOutOfVeryMany) {

@@ -80,10 +80,13 @@ void BlindStudent::press(const std::string& button) const { act(QAccessible::But
 
 void BlindStudent::choose(const std::string& option) const { act(QAccessible::RadioButton, option); }
 
-void BlindStudent::type(const std::string& field, const std::string& text) const {
-    QAccessibleInterface& box = find(QAccessible::EditableText, field);
-    box.editableTextInterface()->replaceText(0, box.textInterface()->characterCount(),
-                                             QString::fromStdString(text));
+void BlindStudent::type(const std::map<std::string, std::string>& texts) const {
+    for (QAccessibleInterface* box : things(QAccessible::EditableText)) {
+        if (const auto text = texts.find(nameOf(*box)); text != texts.end()) {
+            box->editableTextInterface()->replaceText(0, box->textInterface()->characterCount(),
+                                                      QString::fromStdString(text->second));
+        }
+    }
 }
 
 std::map<std::string, std::string> BlindStudent::fields() const {

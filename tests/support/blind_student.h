@@ -29,7 +29,8 @@ public:
     void press(const std::string& button) const;
     /// Chooses an option in the same way.
     void choose(const std::string& option) const;
-    void type(const std::string& field, const std::string& text) const;
+    /// Replaces what stands in the fields, by their names.
+    void type(const std::map<std::string, std::string>& texts) const;
 
     /// What stands in the fields, by their names.
     [[nodiscard]] std::map<std::string, std::string> fields() const;
