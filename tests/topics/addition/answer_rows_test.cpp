@@ -98,7 +98,7 @@ TEST_F(TwoRows, LeaveAValueAtTheLowerEndWrongAndWhite) {
     EXPECT_EQ(slope1.backColour(), kWhite);
 }
 
-TEST_F(TwoRows, NameTheirBoxesByThePlaceOfTheirRow) {
+TEST_F(TwoRows, NameTheirBoxesByTheOrderOfTheRows) {
     QWidget page;
     for (AnswerBox* box : boxes) {
         box->setParent(&page);
