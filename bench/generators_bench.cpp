@@ -3,8 +3,10 @@
 #include "numeric/arithmetic.h"
 #include "numeric/draws.h"
 #include "topics/addition/laddi1_exercise.h"
+#include "topics/addition/laddi2_exercise.h"
 #include "topics/addition/vaddi1_exercise.h"
 #include "topics/addition/vaddi2_exercise.h"
+#include "topics/addition/vaddi3_exercise.h"
 #include "topics/basics/brok_exercise.h"
 #include "topics/basics/dlinie_exercise.h"
 #include "topics/basics/konvert_exercise.h"
@@ -49,6 +51,7 @@ BENCHMARK(Generator<DlinieState>)->Name("Generator/Dlinie");
 BENCHMARK(Generator<IntegState>)->Name("Generator/Integ");
 BENCHMARK(Generator<KonvertState>)->Name("Generator/Konvert");
 BENCHMARK(Generator<Laddi1State>)->Name("Generator/Laddi1");
+BENCHMARK(Generator<Laddi2State>)->Name("Generator/Laddi2");
 BENCHMARK(Generator<LininterState>)->Name("Generator/Lininter");
 BENCHMARK(Generator<TomtoState>)->Name("Generator/tomto");
 BENCHMARK(Generator<Integ2State>)->Name("Generator/Integ2");
@@ -59,6 +62,7 @@ BENCHMARK(Generator<RogtState>)->Name("Generator/Rogt");
 BENCHMARK(Generator<ToppState>)->Name("Generator/Topp");
 BENCHMARK(Generator<Vaddi1State>)->Name("Generator/Vaddi1");
 BENCHMARK(Generator<Vaddi2State>)->Name("Generator/Vaddi2");
+BENCHMARK(Generator<Vaddi3State>)->Name("Generator/Vaddi3");
 
 }  // namespace
 }  // namespace tavrune

@@ -40,6 +40,9 @@ need_tests() { need libgtest-dev libgmock-dev librapidcheck-dev; }
 need_style() { need clang clang-format clang-tidy; }
 need_tour() { need xvfb openbox xdotool imagemagick x11-utils; }
 need_bench() { need libbenchmark-dev; }
+need_package() {
+    need dpkg-dev file lintian appstream desktop-file-utils man-db groff-base xvfb xdotool qt6-translations-l10n
+}
 
 # Configures once and builds what has changed.
 build() {

@@ -4,9 +4,9 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QPalette>
-#include <QStyleFactory>
 
 #include "controls/accessible_controls.h"
+#include "controls/design_style.h"
 #include "graph/accessible_graph.h"
 #include "numeric/text.h"
 
@@ -26,8 +26,7 @@ QPalette lightPalette() {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName("Tavrune");
-    // The one style that takes the colours of state from the palette on every desktop.
-    setStyle(QStyleFactory::create("Fusion"));
+    setStyle(new DesignStyle);
     setPalette(lightPalette());
     QIcon icon;
     for (const char* size : {"16", "32", "48", "128"}) {

@@ -7,31 +7,34 @@
 #include <QTranslator>
 
 #include "numeric/arithmetic.h"
+#include "shell/exercise_form.h"
 
 namespace tavrune {
 
 /// The application object: the looks that all pages stand on, the decimal mark of the user's locale, and the
 /// one place where a failure of the arithmetic ends up.
-class Application : public QApplication {
+class Application : public QApplication, public FailureHandler {
     Q_OBJECT
 
 public:
     Application(int& argc, char** argv);
 
-    /// Passes an event on. An ArithmeticFailure that comes back is told to the user; after the message the
-    /// program ends with exit status 1.
+    /// Tells the user of the failure; after the message the program ends with exit status 1. A failure beside
+    /// a message that still stands adds nothing to it.
+    void endAfter(ArithmeticFailure::Kind kind) override;
+
+    /// Passes an event on. An ArithmeticFailure that comes back ends the program too.
     bool notify(QObject* receiver, QEvent* event) override;
 
     /// Numbers are shown with the mark of this locale from now on.
     static void useDecimalMarkOf(const QLocale& locale);
 
 private:
-    void endAfter(ArithmeticFailure::Kind kind);
     void speakDanish();
 
     QTranslator danish_;
 
-    /// What tells of the failure, as long as it stands: a second failure adds nothing to it.
+    /// What tells of a failure, as long as it stands.
     QPointer<QMessageBox> message_;
 };
 

@@ -9,8 +9,10 @@
 #include "shell/how_to_use.h"
 #include "shell/opstart.h"
 #include "topics/addition/laddi1.h"
+#include "topics/addition/laddi2.h"
 #include "topics/addition/vaddi1.h"
 #include "topics/addition/vaddi2.h"
+#include "topics/addition/vaddi3.h"
 #include "topics/basics/brok.h"
 #include "topics/basics/dlinie.h"
 #include "topics/basics/konvert.h"
@@ -63,8 +65,10 @@ constexpr std::array kPages{
     Entry{PageName::Afsaet, form<Afsaet>},
     Entry{PageName::Gtm, form<Gtm>},
     Entry{PageName::Laddi1, form<Laddi1>},
+    Entry{PageName::Laddi2, form<Laddi2>},
     Entry{PageName::Vaddi1, form<Vaddi1>},
     Entry{PageName::Vaddi2, form<Vaddi2>},
+    Entry{PageName::Vaddi3, form<Vaddi3>},
     Entry{PageName::Topp, form<Topp>},
     Entry{PageName::Roedder, form<Roedder>},
     Entry{PageName::Rogt, form<Rogt>},

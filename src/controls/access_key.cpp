@@ -1,5 +1,7 @@
 #include "controls/access_key.h"
 
+#include <algorithm>
+
 #include <QShortcutEvent>
 
 namespace tavrune {
@@ -9,12 +11,22 @@ bool clickedByAccessKey(QAbstractButton& button, QEvent* event) {
         return false;
     }
     const auto* const key = static_cast<QShortcutEvent*>(event);
-    if (key->isAmbiguous() || key->key() != button.shortcut()) {
+    if (key->key() != button.shortcut()) {
         return false;
     }
     button.setFocus(Qt::ShortcutFocusReason);
     button.click();
     return true;
+}
+
+bool clickedInsteadOfMenu(const QWidget& window, QEvent* event) {
+    if (event->type() != QEvent::Shortcut || !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
+        return false;
+    }
+    const QList<QAbstractButton*> buttons = window.findChildren<QAbstractButton*>();
+    return std::any_of(buttons.begin(), buttons.end(), [event](QAbstractButton* button) {
+        return button->isVisible() && button->isEnabled() && clickedByAccessKey(*button, event);
+    });
 }
 
 }  // namespace tavrune

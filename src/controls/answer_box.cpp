@@ -14,6 +14,13 @@ namespace {
 
 QString withPoints(QString typed) { return typed.replace(',', '.'); }
 
+/// Alt and a character: a way to a button, and no text, where the button is hidden too.
+bool isAccessKey(const QKeyEvent& event) {
+    constexpr Qt::KeyboardModifiers kNoMatter = Qt::ShiftModifier | Qt::KeypadModifier;
+    return (event.modifiers() & ~kNoMatter) == Qt::AltModifier && !event.text().isEmpty() &&
+           event.text().front().isPrint();
+}
+
 }  // namespace
 
 AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent), Control(this) {
@@ -40,6 +47,10 @@ void AnswerBox::keyPressEvent(QKeyEvent* event) {
         if (!event->isAutoRepeat()) {
             emit enterPressed();
         }
+        return;
+    }
+    if (isAccessKey(*event)) {
+        event->ignore();
         return;
     }
     if (event->text().contains(',')) {

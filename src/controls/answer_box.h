@@ -10,7 +10,8 @@
 namespace tavrune {
 
 /// A field for a typed number. Takes any text of any length. A typed comma becomes a point before it lands,
-/// whichever way it is typed; pasted text is left alone. Enter is swallowed and told to the form.
+/// whichever way it is typed; pasted text is left alone. Enter is swallowed and told to the form. Access keys
+/// write nothing.
 class AnswerBox : public QLineEdit, public Control {
     Q_OBJECT
 

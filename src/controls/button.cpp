@@ -1,6 +1,7 @@
 #include "controls/button.h"
 
 #include <QKeyEvent>
+#include <QStyleOptionButton>
 
 #include "controls/access_key.h"
 
@@ -22,6 +23,11 @@ void Button::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QPushButton::keyPressEvent(event);
+}
+
+void Button::initStyleOption(QStyleOptionButton* option) const {
+    QPushButton::initStyleOption(option);
+    showFocusAlways(*option);
 }
 
 }  // namespace tavrune

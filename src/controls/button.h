@@ -20,6 +20,7 @@ public:
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void initStyleOption(QStyleOptionButton* option) const override;
 };
 
 }  // namespace tavrune

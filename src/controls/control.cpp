@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QPalette>
+#include <QtMath>
 
 namespace tavrune {
 namespace {
@@ -11,12 +12,23 @@ QFont sized(QFont font, double units) {
     return font;
 }
 
+/// Sizes are whole pixels, and most zooms fall between them: the next smaller one is taken, and the spacing
+/// makes up for the rest. So texts have just the room that they have in the design.
+QFont zoomed(const QFont& design, double zoom) {
+    QFont font = design;
+    font.setPixelSize(qMax(1, qFloor(design.pixelSize() * zoom)));
+    font.setLetterSpacing(QFont::PercentageSpacing, 100 * zoom * design.pixelSize() / font.pixelSize());
+    return font;
+}
+
 }  // namespace
 
 QFont designFont() {
     QFont font;
     font.setFamilies({"Arial", "Liberation Sans", "Arimo", "Helvetica"});
     font.setPixelSize(qRound(kDesignTextSize));
+    // Widths that are not rounded to whole pixels, whatever the desktop has set: texts grow with their size.
+    font.setHintingPreference(QFont::PreferVerticalHinting);
     return font;
 }
 
@@ -104,9 +116,12 @@ void Control::applyPlace() {
 }
 
 void Control::applyFont() {
-    self_->setFont(sized(unzoomedFont(), textSize_ * zoom_));
+    const QFont design = unzoomedFont();
+    self_->setFont(zoom_ == 1 ? design : zoomed(design, zoom_));
     fontHasChanged();
 }
+
+void showFocusAlways(QStyleOption& option) { option.state |= QStyle::State_KeyboardFocusChange; }
 
 void focusOn(QWidget* widget) {
     if (widget->isVisible() && widget->isEnabled()) {

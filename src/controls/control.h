@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QRectF>
+#include <QStyleOption>
 #include <QWidget>
 
 namespace tavrune {
@@ -53,7 +54,7 @@ public:
     /// The control's own flag: true also where the panel around it is hidden.
     [[nodiscard]] bool isShown() const { return !self_->isHidden(); }
 
-    /// Height of the text in units, 11 until set. The screen shows it in whole pixels.
+    /// Height of the text in units, 11 until set. The screen shows whole units, times the zoom.
     void setTextSize(double units);
     [[nodiscard]] double textSize() const { return textSize_; }
     void setBold(bool bold);
@@ -87,6 +88,9 @@ private:
     double textSize_ = kDesignTextSize;
     double zoom_ = 1;
 };
+
+/// Has the focus drawn whichever way it came; styles leave it out until a key has moved it.
+void showFocusAlways(QStyleOption& option);
 
 /// Gives the focus to a control that can have it; does nothing for one that is hidden or disabled. What a box
 /// holds stays as it is, with the cursor where it was.

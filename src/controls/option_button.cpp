@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QStyleOptionButton>
 
 #include "controls/access_key.h"
 
@@ -64,6 +65,11 @@ void OptionButton::keyPressEvent(QKeyEvent* event) {
         default:
             QRadioButton::keyPressEvent(event);
     }
+}
+
+void OptionButton::initStyleOption(QStyleOptionButton* option) const {
+    QRadioButton::initStyleOption(option);
+    showFocusAlways(*option);
 }
 
 void OptionButton::chooseNeighbour(int step) {

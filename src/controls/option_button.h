@@ -29,6 +29,7 @@ public:
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void initStyleOption(QStyleOptionButton* option) const override;
 
 private:
     /// By the arrow keys: the option before or after this one, round the group, with all that a click runs.

@@ -6,8 +6,8 @@
 
 namespace tavrune {
 
-/// A failure of the arithmetic that ends the program: nothing catches it but the application object, which
-/// tells the user and leaves with exit status 1.
+/// A failure of the arithmetic that ends the program: nothing catches it but to hand it to the application
+/// object, which tells the user and leaves with exit status 1.
 class ArithmeticFailure : public std::exception {
 public:
     enum class Kind { DivisionByZero, Overflow, TypeMismatch };

@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include <QAccessible>
+#include <QCoreApplication>
 #include <QTimer>
 
 namespace tavrune {
@@ -19,6 +20,19 @@ void styleVerdict(Label* label) {
     label->setTextColour(kWhite);
     label->setVerdict(true);
     label->hide();
+}
+
+/// Runs an action of a form. A failure ends it; it is thrown on only where no application object takes it.
+void run(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const ArithmeticFailure& failure) {
+        auto* const handler = dynamic_cast<FailureHandler*>(QCoreApplication::instance());
+        if (handler == nullptr) {
+            throw;
+        }
+        handler->endAfter(failure.kind());
+    }
 }
 
 }  // namespace
@@ -44,6 +58,10 @@ void ExerciseForm::buttons(const Buttons& roles) {
     onClick(roles.help, &ExerciseForm::help);
 }
 
+void ExerciseForm::onClick(QAbstractButton* button, std::function<void()> action) {
+    connect(button, &QAbstractButton::clicked, this, [done = std::move(action)] { run(done); });
+}
+
 void ExerciseForm::verdict(const OneLabel& label) {
     oneLabel_ = label.label;
     right_ = wrong_ = label.label;
@@ -65,6 +83,16 @@ void ExerciseForm::enterChain(std::initializer_list<AnswerBox*> boxes, LastBox l
     for (const auto* box = boxes.begin(); box != boxes.end(); ++box) {
         const auto* const next = box + 1;
         enterGoes(*box, next == boxes.end() ? after(last) : std::vector<QWidget*>{*next});
+    }
+}
+
+void ExerciseForm::enterChainWhileShown(std::initializer_list<AnswerBox*> boxes, LastBox last) {
+    for (const auto* box = boxes.begin(); box != boxes.end(); ++box) {
+        std::vector<QWidget*> targets = after(last);
+        if (box + 1 != boxes.end()) {
+            targets.insert(targets.begin(), *(box + 1));
+        }
+        enterGoes(*box, std::move(targets));
     }
 }
 
@@ -203,7 +231,7 @@ void ExerciseForm::showEvent(QShowEvent* event) {
     hasTicked_ = true;
     loadStep();
     // The first exercise sets the focus, and that needs a form on screen.
-    QTimer::singleShot(0, this, [this] { firstTick(); });
+    QTimer::singleShot(0, this, [this] { run([this] { firstTick(); }); });
 }
 
 }  // namespace tavrune

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <string_view>
 #include <vector>
@@ -7,6 +8,7 @@
 #include "controls/answer_box.h"
 #include "controls/button.h"
 #include "controls/label.h"
+#include "numeric/arithmetic.h"
 #include "numeric/draws.h"
 #include "shell/page.h"
 
@@ -28,6 +30,19 @@ struct TwoLabels {
     Label* wrong;
     /// "FORKERT" starts in a darker red and gets its final one at the first tick.
     bool darkUntilFirstTick = false;
+};
+
+/// The application object, where it tells the user of a failure of the arithmetic and ends the program. A
+/// failure does not travel to it as an exception, since Qt's widgets, through which that would pass, leave
+/// half-done work behind then.
+class FailureHandler {
+public:
+    FailureHandler() = default;
+    FailureHandler(const FailureHandler&) = delete;
+    FailureHandler& operator=(const FailureHandler&) = delete;
+    virtual ~FailureHandler() = default;
+
+    virtual void endAfter(ArithmeticFailure::Kind kind) = 0;
 };
 
 /// What Enter does in the last box of a chain: "&OK" if it is shown; else nothing, or "&Ny opgave".
@@ -65,6 +80,10 @@ protected:
     /// Enter goes from each box to the next; from the last as `last` says. Wants the buttons to be bound.
     void enterChain(std::initializer_list<AnswerBox*> boxes, LastBox last);
 
+    /// As `enterChain`, where not all boxes are always shown: before a hidden box, too, Enter goes as `last`
+    /// says.
+    void enterChainWhileShown(std::initializer_list<AnswerBox*> boxes, LastBox last);
+
     /// Enter goes from `box` to the first of `candidates` that is shown, or nowhere; of several words on one
     /// box the last counts.
     void enterGoes(AnswerBox* box, std::vector<QWidget*> candidates);
@@ -73,10 +92,10 @@ protected:
     [[nodiscard]] std::vector<QWidget*> after(LastBox last) const;
 
     /// Runs `action` at each click on `button`.
+    void onClick(QAbstractButton* button, std::function<void()> action);
     template <class Form>
     void onClick(QAbstractButton* button, void (Form::*action)()) {
-        connect(button, &QAbstractButton::clicked, this,
-                [this, action] { (static_cast<Form*>(this)->*action)(); });
+        onClick(button, [this, action] { (static_cast<Form*>(this)->*action)(); });
     }
 
     // The hooks.

@@ -1,13 +1,36 @@
 #include "shell/page.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QShortcut>
 
+#include "controls/access_key.h"
+#include "controls/panel.h"
 #include "controls/text.h"
 
 namespace tavrune {
+namespace {
+
+/// True if `front` is painted over `behind`, which it does not hold: where the ways up from them meet, its
+/// branch is the later child.
+bool liesInFront(const QWidget& front, const QWidget& behind) {
+    const QWidget* branch = &front;
+    while (!branch->parentWidget()->isAncestorOf(&behind)) {
+        branch = branch->parentWidget();
+    }
+    const QObjectList& siblings = branch->parentWidget()->children();
+    const auto other = std::find_if(siblings.begin(), siblings.end(), [&behind](const QObject* sibling) {
+        const auto* const widget = qobject_cast<const QWidget*>(sibling);
+        return widget == &behind || (widget != nullptr && widget->isAncestorOf(&behind));
+    });
+    return siblings.indexOf(branch) > other - siblings.begin();
+}
+
+}  // namespace
 
 Page::Page(PageName name)
     : name_(name),
@@ -35,6 +58,10 @@ Page::Page(PageName name)
             view_->ensureWidgetVisible(to);
         }
     });
+    menuBar()->installEventFilter(this);
+    // As on most desktops, and the way into the menu where a button has its access key.
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
+            [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
     setMinimumSize(qRound(kDesignWidth), qRound(kDesignHeight) + menuBar()->sizeHint().height());
 }
 
@@ -50,6 +77,31 @@ void Page::setZoom(ZoomStep step) {
         size = size.expandedTo({all.right() + 1, all.bottom() + 1});
     }
     design_->setMinimumSize(size);
+}
+
+bool Page::focusNextPrevChild(bool next) {
+    const QWidget* const start = focusWidget();
+    while (QMainWindow::focusNextPrevChild(next)) {
+        const QWidget* const now = focusWidget();
+        if (now == start || now == nullptr || !isUnderAPanel(*now)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Page::isUnderAPanel(const QWidget& control) const {
+    const QPoint middle = control.mapTo(this, control.rect().center());
+    const QList<Panel*> panels = findChildren<Panel*>();
+    return std::any_of(panels.begin(), panels.end(), [&](const Panel* panel) {
+        return panel->isVisible() && !panel->isAncestorOf(&control) &&
+               panel->rect().contains(panel->mapFrom(this, middle)) && liesInFront(*panel, control);
+    });
+}
+
+bool Page::eventFilter(QObject* watched, QEvent* event) {
+    return (watched == menuBar() && clickedInsteadOfMenu(*design_, event)) ||
+           QMainWindow::eventFilter(watched, event);
 }
 
 void Page::tell(const QString& message) {

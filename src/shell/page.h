@@ -49,11 +49,17 @@ protected:
 
     [[nodiscard]] QWidget* design() const { return design_; }
 
+    /// Tab passes by what lies under a panel.
+    bool focusNextPrevChild(bool next) override;
+    /// A button's access key goes before a menu title's.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     /// A message box with the one button "OK". Returns at once; the page waits behind the box.
     void tell(const QString& message);
 
 private:
     void designIsReady();
+    [[nodiscard]] bool isUnderAPanel(const QWidget& control) const;
 
     PageName name_;
     QScrollArea* view_;

@@ -11,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include "conformance/facts.h"
-#include "numeric/arithmetic.h"
 #include "support/decimal_mark.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
@@ -22,6 +21,7 @@ namespace {
 using test::DecimalMark;
 using test::FormDriver;
 using test::FormFacts;
+using test::looks;
 
 const QColor kRightOfTwo(0, 128, 0);
 
@@ -67,6 +67,15 @@ protected:
             }
         }
         return boxes;
+    }
+
+    /// Presses every "Vis" of the help panels that are open.
+    static void showAllSteps(const FormDriver& form) {
+        for (Button* button : form.page().findChildren<Button*>()) {
+            if (button->caption() == "Vis" && button->isVisible() && button->isEnabled()) {
+                button->click();
+            }
+        }
     }
 
     /// White, and empty but for those that tell what is given.
@@ -353,11 +362,13 @@ TEST_P(EveryForm, HasNoTextCutOffOrOverAnother) {
     for (const char* mark : {".", ","}) {
         const DecimalMark inUse(mark);
         const FormDriver form = open(2005);
-        for (int exercise = 0; exercise < 40; ++exercise) {
+        for (int exercise = 0; exercise < looks(60); ++exercise) {
             ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << "exercise " << exercise;
             answerWrongly(form);
             form.click(facts().giveAnswer);
             ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << "given answer " << exercise;
+            ASSERT_EQ(test::overfullBoxesOf(form.page()), std::vector<std::string>{})
+                << "answer " << exercise;
             form.click(facts().newExercise);
         }
     }
@@ -365,20 +376,29 @@ TEST_P(EveryForm, HasNoTextCutOffOrOverAnother) {
 
 TEST_P(EveryForm, HasNoTextCutOffInItsHelpWithEveryStepShown) {
     const FormDriver form = open(2006);
-    for (int exercise = 0; exercise < 40; ++exercise) {
+    for (int exercise = 0; exercise < looks(60); ++exercise) {
         form.click(facts().help);
         static_cast<void>(form.answerMessage());
-        for (Button* button : form.page().findChildren<Button*>()) {
-            if (button->caption() == "Vis" && button->isVisible() && button->isEnabled()) {
-                try {
-                    button->click();
-                } catch (const ArithmeticFailure&) {
-                    EXPECT_TRUE(facts().mayFail) << button->objectName().toStdString();
-                }
-            }
-        }
+        showAllSteps(form);
         ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << "exercise " << exercise;
         form.click(facts().newExercise);
+    }
+}
+
+TEST_P(EveryForm, HasNoTextCutOffOrOverAnotherAtAnySize) {
+    const FormDriver form = open(2007);
+    ZoomStep step;
+    for (std::size_t size = 0; size < kZoomSteps.size(); ++size) {
+        form.page().setZoom(step);
+        for (int exercise = 0; exercise < looks(6); ++exercise) {
+            ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << step.percent() << " %";
+            form.click(facts().help);
+            static_cast<void>(form.answerMessage());
+            showAllSteps(form);
+            ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << step.percent() << " %, help";
+            form.click(facts().newExercise);
+        }
+        step = step.larger();
     }
 }
 

@@ -89,6 +89,17 @@ TEST_F(AnswerBoxKeys, TakeAHeldEnterOnce) {
     EXPECT_EQ(entered, 1);
 }
 
+TEST_F(AnswerBoxKeys, WriteNothingWithAlt) {
+    QTest::keyClick(&box, '1');
+    QTest::keyClick(&box, 'o', Qt::AltModifier);
+    QTest::keyClick(&box, 'G', Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_EQ(box.content(), "1");
+    // The two together make a third key on some keyboards.
+    QTest::keyClick(&box, '2', Qt::AltModifier | Qt::ControlModifier);
+    QTest::keyClick(&box, '3');
+    EXPECT_EQ(box.content().back(), '3');
+}
+
 TEST_F(AnswerBoxKeys, TakeATextOfAnyLength) {
     const std::string megabyte(1'000'000, '1');
     QGuiApplication::clipboard()->setText(QString::fromStdString(megabyte));

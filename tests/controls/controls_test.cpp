@@ -59,7 +59,31 @@ TEST(Control, KeepsAFractionOfATextSizeThatTheScreenRounds) {
     EXPECT_EQ(label.textSize(), 14.25);
     EXPECT_EQ(label.font().pixelSize(), 14);
     label.setZoom(2);
-    EXPECT_EQ(label.font().pixelSize(), 29);
+    EXPECT_EQ(label.font().pixelSize(), 28);
+}
+
+TEST(Control, GivesATextTheSameRoomAtEveryZoom) {
+    Label label;
+    for (const double size : {8.0, 11.0, 13.0, 18.0}) {
+        label.setTextSize(size);
+        label.setZoom(1);
+        const QString text = "P=    Q +     for Q  0, P  0; (-1,25·w² + 10)";
+        const double width = QFontMetricsF(label.font()).horizontalAdvance(text);
+        const double height = QFontMetricsF(label.font()).height();
+        for (const double zoom : {1.25, 1.5, 1.75, 2.0, 2.5, 3.0}) {
+            label.setZoom(zoom);
+            EXPECT_NEAR(QFontMetricsF(label.font()).horizontalAdvance(text), width * zoom, 1) << zoom;
+            EXPECT_LE(QFontMetricsF(label.font()).height(), height * zoom + 0.1) << zoom;
+        }
+    }
+}
+
+TEST(OptionButton, HasAMarkThatGrowsWithIt) {
+    OptionButton option;
+    const int mark = option.style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &option);
+    option.setZoom(2.5);
+    EXPECT_EQ(option.style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &option),
+              qRound(mark * 2.5));
 }
 
 TEST(DesignFont, IsOneOfTheDesignsOwn) {

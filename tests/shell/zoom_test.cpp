@@ -9,7 +9,10 @@
 
 #include "app/program.h"
 #include "graph/graph_box.h"
+#include "shell/how_to_use.h"
+#include "shell/opstart.h"
 #include "support/form_driver.h"
+#include "support/looks.h"
 
 namespace tavrune {
 namespace {
@@ -218,6 +221,41 @@ TEST_F(ZoomedProgram, LetsTheStartPageBeScrolledToItsEnds) {
     const QRect all = design->childrenRect();
     EXPECT_GE(design->width(), all.right());
     EXPECT_GE(design->height(), all.bottom());
+}
+
+/// Brings a page, or any other window that can be zoomed, to every size in turn.
+template <class Window>
+void expectNoFlawsAtAnySize(Window& window) {
+    window.show();
+    settle();
+    ZoomStep step;
+    for (std::size_t size = 0; size < kZoomSteps.size(); ++size) {
+        window.setZoom(step);
+        settle();
+        EXPECT_EQ(test::flawsOf(window), std::vector<std::string>{}) << step.percent() << " %";
+        step = step.larger();
+    }
+}
+
+TEST(ZoomedStartPage, HasNoTextCutOffOrOverAnotherAtAnySize) {
+    for (const QSize screen : {QSize(640, 480), QSize(1024, 768), QSize(1920, 1080), QSize(3840, 2160)}) {
+        Opstart page(screen);
+        page.resize(screen);
+        expectNoFlawsAtAnySize(page);
+    }
+}
+
+TEST(ZoomedHowToUse, HasNoTextCutOffOrOverAnotherAtAnySize) {
+    Form1 first;
+    expectNoFlawsAtAnySize(first);
+    Form2 second;
+    expectNoFlawsAtAnySize(second);
+}
+
+TEST(ZoomedAboutBox, HasNoTextCutOffOrOverAnotherAtAnySize) {
+    FrmAbout box;
+    box.setAttribute(Qt::WA_DeleteOnClose, false);
+    expectNoFlawsAtAnySize(box);
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 #include "support/looks.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <QAbstractButton>
+#include <QStyleOptionFrame>
 #include <QTextLayout>
 
 #include "controls/answer_box.h"
@@ -13,8 +15,13 @@
 namespace tavrune::test {
 namespace {
 
-// Glyphs may reach this far over their advance without being seen as cut off or overlapping.
+// Glyphs may reach this many units over their advance without being seen as cut off or overlapping.
 constexpr double kSlack = 1.5;
+
+double slackOf(const QWidget& widget) {
+    const auto* const control = dynamic_cast<const Control*>(&widget);
+    return control == nullptr ? kSlack : kSlack * control->zoom();
+}
 
 struct Word {
     QRectF place;
@@ -169,10 +176,10 @@ private:
 
     void look(const Label& label) {
         const Layout layout(label);
-        if (layout.widest > label.width() + kSlack) {
+        if (layout.widest > label.width() + slackOf(label)) {
             flaws.push_back(named(label, label.text()) + " is cut off at its right");
         }
-        if (layout.height > label.height() + kSlack) {
+        if (layout.height > label.height() + slackOf(label)) {
             flaws.push_back(named(label, label.text()) + " is cut off below");
         }
         checkInside(label, label.text());
@@ -182,7 +189,7 @@ private:
     }
 
     void look(const QAbstractButton& button) {
-        if (button.sizeHint().width() > button.width() + kSlack &&
+        if (button.sizeHint().width() > button.width() + slackOf(button) &&
             button.fontMetrics().horizontalAdvance(button.text()) + 6 > button.width()) {
             flaws.push_back(named(button, button.text()) + " does not fit its button");
         }
@@ -219,7 +226,8 @@ private:
                     continue;
                 }
                 const QRectF both = a.place.intersected(b.place);
-                if (both.width() > kSlack && both.height() > kSlack) {
+                const double slack = slackOf(*a.owner);
+                if (both.width() > slack && both.height() > slack) {
                     flaws.push_back(named(*a.owner, a.text) + " lies over " + named(*b.owner, b.text));
                 }
             }
@@ -230,5 +238,26 @@ private:
 }  // namespace
 
 std::vector<std::string> flawsOf(const QWidget& window) { return Inspection(window).flaws; }
+
+std::vector<std::string> overfullBoxesOf(const QWidget& window) {
+    std::vector<std::string> overfull;
+    for (const AnswerBox* box : window.findChildren<AnswerBox*>()) {
+        QStyleOptionFrame frame;
+        frame.initFrom(box);
+        frame.lineWidth = box->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, box);
+        // The box leaves itself two pixels at either side of its text.
+        const int room = box->style()->subElementRect(QStyle::SE_LineEditContents, &frame, box).width() - 4;
+        if (box->isVisible() && box->fontMetrics().horizontalAdvance(box->text()) > room) {
+            overfull.push_back(named(*box, box->text()));
+        }
+    }
+    return overfull;
+}
+
+int looks(int full) {
+    bool isAsked = false;
+    const int percent = qEnvironmentVariableIntValue("TAVRUNE_LOOKS", &isAsked);
+    return isAsked ? std::max(1, full * percent / 100) : full;
+}
 
 }  // namespace tavrune::test

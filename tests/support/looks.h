@@ -11,4 +11,12 @@ namespace tavrune::test {
 /// leaves its parent or the page, or lies over another. Empty if all is well.
 [[nodiscard]] std::vector<std::string> flawsOf(const QWidget& window);
 
+/// The boxes of which the content is longer than they are, with it. What is typed may be; what a program
+/// shows must not.
+[[nodiscard]] std::vector<std::string> overfullBoxesOf(const QWidget& window);
+
+/// How many exercises to look at: `full`, or the share of it that TAVRUNE_LOOKS asks for in percent. Fewer
+/// are enough for slow builds and for runs that repeat what has been looked at; a search takes more.
+[[nodiscard]] int looks(int full);
+
 }  // namespace tavrune::test

@@ -41,6 +41,10 @@ void drawMark(GraphBox& box, const TableCell& quantity, double price) {
                 [&box, price](double x) { box.Line(x, kTop - price - 0.15, x, kTop - price + 0.15, kRed); });
 }
 
+void drawThickLine(GraphBox& box, double from, double to, double middle, const QColor& colour) {
+    stepThrough(-0.1, 0.1, kStroke, [&](double t) { box.Line(from, middle - t, to, middle - t, colour); });
+}
+
 void drawBand(GraphBox& box, double from, double to, double price, const QColor& colour) {
     const double base = price == 0 ? 0 : price - 0.1;
     stepThrough(base, base + 0.2, kStroke, [&](double y) { box.Line(from, kTop - y, to, kTop - y, colour); });

@@ -34,6 +34,9 @@ void drawPiece(GraphBox& box, double top, const Piece& piece, double from, doubl
 /// right edge for "oo". Prices run downwards from 10.
 void drawMark(GraphBox& box, const TableCell& quantity, double price);
 
+/// A thick level line from Q = `from` to Q = `to`, as much of it above y = `middle` as below.
+void drawThickLine(GraphBox& box, double from, double to, double middle, const QColor& colour);
+
 /// A thick level line from Q = `from` to Q = `to` at a price, standing on the axis for the price 0. Prices
 /// run downwards from 10.
 void drawBand(GraphBox& box, double from, double to, double price, const QColor& colour);

@@ -35,6 +35,7 @@ std::string stretchText(const TableCell& fromQ, const TableCell& fromP, const Ta
 bool Target::isFit(double typed) const {
     switch (rule) {
         case Rule::Near:
+        case Rule::NearAllMarked:
             return isHalfOpenNear(typed, value);
         case Rule::NearClosed:
             return isClosedNear(typed, value);
@@ -47,7 +48,8 @@ bool Target::isFit(double typed) const {
 }
 
 bool Target::isMarked(double typed) const {
-    return rule == Rule::Exactly ? !isExactly(typed, value) : !isClosedNear(typed, value);
+    const bool marksEveryMiss = rule == Rule::Exactly || rule == Rule::NearAllMarked;
+    return marksEveryMiss ? !isFit(typed) : !isClosedNear(typed, value);
 }
 
 }  // namespace tavrune

@@ -72,6 +72,8 @@ enum class Rule {
     /// target - 0.005 < typed <= target + 0.005. Kept: a value just at the lower end is wrong and stays
     /// white.
     Near,
+    /// As `Near`, and a value just at the lower end turns red as well.
+    NearAllMarked,
     /// Both ends fit.
     NearClosed,
     Exactly,

@@ -20,11 +20,11 @@ double endOf(const Piece& function) {
 void drawFunctions(Laddi1State& s, Draws& draws) {
     do {
         draws.Randomize();
-        s.slope1 = drawSlope(draws, kFallingShare);
+        s.slope1 = drawSlope(draws, draws.Rnd() < kFallingShare);
         s.intercept1 = Int(draws.Rnd() * 5);
     } while (isOnEdge(s.function1()));
     // Kept: function 2 is taken as it comes, the axis P = 0 too.
-    s.slope2 = drawSlope(draws, kFallingShare);
+    s.slope2 = drawSlope(draws, draws.Rnd() < kFallingShare);
     s.intercept2 = Int(draws.Rnd() * 5);
 }
 

@@ -19,11 +19,9 @@ constexpr double kBeyondQ = 50;
 constexpr int kLoneRow = 1;
 constexpr int kLastRow = 2;
 
-/// A thick level line from Q = `from` to Q = `to`, with its middle at the price; standing on the axis for the
-/// price 0.
-void drawThickLine(GraphBox& box, double from, double to, double price, const QColor& colour) {
-    const double middle = price == 0 ? 9.9 : kTop - price;
-    stepThrough(-0.1, 0.1, 0.05, [&](double t) { box.Line(from, middle - t, to, middle - t, colour); });
+/// A thick level line round a price; standing on the axis for the price 0.
+void drawBar(GraphBox& box, double from, double to, double price, const QColor& colour) {
+    drawThickLine(box, from, to, price == 0 ? 9.9 : kTop - price, colour);
 }
 
 }  // namespace
@@ -84,17 +82,9 @@ void Vaddi2::chainBoxes() {
         enterGoes(table[i], {table[i + 1]});
     }
     enterGoes(table.back(), {ui_->Text21, ui_->Text24});
-
-    const std::vector<AnswerBox*> answer{ui_->Text21, ui_->Text22, ui_->Text23, ui_->Text24,
-                                         ui_->Text25, ui_->Text26, ui_->Text27, ui_->Text28,
-                                         ui_->Text29, ui_->Text30, ui_->Text31};
-    for (std::size_t i = 0; i < answer.size(); ++i) {
-        std::vector<QWidget*> targets = after(LastBox::OkOrNewExercise);
-        if (i + 1 < answer.size()) {
-            targets.insert(targets.begin(), answer[i + 1]);
-        }
-        enterGoes(answer[i], targets);
-    }
+    enterChainWhileShown({ui_->Text21, ui_->Text22, ui_->Text23, ui_->Text24, ui_->Text25, ui_->Text26,
+                          ui_->Text27, ui_->Text28, ui_->Text29, ui_->Text30, ui_->Text31},
+                         LastBox::OkOrNewExercise);
 }
 
 void Vaddi2::firstTick() {
@@ -253,8 +243,7 @@ void Vaddi2::showQuantities() {
     for (std::size_t f = 0; f < given_.size(); ++f) {
         for (std::size_t row = 0; row < state_.tableP.size(); ++row) {
             if (const TableCell& quantity = state_.tableQ[f][row]; quantity.isNumeric()) {
-                drawThickLine(*given_[f].graph, 0, quantity.number(), state_.tableP[row].number(),
-                              given_[f].band);
+                drawBar(*given_[f].graph, 0, quantity.number(), state_.tableP[row].number(), given_[f].band);
             }
         }
     }
@@ -278,7 +267,7 @@ void Vaddi2::drawStack(std::size_t row) {
         const TableCell& quantity = state_.tableQ[f][row];
         if (quantity.isNumeric()) {
             const double to = from + quantity.number();
-            drawThickLine(*ui_->Picture9, from, to, state_.tableP[row].number(), given_[f].band);
+            drawBar(*ui_->Picture9, from, to, state_.tableP[row].number(), given_[f].band);
             from = to;
         }
     }

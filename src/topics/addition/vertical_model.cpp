@@ -16,11 +16,8 @@ std::string pairText(double one, double other) {
 
 }  // namespace
 
-double drawSlope(Draws& draws, float fallingShare) {
-    if (draws.Rnd() < fallingShare) {
-        return Fix(draws.Rnd() * -5);
-    }
-    return Int(draws.Rnd() * 5);
+double drawSlope(Draws& draws, bool isFalling) {
+    return isFalling ? Fix(draws.Rnd() * -5) : Int(draws.Rnd() * 5);
 }
 
 bool isOnEdge(const Piece& piece) {

@@ -28,8 +28,8 @@ struct VerticalSum {
     }
 };
 
-/// 0..-4 where the first draw is below `fallingShare`, otherwise 0..4.
-[[nodiscard]] double drawSlope(Draws& draws, float fallingShare);
+/// 0..-4 where it is to fall, otherwise 0..4.
+[[nodiscard]] double drawSlope(Draws& draws, bool isFalling);
 
 /// A level line along an edge of the graph.
 [[nodiscard]] bool isOnEdge(const Piece& piece);

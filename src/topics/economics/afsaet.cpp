@@ -30,10 +30,9 @@ Afsaet::Afsaet(Draws& draws) : ExerciseForm(PageName::Afsaet, draws), ui_(std::m
     helps_ = helpPanels();
     for (const HelpPanel& help : helps_) {
         for (std::size_t number = 0; number < help.steps.size(); ++number) {
-            connect(help.steps[number].vis, &QAbstractButton::clicked, this,
-                    [this, &help, number] { showStep(help, number); });
+            onClick(help.steps[number].vis, [this, &help, number] { showStep(help, number); });
         }
-        connect(help.close, &QAbstractButton::clicked, this, [this, &help] { closeHelp(help); });
+        onClick(help.close, [this, &help] { closeHelp(help); });
     }
 }
 

@@ -11,6 +11,7 @@ constexpr double kExponentSize = 8;
 constexpr double kExponentRise = 5;
 constexpr double kIntegralSize = 18;
 constexpr double kIntegralRise = 5;
+constexpr double kIntegralLean = 3;
 // Of the three pieces of a fraction, from the top of the row.
 constexpr double kNumerator = -6;
 constexpr double kBar = 7;
@@ -33,6 +34,9 @@ public:
                 sign->setSerif(true);
                 sign->setTextSize(kIntegralSize);
                 next_ = sign->place().right();
+                // The sign leans over what follows.
+                sign->setAutoSize(false);
+                sign->setWidth(sign->place().width() + kIntegralLean);
                 break;
             }
             case FormulaPiece::Kind::Fraction:

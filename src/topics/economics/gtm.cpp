@@ -64,7 +64,7 @@ void Gtm::bindSteps() {
                        {ui_->Command10, ui_->Picture7, workedIntegral, integral},
                        {ui_->Command11, ui_->Picture8, workedQuotientOfIntegral, twoRows}};
     for (const Step& step : steps) {
-        connect(step.vis, &QAbstractButton::clicked, this, [this, step] {
+        onClick(step.vis, [this, step] {
             step.box->show();
             showFormulas(*step.box, step.worked(state_), step.tops);
         });

@@ -103,6 +103,15 @@ TEST_F(AdditionGraph, MarksAPriceBelowTheBox) {
     EXPECT_EQ(box.strokes().front(), in.line(-5, 14.85, -5, 15.15, kRed));
 }
 
+TEST_F(AdditionGraph, DrawsAThickLineOfFiveStrokesRoundItsMiddle) {
+    drawThickLine(box, 1, 4, 3, kSumGreen);
+    std::vector<Stroke> expected;
+    for (int i = -2; i <= 2; ++i) {
+        expected.push_back(in.line(1, 3 - 0.05 * i, 4, 3 - 0.05 * i, rgb(0, 190, 0)));
+    }
+    EXPECT_EQ(box.strokes(), expected);
+}
+
 struct BandRow {
     const char* name;
     double price;

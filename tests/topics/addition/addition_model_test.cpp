@@ -111,6 +111,18 @@ TEST(Target, NearTakesTheHalfOpenBandAndLeavesItsLowerEndUnmarked) {
     EXPECT_FALSE(target.isMarked(3.25 - 0.005));
 }
 
+TEST(Target, NearAllMarkedTakesTheHalfOpenBandAndMarksItsLowerEnd) {
+    const Target target{3.25, Rule::NearAllMarked};
+    for (const double fit : {3.25, above(3.25 - 0.005), 3.25 + 0.005}) {
+        EXPECT_TRUE(target.isFit(fit)) << fit;
+        EXPECT_FALSE(target.isMarked(fit)) << fit;
+    }
+    for (const double wrong : {3.25 - 0.005, below(3.25 - 0.005), above(3.25 + 0.005), 0.0, -3.25}) {
+        EXPECT_FALSE(target.isFit(wrong)) << wrong;
+        EXPECT_TRUE(target.isMarked(wrong)) << wrong;
+    }
+}
+
 TEST(Target, IsNearUnlessItIsToldOtherwise) {
     const Target target{3.25};
     EXPECT_EQ(target.rule, Rule::Near);
@@ -162,7 +174,7 @@ TEST(Target, ChainedComparesATruthBelowZero) {
 
 TEST(Target, TakesTheLargestNumbers) {
     constexpr double kLargest = std::numeric_limits<double>::max();
-    for (const Rule rule : {Rule::Near, Rule::NearClosed, Rule::Exactly}) {
+    for (const Rule rule : {Rule::Near, Rule::NearAllMarked, Rule::NearClosed, Rule::Exactly}) {
         EXPECT_FALSE((Target{2, rule}.isFit(kLargest)));
         EXPECT_TRUE((Target{2, rule}.isMarked(-kLargest)));
     }

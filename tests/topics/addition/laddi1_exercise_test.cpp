@@ -98,6 +98,15 @@ TEST(Laddi1Generator, TakesTheCoinThenTheSlopeThenTheInterceptOfEachFunction) {
     EXPECT_TRUE(draws.isUsedUp());
 }
 
+TEST(Laddi1Generator, LetsAFunctionRiseFromOneHalfOn) {
+    const float belowHalf = std::nextafter(0.5F, 0.0F);
+    ScriptedDraws draws{belowHalf, 0.7F, 0.5F, 0.5F, 0.7F, 0.5F};
+    Laddi1State s;
+    newExercise(s, draws);
+    EXPECT_EQ(s.slope1, -3);
+    EXPECT_EQ(s.slope2, 3);
+}
+
 TEST(Laddi1Generator, ReachesBothEndsOfEachRange) {
     ScriptedDraws falling{0, kLargestDraw, kLargestDraw, 0, kLargestDraw, 0};
     Laddi1State s;

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <map>
-#include <numeric>
 #include <optional>
 #include <set>
 #include <sstream>
@@ -14,12 +12,14 @@
 #include "numeric/arithmetic.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/exact.h"
 #include "support/scripted_draws.h"
 
 namespace tavrune {
 namespace {
 
 using test::cellOf;
+using test::Exact;
 using test::kLargestDraw;
 using test::Script;
 using test::ScriptedDraws;
@@ -342,29 +342,6 @@ TEST(Vaddi2Solution, FailsWhereTwoTotalsAreEqual) {
         EXPECT_EQ(failure.kind(), ArithmeticFailure::Kind::Overflow);
     }
 }
-
-/// A fraction, exact and in lowest terms.
-class Exact {
-public:
-    Exact(std::int64_t n = 0, std::int64_t d = 1) {
-        const std::int64_t divisor = std::gcd(n, d) * (d < 0 ? -1 : 1);
-        n_ = n / divisor;
-        d_ = d / divisor;
-    }
-
-    friend Exact operator+(Exact a, Exact b) { return {a.n_ * b.d_ + b.n_ * a.d_, a.d_ * b.d_}; }
-    friend Exact operator-(Exact a, Exact b) { return {a.n_ * b.d_ - b.n_ * a.d_, a.d_ * b.d_}; }
-    friend Exact operator*(Exact a, Exact b) { return {a.n_ * b.n_, a.d_ * b.d_}; }
-    friend Exact operator/(Exact a, Exact b) { return {a.n_ * b.d_, a.d_ * b.n_}; }
-    friend bool operator==(Exact a, Exact b) { return a.n_ == b.n_ && a.d_ == b.d_; }
-    friend bool operator<(Exact a, Exact b) { return a.n_ * b.d_ < b.n_ * a.d_; }
-
-    [[nodiscard]] double value() const { return static_cast<double>(n_) / static_cast<double>(d_); }
-
-private:
-    std::int64_t n_ = 0;
-    std::int64_t d_ = 1;
-};
 
 /// The true sum of three functions, price by price.
 class TrueSum {

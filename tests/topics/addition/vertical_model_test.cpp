@@ -16,7 +16,7 @@ using test::ScriptedDraws;
 /// How a field reads where a test compares it.
 std::string described(const AnswerField& field) {
     const char* const slots[]{"slope", "intercept", "start", "end"};
-    const char* const rules[]{"near", "closed", "exactly", "chained"};
+    const char* const rules[]{"near", "all marked", "closed", "exactly", "chained"};
     return std::to_string(field.row) + " " + slots[static_cast<int>(field.slot)] + " " +
            rules[static_cast<int>(field.target.rule)] + " " + std::to_string(field.target.value).substr(0, 4);
 }
@@ -30,19 +30,16 @@ std::vector<std::string> described(const std::vector<AnswerField>& fields) {
     return texts;
 }
 
-TEST(VerticalDraw, TakesASlopeFromTheSideOfItsCoin) {
+TEST(VerticalDraw, TakesASlopeByOneDrawOnTheSideAskedFor) {
     for (int size = 0; size <= 4; ++size) {
-        ScriptedDraws falling{0.49F, cellOf(size, 5)};
-        EXPECT_EQ(drawSlope(falling, 0.5F), -size);
-        ScriptedDraws rising{0.5F, cellOf(size, 5)};
-        EXPECT_EQ(drawSlope(rising, 0.5F), size);
+        ScriptedDraws draws{cellOf(size, 5), cellOf(size, 5)};
+        EXPECT_EQ(drawSlope(draws, true), -size);
+        EXPECT_EQ(drawSlope(draws, false), size);
+        EXPECT_TRUE(draws.isUsedUp());
     }
-    ScriptedDraws steepest{0, kLargestDraw};
-    EXPECT_EQ(drawSlope(steepest, 0.5F), -4);
-    ScriptedDraws share{0.69F, cellOf(3, 5)};
-    EXPECT_EQ(drawSlope(share, 0.7F), -3);
-    ScriptedDraws above{0.7F, cellOf(3, 5)};
-    EXPECT_EQ(drawSlope(above, 0.7F), 3);
+    ScriptedDraws largest{kLargestDraw, kLargestDraw};
+    EXPECT_EQ(drawSlope(largest, true), -4);
+    EXPECT_EQ(drawSlope(largest, false), 4);
 }
 
 TEST(VerticalEdges, AreLevelLinesAtTheBottomAndTheTop) {

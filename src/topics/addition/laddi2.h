@@ -1,0 +1,41 @@
+#pragma once
+
+#include <memory>
+
+#include "topics/addition/laddi2_exercise.h"
+#include "topics/addition/vertical_form.h"
+
+namespace tavrune {
+
+namespace Ui {
+class Laddi2;
+}
+
+/// Two functions with a kink each, to be added by their prices.
+class Laddi2 : public VerticalForm {
+    Q_OBJECT
+
+public:
+    explicit Laddi2(Draws& draws);
+    ~Laddi2() override;
+
+    [[nodiscard]] const Laddi2State& state() const { return state_; }
+
+protected:
+    void firstTick() override;
+    void newExercise() override;
+    [[nodiscard]] VerticalSum sum() const override { return state_.sum; }
+
+private:
+    void showTask();
+    void showRows();
+    void showRow(int row, std::initializer_list<QWidget*> controls, std::initializer_list<QWidget*> end);
+    void showIntervals();
+    void showSum();
+    void closeHelp();
+
+    std::unique_ptr<Ui::Laddi2> ui_;
+    Laddi2State state_;
+};
+
+}  // namespace tavrune

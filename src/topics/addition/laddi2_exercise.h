@@ -1,0 +1,55 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "numeric/draws.h"
+#include "topics/addition/addition_model.h"
+#include "topics/addition/vertical_model.h"
+
+namespace tavrune {
+
+/// A function of two straight pieces, which need not meet at its kink. Whole numbers throughout.
+struct KinkedFunction {
+    /// 3..7.
+    double kink = 0;
+    /// Slope -4..4, intercept 0..4; above P = 0 all the way to the kink.
+    Piece before;
+    /// Slope -4..4; at the kink its price is 5..9 if it falls, 1..5 if it rises.
+    Piece after;
+
+    /// Where the second piece comes down to P = 0, beyond the kink; `kNeverEnds` where it does not fall.
+    [[nodiscard]] double zero() const { return after.slope < 0 ? zeroOf(after) : kNeverEnds; }
+};
+
+/// Two functions with a kink each, and their vertical sum.
+struct Laddi2State {
+    KinkedFunction function1;
+    KinkedFunction function2;
+
+    /// Where a piece of either function ends, in order and each place once, `kNeverEnds` too: two of them to
+    /// four.
+    std::vector<double> breakPoints;
+    /// A segment up to each break point; the last goes on for good where one function does. The upper end is
+    /// rounded. Kept: it is written with the answer of every later exercise, unseen where there is none.
+    VerticalSum sum;
+};
+
+/// Draws both functions until no first piece ends before its kink, and adds them up.
+void newExercise(Laddi2State& state, Draws& draws);
+
+/// The line that a second piece's numbers stand in, with their gaps: "P=    Q -       for    <Q, P>0"
+[[nodiscard]] std::string secondPieceText(const Piece& piece);
+
+/// "Definitonsintervallerne bliver:"
+[[nodiscard]] std::string intervalsHeading(const VerticalSum& sum);
+
+/// The intervals of the segments, two in the first line and the others in the second:
+/// "0<X<3, 3<X<4.25, " and "4.25<X<5 og 5<X"
+[[nodiscard]] std::array<std::string, 2> intervalsTexts(const VerticalSum& sum);
+
+/// "P = (-1 + 4)Q + (8 - 15) = 3Q + -7 for 3<X<5", or of one function alone "P = 4Q - 15 for 5<X"
+[[nodiscard]] std::string segmentText(const Laddi2State& state, std::size_t segment);
+
+}  // namespace tavrune

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "graph/graph_box.h"
+#include "shell/exercise_form.h"
+#include "topics/addition/answer_rows.h"
+#include "topics/addition/vaddi3_exercise.h"
+
+namespace tavrune {
+
+namespace Ui {
+class Vaddi3;
+}
+
+/// A function with a kink or a jump and a straight one, to be added by their quantities.
+class Vaddi3 : public ExerciseForm {
+    Q_OBJECT
+
+public:
+    explicit Vaddi3(Draws& draws);
+    ~Vaddi3() override;
+
+    [[nodiscard]] const Vaddi3State& state() const { return state_; }
+
+protected:
+    void firstTick() override;
+    void newExercise() override;
+    void judge() override;
+    void giveAnswer() override;
+    void help() override;
+
+private:
+    void bindBoxes();
+    void bindEnter();
+    void blankBoxes();
+    void showTable();
+    void showTask();
+    void showRows();
+    void drawGraphs();
+    void drawGivenFunctions();
+    [[nodiscard]] bool isUpperEndRight() const;
+    void drawTypedSum();
+    void drawSum();
+    void drawJoins();
+    void fillTable(bool withQuantities);
+    void fillAnswer();
+    void markEnds();
+    void drawBands();
+    void drawStacks();
+    void showPrices();
+    void showQuantities();
+    void showSum();
+    void closeHelp();
+    void focusOnTable();
+
+    std::unique_ptr<Ui::Vaddi3> ui_;
+    AnswerRows rows_;
+    /// The columns of the help table as they stand on the form.
+    std::array<HelpColumn, 6> table_;
+    Vaddi3State state_;
+};
+
+}  // namespace tavrune

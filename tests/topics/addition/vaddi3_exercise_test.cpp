@@ -1,0 +1,902 @@
+#include "topics/addition/vaddi3_exercise.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <functional>
+#include <iostream>
+#include <map>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "numeric/arithmetic.h"
+#include "numeric/text.h"
+#include "support/decimal_mark.h"
+#include "support/exact.h"
+#include "support/lot.h"
+#include "topics/addition/vaddi3_tasks.h"
+
+namespace tavrune {
+namespace {
+
+using test::cellOf;
+using test::DecimalMark;
+using test::Exact;
+using test::Script;
+using test::ScriptedDraws;
+using test::scriptOf;
+using test::Vaddi3Task;
+
+Vaddi3State exerciseOf(const Vaddi3Task& task) {
+    ScriptedDraws draws(scriptOf(task));
+    Vaddi3State state;
+    newExercise(state, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    EXPECT_EQ(draws.randomized(), 1);
+    return state;
+}
+
+std::string columnText(const Vaddi3State::Column& column) {
+    std::string text;
+    for (const TableCell& cell : column) {
+        text += (text.empty() ? "" : "|") + cell.text();
+    }
+    return text;
+}
+
+std::string sumText(const Vaddi3State& s) {
+    std::string text;
+    for (const SumSegment& segment : s.segments) {
+        text += (text.empty() ? "P=" : "; P=") + NumberText(segment.piece.slope) + "Q+" +
+                NumberText(segment.piece.intercept) + " " + segment.startQ.text() + "<Q<" +
+                segment.endQ.text();
+    }
+    return text;
+}
+
+// The draw.
+
+TEST(Vaddi3Draw, GivesAJumpDown) {
+    const Vaddi3State s = exerciseOf({KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, -3, 7});
+    EXPECT_EQ(s.kinkKind, KinkKind::JumpDown);
+    EXPECT_EQ(s.firstIntercept, 9);
+    EXPECT_EQ(s.firstSlope, -0.5F);
+    EXPECT_EQ(s.kinkQuantity, 4);
+    EXPECT_EQ(s.priceAtKinkFirst, 7);
+    EXPECT_EQ(s.secondSlope, -2);
+    EXPECT_EQ(s.secondIntercept, 13);
+    EXPECT_EQ(s.priceAtKinkSecond, 5);
+    EXPECT_EQ(s.slope2, -3);
+    EXPECT_EQ(s.intercept2, 7);
+}
+
+TEST(Vaddi3Draw, GivesAJumpUp) {
+    const Vaddi3State s = exerciseOf({KinkKind::JumpUp, 9, -4, 1, -0.7F, 0.3F, -1, 5});
+    EXPECT_EQ(s.firstSlope, -4);
+    EXPECT_EQ(s.priceAtKinkFirst, 5);
+    EXPECT_EQ(s.secondSlope, -0.7F);
+    EXPECT_EQ(s.secondIntercept, 7);
+    // A double, of the single slope.
+    EXPECT_EQ(s.priceAtKinkSecond, static_cast<double>(-0.7F) + 7);
+}
+
+TEST(Vaddi3Draw, GivesAKinkWhosePartsMeet) {
+    const Vaddi3State steeper = exerciseOf({KinkKind::Steeper, 6, -0.8F, 5, -2, 0, -1, 8});
+    EXPECT_EQ(steeper.priceAtKinkFirst, 2);
+    EXPECT_EQ(steeper.priceAtKinkSecond, 2);
+    EXPECT_EQ(steeper.secondIntercept, 12);
+
+    const Vaddi3State flatter = exerciseOf({KinkKind::Flatter, 7, -3, 1, -0.7F, 0, -1, 8});
+    EXPECT_EQ(flatter.priceAtKinkFirst, 4);
+    EXPECT_EQ(flatter.priceAtKinkSecond, 4);
+    EXPECT_EQ(flatter.secondIntercept, 4.7);
+}
+
+TEST(Vaddi3Draw, CutsAKinkFarOutToEightOnlyAtAJumpDown) {
+    EXPECT_EQ(exerciseOf({KinkKind::JumpDown, 9, -0.2F, 30, -2, 0.25F, -3, 7}).kinkQuantity, 8);
+    EXPECT_EQ(exerciseOf({KinkKind::Steeper, 5, -0.7F, 5, -2, 0, -3, 7}).kinkQuantity, 5);
+}
+
+/// A first try that does not suit, then an exercise: the kind is drawn once, everything else anew.
+struct Rejection {
+    const char* name;
+    KinkKind kind;
+    Script rejected;
+};
+
+class Vaddi3Rejects : public testing::TestWithParam<Rejection> {};
+
+INSTANTIATE_TEST_SUITE_P(
+    Tries, Vaddi3Rejects,
+    testing::Values(
+        // 6 / 0.1 is 60.
+        Rejection{"AJumpDownThatEndsBeyondFifty", KinkKind::JumpDown, {cellOf(1, 5), cellOf(0, 8)}},
+        // -0.5 * 8 + 5 is 1.
+        Rejection{"AJumpDownFromOne", KinkKind::JumpDown,
+                  test::firstPartOf({KinkKind::JumpDown, 5, -0.5F, 8, 0, 0, 0, 0})},
+        // The kink stands at 1.4, and the second part would begin at 0.
+        Rejection{"AJumpDownToNothing", KinkKind::JumpDown,
+                  test::firstPartOf({KinkKind::JumpDown, 5, -0.6F, 6, -2, 0, 0, 0}) +
+                      test::secondPartOf({KinkKind::JumpDown, 5, -0.6F, 6, -2, 0, 0, 0})},
+        // 5 / 5 is 1.
+        Rejection{"AJumpUpThatEndsAtOne", KinkKind::JumpUp, {cellOf(0, 5), cellOf(2, 3)}},
+        // 9 / 0.8 is 11.25.
+        Rejection{"ASteepeningThatEndsBeyondEight", KinkKind::Steeper, {cellOf(4, 5), cellOf(7, 8)}},
+        // -0.8 * 5 + 5 is 1.
+        Rejection{"ASteepeningFromOne", KinkKind::Steeper,
+                  test::firstPartOf({KinkKind::Steeper, 5, -0.8F, 5, 0, 0, 0, 0})},
+        Rejection{"AFlatteningThatEndsAtOne", KinkKind::Flatter, {cellOf(0, 5), cellOf(2, 3)}}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_P(Vaddi3Rejects, AndGoesBackToTheFirstIntercept) {
+    const std::map<KinkKind, Vaddi3Task> tasks{{KinkKind::JumpDown, test::kTwoSegments},
+                                               {KinkKind::JumpUp, test::kFourSegments},
+                                               {KinkKind::Steeper, test::kSteeper},
+                                               {KinkKind::Flatter, test::kFlatter}};
+    const Vaddi3Task& task = tasks.at(GetParam().kind);
+    ScriptedDraws draws(test::kindOf(task.kind) + GetParam().rejected + GetParam().rejected +
+                        test::firstPartOf(task) + test::secondPartOf(task) + test::secondFunctionOf(task));
+    Vaddi3State s;
+    newExercise(s, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    EXPECT_EQ(draws.randomized(), 1);
+    EXPECT_EQ(s.kinkKind, task.kind);
+    EXPECT_EQ(sumText(s), sumText(exerciseOf(task)));
+}
+
+TEST(Vaddi3Draw, TakesAJumpDownThatEndsAtFifty) {
+    EXPECT_EQ(exerciseOf({KinkKind::JumpDown, 5, -0.1F, 3, -2, 0.5F, -1, 5}).firstSlope, -0.1F);
+}
+
+TEST(Vaddi3Draw, FailsOnASlopeOfZero) {
+    const auto kindOfFailure = [](const Script& script) -> std::optional<ArithmeticFailure::Kind> {
+        ScriptedDraws draws(script);
+        Vaddi3State s;
+        try {
+            newExercise(s, draws);
+        } catch (const ArithmeticFailure& failure) {
+            EXPECT_TRUE(draws.isUsedUp());
+            return failure.kind();
+        }
+        return std::nullopt;
+    };
+    for (const KinkKind kind : {KinkKind::JumpDown, KinkKind::Steeper}) {
+        // Before the kink is drawn.
+        EXPECT_EQ(kindOfFailure(test::kindOf(kind) + Script{cellOf(2, 5), 0}),
+                  ArithmeticFailure::Kind::DivisionByZero);
+    }
+    for (Vaddi3Task task : {test::kTwoSegments, test::kFourSegments, test::kSteeper, test::kFlatter}) {
+        Script second = test::secondPartOf(task);
+        second.front() = 0;
+        EXPECT_EQ(kindOfFailure(test::kindOf(task.kind) + test::firstPartOf(task) + second +
+                                test::secondFunctionOf(task)),
+                  ArithmeticFailure::Kind::DivisionByZero);
+    }
+}
+
+TEST(Vaddi3Draw, TakesTheFlattestSteepSlopeForADrawOfZero) {
+    ScriptedDraws draws(test::kindOf(KinkKind::Flatter) + Script{cellOf(4, 5), 0, 0.5F} +
+                        Script{cellOf(3, 8), cellOf(1, 5), cellOf(2, 5)});
+    Vaddi3State s;
+    newExercise(s, draws);
+    EXPECT_EQ(s.firstSlope, -2);
+    EXPECT_EQ(s.kinkQuantity, 2);
+}
+
+TEST(Vaddi3Draw, ReachesEveryValueOfEveryNumber) {
+    std::map<KinkKind, std::set<std::string>> first;
+    std::map<KinkKind, std::set<std::string>> second;
+    std::set<std::string> starts;
+    std::set<std::string> slopes2;
+    std::set<std::string> starts2;
+    SeededDraws draws(75);
+    Vaddi3State s;
+    for (int i = 0; i < 20'000; ++i) {
+        newExercise(s, draws);
+        first[s.kinkKind].insert(NumberText(s.firstSlope));
+        second[s.kinkKind].insert(NumberText(s.secondSlope));
+        starts.insert(NumberText(s.firstIntercept));
+        slopes2.insert(NumberText(s.slope2));
+        starts2.insert(NumberText(s.intercept2));
+    }
+    const std::set<std::string> flat{"-0.1", "-0.2", "-0.3", "-0.4", "-0.5", "-0.6", "-0.7", "-0.8"};
+    const std::set<std::string> steepFirst{"-3", "-4", "-5"};
+    const std::set<std::string> steepSecond{"-1", "-2", "-3", "-4"};
+    EXPECT_EQ(first[KinkKind::JumpDown], flat);
+    EXPECT_EQ(first[KinkKind::JumpUp], steepFirst);
+    // Flatter ones end beyond 8.
+    EXPECT_EQ(first[KinkKind::Steeper], (std::set<std::string>{"-0.7", "-0.8"}));
+    EXPECT_EQ(first[KinkKind::Flatter], steepFirst);
+    EXPECT_EQ(second[KinkKind::JumpDown], steepSecond);
+    EXPECT_EQ(second[KinkKind::JumpUp], flat);
+    EXPECT_EQ(second[KinkKind::Steeper], steepSecond);
+    EXPECT_EQ(second[KinkKind::Flatter], flat);
+    EXPECT_EQ(starts, (std::set<std::string>{"5", "6", "7", "8", "9"}));
+    EXPECT_EQ(slopes2, (std::set<std::string>{"0", "-1", "-2", "-3", "-4"}));
+    EXPECT_EQ(starts2, starts);
+}
+
+// The sum, of every kind with function 2 at every place.
+
+struct SumCase {
+    const char* name;
+    Vaddi3Task task;
+    std::string prices;
+    std::string sum;
+};
+
+class Vaddi3Sum : public testing::TestWithParam<SumCase> {};
+
+// One case a line.
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Of, Vaddi3Sum, testing::ValuesIn(std::vector<SumCase>{
+        {"JumpDownBelowFunction2", {KinkKind::JumpDown, 8, -0.5F, 4, -2, 0.25F, -2, 9}, "9 8 6 4 0",
+         "P=-2Q+9 0<Q<0.5; P=-0.4Q+8.2 0.5<Q<5.5; P=-2Q+17 5.5<Q<6.5; P=-1Q+10.5 6.5<Q<10.5"},
+        {"JumpDownWithEqualStarts", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, -2, 9}, "9 7 5 0",
+         "P=-0.4Q+9 0<Q<5; P=-2Q+17 5<Q<6; P=-1Q+11 6<Q<11"},
+        {"JumpDownUnderFunction2BeforeTheJump", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, -2, 8}, "9 8 7 5 0",
+         "P=-0.5Q+9 0<Q<2; P=-0.4Q+8.8 2<Q<4.5; P=-2Q+16 4.5<Q<5.5; P=-1Q+10.5 5.5<Q<10.5"},
+        {"JumpDownWithFunction2AtTheFirstKinkPrice", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, -3, 7}, "9 7 5 0",
+         "P=-0.5Q+9 0<Q<4; P=-3Q+19 4<Q<4.67; P=-1.2Q+10.6 4.67<Q<8.83"},
+        {"JumpDownOverFunction2InTheJump", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, -1, 6}, "9 7 6 5 0",
+         "P=-0.5Q+9 0<Q<4; P=-1Q+10 4<Q<5; P=-0.67Q+8.33 5<Q<12.5"},
+        {"JumpDownWithFunction2AtTheSecondKinkPrice", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, -4, 5}, "9 7 5 0",
+         "P=-0.5Q+9 0<Q<4; P=-1.33Q+10.33 4<Q<7.75"},
+        {"JumpDownWithFunction2BelowTheJump", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.1F, -1, 5}, "9 7 6 5 0",
+         "P=-0.5Q+9 0<Q<4; P=-2Q+14 4<Q<4.5; P=-0.67Q+8 4.5<Q<12"},
+        {"JumpUpBelowFunction2", {KinkKind::JumpUp, 8, -4, 1, -0.5F, 0.5F, -2, 9}, "9 8 6.5 4 0",
+         "P=-2Q+9 0<Q<0.5; P=-1.33Q+8.67 0.5<Q<3.5; P=-0.4Q+7.4 2.25<Q<18.5"},
+        {"JumpUpWithEqualStarts", {KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, -2, 9}, "9 6 3 0",
+         "P=-1.2Q+9 0<Q<5; P=-0.4Q+7.4 3.5<Q<18.5"},
+        {"JumpUpUnderFunction2AboveTheJump", {KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, -2, 8}, "9 8 6 3 0",
+         "P=-3Q+9 0<Q<0.33; P=-1.2Q+8.4 0.33<Q<4.5; P=-0.4Q+7.2 3<Q<18"},
+        {"JumpUpWithFunction2AtTheSecondKinkPrice", {KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, -2, 6}, "9 6 3 0",
+         "P=-3Q+9 0<Q<1; P=-1.2Q+7.2 1<Q<3.5; P=-0.4Q+6.8 2<Q<17"},
+        {"JumpUpWithFunction2InTheJump", {KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, -2, 5}, "9 6 5 3 0",
+         "P=-3Q+9 0<Q<1.33; P=-1.2Q+6.6 1.33<Q<3; P=-0.5Q+7 2<Q<4; P=-0.4Q+6.6 4<Q<16.5"},
+        {"JumpUpWithFunction2AtTheFirstKinkPrice", {KinkKind::JumpUp, 9, -4, 1, -0.5F, 0.3F, -2, 5}, "9 6.5 5 0",
+         "P=-4Q+9 0<Q<1; P=-0.5Q+7 1<Q<4; P=-0.4Q+6.6 4<Q<16.5"},
+        {"JumpUpWithFunction2BelowTheJump", {KinkKind::JumpUp, 9, -3, 1, -0.4F, 0.6F, -2, 5}, "9 7.6 6 5 0",
+         "P=-3Q+9 0<Q<1; P=-0.4Q+8 1<Q<7.5; P=-0.33Q+7.5 7.5<Q<22.5"},
+        {"SteeperBelowFunction2", {KinkKind::Steeper, 6, -0.8F, 5, -2, 0, -1, 8}, "8 6 2 0",
+         "P=-1Q+8 0<Q<2; P=-0.44Q+6.89 2<Q<11; P=-0.67Q+9.33 11<Q<14"},
+        {"SteeperWithEqualStarts", {KinkKind::Steeper, 6, -0.8F, 5, -2, 0, -1, 6}, "6 2 0",
+         "P=-0.44Q+6 0<Q<9; P=-0.67Q+8 9<Q<12"},
+        {"SteeperOverFunction2BeforeTheKink", {KinkKind::Steeper, 6, -0.8F, 5, -2, 0, -2, 5}, "6 5 2 0",
+         "P=-0.8Q+6 0<Q<1.25; P=-0.57Q+5.71 1.25<Q<6.5; P=-1Q+8.5 6.5<Q<8.5"},
+        {"SteeperWithFunction2BelowTheKink", {KinkKind::Steeper, 6, -0.8F, 1, -2, 0, -2, 5}, "6 5.2 5 0",
+         "P=-0.8Q+6 0<Q<1; P=-2Q+7.2 1<Q<1.1; P=-1Q+6.1 1.1<Q<6.1"},
+        {"FlatterBelowFunction2", {KinkKind::Flatter, 8, -4, 1, -0.5F, 0, -3, 9}, "9 8 4 0",
+         "P=-3Q+9 0<Q<0.33; P=-1.71Q+8.57 0.33<Q<2.67; P=-0.43Q+5.14 2.67<Q<12"},
+        {"FlatterWithEqualStarts", {KinkKind::Flatter, 9, -4, 1, -0.5F, 0, -1, 9}, "9 5 0",
+         "P=-0.8Q+9 0<Q<5; P=-0.33Q+6.67 5<Q<20"},
+        {"FlatterOverFunction2BeforeTheKink", {KinkKind::Flatter, 9, -4, 1, -0.5F, 0, -2, 7}, "9 7 5 0",
+         "P=-4Q+9 0<Q<0.5; P=-1.33Q+7.67 0.5<Q<2; P=-0.4Q+5.8 2<Q<14.5"},
+        {"FlatterWithFunction2AtTheKink", {KinkKind::Flatter, 9, -4, 1, -0.5F, 0, -2, 5}, "9 5 0",
+         "P=-4Q+9 0<Q<1; P=-0.4Q+5.4 1<Q<13.5"},
+        {"FlatterWithFunction2BelowTheKink", {KinkKind::Flatter, 9, -3, 1, -0.4F, 0, -2, 5}, "9 6 5 0",
+         "P=-3Q+9 0<Q<1; P=-0.4Q+6.4 1<Q<3.5; P=-0.33Q+6.17 3.5<Q<18.5"},
+        {"JumpDownBelowALevel", {KinkKind::JumpDown, 8, -0.5F, 4, -2, 0.25F, 0, 9}, "9 8 6 4 0",
+         "P=0Q+9 0<Q<oo"},
+        {"JumpDownFromALevel", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, 0, 9}, "9 7 5 0",
+         "P=0Q+9 0<Q<oo"},
+        {"JumpDownOverALevelBeforeTheJump", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, 0, 8}, "9 8 7 5 0",
+         "P=-0.5Q+9 0<Q<2; P=0Q+8 2<Q<oo"},
+        {"JumpDownOverALevelAtTheFirstKinkPrice", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, 0, 7}, "9 7 5 0",
+         "P=-0.5Q+9 0<Q<4; P=0Q+7 4<Q<oo"},
+        {"JumpDownOverALevelInTheJump", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, 0, 6}, "9 7 6 5 0",
+         "P=-0.5Q+9 0<Q<4; P=0Q+6 4<Q<oo"},
+        {"JumpDownOverALevelAtTheSecondKinkPrice", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, 0, 5}, "9 7 5 0",
+         "P=-0.5Q+9 0<Q<4; P=0Q+5 4<Q<oo"},
+        {"JumpDownOverALevelBelowTheJump", {KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.1F, 0, 5}, "9 7 6 5 0",
+         "P=-0.5Q+9 0<Q<4; P=-2Q+14 4<Q<4.5; P=0Q+5 4.5<Q<oo"},
+        {"JumpUpBelowALevel", {KinkKind::JumpUp, 8, -4, 1, -0.5F, 0.5F, 0, 9}, "9 8 6.5 4 0",
+         "P=0Q+9 0<Q<oo"},
+        {"JumpUpFromALevel", {KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, 0, 9}, "9 6 3 0",
+         "P=0Q+9 0<Q<oo"},
+        {"JumpUpOverALevelAboveTheJump", {KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, 0, 8}, "9 8 6 3 0",
+         "P=-3Q+9 0<Q<0.33; P=0Q+8 0.33<Q<oo"},
+        {"JumpUpOverALevelAtTheSecondKinkPrice", {KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, 0, 6}, "9 6 3 0",
+         "P=-3Q+9 0<Q<1; P=0Q+6 1<Q<oo"},
+        {"JumpUpOverALevelInTheJump", {KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, 0, 5}, "9 6 5 3 0",
+         "P=-3Q+9 0<Q<1.33; P=0Q+5 1.33<Q<oo"},
+        {"JumpUpOverALevelAtTheFirstKinkPrice", {KinkKind::JumpUp, 9, -4, 1, -0.5F, 0.3F, 0, 5}, "9 6.5 5 0",
+         "P=-4Q+9 0<Q<1; P=0Q+5 1<Q<oo"},
+        {"JumpUpOverALevelBelowTheJump", {KinkKind::JumpUp, 9, -3, 1, -0.4F, 0.6F, 0, 5}, "9 7.6 6 5 0",
+         "P=-3Q+9 0<Q<1; P=-0.4Q+8 1<Q<7.5; P=0Q+5 7.5<Q<oo"},
+        {"SteeperBelowALevel", {KinkKind::Steeper, 6, -0.8F, 5, -2, 0, 0, 8}, "8 6 2 0",
+         "P=0Q+8 0<Q<oo"},
+        {"SteeperFromALevel", {KinkKind::Steeper, 6, -0.8F, 5, -2, 0, 0, 6}, "6 2 0",
+         "P=0Q+6 0<Q<oo"},
+        {"SteeperOverALevelBeforeTheKink", {KinkKind::Steeper, 6, -0.8F, 5, -2, 0, 0, 5}, "6 5 2 0",
+         "P=-0.8Q+6 0<Q<1.25; P=0Q+5 1.25<Q<oo"},
+        {"SteeperOverALevelBelowTheKink", {KinkKind::Steeper, 6, -0.8F, 1, -2, 0, 0, 5}, "6 5.2 5 0",
+         "P=-0.8Q+6 0<Q<1; P=-2Q+7.2 1<Q<1.1; P=0Q+5 1.1<Q<oo"},
+        {"FlatterBelowALevel", {KinkKind::Flatter, 8, -4, 1, -0.5F, 0, 0, 9}, "9 8 4 0",
+         "P=0Q+9 0<Q<oo"},
+        {"FlatterFromALevel", {KinkKind::Flatter, 9, -4, 1, -0.5F, 0, 0, 9}, "9 5 0",
+         "P=0Q+9 0<Q<oo"},
+        {"FlatterOverALevelBeforeTheKink", {KinkKind::Flatter, 9, -4, 1, -0.5F, 0, 0, 7}, "9 7 5 0",
+         "P=-4Q+9 0<Q<0.5; P=0Q+7 0.5<Q<oo"},
+        {"FlatterOverALevelAtTheKink", {KinkKind::Flatter, 9, -4, 1, -0.5F, 0, 0, 5}, "9 5 0",
+         "P=-4Q+9 0<Q<1; P=0Q+5 1<Q<oo"},
+        {"FlatterOverALevelBelowTheKink", {KinkKind::Flatter, 9, -3, 1, -0.4F, 0, 0, 5}, "9 6 5 0",
+         "P=-3Q+9 0<Q<1; P=-0.4Q+6.4 1<Q<3.5; P=0Q+5 3.5<Q<oo"},
+    }), [](const auto& row) { return row.param.name; });
+// clang-format on
+
+TEST_P(Vaddi3Sum, HasItsPricesAndSegments) {
+    const Vaddi3State s = exerciseOf(GetParam().task);
+    EXPECT_EQ(sumText(s), GetParam().sum);
+    std::string prices;
+    for (const TableCell& cell : s.helpTable[helpColumns(s).price]) {
+        prices += cell.isBlank() ? "" : (prices.empty() ? "" : " ") + cell.text();
+    }
+    EXPECT_EQ(prices, GetParam().prices);
+    EXPECT_EQ(s.upperEndAsked, GetParam().task.slope2 != 0);
+    EXPECT_EQ(s.upperEnd, s.segments.back().endQ);
+}
+
+// The help table.
+
+TEST(Vaddi3Table, ShiftsByOneColumnWhereFunction1HasOneQuantityAtEveryPrice) {
+    const Vaddi3State s = exerciseOf(test::kThreeSegments);
+    EXPECT_EQ(columnText(s.helpTable[0]), " | | | | ");
+    EXPECT_EQ(columnText(s.helpTable[1]), "9|7|5|0| ");
+    EXPECT_EQ(columnText(s.helpTable[2]), "0|4|4|6.5| ");
+    EXPECT_EQ(columnText(s.helpTable[3]), "0|1|2|4.5| ");
+    EXPECT_EQ(columnText(s.helpTable[4]), "0|5|6|11| ");
+    EXPECT_EQ(columnText(s.helpTable[5]), " | | | | ");
+    EXPECT_EQ(s.upperEnd.text(), "11");
+}
+
+TEST(Vaddi3Table, HasAColumnForEachPartAtAJumpUp) {
+    const Vaddi3State s = exerciseOf(test::kFourSegments);
+    EXPECT_EQ(columnText(s.helpTable[0]), "9|6|5|3|0");
+    EXPECT_EQ(columnText(s.helpTable[1]), "0|1|1.33|2|0");
+    EXPECT_EQ(columnText(s.helpTable[2]), "0|2|4|8|14");
+    EXPECT_EQ(columnText(s.helpTable[3]), " | |0|1|2.5");
+    EXPECT_EQ(columnText(s.helpTable[4]), "0|1|1.33|3|2.5");
+    EXPECT_EQ(columnText(s.helpTable[5]), "0|2|4|9|16.5");
+    EXPECT_EQ(columnText(s.helpTable[HelpColumns::kOwner]), "1|2|3|1|2");
+    EXPECT_EQ(s.upperEnd.text(), "16.5");
+}
+
+TEST(Vaddi3Table, IsBlankOnlyAboveTheStartOfAFunction) {
+    const Vaddi3State above = exerciseOf({KinkKind::JumpUp, 8, -4, 1, -0.5F, 0.5F, -2, 9});
+    EXPECT_EQ(columnText(above.helpTable[1]), " |0|0.38|1|0");
+    EXPECT_EQ(columnText(above.helpTable[2]), " |0|1|6|14");
+    EXPECT_EQ(columnText(above.helpTable[4]), "0|0.5|1.63|3.5|4.5");
+    const Vaddi3State below = exerciseOf(test::kTwoSegments);
+    EXPECT_EQ(columnText(below.helpTable[3]), " | |0|1.25| ");
+    EXPECT_EQ(columnText(below.helpTable[4]), "0|4|4|7.75| ");
+}
+
+TEST(Vaddi3Table, HasAnyQuantityBelowALevelFunction) {
+    const Vaddi3State s = exerciseOf(test::kTwoOverALevel);
+    EXPECT_EQ(columnText(s.helpTable[1]), "9|7|6|5|0");
+    EXPECT_EQ(columnText(s.helpTable[2]), "0|4|4|4|6.5");
+    EXPECT_EQ(columnText(s.helpTable[3]), " | |0|oo|oo");
+    EXPECT_EQ(columnText(s.helpTable[4]), "0|4|4|oo|oo");
+    const Vaddi3State both = exerciseOf(test::kThreeOverALevel);
+    EXPECT_EQ(columnText(both.helpTable[3]), " | | |0|oo");
+    EXPECT_EQ(columnText(both.helpTable[4]), "0|0.47|1|0|oo");
+    EXPECT_EQ(columnText(both.helpTable[5]), "0|1|5|7.5|oo");
+}
+
+TEST(Vaddi3Table, MergesEqualPricesAndBlanksTheRowsThatAreLeft) {
+    // The two kink prices and the start of function 2 are one.
+    const Vaddi3State three = exerciseOf(test::kFlatter);
+    EXPECT_EQ(columnText(three.helpTable[1]), "9|5|0| | ");
+    EXPECT_EQ(columnText(three.helpTable[4]), "0|1|13.5| | ");
+    // A merged row at a jump up stays on both parts.
+    const Vaddi3State higher = exerciseOf({KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, -2, 6});
+    EXPECT_EQ(columnText(higher.helpTable[HelpColumns::kOwner]), "1|3|1|2| ");
+    const Vaddi3State lower = exerciseOf({KinkKind::JumpUp, 9, -4, 1, -0.5F, 0.3F, -2, 5});
+    EXPECT_EQ(columnText(lower.helpTable[HelpColumns::kOwner]), "1|2|3|2| ");
+    const Vaddi3State start = exerciseOf({KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, -2, 9});
+    EXPECT_EQ(columnText(start.helpTable[HelpColumns::kOwner]), "1|2|1|2| ");
+}
+
+TEST(Vaddi3Table, LosesASegmentToAMergedRow) {
+    EXPECT_EQ(exerciseOf({KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, -2, 8}).segmentCount(), 4);
+    EXPECT_EQ(exerciseOf({KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, -2, 7}).segmentCount(), 3);
+}
+
+TEST(Vaddi3Table, SaysOnWhichPartsARowLies) {
+    const Vaddi3State up = exerciseOf(test::kFourSegments);
+    const auto parts = [](const Vaddi3State& s, std::size_t part) {
+        std::string rows;
+        for (std::size_t row = 0; row < 5; ++row) {
+            rows += isRowOf(s, row, part) ? '1' : '0';
+        }
+        return rows;
+    };
+    EXPECT_EQ(parts(up, 0), "10110");
+    EXPECT_EQ(parts(up, 1), "01101");
+    EXPECT_EQ(parts(exerciseOf(test::kThreeSegments), 0), "11110");
+}
+
+TEST(Vaddi3Table, KeepsThePrecisionOfItsNumbers) {
+    // 0.525, from a price that is a double: as a single it would come out below the half.
+    const Vaddi3State s = exerciseOf({KinkKind::JumpUp, 8, -4, 1, -0.1F, 0.3F, -1, 9});
+    ASSERT_EQ(s.secondIntercept, 6);
+    EXPECT_EQ(columnText(s.helpTable[1]), " |0|0.53|1|0");
+    // 7.125, from singles alone: as doubles they would come out below the half.
+    const Vaddi3State singles = exerciseOf({KinkKind::JumpDown, 7, -0.2F, 8, -4, 0.1F, -3, 9});
+    EXPECT_EQ(singles.segments[1].piece.intercept, 7.13);
+}
+
+// The sentence of the second step.
+
+TEST(Vaddi3Path, HasAPartForEachSegment) {
+    using Lines = std::array<std::string, 2>;
+    EXPECT_EQ(pathTexts(exerciseOf(test::kOneSegment)), (Lines{"Her fra ( 0 ; 9 ) til ( oo ; 9 ).", ""}));
+    EXPECT_EQ(pathTexts(exerciseOf(test::kTwoSegments)),
+              (Lines{"Her fra ( 0 ; 9 ) til ( 4 ; 7 ) og fra ( 4 ; 5 ) til ( 7.75 ; 0 ).", ""}));
+    EXPECT_EQ(pathTexts(exerciseOf(test::kThreeSegments)),
+              (Lines{"Her fra ( 0 ; 9 ) til ( 5 ; 7 ), fra ( 5 ; 7 ) til ( 6 ; 5 ) og fra ",
+                     "( 6 ; 5 ) til ( 11 ; 0 )."}));
+    EXPECT_EQ(pathTexts(exerciseOf(test::kFourSegments)),
+              (Lines{"Her fra ( 0 ; 9 ) til ( 1.33 ; 5 ), fra ( 1.33 ; 5 ) til ( 3 ; 3 ), fra ",
+                     "( 2 ; 6 ) til ( 4 ; 5 ) og fra ( 4 ; 5 ) til ( 16.5 ; 0 )."}));
+    EXPECT_EQ(pathTexts(exerciseOf(test::kTwoOverALevel)),
+              (Lines{"Her fra ( 0 ; 9 ) til ( 4 ; 7 ) og fra ( 4 ; 6 ) til ( oo ; 6 ).", ""}));
+}
+
+// The judge.
+
+std::string fieldsText(const Vaddi3State& s) {
+    std::string text;
+    for (const AnswerField& field : answerFields(s)) {
+        constexpr std::array kSlots{"s", "i", "<", ">"};
+        text += std::to_string(field.row) + kSlots.at(static_cast<std::size_t>(field.slot)) +
+                NumberText(field.target.value) + " ";
+    }
+    const auto end = upperEndField(s);
+    return text + (end ? "end " + std::to_string(end->row) + " " + NumberText(end->target.value) : "no end");
+}
+
+TEST(Vaddi3Judge, AsksForTheFieldsOfEachNumberOfSegments) {
+    EXPECT_EQ(fieldsText(exerciseOf(test::kOneSegment)), "1s0 1i9 1<0 no end");
+    EXPECT_EQ(fieldsText(exerciseOf(test::kTwoSegments)), "0s-0.5 0i9 0>4 1s-1.33 1i10.33 1<4 end 1 7.75");
+    EXPECT_EQ(fieldsText(exerciseOf(test::kThreeSegments)),
+              "0s-0.4 0i9 0>5 1s-2 1i17 1<5 1>6 2s-1 2i11 2<6 end 2 11");
+    EXPECT_EQ(fieldsText(exerciseOf(test::kFourSegments)),
+              "0s-3 0i9 0>1.33 1s-1.2 1i6.6 1<1.33 1>3 2s-0.5 2i7 2<2 2>4 3s-0.4 3i6.6 3<4 end 3 16.5");
+    EXPECT_EQ(fieldsText(exerciseOf(test::kTwoOverALevel)), "0s-0.5 0i9 0>4 1s0 1i6 1<4 no end");
+    EXPECT_EQ(fieldsText(exerciseOf(test::kThreeOverALevel)),
+              "0s-3 0i9 0>1 1s-0.4 1i8 1<1 1>7.5 2s0 2i5 2<7.5 no end");
+}
+
+TEST(Vaddi3Judge, MarksWhateverFails) {
+    for (const AnswerField& field : answerFields(exerciseOf(test::kFourSegments))) {
+        const double target = field.target.value;
+        for (const double off : {-0.01, -0.005, -0.004, 0.0, 0.004, 0.005, 0.01}) {
+            EXPECT_NE(field.target.isFit(target + off), field.target.isMarked(target + off))
+                << target << " " << off;
+        }
+        EXPECT_TRUE(field.target.isFit(target + 0.005));
+        EXPECT_FALSE(field.target.isFit(target - 0.005));
+    }
+}
+
+TEST(Vaddi3Judge, TakesBothEndsOfTheUpperEnd) {
+    const Target end = upperEndField(exerciseOf(test::kFourSegments))->target;
+    EXPECT_TRUE(end.isFit(16.5 + 0.005));
+    EXPECT_TRUE(end.isFit(16.5 - 0.005));
+    EXPECT_FALSE(end.isFit(16.5 + 0.0051));
+    EXPECT_FALSE(end.isFit(16.5 - 0.0051));
+}
+
+TEST(Vaddi3Judge, HasNoToleranceForTheStartOfALoneSegment) {
+    const std::vector<AnswerField> fields = answerFields(exerciseOf(test::kOneSegment));
+    EXPECT_TRUE(fields[2].target.isFit(0));
+    EXPECT_FALSE(fields[2].target.isFit(0.001));
+    EXPECT_TRUE(fields[2].target.isMarked(0.001));
+}
+
+// Many exercises against the functions that were drawn.
+
+/// Draws the exercise of a seed. Once in a million or so, a draw of just 0 gives a slope of 0, which fails
+/// as told: then false.
+bool isDrawn(Vaddi3State& s, int seed) {
+    SeededDraws draws(static_cast<std::uint64_t>(seed));
+    try {
+        newExercise(s, draws);
+    } catch (const ArithmeticFailure& failure) {
+        EXPECT_EQ(failure.kind(), ArithmeticFailure::Kind::DivisionByZero) << "seed " << seed;
+        EXPECT_TRUE(s.firstSlope == 0 || s.secondSlope == 0) << "seed " << seed;
+        return false;
+    }
+    return true;
+}
+
+/// Runs through the lot.
+template <class Action>
+void forEachExercise(Action action) {
+    Vaddi3State s;
+    for (int seed = 0; seed < test::lotSize() && !testing::Test::HasFatalFailure(); ++seed) {
+        if (isDrawn(s, seed)) {
+            action(s, seed);
+        }
+    }
+}
+
+/// Runs through those of the lot that differ in their functions; returns how many they are.
+template <class Action>
+std::size_t forEachDifferentExercise(Action action) {
+    std::set<std::array<double, 8>> seen;
+    forEachExercise([&](const Vaddi3State& s, int seed) {
+        const bool isNew =
+            seen.insert({static_cast<double>(s.kinkKind), s.firstIntercept, s.firstSlope, s.kinkQuantity,
+                         s.secondSlope, s.secondIntercept, s.slope2, s.intercept2})
+                .second;
+        if (isNew) {
+            action(s, seed);
+        }
+    });
+    return seen.size();
+}
+
+/// The drawn number, which is a whole one or a number of tenths.
+Exact exact(double drawn) { return {std::llround(drawn * 10), 10}; }
+
+/// The two functions, and all that can be bought at a price.
+struct Market {
+    KinkKind kind;
+    Exact slopeBefore, start1, slopeAfter, secondIntercept, kink;
+    Exact slope2, start2;
+    Exact kinkFirst, kinkSecond;
+
+    /// A stretch of the sum between two prices at which something begins or ends.
+    struct Stretch {
+        Exact startQ, startP, endQ, endP;
+        Exact slope = (startP - endP) / (startQ - endQ);
+        Exact intercept = startP - slope * startQ;
+
+        [[nodiscard]] bool isAround(Exact p) const { return endP < p && p < startP; }
+        [[nodiscard]] Exact at(Exact p) const { return (p - intercept) / slope; }
+    };
+
+    explicit Market(const Vaddi3State& s)
+        : kind(s.kinkKind),
+          slopeBefore(exact(s.firstSlope)),
+          start1(exact(s.firstIntercept)),
+          slopeAfter(exact(s.secondSlope)),
+          secondIntercept(exact(s.secondIntercept)),
+          kink(exact(s.kinkQuantity)),
+          slope2(exact(s.slope2)),
+          start2(exact(s.intercept2)),
+          kinkFirst(slopeBefore * kink + start1),
+          kinkSecond(slopeAfter * kink + secondIntercept) {}
+
+    [[nodiscard]] bool isLevel() const { return slope2 == Exact(0); }
+    [[nodiscard]] Exact before(Exact p) const { return (p - start1) / slopeBefore; }
+    [[nodiscard]] Exact after(Exact p) const { return (p - secondIntercept) / slopeAfter; }
+    [[nodiscard]] Exact second(Exact p) const {
+        return isLevel() || p > start2 ? Exact(0) : (p - start2) / slope2;
+    }
+    /// The prices between which function 1 falls upright.
+    [[nodiscard]] bool isJumpedOver(Exact p) const { return kinkSecond < p && p < kinkFirst; }
+
+    /// The quantities of the sum at a price at which nothing begins or ends, read off the functions. A
+    /// stretch that runs upright has no function, and over a level function the market ends with the part
+    /// of function 1 that comes to it first.
+    [[nodiscard]] std::vector<Exact> bought(Exact p) const {
+        const bool isOutside = isLevel() ? p < start2 || p > start1 : p > start2 && p > start1;
+        if (isOutside || (isJumpedOver(p) && (isLevel() || p > start2))) {
+            return {};
+        }
+        std::vector<Exact> all;
+        if (p > start1) {
+            all.emplace_back(0);
+        } else if (isJumpedOver(p)) {
+            all.push_back(kink);
+        } else {
+            if (p > kinkFirst) {
+                all.push_back(before(p));
+            }
+            const bool isCutBeforeTheJump = kind == KinkKind::JumpUp && isLevel() && start2 >= kinkFirst;
+            if (p < kinkSecond && !isCutBeforeTheJump) {
+                all.push_back(after(p));
+            }
+        }
+        for (Exact& q : all) {
+            q = q + second(p);
+        }
+        return all;
+    }
+
+    /// The sloping pieces of the sum, as the functions and their prices give them.
+    [[nodiscard]] std::vector<Stretch> stretches() const {
+        const Exact top = isLevel() ? start1 : std::max(start1, start2);
+        const Exact bottom = isLevel() ? start2 : Exact(0);
+        std::vector<Stretch> all;
+        std::vector<Exact> breaks{start1, start2};
+        if (kind != KinkKind::JumpUp) {
+            // The parts of a jump up end each in its own run.
+            breaks.insert(breaks.end(), {kinkFirst, kinkSecond});
+        }
+        const auto run = [&](Exact from, Exact to, auto quantity) {
+            std::set<Exact, std::greater<>> prices{from, to};
+            for (const Exact price : breaks) {
+                if (to < price && price < from) {
+                    prices.insert(price);
+                }
+            }
+            for (auto price = prices.begin(); from > to && std::next(price) != prices.end(); ++price) {
+                const Exact next = *std::next(price);
+                const Exact startQ = quantity(*price) + second(*price);
+                const Exact endQ = quantity(next) + second(next);
+                if (startQ != endQ) {
+                    all.push_back(Stretch{startQ, *price, endQ, next});
+                }
+            }
+        };
+        const auto first = [this](Exact p) { return p > start1 ? Exact(0) : before(p); };
+        if (kind == KinkKind::JumpUp) {
+            run(top, std::max(bottom, kinkFirst), first);
+            if (bottom < kinkFirst) {
+                run(kinkSecond, bottom, [this](Exact p) { return after(p); });
+            }
+        } else {
+            run(top, bottom,
+                [&](Exact p) { return p >= kinkFirst ? first(p) : (p >= kinkSecond ? kink : after(p)); });
+        }
+        return all;
+    }
+
+    [[nodiscard]] bool isBreak(Exact p) const {
+        const auto breaks = {start1, kinkFirst, kinkSecond, start2, Exact(0)};
+        return std::find(breaks.begin(), breaks.end(), p) != breaks.end();
+    }
+};
+
+/// Half of the last decimal, and what singles may lose.
+constexpr double kHalf = 0.005 + 1e-5;
+
+bool isNear(double rounded, Exact exact) { return std::abs(rounded - exact.value()) <= kHalf; }
+bool isNear(const TableCell& cell, Exact exact) { return cell.isNumeric() && isNear(cell.number(), exact); }
+
+/// True if the stretches hold all that is bought, and no more, at prices in the middle between two tenths,
+/// where nothing begins or ends: at every fourth of them, from another one in each exercise.
+bool areAllThatIsBought(const std::vector<Market::Stretch>& stretches, const Market& market, int seed) {
+    constexpr int kStep = 4;
+    for (int tenth = seed % kStep; tenth < 100; tenth += kStep) {
+        const Exact price(2 * tenth + 1, 20);
+        std::vector<Exact> found;
+        for (const Market::Stretch& stretch : stretches) {
+            if (stretch.isAround(price)) {
+                found.push_back(stretch.at(price));
+            }
+        }
+        if (found != market.bought(price)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// What is wrong with the segments, in a word; empty if nothing is.
+std::string flawOfSum(const Vaddi3State& s, int seed) {
+    const Market market(s);
+    const std::vector<Market::Stretch> stretches = market.stretches();
+    if (!areAllThatIsBought(stretches, market, seed)) {
+        return "not the sum, by the test itself";
+    }
+    const std::size_t sloping = s.segments.size() - (market.isLevel() ? 1 : 0);
+    if (sloping != stretches.size()) {
+        return "another number of segments";
+    }
+    for (std::size_t i = 0; i < sloping; ++i) {
+        const SumSegment& segment = s.segments[i];
+        const Market::Stretch& stretch = stretches[i];
+        if (!isNear(segment.startQ, stretch.startQ) || !isNear(segment.startP, stretch.startP) ||
+            !isNear(segment.endQ, stretch.endQ) || !isNear(segment.endP, stretch.endP)) {
+            return "another end";
+        }
+        if (!isNear(segment.piece.slope, stretch.slope) ||
+            !isNear(segment.piece.intercept, stretch.intercept)) {
+            return "another line";
+        }
+        // Along the segment: slope and intercept are off by half a decimal at most.
+        for (int quarter = 0; quarter <= 4; ++quarter) {
+            const Exact q = stretch.startQ + (stretch.endQ - stretch.startQ) * Exact(quarter, 4);
+            const Exact p = stretch.slope * q + stretch.intercept;
+            if (std::abs(segment.piece.at(q.value()) - p.value()) > kHalf * (q.value() + 1)) {
+                return "off the sum";
+            }
+        }
+    }
+    if (!market.isLevel()) {
+        return isNear(s.upperEnd, market.after(0) + market.second(0)) ? "" : "another upper end";
+    }
+    const SumSegment& level = s.segments.back();
+    const bool isLevel = level.piece.slope == 0 && level.piece.intercept == s.intercept2 &&
+                         level.endQ.isUnbounded() && level.startP == level.endP &&
+                         isNear(level.startP, market.start2);
+    const TableCell start = sloping == 0 ? TableCell(0.0) : s.segments[sloping - 1].endQ;
+    return isLevel && level.startQ == start ? "" : "another level piece";
+}
+
+/// What is wrong with the help table, in a word.
+std::string flawOfTable(const Vaddi3State& s) {
+    const Market market(s);
+    const HelpColumns columns = helpColumns(s);
+    Exact above = 100;
+    std::size_t rows = 0;
+    for (; rows < 5 && s.helpTable[columns.price][rows].isNumeric(); ++rows) {
+        const Exact p = exact(s.helpTable[columns.price][rows].number());
+        if (!isNear(s.helpTable[columns.price][rows], p) || !(p < above) || !market.isBreak(p)) {
+            return "prices";
+        }
+        above = p;
+        const auto is = [&s, rows](std::size_t column, std::optional<Exact> quantity) {
+            const TableCell& cell = s.helpTable[column][rows];
+            if (!quantity) {
+                return cell.isBlank();
+            }
+            return *quantity > Exact(900) ? cell.isUnbounded() : isNear(cell, *quantity);
+        };
+        const bool isOnFirst = p >= market.kinkFirst;
+        const bool isOnSecond = p <= market.kinkSecond && !(market.kind >= KinkKind::Steeper && isOnFirst);
+        const bool isInJump = !isOnFirst && !isOnSecond;
+        const Exact first = isOnFirst ? market.before(p) : (isInJump ? market.kink : Exact(0));
+        const Exact second = isOnSecond ? market.after(p) : Exact(0);
+        const bool isAbove1 = p > market.start1;
+        std::optional<Exact> other;
+        if (p <= market.start2) {
+            other = market.isLevel() && p < market.start2 ? Exact(1000) : market.second(p);
+        }
+        const std::vector<Exact> parts =
+            s.isJumpUp() ? std::vector<Exact>{first, second} : std::vector<Exact>{first + second};
+        if (!is(columns.quantity2, other)) {
+            return "quantities of function 2";
+        }
+        for (std::size_t part = 0; part < parts.size(); ++part) {
+            const Exact own = isAbove1 ? Exact(0) : parts[part];
+            if (!is(columns.quantities1[part], isAbove1 ? std::nullopt : std::optional(own))) {
+                return "quantities of function 1";
+            }
+            if (!is(columns.totals[part], own + other.value_or(0))) {
+                return "totals";
+            }
+        }
+    }
+    for (std::size_t row = rows; row < 5; ++row) {
+        for (const Vaddi3State::Column& column : s.helpTable) {
+            if (!column[row].isBlank()) {
+                return "rows that are left";
+            }
+        }
+    }
+    return rows >= 3 && above == Exact(0) ? "" : "rows";
+}
+
+TEST(Vaddi3Exercises, AddUpTheTrueFunctions) {
+    std::map<int, int> counts;
+    const std::size_t different = forEachDifferentExercise([&counts](const Vaddi3State& s, int seed) {
+        ASSERT_EQ(flawOfSum(s, seed), "") << "seed " << seed << ": " << sumText(s);
+        ++counts[s.segmentCount()];
+    });
+    std::cout << "    " << different << " different exercises; with 1, 2, 3, 4 segments: " << counts[1]
+              << ", " << counts[2] << ", " << counts[3] << ", " << counts[4] << "\n";
+}
+
+TEST(Vaddi3Exercises, TellTheTrueQuantitiesInTheHelpTable) {
+    forEachDifferentExercise(
+        [](const Vaddi3State& s, int seed) { ASSERT_EQ(flawOfTable(s), "") << "seed " << seed; });
+}
+
+/// Where the start of function 2 lies on function 1.
+enum class Place {
+    AboveFunction1,
+    AtItsStart,
+    AboveTheKink,
+    AtTheFirstPrice,
+    Between,
+    AtTheSecondPrice,
+    Below
+};
+
+Place standsAt(const Vaddi3State& s) {
+    const double start = s.intercept2;
+    const double lower = std::min<double>(s.priceAtKinkFirst, s.priceAtKinkSecond);
+    const double higher = std::max<double>(s.priceAtKinkFirst, s.priceAtKinkSecond);
+    if (start >= s.firstIntercept) {
+        return start > s.firstIntercept ? Place::AboveFunction1 : Place::AtItsStart;
+    }
+    if (start == s.priceAtKinkFirst) {
+        return Place::AtTheFirstPrice;
+    }
+    if (start == s.priceAtKinkSecond) {
+        return Place::AtTheSecondPrice;
+    }
+    return start > higher ? Place::AboveTheKink : (start < lower ? Place::Below : Place::Between);
+}
+
+TEST(Vaddi3Exercises, ReachEveryKindWithEveryPositionOfFunction2) {
+    std::map<KinkKind, std::set<Place>> sloping;
+    std::map<KinkKind, std::set<Place>> level;
+    std::map<KinkKind, std::set<int>> counts;
+    SeededDraws draws(750);
+    Vaddi3State s;
+    for (int i = 0; i < 40'000; ++i) {
+        newExercise(s, draws);
+        (s.slope2 == 0 ? level : sloping)[s.kinkKind].insert(standsAt(s));
+        counts[s.kinkKind].insert(s.segmentCount());
+    }
+    const std::set<Place> jump{
+        Place::AboveFunction1, Place::AtItsStart,       Place::AboveTheKink, Place::AtTheFirstPrice,
+        Place::Between,        Place::AtTheSecondPrice, Place::Below};
+    const std::set<Place> flatter{Place::AboveFunction1, Place::AtItsStart, Place::AboveTheKink,
+                                  Place::AtTheFirstPrice, Place::Below};
+    // A steepening kink never stands at one of the starts of function 2.
+    const std::set<Place> steeper{Place::AboveFunction1, Place::AtItsStart, Place::AboveTheKink,
+                                  Place::Below};
+    for (auto& places : {sloping, level}) {
+        EXPECT_EQ(places.at(KinkKind::JumpDown), jump);
+        EXPECT_EQ(places.at(KinkKind::JumpUp), jump);
+        EXPECT_EQ(places.at(KinkKind::Steeper), steeper);
+        EXPECT_EQ(places.at(KinkKind::Flatter), flatter);
+    }
+    EXPECT_EQ(counts[KinkKind::JumpDown], (std::set<int>{1, 2, 3, 4}));
+    EXPECT_EQ(counts[KinkKind::JumpUp], (std::set<int>{1, 2, 3, 4}));
+    EXPECT_EQ(counts[KinkKind::Steeper], (std::set<int>{1, 2, 3}));
+    EXPECT_EQ(counts[KinkKind::Flatter], (std::set<int>{1, 2, 3}));
+}
+
+/// What the student types for a number that is shown to be right.
+double typedAgain(double shown) { return Val(NumberText(shown)); }
+
+TEST(Vaddi3Exercises, TakeTheirOwnAnswerAndNoOther) {
+    forEachDifferentExercise([](const Vaddi3State& s, int seed) {
+        std::vector<AnswerField> fields = answerFields(s);
+        if (const auto end = upperEndField(s)) {
+            fields.push_back(*end);
+        }
+        for (const AnswerField& field : fields) {
+            const double right = typedAgain(field.target.value);
+            ASSERT_TRUE(std::isfinite(right)) << "seed " << seed;
+            ASSERT_TRUE(field.target.isFit(right)) << "seed " << seed;
+            ASSERT_FALSE(field.target.isMarked(right)) << "seed " << seed;
+            for (const double wrong : {right - 0.01, right + 0.01, right + 1, right - 100}) {
+                ASSERT_FALSE(field.target.isFit(wrong)) << "seed " << seed << ": " << wrong;
+                ASSERT_TRUE(field.target.isMarked(wrong)) << "seed " << seed << ": " << wrong;
+            }
+        }
+    });
+}
+
+TEST(Vaddi3Exercises, AreRightInTheirOwnFieldsButForThreeSegmentsWithAnUpperEnd) {
+    // With three segments the verdict reads the third cell of the third row of the help table instead.
+    int exercises = 0;
+    int slips = 0;
+    int helpedByTheTable = 0;
+    forEachExercise([&](const Vaddi3State& s, int seed) {
+        ++exercises;
+        if (s.segmentCount() != 3 || !s.upperEndAsked) {
+            return;
+        }
+        ++slips;
+        const Target target = upperEndField(s)->target;
+        EXPECT_FALSE(target.isFit(0)) << "an empty cell gives no right answer, seed " << seed;
+        const TableCell& cell = s.helpTable[2][2];
+        helpedByTheTable += cell.isNumeric() && target.isFit(cell.number()) ? 1 : 0;
+    });
+    std::cout << "    " << 100.0 * slips / exercises
+              << " % of the exercises have three segments and an upper end; a right help table solves "
+              << helpedByTheTable << " of them\n";
+    EXPECT_GT(slips, exercises / 3);
+    EXPECT_EQ(helpedByTheTable, 0);
+}
+
+TEST(Vaddi3Exercises, ReadTheSameWithTheDanishMark) {
+    const DecimalMark inUse(",");
+    EXPECT_EQ(sumText(exerciseOf(test::kTwoSegments)), "P=-0,5Q+9 0<Q<4; P=-1,33Q+10,33 4<Q<7,75");
+}
+
+}  // namespace
+}  // namespace tavrune
