@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include "conformance/facts.h"
-#include "numeric/arithmetic.h"
 #include "support/blind_student.h"
 #include "support/form_driver.h"
 
@@ -83,11 +82,7 @@ protected:
         for (const QAccessibleInterface* button : student.things(QAccessible::Button)) {
             const std::string name = test::nameOf(*button);
             if (name.rfind("Vis ", 0) == 0 && button->state().disabled == 0) {
-                try {
-                    student.press(name);
-                } catch (const ArithmeticFailure&) {
-                    // Some worked solutions end so.
-                }
+                student.press(name);
             }
         }
     }
@@ -133,7 +128,7 @@ TEST_P(EveryFormInWords, TellsOfItsGraphsInBoundedWordsWhateverIsTyped) {
         student.press("OK");
         expectWords(student);
     }
-    for (int tried = 0; tried < 60; ++tried) {
+    for (int tried = 0; tried < 30; ++tried) {
         typeEverywhere(student, std::to_string(tried) + ".0625");
         if (student.hears(QAccessible::Button, "OK")) {
             student.press("OK");
@@ -196,14 +191,47 @@ TEST(NamesInWords, TellAFunctionInTwoPiecesAsAWhole) {
 }
 
 TEST(NamesInWords, TellTheGivenFunctionsOfAnAdditionAsAWhole) {
-    for (const PageName page : {PageName::Vaddi1, PageName::Vaddi2}) {
+    struct Row {
+        PageName page;
+        const char* slope;
+        const char* intercept;
+        const char* kink;
+        const char* before;
+        const char* after;
+    };
+    for (const auto& [page, slope, intercept, kink, before, after] :
+         {Row{PageName::Vaddi1, "Label2", "Label3", "", "Q ≥ 0, P ≥ 0", ""},
+          {PageName::Vaddi2, "Label2", "Label3", "", "Q ≥ 0, P ≥ 0", ""},
+          {PageName::Laddi2, "Label2", "Label3", "Label4", "0 ≤ Q ≤ ", ""},
+          {PageName::Vaddi3, "Label31", "Label32", "Label33", "", " < Q, P > 0"},
+          {PageName::Vaddi3, "Label35", "Label36", "", "Q > 0, P > 0", ""}}) {
         SeededDraws draws(3);
         const FormDriver form(page, draws);
-        const std::string intercept = form.caption("Label3");
-        EXPECT_TRUE(BlindStudent(form.page())
-                        .hears(QAccessible::StaticText,
-                               "P = " + form.caption("Label2") + "Q + " + intercept + " for Q ≥ 0, P ≥ 0"));
+        const std::string where = before + (*kink == 0 ? "" : form.caption(kink)) + after;
+        const std::string whole =
+            "P = " + form.caption(slope) + "Q + " + form.caption(intercept) + " for " + where;
+        EXPECT_TRUE(BlindStudent(form.page()).hears(QAccessible::StaticText, whole)) << whole;
     }
+}
+
+TEST(NamesInWords, FollowTheColumnsOfTheHelpTable) {
+    SeededDraws draws(3);
+    const FormDriver form(PageName::Vaddi3, draws);
+    const BlindStudent student(form.page());
+    std::set<bool> kinds;
+    for (int exercise = 0; exercise < 20; ++exercise) {
+        const bool isWide = form.isShown("Text11");
+        kinds.insert(isWide);
+        for (const char* column : {"Q1a", "Qtotalb"}) {
+            EXPECT_EQ(student.hears(QAccessible::EditableText,
+                                    std::string("hjælpeskema, ") + column + ", anden række"),
+                      isWide);
+        }
+        EXPECT_EQ(student.hears(QAccessible::EditableText, "hjælpeskema, Q1, anden række"), !isWide);
+        EXPECT_TRUE(student.hears(QAccessible::EditableText, "hjælpeskema, pris, femte række"));
+        student.press("Ny opgave");
+    }
+    EXPECT_EQ(kinds.size(), 2U);
 }
 
 TEST(NamesInWords, KeepAWorkedSolutionFromAllUntilItIsUncovered) {

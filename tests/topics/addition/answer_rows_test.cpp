@@ -104,13 +104,13 @@ TEST_F(TwoRows, NameTheirBoxesByTheOrderOfTheRows) {
         box->setParent(&page);
         box->show();
     }
-    rows.blank();
+    rows.nameShownBoxes();
     EXPECT_EQ(slope1.accessibleName(), "hældning, første stykke");
     EXPECT_EQ(end1.accessibleName(), "slut i Q, første stykke");
     EXPECT_EQ(intercept2.accessibleName(), "konstantled, andet stykke");
     EXPECT_EQ(start2.accessibleName(), "begyndelse i Q, andet stykke");
     slope1.hide();
-    rows.blank();
+    rows.nameShownBoxes();
     EXPECT_EQ(slope2.accessibleName(), "hældning");
     EXPECT_EQ(end2.accessibleName(), "slut i Q");
     for (AnswerBox* box : boxes) {
@@ -119,7 +119,8 @@ TEST_F(TwoRows, NameTheirBoxesByTheOrderOfTheRows) {
 }
 
 TEST(WholeFunction, SaysWhatIsLaidOutInPieces) {
-    EXPECT_EQ(wholeFunction({-3, 4}), "P = -3Q + 4 for Q ≥ 0, P ≥ 0");
+    EXPECT_EQ(wholeFunction("-3", "4", "Q ≥ 0, P ≥ 0"), "P = -3Q + 4 for Q ≥ 0, P ≥ 0");
+    EXPECT_EQ(wholeFunction("2.5", "-4", "0 < Q"), "P = 2.5Q - 4 for 0 < Q");
 }
 
 TEST(HelpColumn, IsFilledFromTheTopAndBlankedWithoutLosingItsColour) {
