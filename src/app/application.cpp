@@ -1,11 +1,14 @@
 #include "app/application.h"
 
+#include <QAccessible>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QPalette>
 #include <QPixmapCache>
 
+#include "controls/accessible_controls.h"
 #include "controls/design_style.h"
+#include "graph/accessible_graph.h"
 #include "numeric/text.h"
 
 namespace tavrune {
@@ -37,6 +40,8 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     }
     setWindowIcon(icon);
     setDesktopFileName("org.tavrune.Tavrune");
+    QAccessible::installFactory(accessibleControl);
+    QAccessible::installFactory(accessibleGraph);
     speakDanish();
     useDecimalMarkOf(QLocale());
 }

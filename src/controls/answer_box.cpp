@@ -35,7 +35,11 @@ double AnswerBox::value() const { return Val(content()); }
 
 void AnswerBox::setContent(std::string_view content) { setText(fromUtf8(content)); }
 
-void AnswerBox::setBackColour(const QColor& colour) { setPaletteColour(QPalette::Base, colour); }
+void AnswerBox::setBackColour(const QColor& colour) {
+    setPaletteColour(QPalette::Base, colour);
+    // What the colour says to the eye.
+    setAccessibleDescription(colour == kRed ? "forkert" : "");
+}
 
 void AnswerBox::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {

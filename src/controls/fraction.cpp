@@ -1,11 +1,15 @@
 #include "controls/fraction.h"
 
+#include "controls/text.h"
+
 namespace tavrune {
 
 Fraction::Fraction(Label* numerator, LineControl* bar, Label* denominator)
     : numerator_(numerator), bar_(bar), denominator_(denominator) {
     numerator_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     denominator_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    // The numerator says the whole.
+    denominator_->setDecorative(true);
 }
 
 void Fraction::setTexts(std::string_view numerator, std::string_view denominator) const {
@@ -13,6 +17,8 @@ void Fraction::setTexts(std::string_view numerator, std::string_view denominator
     denominator_->setAutoSize(true);
     numerator_->setCaption(numerator);
     denominator_->setCaption(denominator);
+    numerator_->setAccessibleName(
+        QString("brøk: tæller %1, nævner %2").arg(fromUtf8(numerator), fromUtf8(denominator)));
     const bool numeratorIsWider = numerator_->place().width() > denominator_->place().width();
     Label* const wider = numeratorIsWider ? numerator_ : denominator_;
     Label* const narrower = numeratorIsWider ? denominator_ : numerator_;

@@ -32,6 +32,15 @@ public:
     void setTextColour(const QColor& colour);
     [[nodiscard]] QColor textColour() const { return palette().color(QPalette::WindowText); }
 
+    /// For the eye alone: a piece of a picture, or of a text that another label says as a whole. Screen
+    /// readers pass it by.
+    void setDecorative(bool decorative) { decorative_ = decorative; }
+    [[nodiscard]] bool isDecorative() const { return decorative_; }
+
+    /// A verdict is announced when it appears.
+    void setVerdict(bool verdict) { verdict_ = verdict; }
+    [[nodiscard]] bool isVerdict() const { return verdict_; }
+
     /// Width of the caption in units, in the label's own font.
     [[nodiscard]] double textWidth() const;
 
@@ -42,6 +51,8 @@ private:
     void fit();
 
     bool autoSize_ = false;
+    bool decorative_ = false;
+    bool verdict_ = false;
 };
 
 }  // namespace tavrune

@@ -28,6 +28,8 @@ void OptionButton::setBackColour(const QColor& colour) {
     coloured.setColor(QPalette::Window, colour);
     coloured.setColor(QPalette::WindowText, kWhite);
     setPalette(coloured);
+    // What the colour says to the eye.
+    setAccessibleDescription("rigtigt svar");
 }
 
 void OptionButton::resetBackColour() {
@@ -36,6 +38,7 @@ void OptionButton::resetBackColour() {
     neutral.setColor(QPalette::Window, system.color(QPalette::Button));
     neutral.setColor(QPalette::WindowText, system.color(QPalette::ButtonText));
     setPalette(neutral);
+    setAccessibleDescription("");
 }
 
 bool OptionButton::event(QEvent* event) {

@@ -1,5 +1,9 @@
 #include "shell/exercise_form.h"
 
+#include <algorithm>
+#include <tuple>
+
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QTimer>
 
@@ -14,6 +18,7 @@ const QColor kWrongAtStart(192, 0, 0);
 void styleVerdict(Label* label) {
     label->setAlignment(Qt::AlignCenter);
     label->setTextColour(kWhite);
+    label->setVerdict(true);
     label->hide();
 }
 
@@ -48,7 +53,7 @@ void ExerciseForm::buttons(const Buttons& roles) {
     buttons_ = roles;
     roles.giveAnswer->hide();
     onClick(roles.newExercise, &ExerciseForm::newExercise);
-    onClick(roles.ok, &ExerciseForm::judge);
+    onClick(roles.ok, &ExerciseForm::judgeAloud);
     onClick(roles.giveAnswer, &ExerciseForm::giveAnswer);
     onClick(roles.help, &ExerciseForm::help);
 }
@@ -143,6 +148,7 @@ void ExerciseForm::showRight() {
         oneLabel_->setCaption(kRightCaption);
     }
     right_->show();
+    shown_ = Verdict::Right;
 }
 
 void ExerciseForm::showWrong() {
@@ -151,6 +157,7 @@ void ExerciseForm::showWrong() {
         oneLabel_->setCaption(kWrongCaption);
     }
     wrong_->show();
+    shown_ = Verdict::Wrong;
 }
 
 void ExerciseForm::solved() {
@@ -174,6 +181,41 @@ void ExerciseForm::giveFinalWrongColour() {
     if (oneLabel_ == nullptr) {
         wrong_->setBackColour(kRed);
     }
+}
+
+void ExerciseForm::judgeAloud() {
+    shown_ = Verdict::None;
+    judge();
+    // Fields turn red after the verdict has come, so it is told when all is done.
+    if (shown_ == Verdict::Right) {
+        announce(right_, right_->text());
+    } else if (shown_ == Verdict::Wrong) {
+        const QString fields = wrongFields().join(", ");
+        announce(wrong_, fields.isEmpty() ? wrong_->text() : wrong_->text() + ": " + fields);
+    }
+}
+
+void ExerciseForm::announce(Label* verdict, const QString& words) {
+    verdict->setAccessibleName(words);
+    QAccessibleEvent event(verdict, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+    emit announced(words);
+}
+
+QStringList ExerciseForm::wrongFields() const {
+    QList<AnswerBox*> boxes = design()->findChildren<AnswerBox*>();
+    boxes.removeIf([](const AnswerBox* box) { return !box->isVisible() || box->backColour() != kRed; });
+    const auto place = [this](const AnswerBox* box) {
+        const QPoint corner = box->mapTo(design(), QPoint(0, 0));
+        return std::tuple(corner.y(), corner.x());
+    };
+    std::sort(boxes.begin(), boxes.end(),
+              [&place](const AnswerBox* one, const AnswerBox* other) { return place(one) < place(other); });
+    QStringList names;
+    for (const AnswerBox* box : boxes) {
+        names << box->accessibleName();
+    }
+    return names;
 }
 
 void ExerciseForm::openPanel(QWidget* panel, QWidget* firstVis) {

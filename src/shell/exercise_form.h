@@ -60,6 +60,10 @@ class ExerciseForm : public Page {
 public:
     ExerciseForm(PageName name, Draws& draws);
 
+signals:
+    /// A verdict has come, in the words that screen readers say: with the names of the fields that are wrong.
+    void announced(const QString& words);
+
 protected:
     struct Buttons {
         Button* newExercise;
@@ -131,11 +135,19 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// Judges, and announces the verdict, if there is one.
+    void judgeAloud();
+    void announce(Label* verdict, const QString& words);
+    /// The names of the boxes that are red for all to see, in reading order.
+    [[nodiscard]] QStringList wrongFields() const;
+
     Draws& draws_;
     Buttons buttons_{};
     Label* oneLabel_ = nullptr;
     Label* right_ = nullptr;
     Label* wrong_ = nullptr;
+    /// The verdict that the last judging has shown.
+    enum class Verdict { None, Right, Wrong } shown_ = Verdict::None;
     bool hasTicked_ = false;
 };
 

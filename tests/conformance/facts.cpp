@@ -61,4 +61,14 @@ std::vector<FormFacts> builtForms() {
     return built;
 }
 
+std::string asciiName(const testing::TestParamInfo<FormFacts>& row) {
+    std::string name(textOf(row.param.page));
+    for (const auto& [letter, ascii] : {std::pair{"æ", "ae"}, std::pair{"ø", "oe"}}) {
+        if (const auto at = name.find(letter); at != std::string::npos) {
+            name.replace(at, 2, ascii);
+        }
+    }
+    return name;
+}
+
 }  // namespace tavrune::test

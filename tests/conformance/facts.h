@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "shell/page_name.h"
 
 namespace tavrune::test {
@@ -44,5 +46,8 @@ inline void PrintTo(const FormFacts& facts, std::ostream* out) { *out << textOf(
 
 /// The forms that are built.
 [[nodiscard]] std::vector<FormFacts> builtForms();
+
+/// The form's name as the names of tests can hold it.
+[[nodiscard]] std::string asciiName(const testing::TestParamInfo<FormFacts>& row);
 
 }  // namespace tavrune::test

@@ -91,17 +91,7 @@ protected:
     std::unique_ptr<SeededDraws> draws;
 };
 
-std::string asciiName(const testing::TestParamInfo<FormFacts>& row) {
-    std::string name(textOf(row.param.page));
-    for (const auto& [letter, ascii] : {std::pair{"æ", "ae"}, std::pair{"ø", "oe"}}) {
-        if (const auto at = name.find(letter); at != std::string::npos) {
-            name.replace(at, 2, ascii);
-        }
-    }
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Forms, EveryForm, testing::ValuesIn(test::builtForms()), asciiName);
+INSTANTIATE_TEST_SUITE_P(Forms, EveryForm, testing::ValuesIn(test::builtForms()), test::asciiName);
 
 /// The forms with one main panel whatever the exercise.
 class EveryPanel : public EveryForm {};
@@ -114,7 +104,7 @@ std::vector<FormFacts> formsWithAPanel() {
     return forms;
 }
 
-INSTANTIATE_TEST_SUITE_P(Forms, EveryPanel, testing::ValuesIn(formsWithAPanel()), asciiName);
+INSTANTIATE_TEST_SUITE_P(Forms, EveryPanel, testing::ValuesIn(formsWithAPanel()), test::asciiName);
 
 TEST_P(EveryForm, BearsItsNameAndItsTitle) {
     const FormDriver form = open();

@@ -1,9 +1,11 @@
 #include "shell/exercise_form.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include <QMessageBox>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -59,6 +61,8 @@ public:
     }
 
     std::vector<std::string> calls;
+    /// What judging does, if anything.
+    std::function<void(Sample&)> judging;
 
     Label right{design()};
     Label wrong{design()};
@@ -77,7 +81,12 @@ protected:
         calls.emplace_back("new");
         focusOn(&first);
     }
-    void judge() override { calls.emplace_back("judge"); }
+    void judge() override {
+        calls.emplace_back("judge");
+        if (judging) {
+            judging(*this);
+        }
+    }
     void giveAnswer() override { calls.emplace_back("give"); }
     void help() override {
         calls.emplace_back("help");
@@ -289,6 +298,91 @@ TEST_F(LifeCycle, AMessageHasOneButtonAndStandsOverThePageAlone) {
     QTest::keyClick(box->buttons().at(0), Qt::Key_Return);
     settle();
     EXPECT_EQ(s.findChild<QMessageBox*>(), nullptr);
+}
+
+class Announcement : public LifeCycle {
+protected:
+    /// What is said when "&OK" is pressed.
+    static QStringList heard(Sample& s) {
+        QSignalSpy announced(&s, &ExerciseForm::announced);
+        s.ok.click();
+        QStringList words;
+        for (const QList<QVariant>& one : announced) {
+            words << one.front().toString();
+        }
+        return words;
+    }
+
+    Sample& openNamed(VerdictKind kind) {
+        Sample& s = open(kind);
+        s.first.setAccessibleName("hældning");
+        s.first.move(100, 50);
+        s.second.setAccessibleName("skæring");
+        s.second.move(20, 80);
+        for (QWidget* widget : {static_cast<QWidget*>(&s.first), static_cast<QWidget*>(&s.second)}) {
+            widget->show();
+        }
+        return s;
+    }
+};
+
+TEST_F(Announcement, NamesTheFieldsThatTurnRedAfterTheVerdictFromTheTop) {
+    for (const VerdictKind kind : {VerdictKind::One, VerdictKind::Two}) {
+        Sample& s = openNamed(kind);
+        s.judging = [](Sample& judged) {
+            judged.failed();
+            judged.second.mark(true);
+            judged.first.mark(true);
+        };
+        EXPECT_EQ(heard(s), QStringList{"FORKERT: hældning, skæring"});
+        const Label& verdict = kind == VerdictKind::One ? s.right : s.wrong;
+        EXPECT_EQ(verdict.accessibleName(), "FORKERT: hældning, skæring");
+        EXPECT_EQ(verdict.caption(), "FORKERT");
+    }
+}
+
+TEST_F(Announcement, LeavesOutRedFieldsThatAreNotShown) {
+    Sample& s = openNamed(VerdictKind::One);
+    s.first.mark(true);
+    s.first.hide();
+    s.judging = [](Sample& judged) { judged.failed(); };
+    EXPECT_EQ(heard(s), QStringList{"FORKERT"});
+}
+
+TEST_F(Announcement, SaysThatAllIsRightAfterAWrongTry) {
+    for (const VerdictKind kind : {VerdictKind::One, VerdictKind::Two}) {
+        Sample& s = openNamed(kind);
+        s.judging = [](Sample& judged) {
+            judged.failed();
+            judged.first.mark(true);
+        };
+        EXPECT_EQ(heard(s), QStringList{"FORKERT: hældning"});
+        s.judging = [](Sample& judged) {
+            judged.first.mark(false);
+            judged.solved();
+        };
+        EXPECT_EQ(heard(s), QStringList{"RIGTIGT"});
+        EXPECT_EQ(s.right.accessibleName(), "RIGTIGT");
+    }
+}
+
+TEST_F(Announcement, TakesTheWrongVerdictWhereBothAreShown) {
+    Sample& s = openNamed(VerdictKind::Two);
+    s.judging = [](Sample& judged) {
+        judged.showRight();
+        judged.showWrong();
+        judged.second.mark(true);
+    };
+    EXPECT_EQ(heard(s), QStringList{"FORKERT: skæring"});
+}
+
+TEST_F(Announcement, IsSilentWhereNothingIsJudged) {
+    Sample& s = openNamed(VerdictKind::One);
+    s.judging = [](Sample& judged) { judged.failed(); };
+    EXPECT_EQ(heard(s).size(), 1);
+    // The verdict of the last try still stands.
+    s.judging = nullptr;
+    EXPECT_EQ(heard(s), QStringList{});
 }
 
 }  // namespace

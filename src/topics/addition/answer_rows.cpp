@@ -1,6 +1,9 @@
 #include "topics/addition/answer_rows.h"
 
 #include <algorithm>
+#include <array>
+
+#include "controls/text.h"
 
 namespace tavrune {
 namespace {
@@ -46,6 +49,26 @@ void AnswerRows::blank() const {
     });
 }
 
+void AnswerRows::nameShownBoxes() const {
+    static constexpr std::array kOrdinals{"første", "andet", "tredje", "fjerde", "femte", "sjette"};
+    std::vector<Row> shown;
+    std::copy_if(rows_.begin(), rows_.end(), std::back_inserter(shown),
+                 [](const Row& row) { return row.slope->isShown(); });
+    for (std::size_t place = 0; place < shown.size() && place < kOrdinals.size(); ++place) {
+        const Row& row = shown[place];
+        const QString which =
+            shown.size() == 1 ? QString() : QString(", %1 stykke").arg(fromUtf8(kOrdinals.at(place)));
+        for (const auto& [box, what] : {std::pair{row.slope, "hældning"},
+                                        {row.intercept, "konstantled"},
+                                        {row.start, "begyndelse i Q"},
+                                        {row.end, "slut i Q"}}) {
+            if (box != nullptr) {
+                box->setAccessibleName(fromUtf8(what) + which);
+            }
+        }
+    }
+}
+
 void AnswerRows::whiten() const {
     forEachBox(rows_, [](AnswerBox* box) { box->mark(false); });
 }
@@ -65,6 +88,12 @@ void AnswerRows::mark(const std::vector<AnswerField>& fields) const {
         AnswerBox* asked = box(field.row, field.slot);
         asked->mark(field.target.isMarked(asked->value()));
     }
+}
+
+QString wholeFunction(const std::string& slope, const std::string& intercept, const std::string& where) {
+    const bool isNegative = intercept.front() == '-';
+    return fromUtf8("P = " + slope + "Q " + (isNegative ? "- " + intercept.substr(1) : "+ " + intercept) +
+                    " for " + where);
 }
 
 void blankColumn(const HelpColumn& column) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "controls/answer_box.h"
@@ -27,6 +28,8 @@ public:
     /// Every box back to one blank, and white.
     void blank() const;
     void whiten() const;
+    /// For screen readers: "hældning, andet stykke", counted over the rows that are shown.
+    void nameShownBoxes() const;
     void write(int row, Slot slot, const TableCell& content) const;
 
     /// True if each of the fields holds its target.
@@ -37,6 +40,11 @@ public:
 private:
     std::vector<Row> rows_;
 };
+
+/// A given function as a whole, for screen readers: on the page its numbers are laid into gaps of a text.
+/// wholeFunction("-3", "4", "Q ≥ 0, P ≥ 0") -> "P = -3Q + 4 for Q ≥ 0, P ≥ 0"
+[[nodiscard]] QString wholeFunction(const std::string& slope, const std::string& intercept,
+                                    const std::string& where);
 
 /// Boxes of one column of a help table, from the top.
 using HelpColumn = std::vector<AnswerBox*>;

@@ -1,5 +1,7 @@
 #include "topics/addition/laddi2.h"
 
+#include <tuple>
+
 #include "controls/panel.h"
 #include "numeric/text.h"
 #include "topics/addition/ui_laddi2.h"
@@ -14,6 +16,10 @@ struct Gaps {
     Label* intercept;
     Label* kink;
 };
+
+void tellWhole(Label* task, const Piece& piece, const std::string& where) {
+    task->setAccessibleName(wholeFunction(NumberText(piece.slope), NumberText(piece.intercept), where));
+}
 
 void fill(const Gaps& gaps, const Piece& piece, double kink) {
     gaps.slope->setCaption(NumberText(piece.slope));
@@ -93,6 +99,11 @@ void Laddi2::showTask() {
     fill({ui_->Label6, ui_->Label41, ui_->Label42}, function1.after, function1.kink);
     fill({ui_->Label44, ui_->Label45, ui_->Label46}, function2.before, function2.kink);
     fill({ui_->Label48, ui_->Label49, ui_->Label50}, function2.after, function2.kink);
+    for (const auto& [before, after, f] :
+         {std::tuple{ui_->Label1, ui_->Label5, function1}, {ui_->Label43, ui_->Label47, function2}}) {
+        tellWhole(before, f.before, "0 ≤ Q ≤ " + NumberText(f.kink));
+        tellWhole(after, f.after, NumberText(f.kink) + " < Q, P > 0");
+    }
     ui_->Label5->setCaption(secondPieceText(function1.after));
     ui_->Label47->setCaption(secondPieceText(function2.after));
     clearGraphs();

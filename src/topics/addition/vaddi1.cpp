@@ -1,5 +1,7 @@
 #include "topics/addition/vaddi1.h"
 
+#include <array>
+
 #include "controls/panel.h"
 #include "numeric/text.h"
 #include "topics/addition/addition_graphs.h"
@@ -68,6 +70,7 @@ void Vaddi1::showRows() {
     // A lone segment begins at its start, a second one after it.
     ui_->Label13->setVisible(isOne);
     setShown(hasUpperEnd(state_), {ui_->Text20, ui_->Label9_1});
+    rows_.nameShownBoxes();
 }
 
 void Vaddi1::showTask() {
@@ -80,6 +83,10 @@ void Vaddi1::showTask() {
     ui_->Label3->setCaption(NumberText(state_.intercept1));
     ui_->Label5->setCaption(NumberText(state_.slope2));
     ui_->Label6->setCaption(NumberText(state_.intercept2));
+    for (const auto& [whole, slope, intercept] :
+         {std::array{ui_->Label1, ui_->Label2, ui_->Label3}, {ui_->Label4, ui_->Label5, ui_->Label6}}) {
+        whole->setAccessibleName(wholeFunction(slope->caption(), intercept->caption(), "Q ≥ 0, P ≥ 0"));
+    }
 }
 
 void Vaddi1::drawGraphs() {

@@ -33,19 +33,22 @@ Vaddi2::Vaddi2(Draws& draws)
                         {ui_->Text24, ui_->Text25, ui_->Text26, ui_->Text27},
                         {ui_->Text28, ui_->Text29, ui_->Text30, ui_->Text31}});
     columnP_ = {ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text4};
-    given_ = {{{ui_->Label2,
+    given_ = {{{ui_->Label1,
+                ui_->Label2,
                 ui_->Label3,
                 ui_->Picture1,
                 ui_->Picture4,
                 {ui_->Text5, ui_->Text6, ui_->Text7, ui_->Text8},
                 kBlue},
-               {ui_->Label5,
+               {ui_->Label4,
+                ui_->Label5,
                 ui_->Label6,
                 ui_->Picture2,
                 ui_->Picture5,
                 {ui_->Text9, ui_->Text10, ui_->Text11, ui_->Text12},
                 kBandGreen},
-               {ui_->Label32,
+               {ui_->Label31,
+                ui_->Label32,
                 ui_->Label33,
                 ui_->Picture6,
                 ui_->Picture7,
@@ -111,6 +114,7 @@ void Vaddi2::showRows() {
     setShown(count == 3,
              {ui_->Label70, ui_->Text28, ui_->Label71, ui_->Text29, ui_->Label72, ui_->Text30, ui_->Label73});
     setShown(count == 3 && isEndAsked, {ui_->Label44, ui_->Text31});
+    rows_.nameShownBoxes();
 }
 
 void Vaddi2::showTask() {
@@ -122,6 +126,8 @@ void Vaddi2::showTask() {
         blankColumn(given_[f].quantities);
         given_[f].slope->setCaption(NumberText(state_.slope[f]));
         given_[f].intercept->setCaption(NumberText(state_.intercept[f]));
+        given_[f].task->setAccessibleName(
+            wholeFunction(given_[f].slope->caption(), given_[f].intercept->caption(), "Q ≥ 0, P ≥ 0"));
     }
 }
 

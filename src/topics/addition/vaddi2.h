@@ -34,6 +34,7 @@ protected:
 private:
     /// What the form has for each of the functions.
     struct GivenFunction {
+        Label* task;
         Label* slope;
         Label* intercept;
         GraphBox* frame;

@@ -1,6 +1,7 @@
 #include "topics/addition/vaddi3.h"
 
 #include "controls/panel.h"
+#include "controls/text.h"
 #include "numeric/text.h"
 #include "topics/addition/addition_graphs.h"
 #include "topics/addition/ui_vaddi3.h"
@@ -114,6 +115,21 @@ void Vaddi3::showTable() {
     }
     ui_->Label9->setCaption(state_.isJumpUp() ? "P          Q1a       Q1b        Q2    Qtotala  Qtotalb"
                                               : "              P           Q1          Q2     Qtotal");
+    nameTable();
+}
+
+void Vaddi3::nameTable() {
+    static constexpr std::array kWide{"pris", "Q1a", "Q1b", "Q2", "Qtotala", "Qtotalb"};
+    static constexpr std::array kNarrow{"", "pris", "Q1", "Q2", "Qtotal", ""};
+    static constexpr std::array kRows{"første", "anden", "tredje", "fjerde", "femte"};
+    const auto& columns = state_.isJumpUp() ? kWide : kNarrow;
+    for (std::size_t column = 0; column < table_.size(); ++column) {
+        for (std::size_t row = 0; row < kRows.size(); ++row) {
+            table_[column][row]->setAccessibleName(
+                QString("hjælpeskema, %1, %2 række")
+                    .arg(fromUtf8(columns.at(column)), fromUtf8(kRows.at(row))));
+        }
+    }
 }
 
 void Vaddi3::showTask() {
@@ -129,6 +145,13 @@ void Vaddi3::showTask() {
     const bool isJump = state_.kinkKind == KinkKind::JumpDown || state_.isJumpUp();
     ui_->Label3->setVisible(isJump);
     ui_->Label41->setVisible(!isJump);
+    const std::string kink = NumberText(state_.kinkQuantity);
+    ui_->Label26->setAccessibleName(wholeFunction(ui_->Label27->caption(), ui_->Label28->caption(),
+                                                  (isJump ? "0 < Q < " : "0 < Q ≤ ") + kink));
+    ui_->Label30->setAccessibleName(
+        wholeFunction(ui_->Label31->caption(), ui_->Label32->caption(), kink + " < Q, P > 0"));
+    ui_->Label34->setAccessibleName(
+        wholeFunction(ui_->Label35->caption(), ui_->Label36->caption(), "Q > 0, P > 0"));
 }
 
 void Vaddi3::showRows() {
@@ -146,6 +169,7 @@ void Vaddi3::showRows() {
     setShown(count == 4,
              {ui_->Label37, ui_->Text37, ui_->Label38, ui_->Text38, ui_->Label39, ui_->Text39, ui_->Label40});
     setShown(count == 4 && isAsked, {ui_->LabelUpperEnd, ui_->Text47});
+    rows_.nameShownBoxes();
 }
 
 void Vaddi3::drawGraphs() {

@@ -36,6 +36,8 @@ private:
     void bindEnter();
     void blankBoxes();
     void showTable();
+    /// What its columns hold depends on the exercise.
+    void nameTable();
     void showTask();
     void showRows();
     void drawGraphs();

@@ -68,6 +68,7 @@ void VerticalForm::clearGraphs() {
 
 void VerticalForm::startAsking() {
     rows_.blank();
+    rows_.nameShownBoxes();
     focusOnFirstRow();
     showAsking();
 }

@@ -2,6 +2,7 @@
 
 #include "controls/fraction.h"
 #include "controls/panel.h"
+#include "controls/text.h"
 #include "graph/graph_box.h"
 #include "graph/ticks.h"
 #include "topics/basics/ui_lininter.h"
@@ -53,6 +54,7 @@ void Lininter::newExercise() {
     ui_->Label13->setCaption(asked.givenLetter);
     ui_->Label15->setCaption(asked.given);
     ui_->Label16->setCaption(asked.askedLetter);
+    ui_->Text1->setAccessibleName(QString("det nye punkts %1-koordinat").arg(fromUtf8(asked.askedLetter)));
     drawPoints();
     focusOn(ui_->Text1);
 }

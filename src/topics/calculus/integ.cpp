@@ -2,6 +2,7 @@
 
 #include "controls/panel.h"
 #include "controls/row.h"
+#include "controls/text.h"
 #include "graph/curve.h"
 #include "graph/ticks.h"
 #include "numeric/text.h"
@@ -79,6 +80,8 @@ void Integ::writeTexts() {
     write({ui_->Label77, ui_->Label78, ui_->Label79, ui_->Label80, ui_->Label81}, worked.upperWithNumbers);
     write({ui_->Label82, ui_->Label83, ui_->Label84, ui_->Label85, ui_->Label86}, worked.lowerWithNumbers);
     ui_->Label87->setCaption(worked.value);
+    ui_->Label51->setAccessibleName(QString("integralet fra %1 til %2 af p dQ =")
+                                        .arg(fromUtf8(NumberText(state_.v)), fromUtf8(NumberText(state_.w))));
     for (Label* upper : {ui_->Label11, ui_->Label46}) {
         upper->setCaption(NumberText(state_.w));
     }

@@ -4,6 +4,7 @@
 
 #include "controls/panel.h"
 #include "controls/row.h"
+#include "controls/text.h"
 #include "graph/curve.h"
 #include "graph/ticks.h"
 #include "numeric/text.h"
@@ -100,6 +101,7 @@ void Integ2::showTask() {
     for (Label* kink : {ui_->Label18, ui_->Label20, ui_->Label12, ui_->Label29}) {
         kink->setCaption(NumberText(state_.k));
     }
+    nameTask();
     layOutRow({ui_->Label202, ui_->Label2, ui_->Label203, ui_->Label204, ui_->Label5},
               ui_->Label202->place().left());
     layOutRow({ui_->Label205, ui_->Label18}, ui_->Label205->place().left());
@@ -107,6 +109,18 @@ void Integ2::showTask() {
               ui_->Label206->place().left());
     const double afterFor = layOutRow({ui_->Label209}, ui_->Label209->place().left());
     layOutRow({ui_->Label20, ui_->Label210}, afterFor + kGap);
+}
+
+void Integ2::nameTask() {
+    const auto text = [](auto x) { return fromUtf8(NumberText(x)); };
+    const QString k = text(state_.k);
+    ui_->Label202->setAccessibleName(
+        QString("P1 = %1Q + %2 for 0 < Q < %3").arg(text(state_.a1), text(state_.b1), k));
+    ui_->Label206->setAccessibleName(
+        QString("P2 = %1Q + %2 for %3 < Q < 10").arg(text(state_.a2), text(state_.b2), k));
+    ui_->Label211->setAccessibleName(QString("integralet fra %1 til %2 af P1 dQ").arg(text(state_.v), k));
+    ui_->Label213->setAccessibleName(
+        QString("plus integralet fra %1 til %2 af P2 dQ =").arg(k, text(state_.w)));
 }
 
 void Integ2::fillHelp() {

@@ -31,6 +31,8 @@ protected:
 
 private:
     void showTask();
+    /// The task as a whole, which is laid out piece by piece.
+    void nameTask();
     void fillHelp();
     void layOutHelp();
     bool plotPieces(GraphBox& graph) const;

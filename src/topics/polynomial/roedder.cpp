@@ -82,9 +82,14 @@ void Roedder::hideAnswer() {
     hideVerdict();
 }
 
+void Roedder::nameSecondBox(RootCount count) {
+    ui_->Text9->setAccessibleName(count == RootCount::Double ? "dobbelt rod" : "rod 2");
+}
+
 void Roedder::askForTwoRoots() {
     hideAnswer();
     clearBoxes({ui_->Text8, ui_->Text9});
+    nameSecondBox(RootCount::Two);
     showAll({ui_->Text8, ui_->Text9, ui_->Label3_0, ui_->Label4_0, ui_->Command2});
     focusOn(ui_->Text8);
 }
@@ -94,6 +99,7 @@ void Roedder::askForDoubleRoot() {
     whiten({ui_->Text8, ui_->Text9});
     // Kept: the first box is hidden with what it holds, and still decides which box is marked.
     ui_->Text9->setContent("");
+    nameSecondBox(RootCount::Double);
     showAll({ui_->Text9, ui_->Label1_0, ui_->Command2});
     focusOn(ui_->Text9);
 }
@@ -133,6 +139,7 @@ void Roedder::giveAnswer() {
     const RootCount count = rootCountOf(state_.discriminant);
     const bool isTwo = count == RootCount::Two;
     const bool isDouble = count == RootCount::Double;
+    nameSecondBox(count);
     setShown(isTwo, {ui_->Label3_0, ui_->Label4_0, ui_->Text8});
     setShown(isDouble, {ui_->Label1_0});
     setShown(isTwo || isDouble, {ui_->Text9});

@@ -36,6 +36,8 @@ private:
 
     /// Boxes, their labels, verdict and "&Giv svaret".
     void hideAnswer();
+    /// It takes the second of two roots, or the double one.
+    void nameSecondBox(RootCount count);
     void askForTwoRoots();
     void askForDoubleRoot();
     void askForNoRoots();

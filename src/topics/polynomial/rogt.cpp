@@ -101,14 +101,20 @@ void Rogt::beginEntry() {
     showAll({ui_->Command1, ui_->Command5});
 }
 
+void Rogt::nameSecondBox(RootCount count) {
+    ui_->Text11->setAccessibleName(count == RootCount::Double ? "dobbelt rod" : "rod 2");
+}
+
 void Rogt::askForTwoRoots() {
     beginEntry();
+    nameSecondBox(RootCount::Two);
     showAll({ui_->Label3, ui_->Label4, ui_->Text10, ui_->Text11});
     focusOn(ui_->Text10);
 }
 
 void Rogt::askForADoubleRoot() {
     beginEntry();
+    nameSecondBox(RootCount::Double);
     showAll({ui_->Label7, ui_->Text11});
     focusOn(ui_->Text11);
 }
@@ -178,6 +184,7 @@ void Rogt::giveAnswer() {
     whiten({ui_->Text10, ui_->Text11, ui_->Text14, ui_->Text15});
     const RogtAnswer answer = answerOf(state_);
     hideRootFields();
+    nameSecondBox(rootCountOf(state_.discriminant));
     switch (rootCountOf(state_.discriminant)) {
         case RootCount::Two:
             showAll({ui_->Label3, ui_->Label4, ui_->Text10, ui_->Text11});

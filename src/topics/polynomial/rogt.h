@@ -39,6 +39,8 @@ private:
     void askForTheVertexOnly();
     void hideRootFields();
     void beginEntry();
+    /// It takes the second of two roots, or the double one.
+    void nameSecondBox(RootCount count);
 
     void drawAxes();
     void drawCurve();

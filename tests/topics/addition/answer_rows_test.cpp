@@ -98,6 +98,31 @@ TEST_F(TwoRows, LeaveAValueAtTheLowerEndWrongAndWhite) {
     EXPECT_EQ(slope1.backColour(), kWhite);
 }
 
+TEST_F(TwoRows, NameTheirBoxesByTheOrderOfTheRows) {
+    QWidget page;
+    for (AnswerBox* box : boxes) {
+        box->setParent(&page);
+        box->show();
+    }
+    rows.nameShownBoxes();
+    EXPECT_EQ(slope1.accessibleName(), "hældning, første stykke");
+    EXPECT_EQ(end1.accessibleName(), "slut i Q, første stykke");
+    EXPECT_EQ(intercept2.accessibleName(), "konstantled, andet stykke");
+    EXPECT_EQ(start2.accessibleName(), "begyndelse i Q, andet stykke");
+    slope1.hide();
+    rows.nameShownBoxes();
+    EXPECT_EQ(slope2.accessibleName(), "hældning");
+    EXPECT_EQ(end2.accessibleName(), "slut i Q");
+    for (AnswerBox* box : boxes) {
+        box->setParent(nullptr);
+    }
+}
+
+TEST(WholeFunction, SaysWhatIsLaidOutInPieces) {
+    EXPECT_EQ(wholeFunction("-3", "4", "Q ≥ 0, P ≥ 0"), "P = -3Q + 4 for Q ≥ 0, P ≥ 0");
+    EXPECT_EQ(wholeFunction("2.5", "-4", "0 < Q"), "P = 2.5Q - 4 for 0 < Q");
+}
+
 TEST(HelpColumn, IsFilledFromTheTopAndBlankedWithoutLosingItsColour) {
     AnswerBox top;
     AnswerBox middle;

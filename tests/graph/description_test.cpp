@@ -1,0 +1,223 @@
+#include "graph/description.h"
+
+#include <cmath>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "graph/curve.h"
+#include "graph/ticks.h"
+#include "support/decimal_mark.h"
+
+namespace tavrune {
+namespace {
+
+/// A box from (-10, 10) to (10, -10), and what is told of it after the axes.
+class Told : public testing::Test {
+protected:
+    void SetUp() override { box.Scale(-10, 10, 10, -10); }
+
+    [[nodiscard]] std::string all() const { return describe(box.strokes(), box.scale()); }
+
+    [[nodiscard]] std::string after(const std::string& start) const {
+        const std::string words = all();
+        if (words.rfind(start, 0) != 0) {
+            return "not so: " + words;
+        }
+        return words.substr(start.size());
+    }
+
+    [[nodiscard]] std::string told() const {
+        return after("Vandret akse fra -10 til 10, lodret akse fra -10 til 10. ");
+    }
+
+    void repeat(int times, double step, const std::function<void(double)>& draw) const {
+        for (int i = 0; i < times; ++i) {
+            draw(i * step);
+        }
+    }
+
+    GraphBox box;
+};
+
+TEST_F(Told, SaysThatNothingIsThere) { EXPECT_EQ(told(), "Ellers tom."); }
+
+TEST_F(Told, TakesTheAxesFromTheScaleAndNotFromTheirLines) {
+    box.Line(0, 10, 0, -10);
+    box.Line(-10, 0, 10, 0);
+    EXPECT_EQ(told(), "Ellers tom.");
+    box.Line(0, 20, 0, -20, kRed);
+    EXPECT_EQ(told(), "Linie fra (0; 10) til (0; -10), rød.");
+}
+
+TEST_F(Told, SaysHowFarTheTicksAreApart) {
+    drawTicksAlongX(box, {.from = -10, .before = 10}, {0.1});
+    drawTicksAlongX(box, {.from = -10, .before = 10, .step = 5}, {0.2, 0.3});
+    drawTicksAlongY(box, {.from = -10, .before = 10, .step = 5}, {0.05, 0.1});
+    EXPECT_EQ(told(),
+              "Mærker for hver 1 på den vandrette akse og for hver 5 på den lodrette akse. Ellers tom.");
+}
+
+TEST_F(Told, TellsALineWithItsEndsAndColourInTheOrderDrawn) {
+    box.Line(-2, 3, 4.256, -5, kRed);
+    box.Line(1, 1, 9, 9, rgb(0, 190, 0));
+    EXPECT_EQ(told(), "Linie fra (-2; 3) til (4.26; -5), rød. Linie fra (1; 1) til (9; 9), grøn.");
+}
+
+TEST_F(Told, WritesTheDecimalMarkInUse) {
+    const test::DecimalMark comma(",");
+    box.Line(-2.5, 3, 4.25, -5, kRed);
+    EXPECT_EQ(told(), "Linie fra (-2,5; 3) til (4,25; -5), rød.");
+}
+
+TEST_F(Told, TellsOnlyWhatIsSeen) {
+    box.Line(-20, -40, 20, 40, kRed);
+    box.Line(50, 1, 60, 1, kBlue);
+    box.PSet(11, 3, kBlue);
+    EXPECT_EQ(told(), "Linie fra (-5; -10) til (5; 10), rød.");
+}
+
+TEST_F(Told, TakesAnyNumber) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    box.Line(-kInfinity, 2, kInfinity, 2, kRed);
+    box.Line(std::nan(""), 2, 3, 4, kRed);
+    box.PSet(std::nan(""), 2, kBlue);
+    EXPECT_EQ(told(), "Linie fra (-10; 2) til (10; 2), rød.");
+}
+
+TEST_F(Told, TellsWhatIsDrawnOverItselfOnce) {
+    box.Line(1, 1, 9, 9, kRed);
+    box.Line(1, 1, 9, 9, kRed);
+    EXPECT_EQ(told(), "Linie fra (1; 1) til (9; 9), rød.");
+}
+
+TEST_F(Told, CountsUpFromTheLowerBorderWhereTheScaleRunsDown) {
+    box.Scale(0, 0, 20, 15);
+    box.Line(0, 15 - 12, 8, 15 - 4);
+    EXPECT_EQ(all(),
+              "Vandret akse fra 0 til 20, lodret akse fra 0 til 15. Linie fra (0; 12) til (8; 4), sort.");
+}
+
+TEST_F(Told, CallsADottedLineSo) {
+    box.DrawStyle(LineStyle::Dotted);
+    box.Line(3, 0, 3, 8);
+    EXPECT_EQ(told(), "Stiplet linie fra (3; 0) til (3; 8), sort.");
+}
+
+TEST_F(Told, TellsAPoint) {
+    box.PSet(3, 4, kBlue);
+    EXPECT_EQ(told(), "Punkt i (3; 4), blå.");
+}
+
+TEST_F(Told, TellsACross) {
+    box.Line(2.5, 4, 3.5, 4, kRed);
+    box.Line(3, 3.5, 3, 4.5, kRed);
+    EXPECT_EQ(told(), "Kryds i (3; 4), rød.");
+}
+
+TEST_F(Told, TellsTheHeadOfAnArrow) {
+    box.Line(3, 4, 2.5, 3.5, kGreen);
+    box.Line(3, 4, 3.5, 3.5, kGreen);
+    EXPECT_EQ(told(), "Pilespids ved (3; 4), grøn.");
+}
+
+TEST_F(Told, TellsAShortLineByItsMiddle) {
+    box.Line(3, -0.5, 3, 0.5, kRed);
+    EXPECT_EQ(told(), "Mærke i (3; 0), rød.");
+}
+
+TEST_F(Told, TellsTheEndsOfALongLineOfWhichLittleIsSeen) {
+    box.Line(-10, 9.5, 10, 29.5, kRed);
+    EXPECT_EQ(told(), "Linie fra (-10; 9.5) til (-9.5; 10), rød.");
+}
+
+TEST_F(Told, TakesAMarkDrawnTwiceForOne) {
+    box.Line(3, -0.5, 3, 0.5, kRed);
+    box.Line(3, -0.5, 3, 0.5, kRed);
+    EXPECT_EQ(told(), "Mærke i (3; 0), rød.");
+}
+
+TEST_F(Told, TakesShortLinesSideBySideForAMark) {
+    repeat(7, 0.05, [this](double t) { box.Line(2.85, 3.85 + t, 3.15, 3.85 + t, kRed); });
+    EXPECT_EQ(told(), "Mærke ved (3; 4), rød.");
+}
+
+TEST_F(Told, TellsTheMiddleOfAMarkOfWhichHalfIsSeen) {
+    repeat(7, 0.05, [this](double t) { box.Line(9.85, 3.85 + t, 10.15, 3.85 + t, kRed); });
+    EXPECT_EQ(told(), "Mærke ved (10; 4), rød.");
+}
+
+TEST_F(Told, TakesLongLinesSideBySideForAThickOne) {
+    repeat(5, 0.05, [this](double t) { box.Line(1, 4.9 + t, 8, 4.9 + t, kBlue); });
+    EXPECT_EQ(told(), "Tyk linie fra (1; 5) til (8; 5), blå.");
+    box.Cls();
+    repeat(5, 0.05, [this](double t) { box.Line(4.9 + t, 1, 4.9 + t, 8, kBlue); });
+    EXPECT_EQ(told(), "Tyk linie fra (5; 1) til (5; 8), blå.");
+}
+
+TEST_F(Told, TakesManyLinesSideBySideForAHatching) {
+    repeat(400, 0.01, [this](double t) { box.Line(1 + t, 0, 1 + t, 2 + t, kBlue); });
+    EXPECT_EQ(told(), "Skraveret område fra x = 1 til x = 5, mellem y = 0 og y = 5.99, blå.");
+}
+
+TEST_F(Told, TellsAFlatHatchingAsAHatching) {
+    repeat(100, 0.01, [this](double t) { box.Line(2 + t, 0, 2 + t, -0.5, kBlue); });
+    EXPECT_EQ(told(), "Skraveret område fra x = 2 til x = 3, mellem y = -0.5 og y = 0, blå.");
+}
+
+TEST_F(Told, JoinsTheTwoHalvesOfALineWithItsCorners) {
+    box.Line(0, 8, 4, 4, kGreen);
+    box.Line(4, 4, 10, 1, kGreen);
+    EXPECT_EQ(told(), "Knækket linie gennem (0; 8), (4; 4) og (10; 1), grøn.");
+}
+
+TEST_F(Told, PassesByAPieceWithoutLength) {
+    box.Line(0, 8, 0, 8, kGreen);
+    box.Line(0, 8, 10, 1, kGreen);
+    EXPECT_EQ(told(), "Linie fra (0; 8) til (10; 1), grøn.");
+}
+
+TEST_F(Told, KeepsLinesOfTwoColoursApart) {
+    box.Line(0, 8, 4, 4, kGreen);
+    box.Line(4, 4, 10, 1, kRed);
+    EXPECT_EQ(told(), "Linie fra (0; 8) til (4; 4), grøn. Linie fra (4; 4) til (10; 1), rød.");
+}
+
+TEST_F(Told, TellsACurveInOneSentenceWithItsTurns) {
+    plotCurve(box, [](double x) { return x * x - 4 * x; },
+              {.start = -1, .step = 0.5, .neverMet = 100, .largest = 9});
+    EXPECT_EQ(told(), "Kurve af 15 streger fra (-1; 5) til (5.73; 10), lavest ved (2; -4), sort.");
+}
+
+TEST_F(Told, TellsHowACurveLeavesTheGraphAndComesBack) {
+    plotCurve(box, [](double x) { return x * x * x - 12 * x; },
+              {.start = -4, .step = 0.25, .neverMet = 100, .largest = 25});
+    EXPECT_EQ(told(),
+              "Kurve af 34 streger fra (-3.82; -10) til (-2.92; 10), fra (-0.9; 10) til (0.9; -10) "
+              "og fra (2.92; -10) til (3.82; 10), sort.");
+}
+
+TEST_F(Told, TellsADottedCurve) {
+    repeat(300, 0.01, [this](double t) { box.PSet(1 + t, 2 + t); });
+    EXPECT_EQ(told(), "Prikket kurve fra (1; 2) til (3.99; 4.99), sort.");
+}
+
+TEST_F(Told, TellsTwoDottedCurvesWhereOneJumps) {
+    repeat(100, 0.01, [this](double t) { box.PSet(1 + t, 2 + t); });
+    repeat(100, 0.01, [this](double t) { box.PSet(2 + t, 8 - t); });
+    EXPECT_EQ(told(),
+              "Prikket kurve fra (1; 2) til (1.99; 2.99), sort. "
+              "Prikket kurve fra (2; 8) til (2.99; 7.01), sort.");
+}
+
+TEST_F(Told, LeavesTheMiddleOutOfVeryMany) {
+    repeat(500, 1, [this](double t) { box.Line(-9, t / 100, 9, 9 - t / 60, kRed); });
+    const std::string words = told();
+    EXPECT_LT(words.size(), 1500U);
+    EXPECT_NE(words.find(" Derefter "), std::string::npos) << words;
+    EXPECT_NE(words.find(" andre. "), std::string::npos) << words;
+    EXPECT_EQ(words.rfind("Linie fra (-9; 0) til (9; 9), rød.", 0), 0U) << words;
+}
+
+}  // namespace
+}  // namespace tavrune
