@@ -1,16 +1,15 @@
 #pragma once
 
-#include <algorithm>
 #include <cstdlib>
+#include <string_view>
 
 namespace tavrune::test {
 
-/// How many seeded exercises a long test plays: as many as the ordinary run can bear, or TAVRUNE_PROOF of
-/// them where that is more.
-[[nodiscard]] inline int lotSize() {
-    constexpr int kOrdinary = 100'000;
+/// How many seeded exercises a long test plays: `ordinary` of them, or `full` where TAVRUNE_PROOF=full asks
+/// for the full counts.
+[[nodiscard]] inline int lotSize(int ordinary = 100'000, int full = 1'000'000) {
     const char* const asked = std::getenv("TAVRUNE_PROOF");
-    return asked == nullptr ? kOrdinary : std::max(kOrdinary, std::atoi(asked));
+    return asked != nullptr && std::string_view(asked) == "full" ? full : ordinary;
 }
 
 }  // namespace tavrune::test

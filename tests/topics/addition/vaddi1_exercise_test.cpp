@@ -13,6 +13,7 @@
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
 #include "support/scripted_draws.h"
+#include "topics/addition/judged_fields.h"
 #include "topics/addition/vaddi1_tasks.h"
 
 namespace tavrune {
@@ -22,6 +23,7 @@ using test::cellOf;
 using test::DecimalMark;
 using test::forEachVaddi1Draw;
 using test::kLargestDraw;
+using test::Proof;
 using test::ScriptedDraws;
 using test::scriptOf;
 using Task = test::Vaddi1Task;
@@ -793,7 +795,27 @@ TEST(Vaddi1Space, RoundsTheLineFromTheRoundedKinkToTheEndOfTheSum) {
 }
 
 TEST(Vaddi1Space, IsSolvedByItsOwnAnswerAndByNothingBesideIt) {
-    forEachExercise([](const Task& t, const Vaddi1State& s) {
+    Proof proof("Vaddi1", 6);
+    const auto visit = [&proof](const Task& t, const Vaddi1State& s) {
+        proof.visit(Proof::From::WholeSpace,
+                    10 * t.direction + 2 * (isOneSegment(s) ? 1 : 2) + (hasUpperEnd(s) ? 1 : 0));
+    };
+    forEachVaddi1Draw([&](const Task& t) {
+        if (t.isAccepted() && overflows(t)) {
+            Vaddi1State s;
+            draw(s, t);
+            visit(t, s);
+            proof.unsolvable("end the program by an overflow");
+        }
+    });
+    forEachExercise([&](const Task& t, const Vaddi1State& s) {
+        visit(t, s);
+        ASSERT_EQ(test::flawOfJudging(answerFields(s), [](const AnswerField& f) { return f.target.value; }),
+                  "")
+            << nameOf(t);
+        if (!hasUpperEnd(s)) {
+            proof.unsolvable("without an upper end, where one was asked for before");
+        }
         for (const auto& [row, slot, target] : answerFields(s)) {
             const std::string at = nameOf(t) + ", row " + std::to_string(row) + ", slot " +
                                    std::to_string(static_cast<int>(slot));

@@ -9,13 +9,16 @@
 #include <rapidcheck/gtest.h>
 
 #include "numeric/text.h"
+#include "support/proof.h"
 #include "support/scripted_draws.h"
 
 namespace tavrune {
 namespace {
 
 using test::cellOf;
+using test::Proof;
 using test::ScriptedDraws;
+using test::typedAgain;
 
 /// The draw that gives this part of a fraction.
 float part(int value) { return cellOf(value + 10, 20); }
@@ -266,9 +269,8 @@ void forEachExercise(Visit visit) {
 }
 
 /// True if every text about the result shows it as p/q, reduced with the sign above.
-bool isShownAs(const BrokState& s, double p, double q) {
+bool isShownAs(const BrokState& s, const LastStep& last, double p, double q) {
     const ReductionText text = reductionText(s, s.resultNumerator);
-    const LastStep last = workedSolution(s).last;
     if (q == 1) {
         return text.whole == NumberText(p) && last.kind == LastStep::Kind::Whole &&
                last.numerator == NumberText(p);
@@ -283,10 +285,36 @@ bool isShownAs(const BrokState& s, double p, double q) {
     return beside && worked;
 }
 
+/// True if the middle fraction of the worked solution inserts these numbers and the next one computes them.
+bool isWorkedOut(const BrokWorked& worked, int a, int b, int c, int d, Type t) {
+    const auto product = [](int x, int y) {
+        return bracketed(static_cast<float>(x)) + "*" + bracketed(static_cast<float>(y));
+    };
+    const auto shows = [&worked](const std::string& middleTop, const std::string& middleBottom, int top,
+                                 int bottom) {
+        return worked.middle.numerator == middleTop && worked.middle.denominator == middleBottom &&
+               worked.computed.numerator == std::to_string(top) &&
+               worked.computed.denominator == std::to_string(bottom);
+    };
+    switch (t) {
+        case Times:
+            return shows(product(a, c), product(b, d), a * c, b * d);
+        case By:
+            return shows(product(a, d), product(b, c), a * d, b * c);
+        case Plus:
+            return shows(product(a, d) + " + " + product(c, b), product(b, d), a * d + c * b, b * d);
+        case Minus:
+            break;
+    }
+    return shows(product(a, d) + " - " + product(c, b), product(b, d), a * d - c * b, b * d);
+}
+
 TEST(BrokSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
+    Proof proof("Brok", 4);
     int visited = 0;
-    forEachExercise([&visited](int a, int b, int c, int d, Type t) {
+    forEachExercise([&](int a, int b, int c, int d, Type t) {
         ++visited;
+        proof.visit(Proof::From::WholeSpace, t);
         const BrokState s = exercise(a, b, c, d, t);
         const double n = s.resultNumerator;
         const double m = s.resultDenominator;
@@ -304,10 +332,14 @@ TEST(BrokSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
         const double q = static_cast<double>(bottom) / divisor;
 
         const ReducedFraction r = reduced(s);
-        const bool holds = n != 0 && m != 0 && std::abs(n) <= 200 && std::abs(m) <= 100 && isRight(s, n, m) &&
-                           isRight(s, -n, -m) && isRight(s, p, q) && isRight(s, 2 * p, 2 * q) &&
-                           !isRight(s, n + 1, m) && !isRight(s, -n, m) && !isRight(s, 0, m) &&
-                           r.signedNumerator() == p && r.denominator == q && isShownAs(s, p, q);
+        const BrokWorked worked = workedSolution(s);
+        const bool holds =
+            n != 0 && m != 0 && std::abs(n) <= 200 && std::abs(m) <= 100 && isRight(s, n, m) &&
+            isRight(s, -n, -m) && isRight(s, p, q) && isRight(s, 2 * p, 2 * q) && !isRight(s, n + 0.001, m) &&
+            !isRight(s, n, m + 0.001) && !isRight(s, -n, m) && !isRight(s, 0, m) &&
+            // Whole numbers, which look alike with either mark.
+            typedAgain(NumberText(n)) == n && typedAgain(NumberText(m)) == m && r.signedNumerator() == p &&
+            r.denominator == q && isShownAs(s, worked.last, p, q) && isWorkedOut(worked, a, b, c, d, t);
         ASSERT_TRUE(holds) << a << "/" << b << " " << s.operatorText << " " << c << "/" << d;
     });
     // 521,284 exercises less those with a result of 0.

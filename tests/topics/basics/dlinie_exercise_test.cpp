@@ -10,14 +10,19 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/proof.h"
 #include "topics/basics/dlinie_script.h"
 
 namespace tavrune {
 namespace {
 
 using test::DecimalMark;
+using test::endsIn;
+using test::inBothMarks;
 using test::kLargestDraw;
+using test::Proof;
 using test::ScriptedDraws;
+using test::typedAgain;
 using test::dlinie::kind;
 using test::dlinie::Numbers;
 using test::dlinie::numbers;
@@ -301,19 +306,58 @@ std::string typed(int hundredths) {
            std::to_string(size % 100);
 }
 
-/// True if just these two numbers of hundredths solve the exercise.
+/// Which of the two numbers is right, for comparing.
+std::pair<bool, bool> marks(const DlinieState& s, double a, double b) {
+    const DlinieJudgement judgement = judged(s, a, b);
+    return {judgement.slopeIsRight, judgement.interceptIsRight};
+}
+
+/// True if the steps of the help that this kind of task has end in the answer.
+bool isWorkedOut(const DlinieState& s) {
+    const std::string slope = " = " + NumberText(s.slope);
+    const std::string intercept = "= " + NumberText(s.intercept);
+    switch (s.taskType) {
+        case LineTask::TwoPoints:
+            return endsIn(slopeBetweenPoints(s).result, slope) &&
+                   endsIn(interceptFromFirstPoint(s).solved, intercept);
+        case LineTask::SlopeAndPoint:
+            return endsIn(interceptFromPoint(s).solved, intercept);
+        case LineTask::SlopeAndXCross:
+            return interceptFromXCross(s).result == intercept;
+        case LineTask::BothCrosses:
+            return endsIn(slopeBetweenCrosses(s).result, slope);
+        case LineTask::SlopeAndYCross:
+        case LineTask::None:
+            return true;
+    }
+    return false;
+}
+
+/// True if just these two numbers of hundredths solve the exercise, and one that is not is the one marked.
 bool isSolvedByJust(const DlinieState& s, int slopeHundredths, int interceptHundredths) {
     const double a = Val(typed(slopeHundredths));
     const double b = Val(typed(interceptHundredths));
-    return std::isfinite(s.slope) && std::isfinite(s.intercept) && isSolvedBy(s, a, b) &&
-           isSolvedBy(s, Val(NumberText(s.slope)), Val(interceptAnswer(s))) &&
-           !isSolvedBy(s, Val(typed(slopeHundredths + 1)), b) &&
-           !isSolvedBy(s, Val(typed(slopeHundredths - 1)), b) &&
-           !isSolvedBy(s, a, Val(typed(interceptHundredths + 1))) &&
-           !isSolvedBy(s, a, Val(typed(interceptHundredths - 1))) && !isSolvedBy(s, a + 0.001, b);
+    const std::pair onlySlopeIsWrong(false, true);
+    const std::pair onlyInterceptIsWrong(true, false);
+    return std::isfinite(s.slope) && std::isfinite(s.intercept) && isSolvedBy(s, a, b) && inBothMarks([&s] {
+               return isSolvedBy(s, typedAgain(NumberText(s.slope)), typedAgain(interceptAnswer(s)));
+           }) &&
+           marks(s, Val(typed(slopeHundredths + 1)), b) == onlySlopeIsWrong &&
+           marks(s, Val(typed(slopeHundredths - 1)), b) == onlySlopeIsWrong &&
+           marks(s, a, Val(typed(interceptHundredths + 1))) == onlyInterceptIsWrong &&
+           marks(s, a, Val(typed(interceptHundredths - 1))) == onlyInterceptIsWrong &&
+           marks(s, a + 0.001, b) == onlySlopeIsWrong && marks(s, a, b - 0.001) == onlyInterceptIsWrong &&
+           isWorkedOut(s);
 }
 
-TEST(DlinieSpace, OfTwoPointsIsSolvedByWholeNumberArithmetic) {
+/// Draws the exercise, and holds it against the answer in hundredths.
+bool isProved(Proof& proof, LineTask task, const Numbers& drawn, int slopeHundredths,
+              int interceptHundredths) {
+    proof.visit(Proof::From::WholeSpace, static_cast<int>(task));
+    return isSolvedByJust(exercise(task, drawn), slopeHundredths, interceptHundredths);
+}
+
+void proveTwoPoints(Proof& proof) {
     int visited = 0;
     for (int x1 = -10; x1 < 10; ++x1) {
         for (int x2 = -10; x2 < 10; ++x2) {
@@ -322,9 +366,8 @@ TEST(DlinieSpace, OfTwoPointsIsSolvedByWholeNumberArithmetic) {
                     ++visited;
                     const int dx = x1 - x2;
                     const int dy = y1 - y2;
-                    ASSERT_TRUE(isSolvedByJust(
-                        exercise(LineTask::TwoPoints, {.x1 = x1, .y1 = y1, .x2 = x2, .y2 = y2}),
-                        hundredths(dy, dx), hundredths(y1 * dx - dy * x1, dx)))
+                    ASSERT_TRUE(isProved(proof, LineTask::TwoPoints, {.x1 = x1, .y1 = y1, .x2 = x2, .y2 = y2},
+                                         hundredths(dy, dx), hundredths(y1 * dx - dy * x1, dx)))
                         << x1 << "," << y1 << " " << x2 << "," << y2;
                 }
             }
@@ -333,39 +376,57 @@ TEST(DlinieSpace, OfTwoPointsIsSolvedByWholeNumberArithmetic) {
     EXPECT_EQ(visited, 20 * 19 * 20 * 20);
 }
 
-TEST(DlinieSpace, OfAGivenSlopeIsSolvedByWholeNumberArithmetic) {
+void proveGivenSlopes(Proof& proof) {
     int visited = 0;
     for (int a = -5; a < 5; ++a) {
         for (int x = -10; x < 10; ++x) {
             for (int y = -10; y < 10; ++y) {
                 ++visited;
                 const Numbers point{.x1 = x, .y1 = y, .x2 = x == 3 ? 4 : 3, .slopeGiven = a};
-                ASSERT_TRUE(
-                    isSolvedByJust(exercise(LineTask::SlopeAndPoint, point), 100 * a, 100 * (y - a * x)));
+                ASSERT_TRUE(isProved(proof, LineTask::SlopeAndPoint, point, 100 * a, 100 * (y - a * x)));
             }
-            ASSERT_TRUE(isSolvedByJust(exercise(LineTask::SlopeAndYCross, {.slopeGiven = a, .yCross = x}),
-                                       100 * a, 100 * x));
+            ASSERT_TRUE(
+                isProved(proof, LineTask::SlopeAndYCross, {.slopeGiven = a, .yCross = x}, 100 * a, 100 * x));
             if (x != 0) {
-                ASSERT_TRUE(isSolvedByJust(exercise(LineTask::SlopeAndXCross, {.slopeGiven = a, .xCross = x}),
-                                           100 * a, -100 * a * x));
+                ASSERT_TRUE(isProved(proof, LineTask::SlopeAndXCross, {.slopeGiven = a, .xCross = x}, 100 * a,
+                                     -100 * a * x));
             }
         }
     }
     EXPECT_EQ(visited, 10 * 20 * 20);
 }
 
-TEST(DlinieSpace, OfBothCrossesIsSolvedByWholeNumberArithmetic) {
+void proveBothCrosses(Proof& proof) {
     int visited = 0;
     for (int y = -10; y < 10; ++y) {
         for (int x = -10; x < 10; ++x) {
             if (x != 0) {
                 ++visited;
-                ASSERT_TRUE(isSolvedByJust(exercise(LineTask::BothCrosses, {.yCross = y, .xCross = x}),
-                                           hundredths(-y, x), 100 * y));
+                ASSERT_TRUE(isProved(proof, LineTask::BothCrosses, {.yCross = y, .xCross = x},
+                                     hundredths(-y, x), 100 * y));
             }
         }
     }
     EXPECT_EQ(visited, 20 * 19);
+}
+
+// Where no kind of task is drawn, the answer before stays the right one.
+void proveNoTask(Proof& proof) {
+    DlinieState s = exercise(LineTask::TwoPoints, {.x1 = 1, .y1 = 2, .x2 = 8, .y2 = 1});
+    const DlinieState before = s;
+    ScriptedDraws draws(script(LineTask::None, {.x1 = 3, .y1 = 5, .x2 = 4, .y2 = -5}));
+    newExercise(s, draws);
+    proof.visit(Proof::From::WholeSpace, static_cast<int>(s.taskType));
+    EXPECT_FALSE(taskTexts(s));
+    EXPECT_TRUE(isSolvedBy(s, before.slope, before.intercept));
+}
+
+TEST(DlinieSpace, IsSolvedByWholeNumberArithmetic) {
+    Proof proof("dlinie", 6);
+    proveTwoPoints(proof);
+    proveGivenSlopes(proof);
+    proveBothCrosses(proof);
+    proveNoTask(proof);
 }
 
 RC_GTEST_PROP(DlinieSeeds, StayWithinTheDrawnRangesAndAreSolvedByTheirOwnAnswer, (std::uint64_t seed)) {

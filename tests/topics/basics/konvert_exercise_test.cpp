@@ -11,6 +11,7 @@
 #include "numeric/judging.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/proof.h"
 #include "topics/basics/konvert_script.h"
 
 namespace tavrune {
@@ -18,7 +19,10 @@ namespace {
 
 using test::cellOf;
 using test::DecimalMark;
+using test::kJustPast;
 using test::kLargestDraw;
+using test::Proof;
+using test::readsAsItself;
 using test::Script;
 using test::ScriptedDraws;
 using test::konvert::constant;
@@ -190,12 +194,19 @@ TEST(KonvertTexts, ShowTheFactorOfThisExerciseAfterOneOfTheOtherKind) {
 }
 
 struct Space {
+    Proof proof{"Konvert", 2};
     int accepted = 0;
     int rejected = 0;
     std::set<int> slopes;
     std::set<int> constants;
     std::set<std::string> factors;
 };
+
+/// True if a number to three decimals is the nearest one to the exact quotient.
+bool isRoundedTo3(double rounded, double exact) {
+    return std::abs(rounded - exact) <= 0.0005 + 1e-5 &&
+           std::abs(rounded * 1000 - std::round(rounded * 1000)) < 1e-6;
+}
 
 /// Holds if this exercise is solved by its own solution, rounded or not, and by nothing farther off.
 bool isSound(KonvertState s, double exactSlope, double exactConstant) {
@@ -206,7 +217,7 @@ bool isSound(KonvertState s, double exactSlope, double exactConstant) {
         std::abs(s.newSlope - exactSlope) < 1e-5 && std::abs(s.newConstant - exactConstant) < 1e-5;
     const bool takesOwn = solvedBy(s.newSlope, s.newConstant) && solvedBy(exactSlope, exactConstant);
     bool takesOthers = false;
-    for (const double nudge : {-0.006, 0.006, 1.0}) {
+    for (const double nudge : {-kJustPast, kJustPast, 1.0}) {
         takesOthers = takesOthers || solvedBy(s.newSlope + nudge, s.newConstant) ||
                       solvedBy(s.newSlope, s.newConstant + nudge);
     }
@@ -214,10 +225,14 @@ bool isSound(KonvertState s, double exactSlope, double exactConstant) {
     const KonvertState once = s;
     roundSolution(s);
     const bool staysRounded = s.newSlope == once.newSlope && s.newConstant == once.newConstant;
-    const bool takesRounded = solvedBy(exactSlope, exactConstant) &&
-                              Val(NumberText(s.newSlope)) == s.newSlope &&
-                              Val(NumberText(s.newConstant)) == s.newConstant;
-    return isNearExact && takesOwn && !takesOthers && staysRounded && takesRounded;
+    const bool takesRounded = solvedBy(exactSlope, exactConstant) && isRoundedTo3(s.newSlope, exactSlope) &&
+                              isRoundedTo3(s.newConstant, exactConstant) && readsAsItself(s.newSlope) &&
+                              readsAsItself(s.newConstant);
+    const KonvertWorked worked = workedSolution(s);
+    const bool isWorkedOut =
+        worked.slope == NumberText(s.givenSlope) && worked.constant == NumberText(s.givenConstant) &&
+        worked.result == "= " + NumberText(s.newSlope) + " K + " + NumberText(s.newConstant);
+    return isNearExact && takesOwn && !takesOthers && staysRounded && takesRounded && isWorkedOut;
 }
 
 /// Draws one exercise and, for a slope that is too steep, a last one that shows the rejection.
@@ -233,6 +248,7 @@ void visit(Space& space, const Script& slopeDraws, int a, int b, const Script& f
         return;
     }
     ++space.accepted;
+    space.proof.visit(Proof::From::WholeSpace, static_cast<int>(s.factorKind));
     space.slopes.insert(a);
     space.constants.insert(b);
     space.factors.insert(givenTexts(s).conversion);

@@ -9,15 +9,20 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/proof.h"
 #include "topics/basics/lininter_script.h"
 
 namespace tavrune {
 namespace {
 
 using test::DecimalMark;
+using test::inBothMarks;
+using test::kJustPast;
 using test::kLargestDraw;
+using test::Proof;
 using test::Script;
 using test::ScriptedDraws;
+using test::typedAgain;
 using test::lininter::coordinate;
 using test::lininter::Direction;
 using test::lininter::given;
@@ -405,29 +410,60 @@ Drawing drawingOf(const SpacePoint& e) {
     return {{Segment{0, g, t, y(t)}, Segment{t, 0, t, y(t)}}, heads, heads};
 }
 
+/// True if the exercise can be drawn, which is then in `s`: singles reject most targets of just 16.
+bool isDrawn(const SpacePoint& e, LininterState& s) {
+    Script all = script(e.qa, e.pa, e.qb, e.pb, e.direction, e.given);
+    const std::size_t own = all.size();
+    // One of the eight lies nearer to the points.
+    for (int g = 1; g <= 8; ++g) {
+        all.push_back(given(g));
+    }
+    ScriptedDraws draws(all);
+    newExercise(s, draws);
+    return draws.used() == own;
+}
+
 /// The number that a text ends in.
-double lastNumber(const std::string& text) { return Val(text.substr(text.rfind("= ") + 2)); }
+double lastNumber(const std::string& text) { return typedAgain(text.substr(text.rfind("= ") + 2)); }
+
+/// True if the worked solution shows the points' differences, their ratio and the target.
+bool isWorkedOut(const LininterState& s, const SpacePoint& e) {
+    const LininterWorked worked = workedSolution(s);
+    const std::string ofQ = std::to_string(e.qb) + " - " + std::to_string(e.qa);
+    const std::string ofP = std::to_string(e.pb) + " - " + std::to_string(e.pa);
+    const bool isQ = e.direction == GivenQ;
+    const double dq = e.qb - e.qa;
+    const double dp = e.pb - e.pa;
+    return worked.numerator == (isQ ? ofP : ofQ) && worked.denominator == (isQ ? ofQ : ofP) &&
+           std::abs(lastNumber(worked.ratio) - (isQ ? dp / dq : dq / dp)) < 0.00501 &&
+           std::abs(lastNumber(worked.result) - e.exact()) < 0.00501;
+}
 
 TEST(LininterSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
+    Proof proof("Lininter", 4);
     int visited = 0;
     int ownAnswerMissed = 0;
-    std::set<int> rows;
     forEachExercise([&](const SpacePoint& e) {
-        if (e.isOnTheEdge()) {
+        LininterState s;
+        const bool isTaken = isDrawn(e, s);
+        ASSERT_TRUE(isTaken || e.isOnTheEdge());
+        if (!isTaken) {
             return;
         }
         ++visited;
-        const LininterState s = exercise(e.qa, e.pa, e.qb, e.pb, e.direction, e.given);
-        const double own = Val(answerText(s));
+        proof.visit(Proof::From::WholeSpace, (isQGiven(s) ? 0 : 2) + (s.target < 0 ? 1 : 0));
+        const double own = typedAgain(answerText(s));
         const double exact = e.exact();
-        rows.insert((isQGiven(s) ? 0 : 2) + (s.target < 0 ? 1 : 0));
 
         const bool isOwnRight = isRight(s, own);
+        if (!isOwnRight) {
+            proof.unsolvable("negative halves shown rounded away from zero");
+        }
         ownAnswerMissed += isOwnRight ? 0 : 1;
         bool holds = (isOwnRight || e.isHalfHundredthBelowZero()) && std::abs(s.target - exact) < 1e-5 &&
                      std::abs(own - exact) < 0.00501 && isRight(s, exact) && isRight(s, s.target) &&
-                     !isRight(s, own + 0.011) && !isRight(s, own - 0.011) &&
-                     std::abs(lastNumber(workedSolution(s).result) - exact) < 0.00501;
+                     !isRight(s, s.target + kJustPast) && !isRight(s, s.target - kJustPast) &&
+                     inBothMarks([&] { return typedAgain(answerText(s)) == own && isWorkedOut(s, e); });
 
         const Drawing drawing = drawingOf(e);
         holds = holds && guideLines(s) == drawing.guides &&
@@ -436,10 +472,10 @@ TEST(LininterSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
         ASSERT_TRUE(holds) << "A " << e.qa << ";" << e.pa << " B " << e.qb << ";" << e.pb << " given "
                            << (isQGiven(s) ? "Q " : "P ") << e.given;
     });
-    EXPECT_EQ(visited, 78'696);
+    // 78,696, and 8 on the edge.
+    EXPECT_EQ(visited, 78'704);
     // Rounded away from zero they land on the open end of their own band.
     EXPECT_EQ(ownAnswerMissed, 2);
-    EXPECT_EQ(rows.size(), 4U);
 }
 
 TEST(LininterSpace, RejectsATargetOfSixteenUnlessSinglesPutItBelow) {
@@ -450,16 +486,10 @@ TEST(LininterSpace, RejectsATargetOfSixteenUnlessSinglesPutItBelow) {
             return;
         }
         ++onTheEdge;
-        Script all = script(e.qa, e.pa, e.qb, e.pb, e.direction, e.given);
-        // One of the eight lies nearer to the points.
-        for (int g = 1; g <= 8; ++g) {
-            all.push_back(given(g));
-        }
-        ScriptedDraws draws(all);
         LininterState s;
-        newExercise(s, draws);
+        const bool isTaken = isDrawn(e, s);
         ASSERT_LT(std::abs(s.target), 16);
-        if (draws.used() == 6) {
+        if (isTaken) {
             ++accepted;
             ASSERT_NEAR(std::abs(s.target), 16, 1e-5);
             ASSERT_EQ(answerText(s), e.exact() < 0 ? "-16" : "16");

@@ -10,11 +10,17 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/lot.h"
+#include "support/proof.h"
 #include "topics/basics/tomto_script.h"
 
 namespace tavrune {
 namespace {
 
+using test::endsIn;
+using test::Proof;
+using test::ProofDraws;
+using test::readsAsItself;
 using test::ScriptedDraws;
 using test::tomto::Coefficients;
 using test::tomto::Explicit;
@@ -383,6 +389,18 @@ bool isRoundedQuotient(double rounded, int n, int m, Halves halves) {
     return rounded == hundredths / 100;
 }
 
+/// True if the worked solution ends in the stored crossing.
+bool isWorkedOut(const TomtoState& s) {
+    const std::string q = "= " + NumberText(s.solutionQ);
+    const std::string p = "= " + NumberText(s.solutionP);
+    if (s.formKind == Explicit) {
+        const ExplicitWorked worked = workedExplicit(s);
+        return endsIn(worked.q, q) && endsIn(worked.p, p);
+    }
+    const ImplicitWorked worked = workedImplicit(s);
+    return endsIn(worked.q, q) && endsIn(worked.p, p);
+}
+
 /// All that holds for every exercise that stands, by a second way of solving it: Cramer's rule in whole
 /// numbers.
 bool holds(const TomtoState& s) {
@@ -400,7 +418,9 @@ bool holds(const TomtoState& s) {
     if (d != 0) {
         sound = sound && isRoundedQuotient(q, m.c * l.b - l.c * m.b, d, halvesOfQ) &&
                 isRoundedQuotient(p, l.a * m.b - m.a * l.b, d, halvesOfP) &&
-                !isRight(s, Relation::Crossing, q + 0.01, p) && !isRight(s, Relation::Crossing, q, p - 0.01);
+                !isRight(s, Relation::Crossing, q + 0.001, p) &&
+                !isRight(s, Relation::Crossing, q, p - 0.001) && readsAsItself(q) && readsAsItself(p) &&
+                isWorkedOut(s);
     } else if (s.formKind == Explicit) {
         sound = sound && (s.relation == Relation::Coinciding) == (s.b1 == s.b2);
     } else {
@@ -419,7 +439,9 @@ std::string described(const TomtoState& s) {
     return l + ", " + m + " (" + NumberText(s.solutionQ) + ";" + NumberText(s.solutionP) + ")";
 }
 
-TEST(TomtoSpace, HoldsForAllPairsOfLinesOfTwoTerms) {
+int kindOf(const TomtoState& s) { return 3 * s.formKind + static_cast<int>(s.relation); }
+
+void provePairsOfTwoTerms(Proof& proof) {
     // The c's are drawn and not used, so 160,000 of the draws are all there is.
     std::map<Relation, int> counts;
     int rejected = 0;
@@ -443,6 +465,7 @@ TEST(TomtoSpace, HoldsForAllPairsOfLinesOfTwoTerms) {
                     }
                     const TomtoState s = exercise({a1, 1, b1, a2, 1, b2}, Explicit, after(1, 1));
                     ++counts[s.relation];
+                    proof.visit(Proof::From::WholeSpace, kindOf(s));
                     ASSERT_TRUE(holds(s)) << described(s);
                 }
             }
@@ -454,36 +477,47 @@ TEST(TomtoSpace, HoldsForAllPairsOfLinesOfTwoTerms) {
     EXPECT_EQ(rejected, 112'616);
 }
 
-/// Makes 100,000 exercises, one after the other on one form or each on a form of its own.
-void solveMany(Generator make, bool onOneForm) {
-    SeededDraws draws(2004);
+/// Makes many exercises, one after the other on one form or each on a form of its own.
+void proveSeeded(Proof& proof, Generator make, bool onOneForm, ProofDraws::Ends ends) {
+    ProofDraws draws(2004, ends);
     TomtoState s;
     std::map<std::pair<int, Relation>, int> counts;
     int beyondTen = 0;
-    for (int i = 0; i < 100'000; ++i) {
+    for (int i = 0; i < test::lotSize(25'000, 500'000); ++i) {
         if (!onOneForm) {
             s = TomtoState{};
         }
+        draws.beginExercise();
         make(s, draws);
+        proof.visit(Proof::From::Seeds, kindOf(s));
         ++counts[{s.formKind, s.relation}];
         beyondTen += rangeFor(s) == 100 ? 1 : 0;
         ASSERT_TRUE(holds(s)) << i << ": " << described(s);
     }
-    for (const int kind : {Explicit, Implicit}) {
-        EXPECT_GT((counts[{kind, Relation::Crossing}]), 10'000);
+    if (ends != ProofDraws::Ends::None) {
+        return;
     }
-    EXPECT_GT(beyondTen, 1'000);
+    for (const int kind : {Explicit, Implicit}) {
+        EXPECT_GT((counts[{kind, Relation::Crossing}]), 2'500);
+    }
+    EXPECT_GT(beyondTen, 250);
     if (onOneForm) {
-        EXPECT_GT((counts[{Explicit, Relation::Parallel}]), 100);
-        EXPECT_GT((counts[{Explicit, Relation::Coinciding}]), 100);
-        EXPECT_GT((counts[{Implicit, Relation::Parallel}]), 100);
-        EXPECT_GT((counts[{Implicit, Relation::Coinciding}]), 10);
+        EXPECT_GT((counts[{Explicit, Relation::Parallel}]), 25);
+        EXPECT_GT((counts[{Explicit, Relation::Coinciding}]), 25);
+        EXPECT_GT((counts[{Implicit, Relation::Parallel}]), 25);
+        EXPECT_GT((counts[{Implicit, Relation::Coinciding}]), 2);
     }
 }
 
-TEST(TomtoSeeds, SolveOneAfterTheOther) { solveMany(newExercise, true); }
-
-TEST(TomtoSeeds, SolveAsFirstExercises) { solveMany(firstExercise, false); }
+// Lines of two terms as a whole; of three terms there are 64 million pairs.
+TEST(TomtoExercises, AreSolvedByCramersRuleAndByNothingBesideIt) {
+    Proof proof("tomto", 6);
+    provePairsOfTwoTerms(proof);
+    for (const auto ends : {ProofDraws::Ends::None, ProofDraws::Ends::FromZero}) {
+        proveSeeded(proof, newExercise, true, ends);
+        proveSeeded(proof, firstExercise, false, ends);
+    }
+}
 
 RC_GTEST_PROP(TomtoSeeds, TakeTheGivenAnswerInTheDanishLocaleOnceItsMarkIsAPoint, (std::uint64_t seed)) {
     const test::DecimalMark inUse(",");

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "numeric/text.h"
+#include "support/proof.h"
 #include "support/scripted_draws.h"
 #include "topics/calculus/diff_script.h"
 
@@ -21,7 +22,10 @@ namespace {
 
 using test::cellOf;
 using test::DiffDraws;
+using test::kJustPast;
 using test::kLargestDraw;
+using test::Proof;
+using test::readsAsItself;
 using test::Script;
 using test::ScriptedDraws;
 
@@ -580,14 +584,18 @@ TEST(DiffSpace, NeverShowsTwoSignsInARow) {
 }
 
 TEST(DiffSpace, IsSolvedByItsShownSlopeAndByNothingBesideIt) {
+    Proof proof("Diff", 50);
     for (const SpacePoint& e : acceptedSpace()) {
+        proof.visit(Proof::From::WholeSpace, e.state.patternCase);
         ASSERT_TRUE(std::isfinite(e.state.slopeAtPoint));
         const double own = Val(NumberText(e.state.slopeAtPoint));
         ASSERT_EQ(own, e.state.slopeAtPoint) << e.texts.value;
+        ASSERT_TRUE(readsAsItself(own)) << e.texts.value;
+        ASSERT_TRUE(isRight(e.state, own)) << e.texts.value;
         ASSERT_TRUE(isRight(e.state, own + 0.004)) << e.texts.value;
         ASSERT_TRUE(isRight(e.state, own - 0.004)) << e.texts.value;
-        ASSERT_FALSE(isRight(e.state, own + 0.006)) << e.texts.value;
-        ASSERT_FALSE(isRight(e.state, own - 0.006)) << e.texts.value;
+        ASSERT_FALSE(isRight(e.state, own + kJustPast)) << e.texts.value;
+        ASSERT_FALSE(isRight(e.state, own - kJustPast)) << e.texts.value;
     }
 }
 

@@ -11,6 +11,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/proof.h"
 #include "topics/calculus/integ2_script.h"
 #include "topics/calculus/integ2_space.h"
 
@@ -18,9 +19,13 @@ namespace tavrune {
 namespace {
 
 using test::DecimalMark;
+using test::inBothMarks;
+using test::kJustPast;
 using test::kLargestDraw;
+using test::Proof;
 using test::Script;
 using test::ScriptedDraws;
+using test::typedAgain;
 using test::integ2::drawOf;
 using test::integ2::Family;
 using test::integ2::Fate;
@@ -53,6 +58,16 @@ Family familyOf(const Integ2State& s) {
         return kFall;
     }
     return s.a1 > 0 ? kRise : kTwoFalls;
+}
+
+/// Calls `visit` with every exercise of a family, as it is told and as it is drawn.
+template <class Visit>
+void forEachTaken(Family family, Visit visit) {
+    forEachTry(family, [&](const Point& p) {
+        if (p.fate() == Fate::Taken) {
+            visit(p, exercise(p.family, p.n));
+        }
+    });
 }
 
 /// The seven drawn numbers, for comparing.
@@ -220,11 +235,7 @@ protected:
     /// Calls `visit` with every exercise of the family, as it is told and as it is drawn.
     template <class Visit>
     static void forEachExercise(Visit visit) {
-        forEachTry(GetParam(), [&](const Point& p) {
-            if (p.fate() == Fate::Taken) {
-                visit(p, exercise(p.family, p.n));
-            }
-        });
+        forEachTaken(GetParam(), visit);
     }
 };
 
@@ -314,15 +325,19 @@ TEST_P(Integ2Space, IntegratesEachPieceAsSimpsonsRuleAndWholeNumbersDo) {
     });
 }
 
-TEST_P(Integ2Space, IsSolvedByWhatItShowsAndByNothingBesideIt) {
-    forEachExercise([](const Point& p, const Integ2State& s) {
-        SCOPED_TRACE(testing::PrintToString(p));
-        const double shown = Val(answerText(s));
-        ASSERT_EQ(shown, s.total);
-        ASSERT_TRUE(isRight(s, shown));
-        ASSERT_FALSE(isRight(s, shown + 0.01));
-        ASSERT_FALSE(isRight(s, shown - 0.01));
-    });
+TEST(Integ2Exercises, AreSolvedByWhatTheyShowAndByNothingBesideIt) {
+    Proof proof("Integ2", 3);
+    for (const Family family : {kFall, kRise, kTwoFalls}) {
+        forEachTaken(family, [&](const Point& p, const Integ2State& s) {
+            proof.visit(Proof::From::WholeSpace, static_cast<int>(family));
+            const double shown = Val(answerText(s));
+            ASSERT_EQ(shown * 4, p.first() + p.second()) << testing::PrintToString(p);
+            const bool holds = std::isfinite(s.total) && shown == s.total && isRight(s, shown) &&
+                               inBothMarks([&] { return typedAgain(answerText(s)) == shown; }) &&
+                               !isRight(s, shown + kJustPast) && !isRight(s, shown - kJustPast);
+            ASSERT_TRUE(holds) << testing::PrintToString(p);
+        });
+    }
 }
 
 /// Reads a worked-out text as mathematics: + - * / with their ranks, brackets, a raised 2, and Q.

@@ -12,6 +12,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/proof.h"
 #include "support/scripted_draws.h"
 #include "topics/calculus/integ_reader.h"
 #include "topics/calculus/integ_script.h"
@@ -20,11 +21,15 @@ namespace tavrune {
 namespace {
 
 using test::DecimalMark;
+using test::inBothMarks;
 using test::IntegDraws;
 using test::IntegReader;
+using test::kJustPast;
 using test::kLargestDraw;
+using test::Proof;
 using test::Script;
 using test::ScriptedDraws;
+using test::typedAgain;
 
 constexpr int kShapes = 26;
 
@@ -364,12 +369,17 @@ TEST(IntegSpace, AgreesWithSimpsonsRule) {
 }
 
 TEST(IntegSpace, IsSolvedByItsShownAnswerAndByNothingBesideIt) {
-    forEachExercise([](const SpacePoint& point, const IntegState& s) {
+    Proof proof("Integ", 26);
+    forEachExercise([&proof](const SpacePoint& point, const IntegState& s) {
+        proof.visit(Proof::From::WholeSpace, s.shape);
         const double shown = Val(answerText(s));
         ASSERT_NEAR(shown, point.bySimpson(), 0.00501) << functionText(s);
         ASSERT_TRUE(isRight(s, shown)) << functionText(s);
+        ASSERT_TRUE(inBothMarks([&] { return typedAgain(answerText(s)) == shown; })) << functionText(s);
         ASSERT_FALSE(isRight(s, shown + 0.01)) << functionText(s);
         ASSERT_FALSE(isRight(s, shown - 0.01)) << functionText(s);
+        ASSERT_FALSE(isRight(s, s.integral + kJustPast)) << functionText(s);
+        ASSERT_FALSE(isRight(s, s.integral - kJustPast)) << functionText(s);
         ASSERT_EQ(workedSolution(s).value, "= " + answerText(s));
     });
 }

@@ -9,6 +9,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/proof.h"
 #include "topics/economics/gtm_script.h"
 
 namespace tavrune {
@@ -17,6 +18,8 @@ namespace {
 using test::cellOf;
 using test::DecimalMark;
 using test::kLargestDraw;
+using test::Proof;
+using test::readsAsItself;
 using test::Script;
 using test::ScriptedDraws;
 using test::gtm::Avc;
@@ -235,6 +238,18 @@ TEST(GtmFirstExercise, DrawsEverythingAgainAfterARejectionByTheKind) {
     EXPECT_EQ(s.given, GtmFunction::Total);
 }
 
+/// All texts of a formula in one, exponents and fractions among them.
+std::string textOf(const Formula& formula) {
+    std::string all;
+    for (const FormulaPiece& piece : formula.pieces) {
+        if (piece.kind == FormulaPiece::Kind::Fraction) {
+            all += "1/";
+        }
+        all += piece.exponent.empty() ? piece.text : "Q^" + piece.exponent + piece.text.substr(1);
+    }
+    return all;
+}
+
 /// Calls `visit` with each set of draws: 2a, the size of b, and c.
 template <class Visit>
 void forEachDraw(Visit visit) {
@@ -311,6 +326,67 @@ GtmState solved(GtmFunction given, const std::array<std::string, 3>& texts) {
     }
     s.tvc = s.avc;
     return s;
+}
+
+/// True if the three functions are those of one product: TVC is AVC times Q, and its slope is MC, but for
+/// what the rounding of a third takes.
+bool isOneProduct(const GtmState& s) {
+    bool holds = true;
+    for (double q = -2; q <= 10; q += 0.75) {
+        const double total = heightAt(GtmFunction::Total, s.tvc, q);
+        holds = holds && std::abs(heightAt(GtmFunction::Average, s.avc, q) * q - total) < 1e-9;
+        // A cubic's slope is that of the chord round it, but for a·h².
+        const double h = 1.0 / 64;
+        const double chord =
+            (heightAt(GtmFunction::Total, s.tvc, q + h) - heightAt(GtmFunction::Total, s.tvc, q - h)) /
+            (2 * h);
+        const double rounding = s.given == GtmFunction::Marginal ? 3 * 0.00501 * q * q : 0;
+        const double marginal = heightAt(GtmFunction::Marginal, s.mc, q);
+        holds = holds && std::abs(chord - s.tvc[0] * h * h - marginal) < rounding + 1e-6;
+    }
+    return holds;
+}
+
+/// True if each function's coefficients, as they would be shown, are right, and each one beside it is wrong,
+/// alone.
+bool isJudged(const GtmState& s) {
+    bool holds = true;
+    for (const GtmFunction function : kGtmFunctions) {
+        const GtmCoefficients& right = s.of(function);
+        holds = holds && judge(s, function, right) == std::array{true, true, true};
+        for (std::size_t i = 0; i < right.size(); ++i) {
+            holds = holds && std::isfinite(right[i]) && readsAsItself(right[i]);
+            for (const double beside : {-0.001, 0.001}) {
+                GtmCoefficients typed = right;
+                typed[i] += beside;
+                std::array expected{true, true, true};
+                expected[i] = false;
+                holds = holds && judge(s, function, typed) == expected;
+            }
+        }
+    }
+    return holds;
+}
+
+TEST(GtmSpace, IsSolvedFromTheTextsOfTheGivenFunctionAndByNothingBesideIt) {
+    Proof proof("Gtm", 6);
+    const auto prove = [&proof](const GtmState& s, bool isFirst) {
+        proof.visit(Proof::From::WholeSpace, 3 * (isFirst ? 1 : 0) + static_cast<int>(s.given));
+        const bool holds = s == solved(s.given, taskTexts(s.of(s.given))) && isOneProduct(s) && isJudged(s);
+        ASSERT_TRUE(holds) << textOf(workedProduct(s).back()) << ", given " << static_cast<int>(s.given);
+    };
+    forEachDraw([&](int twiceA, int b, int c, Kind kind) {
+        if (!isKindAccepted(twiceA, b, c, kind)) {
+            return;
+        }
+        const Numbers k{twiceA / 2.0, -b, c};
+        if (b * b <= 2 * twiceA * c) {
+            prove(next(k, kind), false);
+        }
+        if (twiceA == 0 ? c >= 2 && c <= 7 : b * b * twiceA <= 8 * c) {
+            prove(first(k, kind), true);
+        }
+    });
 }
 
 class GtmSeeds : public testing::TestWithParam<Generator> {};
@@ -617,18 +693,6 @@ TEST(GtmCurves, DrawNothingOfHugeNumbers) {
             EXPECT_EQ(pieces(curveOfTry(function, {huge, -huge, huge})), 0U);
         }
     }
-}
-
-/// All texts of a formula in one, exponents and fractions among them.
-std::string textOf(const Formula& formula) {
-    std::string all;
-    for (const FormulaPiece& piece : formula.pieces) {
-        if (piece.kind == FormulaPiece::Kind::Fraction) {
-            all += "1/";
-        }
-        all += piece.exponent.empty() ? piece.text : "Q^" + piece.exponent + piece.text.substr(1);
-    }
-    return all;
 }
 
 std::vector<std::string> textsOf(const std::vector<Formula>& formulas) {

@@ -9,6 +9,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/proof.h"
 #include "support/scripted_draws.h"
 
 namespace tavrune {
@@ -16,8 +17,12 @@ namespace {
 
 using test::cellOf;
 using test::DecimalMark;
+using test::inBothMarks;
+using test::kJustPast;
 using test::kLargestDraw;
+using test::Proof;
 using test::ScriptedDraws;
+using test::typedAgain;
 
 /// The exercise of three sizes and a pattern.
 RoedderState exercise(int a, int b, int c, int patternCase) {
@@ -167,6 +172,7 @@ std::string discriminantRow(int a, int b, int c) {
 bool isRootOf(int a, int b, int c, double q) { return std::abs(a * q * q + b * q + c) < 1e-9; }
 
 TEST(RoedderSpace, IsSolvedByItsOwnAnswerAndByNothingNear) {
+    Proof proof("Rødder", 18);
     int visited = 0;
     int counted[3] = {};
     for (int draw = 0; draw < 5 * 5 * 5 * 18; ++draw) {
@@ -178,6 +184,7 @@ TEST(RoedderSpace, IsSolvedByItsOwnAnswerAndByNothingNear) {
         const RoedderState s = exercise(sizes[0], sizes[1], sizes[2], draw % 18 + 1);
         SCOPED_TRACE(s.polynomial);
         ++visited;
+        proof.visit(Proof::From::WholeSpace, draw % 18 + 1);
 
         ASSERT_EQ(s.coefficients.a, a);
         ASSERT_EQ(s.coefficients.b, b);
@@ -207,12 +214,16 @@ TEST(RoedderSpace, IsSolvedByItsOwnAnswerAndByNothingNear) {
         const RoedderAnswer answer = answerTexts(s);
         const double q1 = Val(answer.root1);
         const double q2 = Val(answer.root2);
-        const double off = 0.02;
+        ASSERT_TRUE(inBothMarks([&] {
+            const RoedderAnswer shown = answerTexts(s);
+            return typedAgain(shown.root1) == q1 && typedAgain(shown.root2) == q2;
+        }));
+        const auto [root1, root2] = s.roots;
         ASSERT_FALSE(isRight(s, RootCount::None, {q1, q2}));
         if (count == RootCount::Double) {
             ASSERT_TRUE(isRight(s, RootCount::Double, {99, q1}));
-            ASSERT_FALSE(isRight(s, RootCount::Double, {q1, q1 + off}));
-            ASSERT_FALSE(isRight(s, RootCount::Double, {q1, q1 - off}));
+            ASSERT_FALSE(isRight(s, RootCount::Double, {root1, root1 + kJustPast}));
+            ASSERT_FALSE(isRight(s, RootCount::Double, {root1, root1 - kJustPast}));
             ASSERT_FALSE(isRight(s, RootCount::Two, {q1, q1}));
             continue;
         }
@@ -220,9 +231,15 @@ TEST(RoedderSpace, IsSolvedByItsOwnAnswerAndByNothingNear) {
         ASSERT_TRUE(isRight(s, RootCount::Two, {q2, q1}));
         ASSERT_FALSE(isRight(s, RootCount::Two, {q1, q1}));
         ASSERT_FALSE(isRight(s, RootCount::Two, {q2, q2}));
-        for (const double nudge : {off, -off}) {
-            ASSERT_FALSE(isRight(s, RootCount::Two, {q1 + nudge, q2}));
-            ASSERT_FALSE(isRight(s, RootCount::Two, {q1, q2 + nudge}));
+        for (const double past : {kJustPast, -kJustPast}) {
+            for (const TypedRoots& typed :
+                 {TypedRoots{root1 + past, root2}, TypedRoots{root2 + past, root1}}) {
+                ASSERT_FALSE(isRight(s, RootCount::Two, typed));
+                ASSERT_EQ(rootMarks(s.discriminant, s.roots, typed), (RootMarks{true, false}));
+                const TypedRoots turned{typed.second, typed.first};
+                ASSERT_FALSE(isRight(s, RootCount::Two, turned));
+                ASSERT_EQ(rootMarks(s.discriminant, s.roots, turned), (RootMarks{false, true}));
+            }
         }
         ASSERT_FALSE(isRight(s, RootCount::Double, {q1, q2}));
         ASSERT_FALSE(isRight(s, {}, {q1, q2}));

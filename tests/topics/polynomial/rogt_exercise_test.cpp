@@ -9,13 +9,18 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/proof.h"
 #include "support/scripted_draws.h"
 
 namespace tavrune {
 namespace {
 
 using test::cellOf;
+using test::inBothMarks;
+using test::kJustPast;
+using test::Proof;
 using test::ScriptedDraws;
+using test::typedAgain;
 
 /// The sizes in the order in which they are drawn, and the pattern.
 struct Drawn {
@@ -71,7 +76,7 @@ Polynomial read(const std::string& text) {
 
 /// What the boxes hold when the shown answer is typed as it stands.
 TypedRoots rootsIn(const RogtAnswer& answer) {
-    return {.first = Val(answer.root1), .second = Val(answer.root2)};
+    return {.first = typedAgain(answer.root1), .second = typedAgain(answer.root2)};
 }
 
 TEST(RogtGenerator, DrawsAThenBThenCThenThePattern) {
@@ -190,7 +195,7 @@ TEST(RogtGenerator, KeepsTheRootsOfAnEarlierPolynomialWhereItFindsNone) {
 }
 
 TEST(RogtJudge, TakesEverySolutionAndNoNudgedOne) {
-    constexpr double kNudge = 0.006;
+    constexpr double kNudge = kJustPast;
     forEveryExercise([](const Drawn& /*d*/, const RogtState& s) {
         const double q = s.vertex.q;
         const double p = s.vertex.p;
@@ -223,13 +228,22 @@ TEST(RogtAnswer, IsJudgedRightButForItsNegativeHalves) {
         const double hundredths = std::abs(x) * 100;
         return hundredths - std::floor(hundredths) == 0.5;
     };
-    const test::DecimalMark point(".");
+    Proof proof("Rogt", 18);
     int wrongQ = 0;
     int wrongP = 0;
-    forEveryExercise([&](const Drawn& /*d*/, const RogtState& s) {
+    forEveryExercise([&](const Drawn& d, const RogtState& s) {
+        proof.visit(Proof::From::WholeSpace, d.patternCase);
         const RogtAnswer answer = answerOf(s);
-        ASSERT_TRUE(rootsAreRight(s, rootCountOf(s.discriminant), rootsIn(answer)));
-        const VertexMatch match = matchVertex(s, Val(answer.vertexQ), Val(answer.vertexP));
+        ASSERT_TRUE(inBothMarks(
+            [&s] { return rootsAreRight(s, rootCountOf(s.discriminant), rootsIn(answerOf(s))); }));
+        const VertexMatch match = matchVertex(s, typedAgain(answer.vertexQ), typedAgain(answer.vertexP));
+        ASSERT_TRUE(inBothMarks([&] {
+            const RogtAnswer shown = answerOf(s);
+            return matchVertex(s, typedAgain(shown.vertexQ), typedAgain(shown.vertexP)) == match;
+        }));
+        if (!match.isRight()) {
+            proof.unsolvable("negative halves of the vertex shown rounded away from zero");
+        }
         ASSERT_EQ(match.q, !(s.vertex.q < 0 && isHalf(s.vertex.q))) << answer.vertexQ;
         ASSERT_EQ(match.p, !(s.vertex.p < 0 && isHalf(s.vertex.p))) << answer.vertexP;
         wrongQ += match.q ? 0 : 1;

@@ -12,6 +12,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/proof.h"
 #include "support/scripted_draws.h"
 
 namespace tavrune {
@@ -19,8 +20,12 @@ namespace {
 
 using test::cellOf;
 using test::DecimalMark;
+using test::inBothMarks;
+using test::kJustPast;
 using test::kLargestDraw;
+using test::Proof;
 using test::ScriptedDraws;
+using test::typedAgain;
 
 std::vector<float> script(int a, int b, int c, int patternCase) {
     return {cellOf(a - 1, 3), cellOf(b - 1, 10), cellOf(c - 1, 10), cellOf(patternCase - 1, 11)};
@@ -380,18 +385,34 @@ TEST(ToppSpace, IsSolvedByItsVertexAndByNothingBesideIt) {
         ASSERT_NEAR(p, e.p(), 0.00501) << e.text;
         ASSERT_EQ(judge(s, q + 0.011, p + 0.011), bothWrong) << e.text;
         ASSERT_EQ(judge(s, q - 0.011, p - 0.011), bothWrong) << e.text;
+        for (const double past : {kJustPast, -kJustPast}) {
+            ASSERT_EQ(judge(s, s.vertexQ + past, e.p()), (ToppVerdict{.q = false, .p = true})) << e.text;
+            ASSERT_EQ(judge(s, e.q(), s.vertexP + past), (ToppVerdict{.q = true, .p = false})) << e.text;
+        }
     });
 }
 
 // Rounded away from zero, a negative half lands on the open end of its own band.
 TEST(ToppSpace, JudgesTheShownAnswerWrongForJustTheNegativeHalvesOfP) {
+    Proof proof("Topp", 11);
     std::map<double, int> missed;
     forEachDraw([&](const SpacePoint& e) {
         if (!e.isAccepted()) {
             return;
         }
         const ToppState s = exercise(e.drawnA, e.drawnB, e.drawnC, e.patternCase);
+        proof.visit(Proof::From::WholeSpace, e.patternCase);
         const ToppVerdict own = judge(s, Val(answerTextOfQ(s)), Val(answerTextOfP(s)));
+        ASSERT_TRUE(inBothMarks(
+            [&] { return judge(s, typedAgain(answerTextOfQ(s)), typedAgain(answerTextOfP(s))) == own; }));
+        const bool isShownOtherwise = e.patternCase == 8;
+        if (isShownOtherwise) {
+            // Its own vertex lies on the other side of the axis.
+            ASSERT_FALSE(judge(s, -e.q(), e.p()).q) << e.text;
+            proof.unsolvable("shown with -b and judged with +b");
+        } else if (!own.p) {
+            proof.unsolvable("negative halves of P shown rounded away from zero");
+        }
         ASSERT_TRUE(own.q) << e.text;
         ASSERT_EQ(own.p, !e.isHalfHundredthBelowZero()) << e.text;
         if (!own.p) {
