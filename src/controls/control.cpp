@@ -1,6 +1,7 @@
 #include "controls/control.h"
 
 #include <QFont>
+#include <QPainter>
 #include <QPalette>
 #include <QtMath>
 
@@ -119,6 +120,18 @@ void Control::applyFont() {
     const QFont design = unzoomedFont();
     self_->setFont(zoom_ == 1 ? design : zoomed(design, zoom_));
     fontHasChanged();
+}
+
+void drawOutline(QWidget& widget, double zoom, const QColor& colour) {
+    const double ratio = widget.devicePixelRatioF();
+    // Whole pixels of the screen, or the edges would differ from one another.
+    const double width = qMax(1, qFloor(zoom * ratio)) / ratio;
+    const QRectF box = widget.rect();
+    QPainter painter(&widget);
+    painter.fillRect(QRectF(0, 0, box.width(), width), colour);
+    painter.fillRect(QRectF(0, box.height() - width, box.width(), width), colour);
+    painter.fillRect(QRectF(0, 0, width, box.height()), colour);
+    painter.fillRect(QRectF(box.width() - width, 0, width, box.height()), colour);
 }
 
 void showFocusAlways(QStyleOption& option) { option.state |= QStyle::State_KeyboardFocusChange; }

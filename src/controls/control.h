@@ -89,6 +89,9 @@ private:
     double zoom_ = 1;
 };
 
+/// Draws the outline of a control within its edges: a unit wide, at every zoom and device pixel ratio.
+void drawOutline(QWidget& widget, double zoom, const QColor& colour);
+
 /// Has the focus drawn whichever way it came; styles leave it out until a key has moved it.
 void showFocusAlways(QStyleOption& option);
 

@@ -1,7 +1,6 @@
 #include "controls/panel.h"
 
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPalette>
 
 namespace tavrune {
@@ -20,12 +19,9 @@ void Panel::setFramed(bool framed) {
 void Panel::setBackColour(const QColor& colour) { setPaletteColour(QPalette::Window, colour); }
 
 void Panel::paintEvent(QPaintEvent* /*event*/) {
-    if (!framed_) {
-        return;
+    if (framed_) {
+        drawOutline(*this, zoom(), QColor(128, 128, 128));
     }
-    QPainter painter(this);
-    painter.setPen(QColor(128, 128, 128));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void Panel::mousePressEvent(QMouseEvent* event) { event->accept(); }

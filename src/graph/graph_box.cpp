@@ -257,13 +257,11 @@ void GraphBox::paintEvent(QPaintEvent* /*event*/) {
     if (!strokes_.empty()) {
         renewPicture();
     }
-    QPainter painter(this);
     if (framed_) {
-        painter.setPen(kOutline);
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        drawOutline(*this, zoom(), kOutline);
     }
     if (!strokes_.empty()) {
-        painter.drawPixmap(0, 0, picture_);
+        QPainter(this).drawPixmap(0, 0, picture_);
     }
 }
 

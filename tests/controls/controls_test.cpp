@@ -351,6 +351,36 @@ TEST(Row, SetsLabelsSideBySideByTheirWidths) {
     EXPECT_EQ(right, last.place().right());
 }
 
+/// How many of the pixels of a line are none of the ground, from its start and from its end.
+std::pair<int, int> edgesOf(const QImage& picture, bool isRow) {
+    const int length = isRow ? picture.width() : picture.height();
+    const int middle = (isRow ? picture.height() : picture.width()) / 2;
+    const auto isDrawn = [&](int i) {
+        return picture.pixelColor(isRow ? QPoint(i, middle) : QPoint(middle, i)) != kWhite;
+    };
+    std::pair<int, int> edges{0, 0};
+    while (edges.first < length && isDrawn(edges.first)) {
+        ++edges.first;
+    }
+    while (edges.second < length && isDrawn(length - 1 - edges.second)) {
+        ++edges.second;
+    }
+    return edges;
+}
+
+TEST(Panel, HasAnOutlineAsWideOnEverySideAtEveryZoom) {
+    Panel panel;
+    panel.setFramed(true);
+    panel.setPlace({0, 0, 40, 30});
+    for (const auto& [zoom, pixels] : {std::pair{1.0, 1}, {1.5, 1}, {2.0, 2}, {3.0, 3}}) {
+        panel.setZoom(zoom);
+        const QImage picture = panel.grab().toImage();
+        const int drawn = qFloor(pixels * picture.devicePixelRatio());
+        EXPECT_EQ(edgesOf(picture, true), std::pair(drawn, drawn)) << zoom;
+        EXPECT_EQ(edgesOf(picture, false), std::pair(drawn, drawn)) << zoom;
+    }
+}
+
 TEST(Panel, IsWhiteWithBlackText) {
     Panel panel;
     Label label(&panel);
