@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -70,6 +71,7 @@ void Page::designIsReady() { setWindowTitle(design_->windowTitle()); }
 void Page::setZoom(ZoomStep step) {
     zoom_ = step;
     zoomControls(*design_, step);
+    zoomMenu();
     QSize size = (QSizeF(kDesignWidth, kDesignHeight) * step.factor()).toSize();
     if (step != ZoomStep()) {
         // The start page reaches over the design area.
@@ -77,6 +79,23 @@ void Page::setZoom(ZoomStep step) {
         size = size.expandedTo({all.right() + 1, all.bottom() + 1});
     }
     design_->setMinimumSize(size);
+}
+
+void Page::zoomMenu() {
+    const auto zoom = [this](QWidget& menu) {
+        // The desktop's own font, whose size is told in points or in pixels.
+        QFont font = QApplication::font(&menu);
+        if (font.pixelSize() > 0) {
+            font.setPixelSize(qRound(font.pixelSize() * zoom_.factor()));
+        } else {
+            font.setPointSizeF(font.pointSizeF() * zoom_.factor());
+        }
+        menu.setFont(font);
+    };
+    zoom(*menuBar());
+    for (QMenu* menu : menuBar()->findChildren<QMenu*>()) {
+        zoom(*menu);
+    }
 }
 
 bool Page::focusNextPrevChild(bool next) {

@@ -59,6 +59,7 @@ protected:
 
 private:
     void designIsReady();
+    void zoomMenu();
     [[nodiscard]] bool isUnderAPanel(const QWidget& control) const;
 
     PageName name_;

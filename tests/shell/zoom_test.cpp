@@ -1,5 +1,6 @@
 #include "shell/zoom.h"
 
+#include <QMenu>
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -70,6 +71,25 @@ TEST_F(ZoomedPage, TakesTheKeysWhileABoxHasTheFocusAndTypesNothing) {
     EXPECT_EQ(box.content(), "");
     QTest::keyClick(&box, Qt::Key_Minus);
     EXPECT_EQ(box.content(), "-");
+}
+
+TEST_F(ZoomedPage, ScalesTheMenuAndItsEntries) {
+    const QMenuBar& bar = *form.page().menuBar();
+    const QList<QMenu*> menus = bar.findChildren<QMenu*>();
+    ASSERT_FALSE(menus.empty());
+    const int barHeight = bar.fontMetrics().height();
+    const int entryHeight = menus.front()->fontMetrics().height();
+    for (int step = 0; step < 4; ++step) {
+        press(Qt::Key_Plus);
+    }
+    ASSERT_EQ(form.page().zoom().percent(), 200);
+    EXPECT_NEAR(bar.fontMetrics().height(), 2 * barHeight, 2);
+    for (const QMenu* menu : menus) {
+        EXPECT_NEAR(menu->fontMetrics().height(), 2 * entryHeight, 2);
+    }
+    press(Qt::Key_0);
+    EXPECT_EQ(bar.fontMetrics().height(), barHeight);
+    EXPECT_EQ(menus.front()->fontMetrics().height(), entryHeight);
 }
 
 TEST_F(ZoomedPage, ScalesEveryControlWithItsText) {
