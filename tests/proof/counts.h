@@ -17,7 +17,7 @@ inline long long numberFromEnvironment(const char* name, long long otherwise) {
     return asked == nullptr || *asked == '\0' ? otherwise : std::atoll(asked);
 }
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TAVRUNE_SANITIZED
 inline constexpr bool kIsSanitized = true;
 #else
 inline constexpr bool kIsSanitized = false;
