@@ -56,7 +56,7 @@ menu=(hjaelp afsaet andengradspolynomiet brok dlinie diff konvert gtm integralre
 # A third one is the entry that the page has disabled: its own.
 choose() {
     local entry=$1 sub=${2:-} own=${3:-} candidate
-    keys alt+i
+    keys F10
     for candidate in "${menu[@]}"; do
         [ "$candidate" = "$entry" ] && break
         [ "$candidate" = "$own" ] || keys Down

@@ -61,8 +61,7 @@ Page::Page(PageName name)
     });
     menuBar()->installEventFilter(this);
     // As on most desktops, and the way into the menu where a button has its access key.
-    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
-            [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, &Page::openMenu);
     setMinimumSize(qRound(kDesignWidth), qRound(kDesignHeight) + menuBar()->sizeHint().height());
 }
 
@@ -79,6 +78,19 @@ void Page::setZoom(ZoomStep step) {
         size = size.expandedTo({all.right() + 1, all.bottom() + 1});
     }
     design_->setMinimumSize(size);
+}
+
+void Page::openMenu() {
+    QAction* const title = menuBar()->actions().constFirst();
+    menuBar()->setActiveAction(title);
+    // As where its access key opens it: at the first entry that can be chosen.
+    const QList<QAction*> entries = title->menu()->actions();
+    const auto first = std::find_if(entries.begin(), entries.end(), [](const QAction* entry) {
+        return entry->isEnabled() && !entry->isSeparator();
+    });
+    if (first != entries.end()) {
+        title->menu()->setActiveAction(*first);
+    }
 }
 
 void Page::zoomMenu() {

@@ -59,6 +59,7 @@ protected:
 
 private:
     void designIsReady();
+    void openMenu();
     void zoomMenu();
     [[nodiscard]] bool isUnderAPanel(const QWidget& control) const;
 
