@@ -45,13 +45,15 @@ need_package() {
 }
 need_proof() { need strace dbus xvfb openbox xdotool x11-utils clang libclang-rt-dev; }
 
-# Configures once and builds what has changed.
+# Configures once and builds what has changed: build PRESET [cmake --build option...].
 build() {
-    local preset=$1
+    local preset=$1 tree=$1
     shift
-    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"/tmp/tavrune-configure-$$.log" 2>&1 || {
+    # The programs under the sanitizers stand beside the others.
+    [ "$preset" != watched ] || tree=dev
+    [ -f "build/$tree/build.ninja" ] || cmake --preset "$tree" >"/tmp/tavrune-configure-$$.log" 2>&1 || {
         cat "/tmp/tavrune-configure-$$.log" >&2
-        fail "The preset $preset could not be configured."
+        fail "The preset $tree could not be configured."
     }
     rm -f "/tmp/tavrune-configure-$$.log"
     cmake --build --preset "$preset" "$@"

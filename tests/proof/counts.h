@@ -1,7 +1,15 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdlib>
 #include <string_view>
+
+// There under the sanitizers only.
+extern "C" {
+[[gnu::weak]] void __asan_init();
+[[gnu::weak]] std::size_t __sanitizer_get_current_allocated_bytes();
+[[gnu::weak]] void __sanitizer_set_death_callback(void (*callback)());
+}
 
 namespace tavrune::test {
 
@@ -17,10 +25,8 @@ inline long long numberFromEnvironment(const char* name, long long otherwise) {
     return asked == nullptr || *asked == '\0' ? otherwise : std::atoll(asked);
 }
 
-#ifdef TAVRUNE_SANITIZED
-inline constexpr bool kIsSanitized = true;
-#else
-inline constexpr bool kIsSanitized = false;
-#endif
+/// True if the program has been linked with the address sanitizer. The tests themselves are compiled without
+/// it.
+inline bool isWatched() { return &__asan_init != nullptr; }
 
 }  // namespace tavrune::test

@@ -1,5 +1,5 @@
-// Rough hands on every page. TAVRUNE_PROOF=full throws a million events at each; TAVRUNE_PROOF_EVENTS says
-// how many, TAVRUNE_PROOF_SEED which.
+// Rough hands on every page. TAVRUNE_PROOF=full throws a million events at them all; TAVRUNE_PROOF_EVENTS
+// says how many at each, TAVRUNE_PROOF_SEED which.
 
 #include <iostream>
 
@@ -17,8 +17,11 @@ namespace {
 constexpr long long kEventsASeed = 1'000;
 
 long long eventsAPage() {
-    constexpr long long kOrdinary = 1'000;
-    return test::numberFromEnvironment("TAVRUNE_PROOF_EVENTS", test::isFullProof() ? 1'000'000 : kOrdinary);
+    constexpr long long kOrdinary = 10'000;
+    constexpr long long kFull = 1'000'000;
+    const auto pages = static_cast<long long>(builtPages().size());
+    return test::numberFromEnvironment("TAVRUNE_PROOF_EVENTS",
+                                       test::isFullProof() ? (kFull + pages - 1) / pages : kOrdinary);
 }
 
 class EveryPage : public testing::TestWithParam<PageName> {
@@ -76,8 +79,8 @@ TEST_P(EveryPage, StandsRoughHands) {
             return;
         }
     }
-    std::cout << textOf(GetParam()) << ": " << all << " events, " << openings << " openings, longest event "
-              << watchdog.longest().count() << " ms, known failures " << knownFailures << std::endl;
+    std::cout << "hands | " << textOf(GetParam()) << " | " << all << " | " << openings << " | "
+              << knownFailures << " | " << watchdog.longest().count() << std::endl;
     EXPECT_TRUE(knownFailures == 0 || GetParam() == PageName::Vaddi1 || openings > 1);
 }
 

@@ -112,6 +112,25 @@ std::string at(QPoint p) { return std::to_string(p.x()) + "," + std::to_string(p
 
 }  // namespace
 
+SlowScreen::SlowScreen() { qApp->installEventFilter(this); }
+
+void SlowScreen::count() {
+    constexpr int kDoneAPicture = 8;
+    if (++done_ % kDoneAPicture != 0) {
+        return;
+    }
+    isPainting_ = true;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        QEvent request(QEvent::UpdateRequest);
+        QApplication::sendEvent(window, &request);
+    }
+    isPainting_ = false;
+}
+
+bool SlowScreen::eventFilter(QObject* /*watched*/, QEvent* event) {
+    return event->type() == QEvent::UpdateRequest && !isPainting_;
+}
+
 RoughHands::RoughHands(PageName home, Choices& choices, Draws& draws)
     : home_(home), choices_(choices), draws_(draws) {
     QObject::connect(&everyRound_, &QTimer::timeout, &everyRound_, &RoughHands::leaveInnerLoop);
@@ -196,6 +215,7 @@ void RoughHands::act() {
     settle();
     lookForMessages();
     emptyHeavyBox();
+    screen_.count();
     if (hasEnded_) {
         begin();
     } else if (program_->page() == nullptr || !isHome(*program_->page())) {

@@ -15,6 +15,21 @@ class QMessageBox;
 
 namespace tavrune::test {
 
+/// A screen slower than the hands: what has been done is painted in one go, now and then.
+class SlowScreen : public QObject {
+public:
+    SlowScreen();
+
+    /// Counts a thing done; with every eighth everything is painted that has changed.
+    void count();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    int done_ = 0;
+    bool isPainting_ = false;
+};
+
 /// Somebody who does anything at all to one page of the running program: keys, pasted texts of every kind,
 /// clicks anywhere, menu choices, other sizes, closing. What ends the program, or leads to another page, is
 /// followed by a return to the page.
@@ -85,6 +100,7 @@ private:
     std::string lastAct_ = "opened";
     std::function<void(const std::string&)> listener_;
     QTimer everyRound_;
+    SlowScreen screen_;
     std::string complaint_;
     int knownFailures_ = 0;
     int openings_ = 0;

@@ -9,10 +9,6 @@
 
 #include "proof/counts.h"
 
-#ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/common_interface_defs.h>
-#endif
-
 namespace tavrune::test {
 namespace {
 
@@ -40,9 +36,6 @@ void tellOfTheEnd() {
     static_cast<void>(written);
 }
 
-#ifdef __SANITIZE_ADDRESS__
-void hearOfCrashes() { __sanitizer_set_death_callback(tellOfTheEnd); }
-#else
 void onSignal(int signal) {
     tellOfTheEnd();
     std::signal(signal, SIG_DFL);
@@ -50,11 +43,14 @@ void onSignal(int signal) {
 }
 
 void hearOfCrashes() {
+    if (isWatched()) {
+        __sanitizer_set_death_callback(tellOfTheEnd);
+        return;
+    }
     for (const int signal : {SIGSEGV, SIGABRT, SIGFPE, SIGBUS, SIGILL}) {
         std::signal(signal, onSignal);
     }
 }
-#endif
 
 /// Seconds that the calling thread has run.
 double ownSeconds() {
@@ -93,7 +89,7 @@ std::string Watchdog::end(bool isHeavy) {
     const Clock::duration taken = Clock::now() - since_;
     longest_ = std::max(longest_, taken);
     const double own = ownSeconds() - cpuSince_;
-    const std::chrono::seconds allowed = isHeavy && kIsSanitized ? kAllowedHeavy : kAllowed;
+    const std::chrono::seconds allowed = isHeavy && isWatched() ? kAllowedHeavy : kAllowed;
     if (taken <= allowed || own <= std::chrono::duration<double>(allowed).count()) {
         return "";
     }
