@@ -14,8 +14,8 @@ public:
     // Numbers stand where cells are wanted throughout.
     TableCell(double number) : content_(number) {}
 
-    [[nodiscard]] static TableCell blank() { return holding(Blank{}); }
-    [[nodiscard]] static TableCell unbounded() { return holding(Unbounded{}); }
+    [[nodiscard]] static TableCell blank() { return TableCell(Blank{}); }
+    [[nodiscard]] static TableCell unbounded() { return TableCell(Unbounded{}); }
 
     /// Nothing has filled it yet: its text is empty, its number 0.
     [[nodiscard]] bool isEmpty() const { return std::holds_alternative<std::monostate>(content_); }
@@ -43,11 +43,7 @@ private:
 
     using Content = std::variant<std::monostate, Blank, Unbounded, double>;
 
-    static TableCell holding(Content content) {
-        TableCell cell;
-        cell.content_ = content;
-        return cell;
-    }
+    explicit TableCell(Content content) : content_(content) {}
 
     Content content_;
 };
