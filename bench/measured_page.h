@@ -34,17 +34,21 @@ private:
 class MeasuredPage final : public QObject {
 public:
     explicit MeasuredPage(const test::FormFacts& facts);
-    ~MeasuredPage() override;
 
     /// One round of everything.
     void measure(std::uint64_t seed);
 
     [[nodiscard]] const test::FormFacts& facts() const { return facts_; }
 
+    /// True if its help is a message box: a window of its own, which the desktop takes its time to place.
+    [[nodiscard]] bool helpsByMessage() const { return facts_.page == PageName::Rogt; }
+
     Samples opening;
     Samples newExercise;
     Samples judging;
     Samples helping;
+    /// Message boxes that have nothing of Tavrune but the window in front of which they stand.
+    Samples bareMessages;
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -65,7 +69,7 @@ private:
 
     test::FormFacts facts_;
     RepeatableDraws draws_;
-    Program program_{draws_};
+    std::unique_ptr<Program> program_;
     static constexpr long long kNone = -1;
     bool isPainted_ = false;
     // A picture counts once there are other draws than these.

@@ -5,6 +5,7 @@
 #include <QLibraryInfo>
 #include <QPalette>
 #include <QPixmapCache>
+#include <QTimer>
 
 #include "controls/accessible_controls.h"
 #include "controls/design_style.h"
@@ -34,16 +35,21 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setStyle(new DesignStyle);
     setPalette(lightPalette());
     QPixmapCache::setCacheLimit(kPictureCache);
-    QIcon icon;
-    for (const char* size : {"16", "32", "48", "128"}) {
-        icon.addFile(QString(":/icons/%1.png").arg(size));
-    }
-    setWindowIcon(icon);
+    // While the desktop is busy placing the first window.
+    QTimer::singleShot(0, this, &Application::showIcon);
     setDesktopFileName("org.tavrune.Tavrune");
     QAccessible::installFactory(accessibleControl);
     QAccessible::installFactory(accessibleGraph);
     speakDanish();
     useDecimalMarkOf(QLocale());
+}
+
+void Application::showIcon() {
+    QIcon icon;
+    for (const char* size : {"16", "32", "48", "128"}) {
+        icon.addFile(QString(":/icons/%1.png").arg(size));
+    }
+    setWindowIcon(icon);
 }
 
 void Application::speakDanish() {

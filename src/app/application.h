@@ -30,6 +30,7 @@ public:
     static void useDecimalMarkOf(const QLocale& locale);
 
 private:
+    static void showIcon();
     void speakDanish();
 
     QTranslator danish_;

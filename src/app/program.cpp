@@ -9,24 +9,22 @@ namespace tavrune {
 Program::Program(Draws& draws) : draws_(draws) {}
 
 Program::~Program() {
-    delete page_;
+    delete window_;
     delete about_;
 }
 
 void Program::open(PageName name) {
-    Page* const last = page_;
-    page_ = makePage(name, draws_).release();
-    page_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(page_, &Page::chosen, this, &Program::open);
-    connect(page_, &Page::aboutChosen, this, &Program::openAbout);
-    connect(page_, &Page::closeChosen, this, &Program::closeChosen);
-    connect(page_, &Page::zoomed, this, &Program::zoomAll);
-    page_->setZoom(zoom_);
-    page_->showMaximized();
-    // The new page stands first, so that there is no moment without a window, in which the program would end.
-    if (last != nullptr) {
-        last->close();
+    Page* const page = makePage(name, draws_).release();
+    connect(page, &Page::chosen, this, &Program::open);
+    connect(page, &Page::aboutChosen, this, &Program::openAbout);
+    connect(page, &Page::closeChosen, this, &Program::closeChosen);
+    connect(page, &Page::zoomed, this, &Program::zoomAll);
+    page->setZoom(zoom_);
+    if (window_.isNull()) {
+        window_ = new Window;
     }
+    window_->hold(page);
+    window_->showMaximized();
 }
 
 int Program::run() {
@@ -37,8 +35,8 @@ int Program::run() {
 
 void Program::zoomAll(ZoomStep step) {
     zoom_ = step;
-    if (page_ != nullptr) {
-        page_->setZoom(step);
+    if (page() != nullptr) {
+        page()->setZoom(step);
     }
     if (about_ != nullptr) {
         about_->setZoom(step);

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include "app/window.h"
 #include "numeric/draws.h"
 #include "shell/frm_about.h"
 #include "shell/page.h"
@@ -26,8 +27,9 @@ public:
     /// Opens the about box, or raises the one that is there.
     void openAbout();
 
-    /// Null once the user has closed the page.
-    [[nodiscard]] Page* page() const { return page_; }
+    /// Null once the user has closed the window that it stands in.
+    [[nodiscard]] Page* page() const { return window_.isNull() ? nullptr : window_->page(); }
+    [[nodiscard]] Window* window() const { return window_; }
     [[nodiscard]] FrmAbout* about() const { return about_; }
 
 signals:
@@ -40,7 +42,7 @@ private:
     Draws& draws_;
     // For every page, until the program ends.
     ZoomStep zoom_;
-    QPointer<Page> page_;
+    QPointer<Window> window_;
     QPointer<FrmAbout> about_;
 };
 

@@ -65,7 +65,11 @@ Page::Page(PageName name)
     setMinimumSize(qRound(kDesignWidth), qRound(kDesignHeight) + menuBar()->sizeHint().height());
 }
 
-void Page::designIsReady() { setWindowTitle(design_->windowTitle()); }
+void Page::designIsReady() {
+    setWindowTitle(design_->windowTitle());
+    // A screen reader tells it as the focus enters the page.
+    setAccessibleName(windowTitle());
+}
 
 void Page::setZoom(ZoomStep step) {
     zoom_ = step;
@@ -78,6 +82,14 @@ void Page::setZoom(ZoomStep step) {
         size = size.expandedTo({all.right() + 1, all.bottom() + 1});
     }
     design_->setMinimumSize(size);
+}
+
+void Page::takeFocus() {
+    if (QWidget* const wanted = focusWidget()) {
+        wanted->setFocus(Qt::ActiveWindowFocusReason);
+    } else {
+        focusNextPrevChild(true);
+    }
 }
 
 void Page::openMenu() {

@@ -29,6 +29,9 @@ public:
     [[nodiscard]] ZoomStep zoom() const { return zoom_; }
     void setZoom(ZoomStep step);
 
+    /// The focus goes where the page has put it, otherwise to its first control.
+    void takeFocus();
+
 signals:
     /// The user has asked for another size, which the page has now.
     void zoomed(ZoomStep step);

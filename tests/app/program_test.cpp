@@ -51,7 +51,7 @@ protected:
 
 TEST_F(ProgramRun, StartsOnTheStartPageMaximised) {
     EXPECT_EQ(program.page()->name(), PageName::Opstart);
-    EXPECT_TRUE(program.page()->isMaximized());
+    EXPECT_TRUE(program.window()->isMaximized());
     EXPECT_EQ(visibleWindows(), 1);
 }
 
@@ -60,7 +60,7 @@ TEST_F(ProgramRun, ReplacesEachPageByTheNext) {
     choose(PageName::Brok);
     EXPECT_EQ(program.page()->name(), PageName::Brok);
     EXPECT_TRUE(start.isNull());
-    EXPECT_TRUE(program.page()->isMaximized());
+    EXPECT_TRUE(program.window()->isMaximized());
     EXPECT_EQ(visibleWindows(), 1);
     choose(PageName::Form1);
     EXPECT_EQ(program.page()->name(), PageName::Form1);
@@ -79,7 +79,7 @@ TEST_F(ProgramRun, NeverHasAMomentWithoutAWindow) {
 
 TEST_F(ProgramRun, EndsWithItsLastWindow) {
     choose(PageName::Brok);
-    QTimer::singleShot(0, [this] { program.page()->close(); });
+    QTimer::singleShot(0, [this] { program.window()->close(); });
     EXPECT_EQ(QCoreApplication::exec(), 0);
     EXPECT_EQ(program.page(), nullptr);
     EXPECT_EQ(visibleWindows(), 0);
@@ -121,7 +121,7 @@ TEST_F(ProgramRun, LastsUntilTheAboutBoxIsClosedToo) {
     EXPECT_TRUE(program.about()->isVisible());
     bool lasted = false;
     QTimer::singleShot(0, [this, &lasted] {
-        program.page()->close();
+        program.window()->close();
         settle();
         QTimer::singleShot(0, [this, &lasted] {
             lasted = program.page() == nullptr && program.about()->isVisible();
@@ -157,8 +157,8 @@ TEST(ProgramEnd, ComesAtOnceByLukEvenWithTheAboutBoxOpen) {
 
 TEST_F(ProgramRun, GrowsNoSmallerThanTheDesignArea) {
     choose(PageName::Brok);
-    EXPECT_GE(program.page()->minimumWidth(), 644);
-    EXPECT_GT(program.page()->minimumHeight(), 446);
+    EXPECT_GE(program.window()->minimumSizeHint().width(), 644);
+    EXPECT_GT(program.window()->minimumSizeHint().height(), 446);
 }
 
 TEST_F(ProgramRun, OpensEveryBuiltPageFromEveryOther) {

@@ -169,7 +169,7 @@ void RoughHands::begin() {
 void RoughHands::openHome() {
     ++openings_;
     program_->open(home_);
-    program_->page()->activateWindow();
+    program_->window()->activateWindow();
     watchButtons();
     settle();
     lookForMessages();
@@ -341,7 +341,7 @@ void RoughHands::composeText() {
 
 void RoughHands::click(QPointF onPage, Qt::MouseButton button) {
     // By way of the window, so that what lies in front gets it: a panel, a menu, a message.
-    QWindow* const window = program_->page()->windowHandle();
+    QWindow* const window = program_->window()->windowHandle();
     if (window != nullptr && window->isVisible()) {
         QTest::mouseClick(window, button, Qt::NoModifier, onPage.toPoint());
     }
@@ -382,7 +382,7 @@ void RoughHands::clickControl() {
 }
 
 void RoughHands::drag() {
-    QWindow* const window = program_->page()->windowHandle();
+    QWindow* const window = program_->window()->windowHandle();
     const auto anywhere = [&] {
         return QPoint(choices_.below(qMax(1, window->width())), choices_.below(qMax(1, window->height())));
     };
@@ -423,28 +423,28 @@ void RoughHands::chooseInMenu() {
 }
 
 void RoughHands::changeWindow() {
-    Page* const page = program_->page();
+    Window* const window = program_->window();
     switch (choices_.below(6)) {
         case 0:
             tell("maximise");
-            page->showMaximized();
+            window->showMaximized();
             break;
         case 1:
             tell("minimise and bring back");
-            page->showMinimized();
+            window->showMinimized();
             settle();
-            page->showMaximized();
-            page->activateWindow();
+            window->showMaximized();
+            window->activateWindow();
             break;
         case 2:
             tell("full screen");
-            page->showFullScreen();
+            window->showFullScreen();
             break;
         default: {
             const QSize size(choices_.below(1600), choices_.below(1200));
             tell("resize to " + at({size.width(), size.height()}));
-            page->showNormal();
-            page->resize(size);
+            window->showNormal();
+            window->resize(size);
         }
     }
 }
@@ -456,14 +456,14 @@ void RoughHands::useAbout() {
     if (choices_.onceIn(2) && program_->about() != nullptr) {
         program_->about()->close();
     }
-    if (program_->page() != nullptr) {
-        program_->page()->activateWindow();
+    if (program_->window() != nullptr) {
+        program_->window()->activateWindow();
     }
 }
 
 void RoughHands::closePage() {
     tell("close the page");
-    program_->page()->close();
+    program_->window()->close();
 }
 
 void RoughHands::lookForMessages() {

@@ -213,7 +213,7 @@ TEST_F(ZoomedProgram, OpensTheAboutBoxAtTheSizeOfThePages) {
     const QSize before = program.about()->size();
     program.about()->close();
     settle();
-    program.page()->activateWindow();
+    program.window()->activateWindow();
     settle();
     press(Qt::Key_Plus);
     program.openAbout();
