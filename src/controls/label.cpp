@@ -3,6 +3,8 @@
 #include <cmath>
 
 #include <QFontMetricsF>
+#include <QPainter>
+#include <QTextLayout>
 
 #include "controls/text.h"
 
@@ -43,6 +45,36 @@ void Label::fit() {
     QRectF fitted = place();
     fitted.setSize({textWidth(), std::ceil(QFontMetricsF(unzoomedFont()).height())});
     setPlace(fitted);
+}
+
+void Label::paintEvent(QPaintEvent* event) {
+    if (wordWrap() && zoom() != 1) {
+        paintLines();
+    } else {
+        QLabel::paintEvent(event);
+    }
+}
+
+void Label::paintLines() {
+    QTextLayout layout(QString(text()).replace('\n', QChar::LineSeparator), font());
+    QTextOption option(alignment() & Qt::AlignHorizontal_Mask);
+    option.setWrapMode(QTextOption::WordWrap);
+    layout.setTextOption(option);
+    // The font is of whole pixels, and so are its own lines; those of the design grow evenly.
+    const QFontMetricsF design(unzoomedFont());
+    const double pitch = (std::ceil(design.ascent()) + std::ceil(design.descent())) * zoom();
+    double top = 0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width());
+        line.setPosition({0, top});
+        top += pitch;
+    }
+    layout.endLayout();
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    const double lower = alignment().testFlag(Qt::AlignVCenter) ? (height() - top) / 2 : 0;
+    layout.draw(&painter, {0, lower});
 }
 
 }  // namespace tavrune

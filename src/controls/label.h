@@ -46,9 +46,12 @@ public:
 
 protected:
     void fontHasChanged() override { fit(); }
+    /// The lines of a text stand where the design has them at every zoom: what lies over a gap in it stays there.
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void fit();
+    void paintLines();
 
     bool autoSize_ = false;
     bool decorative_ = false;

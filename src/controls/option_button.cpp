@@ -10,7 +10,6 @@ namespace tavrune {
 
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent), Control(this) {
     setFont(designFont());
-    setAutoFillBackground(true);
     // Buttons are filled by another role unless told.
     setBackgroundRole(QPalette::Window);
     resetBackColour();
@@ -28,6 +27,7 @@ void OptionButton::setBackColour(const QColor& colour) {
     coloured.setColor(QPalette::Window, colour);
     coloured.setColor(QPalette::WindowText, kWhite);
     setPalette(coloured);
+    setAutoFillBackground(true);
     // What the colour says to the eye.
     setAccessibleDescription("rigtigt svar");
 }
@@ -38,6 +38,8 @@ void OptionButton::resetBackColour() {
     neutral.setColor(QPalette::Window, system.color(QPalette::Button));
     neutral.setColor(QPalette::WindowText, system.color(QPalette::ButtonText));
     setPalette(neutral);
+    // A frame has a shade of its own, which shows through.
+    setAutoFillBackground(false);
     setAccessibleDescription("");
 }
 

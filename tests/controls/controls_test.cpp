@@ -152,6 +152,43 @@ TEST(Label, KeepsItsSizeOnceAutoSizeIsOff) {
     EXPECT_EQ(label.place(), place);
 }
 
+/// The first rows of a picture that have ink, one for each line of text.
+std::vector<int> topsOfLines(const QImage& picture) {
+    std::vector<int> tops;
+    bool wasInked = false;
+    for (int y = 0; y < picture.height(); ++y) {
+        bool isInked = false;
+        for (int x = 0; x < picture.width() && !isInked; ++x) {
+            isInked = qGray(picture.pixel(x, y)) < 128;
+        }
+        if (isInked && !wasInked) {
+            tops.push_back(y);
+        }
+        wasInked = isInked;
+    }
+    return tops;
+}
+
+TEST(Label, KeepsItsLinesWhereTheDesignHasThemAtEveryZoom) {
+    Label label;
+    label.setBackColour(kWhite);
+    label.setWordWrap(true);
+    label.setCaption("H H H H H");
+    label.setPlace({0, 0, 14, 70});
+    std::vector<int> design;
+    for (const double zoom : {1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0}) {
+        label.setZoom(zoom);
+        const std::vector<int> tops = topsOfLines(label.grab().toImage());
+        ASSERT_EQ(tops.size(), 5U) << zoom;
+        if (zoom == 1) {
+            design = tops;
+        }
+        for (std::size_t line = 1; line < tops.size(); ++line) {
+            EXPECT_NEAR(tops[line] - tops[0], (design[line] - design[0]) * zoom, 1) << zoom << ", line " << line;
+        }
+    }
+}
+
 TEST(Label, IsTransparentUntilItHasABackColour) {
     Label label;
     EXPECT_FALSE(label.autoFillBackground());

@@ -33,11 +33,19 @@ QRectF onPage(const QWidget& widget, const QRectF& place, const QWidget& page) {
     return place.translated(widget.mapTo(&page, QPoint(0, 0)));
 }
 
+/// From one line of a label's text to the next.
+double pitchOf(const Label& label) {
+    const bool growsEvenly = label.wordWrap() && label.zoom() != 1;
+    return growsEvenly ? QFontMetrics(designFont()).lineSpacing() * label.zoom() * label.textSize() / kDesignTextSize
+                       : QFontMetrics(label.font()).lineSpacing();
+}
+
 /// Height and lines of a label's text as it is laid out in the label's width.
 struct Layout {
     explicit Layout(const Label& label) {
         const QFontMetrics metrics(label.font());
         const double width = label.width();
+        const double pitch = pitchOf(label);
         double y = 0;
         for (const QString& paragraph : label.text().split('\n')) {
             QTextLayout text(paragraph, label.font());
@@ -52,11 +60,11 @@ struct Layout {
                 }
                 line.setLineWidth(label.wordWrap() ? width : 1e6);
                 addLine(paragraph, line, y, metrics);
-                y += metrics.lineSpacing();
+                y += pitch;
             }
             text.endLayout();
             if (paragraph.isEmpty()) {
-                y += metrics.lineSpacing();
+                y += pitch;
             }
         }
         height = y;
