@@ -45,16 +45,21 @@ need_package() {
 }
 need_proof() { need strace dbus xvfb openbox xdotool x11-utils clang libclang-rt-dev; }
 
+# Runs a command that has something to say only if it fails.
+quietly() {
+    local said
+    said=$("$@" 2>&1) || {
+        printf '%s\n' "$said" >&2
+        return 1
+    }
+}
+
 # Configures once and builds what has changed: build PRESET [cmake --build option...].
 build() {
     local preset=$1 tree=$1
     shift
     # The programs under the sanitizers stand beside the others.
     [ "$preset" != watched ] || tree=dev
-    [ -f "build/$tree/build.ninja" ] || cmake --preset "$tree" >"/tmp/tavrune-configure-$$.log" 2>&1 || {
-        cat "/tmp/tavrune-configure-$$.log" >&2
-        fail "The preset $tree could not be configured."
-    }
-    rm -f "/tmp/tavrune-configure-$$.log"
+    [ -f "build/$tree/build.ninja" ] || quietly cmake --preset "$tree" || fail "The preset $tree could not be configured."
     cmake --build --preset "$preset" "$@"
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
 #include <span>
 
 #include "numeric/draws.h"
@@ -22,7 +23,7 @@ public:
 
     template <class Container>
     decltype(auto) oneOf(Container&& from) {
-        return from[static_cast<std::size_t>(below(static_cast<int>(std::size(from))))];
+        return *std::next(std::begin(from), below(static_cast<int>(std::size(from))));
     }
 };
 
