@@ -3,6 +3,8 @@
 #include <cmath>
 #include <limits>
 #include <map>
+#include <optional>
+#include <regex>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -250,6 +252,49 @@ std::string textOf(const Formula& formula) {
     return all;
 }
 
+/// The three coefficients that a row of the worked solution is written with, if it is one of those that have
+/// some.
+std::optional<GtmCoefficients> coefficientsIn(const Formula& row) {
+    static const std::string number = R"((-?[\d.]+))";
+    static const std::string later = R"(([+-][\d.]+))";
+    static const std::array rows{
+        std::regex(".*[ (]" + number + R"(Q\^3 )" + later + R"(Q\^2 )" + later + "Q.*"),
+        std::regex(".*[ (]" + number + R"(Q\^2 )" + later + "Q " + later + ".*"),
+        std::regex(R"(3 \* )" + number + R"(Q\^2 \+ 2 \* )" + number + "Q " + later),
+        std::regex(R"(= 1/3\* )" + number + R"(Q\^3 \+ 1/2\* )" + number + R"(Q\^2 )" + later + "Q"),
+    };
+    const std::string text = textOf(row);
+    std::smatch read;
+    const bool isRead = std::any_of(rows.begin(), rows.end(), [&](const std::regex& shape) {
+        return std::regex_match(text, read, shape);
+    });
+    return isRead ? std::optional(GtmCoefficients{Val(read[1].str()), Val(read[2].str()), Val(read[3].str())})
+                  : std::nullopt;
+}
+
+/// True if the rows are written with just these functions, one after the other.
+bool areWrittenWith(const std::vector<Formula>& rows, const std::vector<GtmCoefficients>& functions) {
+    return std::equal(
+        rows.begin(), rows.end(), functions.begin(), functions.end(),
+        [](const Formula& row, const GtmCoefficients& function) { return coefficientsIn(row) == function; });
+}
+
+/// True if both steps of the worked solution lead from the given function to the other two.
+bool isWorkedOut(const GtmState& s) {
+    switch (s.given) {
+        case GtmFunction::Average:
+            return areWrittenWith(workedProduct(s), {s.avc, s.tvc}) &&
+                   areWrittenWith(workedDerivative(s), {s.tvc, s.tvc, s.mc});
+        case GtmFunction::Total:
+            return areWrittenWith(workedQuotient(s), {s.tvc, s.avc}) &&
+                   areWrittenWith(workedDerivative(s), {s.tvc, s.tvc, s.mc});
+        case GtmFunction::Marginal:
+            break;
+    }
+    return areWrittenWith(workedIntegral(s), {s.mc, s.mc, s.tvc}) &&
+           areWrittenWith(workedQuotientOfIntegral(s), {s.tvc, s.avc});
+}
+
 /// Calls `visit` with each set of draws: 2a, the size of b, and c.
 template <class Visit>
 void forEachDraw(Visit visit) {
@@ -372,7 +417,8 @@ TEST(GtmSpace, IsSolvedFromTheTextsOfTheGivenFunctionAndByNothingBesideIt) {
     Proof proof("Gtm", 6);
     const auto prove = [&proof](const GtmState& s, bool isFirst) {
         proof.visit(Proof::From::WholeSpace, 3 * (isFirst ? 1 : 0) + static_cast<int>(s.given));
-        const bool holds = s == solved(s.given, taskTexts(s.of(s.given))) && isOneProduct(s) && isJudged(s);
+        const bool holds = s == solved(s.given, taskTexts(s.of(s.given))) && isOneProduct(s) && isJudged(s) &&
+                           isWorkedOut(s);
         ASSERT_TRUE(holds) << textOf(workedProduct(s).back()) << ", given " << static_cast<int>(s.given);
     };
     forEachDraw([&](int twiceA, int b, int c, Kind kind) {
