@@ -51,6 +51,25 @@ std::string FormDriver::focus() const {
     return focused == nullptr ? "" : focused->objectName().toStdString();
 }
 
+std::set<std::string> FormDriver::redBoxes() const {
+    std::set<std::string> red;
+    for (const AnswerBox* box : page_->findChildren<AnswerBox*>()) {
+        const std::string name = box->objectName().toStdString();
+        if (box->backColour() == kRed) {
+            red.insert(name);
+        } else if (box->backColour() != kWhite) {
+            throw std::logic_error(name + " is neither red nor white");
+        }
+    }
+    return red;
+}
+
+void FormDriver::fill(const std::map<std::string, std::string>& texts) const {
+    for (const auto& [box, text] : texts) {
+        this->box(box).setContent(text);
+    }
+}
+
 void FormDriver::type(const std::string& box, const std::string& keys) const {
     AnswerBox& field = this->box(box);
     field.selectAll();

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 #include <QString>
@@ -56,6 +58,12 @@ public:
 
     /// The name of the control that has the focus on this page; empty if none has.
     [[nodiscard]] std::string focus() const;
+
+    /// The names of the answer boxes that are red. Throws if one is neither red nor white.
+    [[nodiscard]] std::set<std::string> redBoxes() const;
+
+    /// Sets the texts of boxes, by their names, without a key.
+    void fill(const std::map<std::string, std::string>& texts) const;
 
     /// Replaces the text of a box, key by key.
     void type(const std::string& box, const std::string& keys) const;

@@ -36,8 +36,9 @@ QRectF onPage(const QWidget& widget, const QRectF& place, const QWidget& page) {
 /// From one line of a label's text to the next.
 double pitchOf(const Label& label) {
     const bool growsEvenly = label.wordWrap() && label.zoom() != 1;
-    return growsEvenly ? QFontMetrics(designFont()).lineSpacing() * label.zoom() * label.textSize() / kDesignTextSize
-                       : QFontMetrics(label.font()).lineSpacing();
+    return growsEvenly
+               ? QFontMetrics(designFont()).lineSpacing() * label.zoom() * label.textSize() / kDesignTextSize
+               : QFontMetrics(label.font()).lineSpacing();
 }
 
 /// Height and lines of a label's text as it is laid out in the label's width.

@@ -21,6 +21,13 @@ inline void PrintTo(const Stroke& s, std::ostream* out) {
          << s.scale.y2 << ")";
 }
 
+/// The strokes of two pictures, one after the other.
+[[nodiscard]] inline std::vector<Stroke> operator+(std::vector<Stroke> first,
+                                                   const std::vector<Stroke>& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
 namespace test {
 
 /// Writes strokes as a test expects them, all in one scale.

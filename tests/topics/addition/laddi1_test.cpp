@@ -1,7 +1,5 @@
 #include "topics/addition/laddi1.h"
 
-#include <map>
-#include <memory>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -13,6 +11,7 @@
 #include "support/looks.h"
 #include "support/strokes.h"
 #include "topics/addition/laddi1_script.h"
+#include "topics/addition/vertical_fixture.h"
 
 namespace tavrune {
 namespace {
@@ -21,46 +20,21 @@ using test::DecimalMark;
 using test::DrawnFunction;
 using test::FixedText;
 using test::FormDriver;
+using test::kFunction;
+using test::kSum;
+using test::kSumGreenAsSeen;
+using test::mark;
 using test::ScriptedDraws;
 using test::scriptOf;
-
-const QColor kSumGreenAsSeen(0, 190, 0);
-const test::StrokesIn kFunction{{0, 0, 10, 10}};
-const test::StrokesIn kSum{{0, 0, 10, 20}};
-
-using Strokes = std::vector<Stroke>;
-/// Box to text, in the order of the boxes.
-using Typed = std::map<std::string, std::string>;
-
-Strokes operator+(Strokes first, const Strokes& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
-/// A mark at a quantity and a price.
-Strokes mark(double q, double p) {
-    Strokes strokes;
-    for (double t = -0.15; t <= 0.15; t += 0.05) {
-        strokes.push_back(kFunction.line(q - 0.15, 10 - p + t, q + 0.15, 10 - p + t, kRed));
-    }
-    EXPECT_EQ(strokes.size(), 6U);
-    return strokes;
-}
-
-QRectF whereIs(const FormDriver& f, const std::string& box) {
-    const Control& control = f.find<GraphBox>(box);
-    return control.place();
-}
+using test::Strokes;
+using test::Typed;
+using test::whereIs;
 
 Stroke dotted(double q) { return kFunction.line(q, 0, q, 10, kBlack, LineStyle::Dotted); }
 
-class Laddi1Form : public testing::Test {
+class Laddi1Form : public test::VerticalForm<DrawnFunction> {
 protected:
-    FormDriver& open(const DrawnFunction& function1, const DrawnFunction& function2) {
-        draws.append(scriptOf(function1, function2));
-        form = std::make_unique<FormDriver>(PageName::Laddi1, draws);
-        return *form;
-    }
+    Laddi1Form() : VerticalForm(PageName::Laddi1, "Label23", 1) {}
 
     // -3Q+4 and -1Q+2: -4Q+6 up to 4/3, then -1Q+2 up to 2.
     FormDriver& openFalling() { return open({-3, 4}, {-1, 2}); }
@@ -70,48 +44,6 @@ protected:
     FormDriver& openMixed() { return open({-2, 3}, {1, 1}); }
     // -1Q+2 and -2Q+4: -3Q+6 up to 2.
     FormDriver& openEndingAtOnce() { return open({-1, 2}, {-2, 4}); }
-
-    void nextExercise(const DrawnFunction& function1, const DrawnFunction& function2) {
-        draws.append(scriptOf(function1, function2));
-        form->click("Command1");
-    }
-
-    void fill(const Typed& typed) const {
-        for (const auto& [box, text] : typed) {
-            form->box(box).setContent(text);
-        }
-    }
-
-    void answer(const Typed& typed) const {
-        fill(typed);
-        form->click("Command2");
-    }
-
-    [[nodiscard]] const Strokes& strokes(const std::string& box) const {
-        return form->find<GraphBox>(box).strokes();
-    }
-
-    /// What stands on the box of a given function behind its line.
-    [[nodiscard]] Strokes drawnLater(const std::string& box) const {
-        return test::strokesFrom(form->find<GraphBox>(box), 1);
-    }
-
-    [[nodiscard]] std::set<std::string> redBoxes() const {
-        std::set<std::string> red;
-        for (const AnswerBox* box : form->page().findChildren<AnswerBox*>()) {
-            if (box->backColour() == kRed) {
-                red.insert(box->objectName().toStdString());
-            } else {
-                EXPECT_EQ(box->backColour(), kWhite);
-            }
-        }
-        return red;
-    }
-
-    [[nodiscard]] bool isRight() const { return form->isShown("Label23"); }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 const Typed kAnswerOfFalling{{"Text1", "-4"}, {"Text2", "6"},    {"Text3", "1.33"}, {"Text4", "-1"},

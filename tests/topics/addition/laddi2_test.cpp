@@ -1,7 +1,5 @@
 #include "topics/addition/laddi2.h"
 
-#include <map>
-#include <memory>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -13,6 +11,7 @@
 #include "support/looks.h"
 #include "support/strokes.h"
 #include "topics/addition/laddi2_script.h"
+#include "topics/addition/vertical_fixture.h"
 
 namespace tavrune {
 namespace {
@@ -35,37 +34,21 @@ using test::kAt5EndsAt10;
 using test::kAt5EndsAt6And4th;
 using test::kAt5IsLevel;
 using test::kAt5Rises;
+using test::kFunction;
+using test::kSum;
+using test::kSumGreenAsSeen;
+using test::mark;
 using test::ScriptedDraws;
 using test::scriptOf;
-
-const QColor kSumGreenAsSeen(0, 190, 0);
-const test::StrokesIn kFunction{{0, 0, 10, 10}};
-const test::StrokesIn kSum{{0, 0, 10, 20}};
-
-using Strokes = std::vector<Stroke>;
-/// Box to text, in the order of the boxes.
-using Typed = std::map<std::string, std::string>;
+using test::Strokes;
+using test::Typed;
+using test::whereIs;
 
 // Ends in thirds: 3, 4, 16/3 and 20/3.
 constexpr DrawnKinked kAt3EndsInThirds{3, {1, 2}, {-3, 16}};
 constexpr DrawnKinked kAt4EndsInThirds{4, {0, 3}, {-3, 20}};
 constexpr double kThirds1 = 16.0 / 3;
 constexpr double kThirds2 = 20.0 / 3;
-
-Strokes operator+(Strokes first, const Strokes& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
-/// A mark at a quantity and a price.
-Strokes mark(double q, double p) {
-    Strokes strokes;
-    for (double t = -0.15; t <= 0.15; t += 0.05) {
-        strokes.push_back(kFunction.line(q - 0.15, 10 - p + t, q + 0.15, 10 - p + t, kRed));
-    }
-    EXPECT_EQ(strokes.size(), 6U);
-    return strokes;
-}
 
 Strokes dotted(std::initializer_list<double> quantities) {
     Strokes strokes;
@@ -75,23 +58,14 @@ Strokes dotted(std::initializer_list<double> quantities) {
     return strokes;
 }
 
-QRectF whereIs(const FormDriver& f, const std::string& box) {
-    const Control& control = f.find<GraphBox>(box);
-    return control.place();
-}
-
 /// A line of the sum, from one point to another by quantity and price.
 Stroke sumLine(double fromQ, double fromP, double toQ, double toP, const QColor& colour = kSumGreenAsSeen) {
     return kSum.line(fromQ, 20 - fromP, toQ, 20 - toP, colour);
 }
 
-class Laddi2Form : public testing::Test {
+class Laddi2Form : public test::VerticalForm<DrawnKinked> {
 protected:
-    FormDriver& open(const DrawnKinked& function1, const DrawnKinked& function2) {
-        draws.append(scriptOf(function1, function2));
-        form = std::make_unique<FormDriver>(PageName::Laddi2, draws);
-        return *form;
-    }
+    Laddi2Form() : VerticalForm(PageName::Laddi2, "Label40", 2) {}
 
     // 1Q+6 up to 3, -4Q+21 up to 4.25, 0Q+4 up to 5, -1Q+10 up to 10.
     FormDriver& openFour() { return open(kAt3EndsAt4And4th, kAt5EndsAt10); }
@@ -101,48 +75,6 @@ protected:
     FormDriver& openTwo() { return open(kAt4Rises, kAt4IsLevel); }
     // 1Q+5 up to 3, -2Q+19 up to 4, -6Q+36 up to 16/3, -3Q+20 up to 20/3.
     FormDriver& openThirds() { return open(kAt3EndsInThirds, kAt4EndsInThirds); }
-
-    void nextExercise(const DrawnKinked& function1, const DrawnKinked& function2) {
-        draws.append(scriptOf(function1, function2));
-        form->click("Command1");
-    }
-
-    void fill(const Typed& typed) const {
-        for (const auto& [box, text] : typed) {
-            form->box(box).setContent(text);
-        }
-    }
-
-    void answer(const Typed& typed) const {
-        fill(typed);
-        form->click("Command2");
-    }
-
-    [[nodiscard]] const Strokes& strokes(const std::string& box) const {
-        return form->find<GraphBox>(box).strokes();
-    }
-
-    /// What stands on the box of a given function behind its two pieces.
-    [[nodiscard]] Strokes drawnLater(const std::string& box) const {
-        return test::strokesFrom(form->find<GraphBox>(box), 2);
-    }
-
-    [[nodiscard]] std::set<std::string> redBoxes() const {
-        std::set<std::string> red;
-        for (const AnswerBox* box : form->page().findChildren<AnswerBox*>()) {
-            if (box->backColour() == kRed) {
-                red.insert(box->objectName().toStdString());
-            } else {
-                EXPECT_EQ(box->backColour(), kWhite);
-            }
-        }
-        return red;
-    }
-
-    [[nodiscard]] bool isRight() const { return form->isShown("Label40"); }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 const Typed kAnswerOfFour{{"Text1", "1"},   {"Text2", "6"},     {"Text3", "3"},    {"Text4", "-4"},

@@ -47,11 +47,6 @@ const std::vector<std::string> kTableBoxes{"Text7",  "Text10", "Text13", "Text16
                                            "Text14", "Text17", "Text9",  "Text12", "Text15", "Text18"};
 const std::vector<std::string> kAnswerBoxes{"Text4", "Text5", "Text6", "Text1", "Text2", "Text3", "Text20"};
 
-Strokes operator+(Strokes first, const Strokes& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
 /// `count` upright strokes from `left` on.
 Strokes mark(double left, double price, int count) {
     Strokes strokes;
@@ -139,17 +134,7 @@ protected:
         }
     }
 
-    [[nodiscard]] std::set<std::string> redBoxes() const {
-        std::set<std::string> red;
-        for (const AnswerBox* each : form->page().findChildren<AnswerBox*>()) {
-            if (each->backColour() == kRed) {
-                red.insert(each->objectName().toStdString());
-            } else {
-                EXPECT_EQ(each->backColour(), kWhite);
-            }
-        }
-        return red;
-    }
+    [[nodiscard]] std::set<std::string> redBoxes() const { return form->redBoxes(); }
 
     ScriptedDraws draws;
     std::unique_ptr<FormDriver> form;

@@ -67,11 +67,6 @@ const QColor kSum(0, 190, 0);
 const QColor kBand1(0, 0, 255);
 const QColor kBand2(0, 255, 0);
 
-Strokes operator+(Strokes first, const Strokes& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
 /// P = slope·Q + intercept with prices running down from 10.
 Stroke piece(const GraphScale& scale, double slope, double intercept, double from, double to,
              const QColor& colour = kBlack) {
@@ -156,16 +151,7 @@ protected:
         return texts;
     }
 
-    [[nodiscard]] std::set<std::string> redBoxes() const {
-        std::set<std::string> names;
-        for (int i = 1; i <= 31; ++i) {
-            const std::string name = "Text" + std::to_string(i);
-            if (form->box(name).backColour() == kRed) {
-                names.insert(name);
-            }
-        }
-        return names;
-    }
+    [[nodiscard]] std::set<std::string> redBoxes() const { return form->redBoxes(); }
 
     [[nodiscard]] std::set<std::string> shownOf(const std::set<std::string>& names) const {
         std::set<std::string> shown;

@@ -30,11 +30,6 @@ const test::StrokesIn kGiven{{0, 0, 10, 10}};
 const test::StrokesIn kSum{{0, 0, 20, 10}};
 const QColor kTeal(0, 200, 200);
 
-Strokes operator+(Strokes first, const Strokes& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
 /// The offsets of a thick drawing: a running sum, like the strokes themselves.
 std::vector<double> offsets(double half) {
     std::vector<double> all;

@@ -68,11 +68,6 @@ std::vector<Stroke> cubic(double a, double b, double c, double d) {
     return pieces(-7, 5000, [=](double x) { return a * std::pow(x, 3) + b * std::pow(x, 2) + c * x + d; });
 }
 
-std::vector<Stroke> operator+(std::vector<Stroke> first, const std::vector<Stroke>& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
 class DiffForm : public testing::Test {
 protected:
     FormDriver& open(const DiffDraws& drawn) {

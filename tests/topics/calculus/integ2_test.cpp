@@ -76,11 +76,6 @@ std::vector<Stroke> hatched(const Line& line, int from, int to, const QColor& co
     return each(from, to, [&](double x) { return kIn.line(x, 0, x, line.at(x), colour); });
 }
 
-std::vector<Stroke> operator+(std::vector<Stroke> first, const std::vector<Stroke>& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
 class Integ2Form : public testing::Test {
 protected:
     void script(Family family, const Numbers& n) { draws.append(test::integ2::script(family, n)); }

@@ -52,11 +52,6 @@ Names operator+(Names one, const Names& other) {
     return one;
 }
 
-std::vector<Stroke> operator+(std::vector<Stroke> one, const std::vector<Stroke>& other) {
-    one.insert(one.end(), other.begin(), other.end());
-    return one;
-}
-
 std::vector<Stroke> curve(double a, double b, double c, double largest) {
     const auto p = [=](double q) { return a * q * q + b * q + c; };
     std::vector<Stroke> pieces;

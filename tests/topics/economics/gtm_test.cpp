@@ -41,11 +41,6 @@ const QColor kMcWrong(255, 90, 0);
 using Strokes = std::vector<Stroke>;
 using Nine = std::array<const char*, 9>;
 
-Strokes operator+(Strokes one, const Strokes& other) {
-    one.insert(one.end(), other.begin(), other.end());
-    return one;
-}
-
 double parabola(const Numbers& k, double q) { return k.a * q * q + k.b * q + k.c; }
 double cubic(const Numbers& k, double q) { return q * parabola(k, q); }
 

@@ -53,11 +53,6 @@ const test::StrokesIn kIn{kScale};
 
 Stroke tick(double root) { return kIn.line(root, -0.5, root, 0.5, kRed); }
 
-std::vector<Stroke> operator+(std::vector<Stroke> first, const std::vector<Stroke>& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
 std::vector<Stroke> axes() {
     std::vector<Stroke> strokes{kIn.line(0, 15, 0, -15), kIn.line(-15, 0, 15, 0)};
     for (int x = -15; x <= 14; ++x) {

@@ -39,11 +39,6 @@ std::vector<Stroke> curve(double a, double b, double c) {
     return pieces;
 }
 
-std::vector<Stroke> operator+(std::vector<Stroke> first, const std::vector<Stroke>& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
 class ToppForm : public testing::Test {
 protected:
     void script(int a, int b, int c, int patternCase) {
