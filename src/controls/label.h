@@ -46,7 +46,8 @@ public:
 
 protected:
     void fontHasChanged() override { fit(); }
-    /// The lines of a text stand where the design has them at every zoom: what lies over a gap in it stays there.
+    /// The lines of a text stand where the design has them at every zoom: what lies over a gap in it stays
+    /// there.
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -184,7 +184,8 @@ TEST(Label, KeepsItsLinesWhereTheDesignHasThemAtEveryZoom) {
             design = tops;
         }
         for (std::size_t line = 1; line < tops.size(); ++line) {
-            EXPECT_NEAR(tops[line] - tops[0], (design[line] - design[0]) * zoom, 1) << zoom << ", line " << line;
+            EXPECT_NEAR(tops[line] - tops[0], (design[line] - design[0]) * zoom, 1)
+                << zoom << ", line " << line;
         }
     }
 }
