@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -65,6 +66,37 @@ TEST_F(ProgramRun, ReplacesEachPageByTheNext) {
     choose(PageName::Form1);
     EXPECT_EQ(program.page()->name(), PageName::Form1);
     EXPECT_EQ(visibleWindows(), 1);
+}
+
+TEST_F(ProgramRun, KeepsItsWindowWhoseTitleFollowsThePages) {
+    const Window* const window = program.window();
+    for (const PageName target : {PageName::Brok, PageName::Form1, PageName::Vaddi3}) {
+        choose(target);
+        EXPECT_EQ(program.window(), window);
+        EXPECT_EQ(window->windowTitle(), program.page()->windowTitle());
+        EXPECT_EQ(window->page(), program.page());
+        EXPECT_EQ(program.page()->size(), window->size());
+    }
+    EXPECT_EQ(window->windowTitle().toStdString(), "Tavrune - Vandret addition - Niveau 3");
+}
+
+TEST_F(ProgramRun, MaximisesAWindowAgainForTheNextPage) {
+    program.window()->showNormal();
+    settle();
+    choose(PageName::Brok);
+    EXPECT_TRUE(program.window()->isMaximized());
+    EXPECT_EQ(program.page()->size(), program.window()->size());
+}
+
+TEST_F(ProgramRun, PutsTheFocusOnThePageThatHasCome) {
+    choose(PageName::Brok);
+    EXPECT_EQ(QApplication::focusWidget(), program.page()->findChild<AnswerBox*>("Text1"));
+    choose(PageName::Form1);
+    // Nothing there asks for it.
+    EXPECT_EQ(QApplication::focusWidget(), program.page()->findChild<Button*>("Command1"));
+    choose(PageName::Laddi1);
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_TRUE(program.page()->isAncestorOf(QApplication::focusWidget()));
 }
 
 TEST_F(ProgramRun, NeverHasAMomentWithoutAWindow) {
@@ -181,6 +213,12 @@ TEST(Application, ShowsNumbersWithTheMarkOfTheLocale) {
     EXPECT_EQ(NumberText(2.5), "2,5");
     Application::useDecimalMarkOf(QLocale("en_GB"));
     EXPECT_EQ(NumberText(2.5), "2.5");
+}
+
+TEST(Application, HasItsIconAfterTheFirstRoundOfEvents) {
+    settle();
+    EXPECT_EQ(QApplication::windowIcon().availableSizes(),
+              (QList<QSize>{{16, 16}, {32, 32}, {48, 48}, {128, 128}}));
 }
 
 class Failing : public QObject {
