@@ -152,8 +152,10 @@ void MeasuredPage::measure(std::uint64_t seed) {
     take(helping, [this] { showAllSteps(); });
     if (helpsByMessage()) {
         take(bareMessages, [this] {
-            auto* const box =
-                new QMessageBox(QMessageBox::NoIcon, "Message", "Message", QMessageBox::Ok, program_->page());
+            // As many letters as there are in the help.
+            auto* const box = new QMessageBox(QMessageBox::NoIcon, "Message",
+                                              "This message has just as many letters as the help of the form",
+                                              QMessageBox::Ok, program_->page());
             box->setAttribute(Qt::WA_DeleteOnClose);
             box->open();
         });
