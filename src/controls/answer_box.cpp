@@ -27,8 +27,10 @@ AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent), Control(this) {
     setMaxLength(std::numeric_limits<int>::max());
     setFont(designFont());
     setTextMargins(0, 0, 0, 0);
-    setPaletteColour(QPalette::Text, kBlack);
-    setBackColour(kWhite);
+    QPalette blackOnWhite = palette();
+    blackOnWhite.setColor(QPalette::Text, kBlack);
+    blackOnWhite.setColor(QPalette::Base, kWhite);
+    setPalette(blackOnWhite);
 }
 
 double AnswerBox::value() const { return Val(content()); }
