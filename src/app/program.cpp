@@ -19,7 +19,10 @@ void Program::open(PageName name) {
     connect(page, &Page::aboutChosen, this, &Program::openAbout);
     connect(page, &Page::closeChosen, this, &Program::closeChosen);
     connect(page, &Page::zoomed, this, &Program::zoomAll);
-    page->setZoom(zoom_);
+    // A page comes at its own size.
+    if (zoom_ != page->zoom()) {
+        page->setZoom(zoom_);
+    }
     if (window_.isNull()) {
         window_ = new Window;
     }
