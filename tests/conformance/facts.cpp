@@ -61,8 +61,8 @@ std::vector<FormFacts> builtForms() {
     return built;
 }
 
-std::string asciiName(const testing::TestParamInfo<FormFacts>& row) {
-    std::string name(textOf(row.param.page));
+std::string asciiNameOf(PageName page) {
+    std::string name(textOf(page));
     for (const auto& [letter, ascii] : {std::pair{"æ", "ae"}, std::pair{"ø", "oe"}}) {
         if (const auto at = name.find(letter); at != std::string::npos) {
             name.replace(at, 2, ascii);
@@ -70,5 +70,7 @@ std::string asciiName(const testing::TestParamInfo<FormFacts>& row) {
     }
     return name;
 }
+
+std::string asciiName(const testing::TestParamInfo<FormFacts>& row) { return asciiNameOf(row.param.page); }
 
 }  // namespace tavrune::test

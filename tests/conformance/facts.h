@@ -47,7 +47,10 @@ inline void PrintTo(const FormFacts& facts, std::ostream* out) { *out << textOf(
 /// The forms that are built.
 [[nodiscard]] std::vector<FormFacts> builtForms();
 
-/// The form's name as the names of tests can hold it.
+/// A page's name as the names of tests can hold it: "afsaet".
+[[nodiscard]] std::string asciiNameOf(PageName page);
+
+/// The same for a test that is run over the forms.
 [[nodiscard]] std::string asciiName(const testing::TestParamInfo<FormFacts>& row);
 
 }  // namespace tavrune::test

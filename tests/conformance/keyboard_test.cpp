@@ -111,19 +111,9 @@ protected:
     }
 };
 
-std::string asciiName(std::string name) {
-    for (const auto& [letter, ascii] : {std::pair{"æ", "ae"}, std::pair{"ø", "oe"}}) {
-        if (const auto at = name.find(letter); at != std::string::npos) {
-            name.replace(at, 2, ascii);
-        }
-    }
-    return name;
-}
-
 INSTANTIATE_TEST_SUITE_P(Pages, EveryPage, testing::ValuesIn(builtPages()),
-                         [](const auto& row) { return asciiName(std::string(textOf(row.param))); });
-INSTANTIATE_TEST_SUITE_P(Forms, Keyboard, testing::ValuesIn(test::builtForms()),
-                         [](const auto& row) { return asciiName(std::string(textOf(row.param.page))); });
+                         [](const auto& row) { return test::asciiNameOf(row.param); });
+INSTANTIATE_TEST_SUITE_P(Forms, Keyboard, testing::ValuesIn(test::builtForms()), test::asciiName);
 
 TEST_P(EveryPage, OpensWithAnAccessKeyForEachThing) {
     SeededDraws draws(1);

@@ -194,17 +194,7 @@ protected:
     bool ended = false;
 };
 
-std::string asciiName(const testing::TestParamInfo<FormFacts>& row) {
-    std::string name(textOf(row.param.page));
-    for (const auto& [letter, ascii] : {std::pair{"æ", "ae"}, std::pair{"ø", "oe"}}) {
-        if (const auto at = name.find(letter); at != std::string::npos) {
-            name.replace(at, 2, ascii);
-        }
-    }
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Forms, KeysAlone, testing::ValuesIn(test::builtForms()), asciiName);
+INSTANTIATE_TEST_SUITE_P(Forms, KeysAlone, testing::ValuesIn(test::builtForms()), test::asciiName);
 
 TEST_P(KeysAlone, DoForAWholeSession) {
     constexpr int kSessions = 3;

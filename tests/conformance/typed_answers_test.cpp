@@ -232,17 +232,7 @@ protected:
     int boxesMoved = 0;
 };
 
-std::string asciiName(const testing::TestParamInfo<FormFacts>& row) {
-    std::string name(textOf(row.param.page));
-    for (const auto& [letter, ascii] : {std::pair{"æ", "ae"}, std::pair{"ø", "oe"}}) {
-        if (const auto at = name.find(letter); at != std::string::npos) {
-            name.replace(at, 2, ascii);
-        }
-    }
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Forms, TypedAnswers, testing::ValuesIn(test::builtForms()), asciiName);
+INSTANTIATE_TEST_SUITE_P(Forms, TypedAnswers, testing::ValuesIn(test::builtForms()), test::asciiName);
 
 TEST_P(TypedAnswers, AreRightWithCommaAndPointAndWrongPastTheirToleranceInTheBoxThatTurnsRed) {
     const auto seeds = static_cast<std::uint64_t>(test::lotSize(7, 150));
