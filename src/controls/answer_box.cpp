@@ -1,5 +1,7 @@
 #include "controls/answer_box.h"
 
+#include <algorithm>
+#include <array>
 #include <limits>
 
 #include <QInputMethodEvent>
@@ -12,6 +14,9 @@
 namespace tavrune {
 namespace {
 
+/// From the edge of a box to its text, in units; the field brings it along for the first zoom alone.
+constexpr double kTextIndent = 3;
+
 QString withPoints(QString typed) { return typed.replace(',', '.'); }
 
 /// Alt and a character: a way to a button, and no text, where the button is hidden too.
@@ -21,16 +26,24 @@ bool isAccessKey(const QKeyEvent& event) {
            event.text().front().isPrint();
 }
 
+/// Whatever the state of a box; pages hand such a palette down to theirs.
+bool isBlackOnWhite(const QPalette& palette) {
+    constexpr std::array kStates{QPalette::Active, QPalette::Inactive, QPalette::Disabled};
+    return std::all_of(kStates.begin(), kStates.end(), [&palette](QPalette::ColorGroup state) {
+        return palette.color(state, QPalette::Text) == kBlack &&
+               palette.color(state, QPalette::Base) == kWhite;
+    });
+}
+
 }  // namespace
 
 AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent), Control(this) {
     setMaxLength(std::numeric_limits<int>::max());
-    setFont(designFont());
-    setTextMargins(0, 0, 0, 0);
-    QPalette blackOnWhite = palette();
-    blackOnWhite.setColor(QPalette::Text, kBlack);
-    blackOnWhite.setColor(QPalette::Base, kWhite);
-    setPalette(blackOnWhite);
+    wear(designFont());
+    if (!isBlackOnWhite(palette())) {
+        setPaletteColour(QPalette::Text, kBlack);
+        setPaletteColour(QPalette::Base, kWhite);
+    }
 }
 
 double AnswerBox::value() const { return Val(content()); }
@@ -38,9 +51,21 @@ double AnswerBox::value() const { return Val(content()); }
 void AnswerBox::setContent(std::string_view content) { setText(fromUtf8(content)); }
 
 void AnswerBox::setBackColour(const QColor& colour) {
-    setPaletteColour(QPalette::Base, colour);
+    if (backColour() != colour) {
+        setPaletteColour(QPalette::Base, colour);
+    }
     // What the colour says to the eye.
-    setAccessibleDescription(colour == kRed ? "forkert" : "");
+    const QString words = colour == kRed ? "forkert" : "";
+    if (accessibleDescription() != words) {
+        setAccessibleDescription(words);
+    }
+}
+
+void AnswerBox::fontHasChanged() {
+    const int margin = qRound(kTextIndent * (zoom() - 1));
+    if (textMargins().left() != margin) {
+        setTextMargins(margin, 0, margin, 0);
+    }
 }
 
 void AnswerBox::keyPressEvent(QKeyEvent* event) {

@@ -36,6 +36,7 @@ signals:
     void enterPressed();
 
 protected:
+    void fontHasChanged() override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
 };

@@ -8,7 +8,7 @@
 namespace tavrune {
 
 Button::Button(QWidget* parent) : QPushButton(parent), Control(this) {
-    setFont(designFont());
+    wear(designFont());
     setFocusPolicy(Qt::StrongFocus);
 }
 

@@ -24,13 +24,18 @@ QFont zoomed(const QFont& design, double zoom) {
 
 }  // namespace
 
-QFont designFont() {
-    QFont font;
-    font.setFamilies({"Arial", "Liberation Sans", "Arimo", "Helvetica"});
-    font.setPixelSize(qRound(kDesignTextSize));
-    // Widths that are not rounded to whole pixels, whatever the desktop has set: texts grow with their size.
-    font.setHintingPreference(QFont::PreferVerticalHinting);
-    return font;
+const QFont& designFont() {
+    // Copies share what is found out about it, so there is one, and it outlives all of them.
+    static const QFont* const kFont = [] {
+        auto* const font = new QFont;
+        font->setFamilies({"Arial", "Liberation Sans", "Arimo", "Helvetica"});
+        font->setPixelSize(qRound(kDesignTextSize));
+        // Widths that are not rounded to whole pixels, whatever the desktop has set: texts grow with their
+        // size.
+        font->setHintingPreference(QFont::PreferVerticalHinting);
+        return font;
+    }();
+    return *kFont;
 }
 
 QRectF Control::place() const { return place_.value_or(QRectF(self_->geometry())); }
@@ -116,22 +121,32 @@ void Control::applyPlace() {
     self_->setGeometry(left, top, qRound(p.right() * zoom_) - left, qRound(p.bottom() * zoom_) - top);
 }
 
+void Control::wear(const QFont& font) {
+    // Most have it from the page already.
+    if (self_->font() != font) {
+        self_->setFont(font);
+    }
+}
+
 void Control::applyFont() {
     const QFont design = unzoomedFont();
-    self_->setFont(zoom_ == 1 ? design : zoomed(design, zoom_));
+    wear(zoom_ == 1 ? design : zoomed(design, zoom_));
     fontHasChanged();
 }
 
-void drawOutline(QWidget& widget, double zoom, const QColor& colour) {
-    const double ratio = widget.devicePixelRatioF();
+void drawOutline(QPainter& painter, const QRectF& box, double units, const QColor& colour) {
+    const double ratio = painter.device()->devicePixelRatioF();
     // Whole pixels of the screen, or the edges would differ from one another.
-    const double width = qMax(1, qFloor(zoom * ratio)) / ratio;
-    const QRectF box = widget.rect();
+    const double width = qMax(1, qFloor(units * ratio)) / ratio;
+    painter.fillRect(QRectF(box.left(), box.top(), box.width(), width), colour);
+    painter.fillRect(QRectF(box.left(), box.bottom() - width, box.width(), width), colour);
+    painter.fillRect(QRectF(box.left(), box.top(), width, box.height()), colour);
+    painter.fillRect(QRectF(box.right() - width, box.top(), width, box.height()), colour);
+}
+
+void drawOutline(QWidget& widget, double zoom, const QColor& colour) {
     QPainter painter(&widget);
-    painter.fillRect(QRectF(0, 0, box.width(), width), colour);
-    painter.fillRect(QRectF(0, box.height() - width, box.width(), width), colour);
-    painter.fillRect(QRectF(0, 0, width, box.height()), colour);
-    painter.fillRect(QRectF(box.width() - width, 0, width, box.height()), colour);
+    drawOutline(painter, widget.rect(), zoom, colour);
 }
 
 void showFocusAlways(QStyleOption& option) { option.state |= QStyle::State_KeyboardFocusChange; }

@@ -31,7 +31,7 @@ inline constexpr double kDesignTextSize = 11;
 
 /// The font of every text on a page, 11 units high: gaps in captions, into which numbers are laid, fit just
 /// this one.
-[[nodiscard]] QFont designFont();
+[[nodiscard]] const QFont& designFont();
 
 /// What everything on a page has in common: a place in units of the design, and a text style. The place on
 /// the screen is made from it in `setZoom` and in the setters, and nowhere else.
@@ -73,6 +73,9 @@ protected:
     /// The font as the design has it, before any zoom.
     [[nodiscard]] QFont unzoomedFont() const;
 
+    /// Has the text in `font`, which a page hands down to what stands on it.
+    void wear(const QFont& font);
+
     /// Called after the font has changed.
     virtual void fontHasChanged() {}
 
@@ -89,7 +92,9 @@ private:
     double zoom_ = 1;
 };
 
-/// Draws the outline of a control within its edges: a unit wide, at every zoom and device pixel ratio.
+/// Draws an outline within the edges of `box`: so many units wide, at every zoom and device pixel ratio.
+void drawOutline(QPainter& painter, const QRectF& box, double units, const QColor& colour);
+/// The same round a control, a unit wide.
 void drawOutline(QWidget& widget, double zoom, const QColor& colour);
 
 /// Has the focus drawn whichever way it came; styles leave it out until a key has moved it.

@@ -5,8 +5,25 @@
 #include "controls/control.h"
 
 namespace tavrune {
+namespace {
+
+const QColor kFieldOutline(128, 128, 128);
+
+}  // namespace
 
 DesignStyle::DesignStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+void DesignStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const {
+    const auto* const control = dynamic_cast<const Control*>(widget);
+    if (element != PE_FrameLineEdit || control == nullptr) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    }
+    const bool isFocused = option->state.testFlag(State_HasFocus);
+    drawOutline(*painter, option->rect, (isFocused ? 2 : 1) * control->zoom(),
+                isFocused ? option->palette.color(QPalette::Highlight) : kFieldOutline);
+}
 
 int DesignStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     const int pixels = QProxyStyle::pixelMetric(metric, option, widget);

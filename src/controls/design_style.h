@@ -5,13 +5,16 @@
 namespace tavrune {
 
 /// How everything is drawn: the one style that takes the colours of state from the palette on every desktop,
-/// with the marks of option buttons as large as their zoom asks for.
+/// with outlines and the marks of option buttons as large as their zoom asks for.
 class DesignStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
     DesignStyle();
 
+    /// The outlines of fields are of straight lines, a unit wide; two where the focus stands.
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 };
 

@@ -2,6 +2,6 @@
 
 namespace tavrune {
 
-Frame::Frame(QWidget* parent) : QGroupBox(parent), Control(this) { setFont(designFont()); }
+Frame::Frame(QWidget* parent) : QGroupBox(parent), Control(this) { wear(designFont()); }
 
 }  // namespace tavrune

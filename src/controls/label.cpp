@@ -4,6 +4,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QStyle>
 #include <QTextLayout>
 
 #include "controls/text.h"
@@ -14,7 +15,7 @@ Label::Label(QWidget* parent) : QLabel(parent), Control(this) {
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setIndent(0);
-    setFont(designFont());
+    wear(designFont());
 }
 
 void Label::setCaption(std::string_view caption) { setText(fromUtf8(caption)); }
@@ -34,6 +35,11 @@ void Label::setBackColour(const QColor& colour) {
     setAutoFillBackground(true);
 }
 
+void Label::setHaloed(bool haloed) {
+    haloed_ = haloed;
+    update();
+}
+
 void Label::setTextColour(const QColor& colour) { setPaletteColour(QPalette::WindowText, colour); }
 
 double Label::textWidth() const { return std::ceil(QFontMetricsF(unzoomedFont()).horizontalAdvance(text())); }
@@ -48,10 +54,24 @@ void Label::fit() {
 }
 
 void Label::paintEvent(QPaintEvent* event) {
+    if (haloed_) {
+        paintHalo();
+    }
     if (wordWrap() && zoom() != 1) {
         paintLines();
     } else {
         QLabel::paintEvent(event);
+    }
+}
+
+void Label::paintHalo() {
+    QPainter painter(this);
+    QPalette white;
+    white.setColor(QPalette::WindowText, kWhite);
+    for (const QPointF offset : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)}) {
+        painter.setWorldTransform(QTransform::fromTranslate(offset.x() * zoom(), offset.y() * zoom()));
+        style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), white, true, text(),
+                              QPalette::WindowText);
     }
 }
 

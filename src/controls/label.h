@@ -37,6 +37,10 @@ public:
     void setDecorative(bool decorative) { decorative_ = decorative; }
     [[nodiscard]] bool isDecorative() const { return decorative_; }
 
+    /// White round the text, a unit wide: on a graph it stays readable over lines and areas.
+    void setHaloed(bool haloed);
+    [[nodiscard]] bool isHaloed() const { return haloed_; }
+
     /// A verdict is announced when it appears.
     void setVerdict(bool verdict) { verdict_ = verdict; }
     [[nodiscard]] bool isVerdict() const { return verdict_; }
@@ -52,10 +56,12 @@ protected:
 
 private:
     void fit();
+    void paintHalo();
     void paintLines();
 
     bool autoSize_ = false;
     bool decorative_ = false;
+    bool haloed_ = false;
     bool verdict_ = false;
 };
 

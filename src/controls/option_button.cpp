@@ -9,7 +9,7 @@
 namespace tavrune {
 
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent), Control(this) {
-    setFont(designFont());
+    wear(designFont());
     // Buttons are filled by another role unless told.
     setBackgroundRole(QPalette::Window);
     resetBackColour();

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QChildEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "controls/label.h"
 #include "graph/clipping.h"
 
 namespace tavrune {
@@ -251,6 +253,14 @@ void GraphBox::renewPicture() {
         strokePainter.paint(strokes_[painted_]);
     }
     strokePainter.endCurve();
+}
+
+void GraphBox::childEvent(QChildEvent* event) {
+    auto* const label = event->polished() ? qobject_cast<Label*>(event->child()) : nullptr;
+    if (label != nullptr && !bare_ && !label->wordWrap()) {
+        label->setHaloed(true);
+    }
+    QWidget::childEvent(event);
 }
 
 void GraphBox::paintEvent(QPaintEvent* /*event*/) {

@@ -92,6 +92,8 @@ public:
     void setKeepsOnce(bool keepsOnce) { keepsOnce_ = keepsOnce; }
 
 protected:
+    /// Texts of one line on the white of a graph are given a halo.
+    void childEvent(QChildEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 

@@ -43,6 +43,10 @@ Page::Page(PageName name)
     setObjectName(fromUtf8(textOf(name)));
     setContextMenuPolicy(Qt::NoContextMenu);
     design_->setFont(designFont());
+    QPalette blackOnWhite = palette();
+    blackOnWhite.setColor(QPalette::Text, kBlack);
+    blackOnWhite.setColor(QPalette::Base, kWhite);
+    design_->setPalette(blackOnWhite);
     view_->setWidget(design_);
     view_->setWidgetResizable(true);
     view_->setFrameShape(QFrame::NoFrame);

@@ -419,6 +419,70 @@ TEST(Panel, HasAnOutlineAsWideOnEverySideAtEveryZoom) {
     }
 }
 
+TEST(AnswerBox, HasAnOutlineTwiceAsWideWhereTheFocusStands) {
+    QWidget page;
+    AnswerBox box(&page);
+    box.setPlace({0, 0, 40, 20});
+    // Without a caret.
+    box.setReadOnly(true);
+    page.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
+    for (const double zoom : {1.0, 1.5, 2.0, 3.0}) {
+        box.setZoom(zoom);
+        box.clearFocus();
+        const int unit = qFloor(zoom);
+        EXPECT_EQ(edgesOf(box.grab().toImage(), true), std::pair(unit, unit)) << zoom;
+        EXPECT_EQ(edgesOf(box.grab().toImage(), false), std::pair(unit, unit)) << zoom;
+        focusOn(&box);
+        const int two = qFloor(2 * zoom);
+        EXPECT_EQ(edgesOf(box.grab().toImage(), true), std::pair(two, two)) << zoom;
+        EXPECT_EQ(edgesOf(box.grab().toImage(), false), std::pair(two, two)) << zoom;
+    }
+}
+
+TEST(AnswerBox, KeepsItsTextOffItsOutlineAtEveryZoom) {
+    QWidget page;
+    AnswerBox box(&page);
+    box.setPlace({0, 0, 40, 20});
+    box.setContent("1");
+    page.show();
+    for (const double zoom : {1.0, 1.5, 2.0, 3.0}) {
+        box.setZoom(zoom);
+        const QImage picture = box.grab().toImage();
+        const int outline = qFloor(2 * zoom);
+        for (int y = outline; y < picture.height() - outline; ++y) {
+            EXPECT_EQ(picture.pixelColor(outline, y), kWhite) << zoom << " row " << y;
+        }
+    }
+}
+
+TEST(AnswerBox, HasTheFontAndTheColoursOfItsPage) {
+    QWidget page;
+    page.setFont(designFont());
+    QPalette blackOnWhite;
+    blackOnWhite.setColor(QPalette::Text, kBlack);
+    blackOnWhite.setColor(QPalette::Base, kWhite);
+    page.setPalette(blackOnWhite);
+    const AnswerBox box(&page);
+    EXPECT_EQ(box.font(), designFont());
+    EXPECT_FALSE(box.testAttribute(Qt::WA_SetFont));
+    EXPECT_FALSE(box.testAttribute(Qt::WA_SetPalette));
+}
+
+TEST(AnswerBox, IsBlackOnWhiteInTheDesignFontOnAnyPage) {
+    QWidget page;
+    QFont large;
+    large.setPixelSize(30);
+    page.setFont(large);
+    page.setPalette(QPalette(QColor(20, 20, 20)));
+    const AnswerBox box(&page);
+    EXPECT_EQ(box.font().pixelSize(), 11);
+    for (const auto state : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        EXPECT_EQ(box.palette().color(state, QPalette::Base), kWhite);
+        EXPECT_EQ(box.palette().color(state, QPalette::Text), kBlack);
+    }
+}
+
 TEST(Panel, IsWhiteWithBlackText) {
     Panel panel;
     Label label(&panel);

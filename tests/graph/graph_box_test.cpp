@@ -225,5 +225,39 @@ TEST_F(Box, PlacesTextByItsScale) {
     EXPECT_NEAR(label.place().top(), 51, 1e-4);
 }
 
+class NumberOverAnArea : public Box {
+protected:
+    void SetUp() override {
+        Box::SetUp();
+        box.DrawWidth(200);
+        box.Line(-10, 0, 10, 0, kBlue);
+        number.setPlace({30, 30, 40, 40});
+        number.setTextSize(33);
+        number.setCaption("5");
+    }
+
+    Label number{&box};
+};
+
+TEST_F(NumberOverAnArea, IsReadableByItsHalo) {
+    box.show();
+    EXPECT_GT(inked(kBlack), 0);
+    EXPECT_GT(inked(kWhite), 10);
+}
+
+TEST_F(NumberOverAnArea, HasNoHaloOnABareFrame) {
+    box.setBare(true);
+    box.show();
+    EXPECT_GT(inked(kBlack), 0);
+    EXPECT_EQ(inked(kWhite), 0);
+}
+
+TEST_F(NumberOverAnArea, HasNoHaloAsARunningText) {
+    number.setWordWrap(true);
+    box.show();
+    EXPECT_GT(inked(kBlack), 0);
+    EXPECT_EQ(inked(kWhite), 0);
+}
+
 }  // namespace
 }  // namespace tavrune

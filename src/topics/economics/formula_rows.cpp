@@ -30,9 +30,8 @@ public:
                 next_ = addLabel(piece.text, left, top_)->place().right();
                 break;
             case FormulaPiece::Kind::IntegralSign: {
-                Label* const sign = addLabel(piece.text, left, top_ - kIntegralRise);
+                Label* const sign = addLabel(piece.text, left, top_ - kIntegralRise, kIntegralSize);
                 sign->setSerif(true);
-                sign->setTextSize(kIntegralSize);
                 next_ = sign->place().right();
                 // The sign leans over what follows.
                 sign->setAutoSize(false);
@@ -44,8 +43,7 @@ public:
                 break;
         }
         if (!piece.exponent.empty()) {
-            addLabel(piece.exponent, left + fromTwips(exponentOffset_), top_ - kExponentRise)
-                ->setTextSize(kExponentSize);
+            addLabel(piece.exponent, left + fromTwips(exponentOffset_), top_ - kExponentRise, kExponentSize);
         }
     }
 
@@ -55,12 +53,14 @@ private:
     double exponentOffset_;
     double next_ = 0;
 
-    Label* addLabel(const std::string& text, double left, double top) {
+    Label* addLabel(const std::string& text, double left, double top, double size = kDesignTextSize) {
         auto* const label = new Label(&box_);
         label->setPlace(QRectF(left, top, 0, 0));
+        label->setTextSize(size);
         label->setZoom(box_.zoom());
-        label->setAutoSize(true);
         label->setCaption(text);
+        // Last, so that it is measured once.
+        label->setAutoSize(true);
         label->show();
         return label;
     }

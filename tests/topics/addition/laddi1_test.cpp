@@ -10,6 +10,7 @@
 #include "support/form_driver.h"
 #include "support/looks.h"
 #include "support/strokes.h"
+#include "topics/addition/axis_texts.h"
 #include "topics/addition/laddi1_script.h"
 #include "topics/addition/vertical_fixture.h"
 
@@ -131,20 +132,13 @@ TEST_F(Laddi1Form, WritesTheFunctionsWithPlainNumbers) {
 
 TEST_F(Laddi1Form, LabelsItsGraphs) {
     const FormDriver& f = openFalling();
-    const auto captions = [&f](const char* frame) {
-        std::multiset<std::string> found;
-        for (const Label* label : f.find(frame).findChildren<Label*>()) {
-            found.insert(label->caption());
-        }
-        return found;
-    };
     const std::multiset<std::string> both{"0", "0", "2", "2",  "4",  "4", "6",
                                           "6", "8", "8", "10", "10", "P", "Q"};
-    EXPECT_EQ(captions("Picture1"), both);
-    EXPECT_EQ(captions("Picture2"), both);
+    EXPECT_EQ(test::axisTexts(f, "Picture1"), both);
+    EXPECT_EQ(test::axisTexts(f, "Picture2"), both);
     std::multiset<std::string> tall = both;
     tall.insert({"12", "14", "16", "18", "20", "Resultat"});
-    EXPECT_EQ(captions("Picture5"), tall);
+    EXPECT_EQ(test::axisTexts(f, "Picture5"), tall);
 }
 
 TEST_F(Laddi1Form, KeepsFunctionOneInTheLeftHandGraph) {

@@ -15,6 +15,7 @@
 #include "support/form_driver.h"
 #include "support/scripted_draws.h"
 #include "support/strokes.h"
+#include "topics/addition/axis_texts.h"
 #include "topics/addition/vaddi1_tasks.h"
 
 namespace tavrune {
@@ -226,19 +227,12 @@ TEST_F(Vaddi1Form, TellsTheMethodInThreeSteps) {
 }
 
 TEST_F(Vaddi1Form, NumbersTheAxesInSteps) {
-    open(kFalling);
-    const auto captionsOn = [this](const char* name) {
-        std::multiset<std::string> captions;
-        for (const Label* label : box(name).findChildren<Label*>(Qt::FindDirectChildrenOnly)) {
-            captions.insert(label->caption());
-        }
-        return captions;
-    };
+    const FormDriver& f = open(kFalling);
     const std::multiset<std::string> given{"0", "2", "4", "6", "8",  "10", "0",
                                            "2", "4", "6", "8", "10", "P",  "Q"};
-    EXPECT_EQ(captionsOn("Picture1"), given);
-    EXPECT_EQ(captionsOn("Picture2"), given);
-    EXPECT_EQ(captionsOn("Picture6"),
+    EXPECT_EQ(test::axisTexts(f, "Picture1"), given);
+    EXPECT_EQ(test::axisTexts(f, "Picture2"), given);
+    EXPECT_EQ(test::axisTexts(f, "Picture6"),
               (std::multiset<std::string>{"0", "2",  "4",  "6",  "8",  "10", "0",  "2", "4", "6",
                                           "8", "10", "12", "14", "16", "18", "20", "P", "Q", "Resultat"}));
 }
