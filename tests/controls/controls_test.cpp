@@ -1,4 +1,5 @@
 #include <array>
+#include <set>
 
 #include <QTest>
 
@@ -13,6 +14,7 @@
 #include "controls/option_group.h"
 #include "controls/panel.h"
 #include "controls/row.h"
+#include "controls/table_head.h"
 
 namespace tavrune {
 namespace {
@@ -372,6 +374,62 @@ TEST_F(FractionOfThree, ShowsAndHidesAsOne) {
     EXPECT_FALSE(top.isShown() || bar.isShown() || bottom.isShown());
     fraction.setShown(true);
     EXPECT_TRUE(top.isShown() && bar.isShown() && bottom.isShown());
+}
+
+class HeadOfTwoColumns : public testing::Test {
+protected:
+    void SetUp() override {
+        first.setPlace({40, 20, 30, 20});
+        second.setPlace({100, 20, 60, 20});
+        head.setPlace({30, 0, 150, 14});
+        head.setCaption("  P     Qtotal");
+        head.standOver({&first, &second});
+    }
+
+    QWidget page;
+    AnswerBox first{&page};
+    AnswerBox second{&page};
+    TableHead head{&page};
+};
+
+TEST_F(HeadOfTwoColumns, StandsOverTheMiddleOfEachAtEveryZoom) {
+    for (const double zoom : {1.0, 1.5, 3.0}) {
+        head.setZoom(zoom);
+        const auto words = head.words();
+        ASSERT_EQ(words.size(), 2U);
+        EXPECT_EQ(words[0].second, "P");
+        EXPECT_NEAR(words[0].first.center().x(), 25 * zoom, 1e-9);
+        EXPECT_EQ(words[1].second, "Qtotal");
+        EXPECT_NEAR(words[1].first.center().x(), 100 * zoom, 1e-9);
+    }
+}
+
+TEST_F(HeadOfTwoColumns, PaintsItsWordsWhereTheyStand) {
+    const QImage picture = head.grab().toImage();
+    std::set<int> inked;
+    for (int x = 0; x < picture.width(); ++x) {
+        for (int y = 0; y < picture.height(); ++y) {
+            if (picture.pixelColor(x, y) != picture.pixelColor(0, 0)) {
+                inked.insert(x);
+            }
+        }
+    }
+    const auto [p, total] = std::pair{head.words()[0].first, head.words()[1].first};
+    ASSERT_FALSE(inked.empty());
+    EXPECT_NEAR(*inked.begin(), p.left(), 2);
+    EXPECT_NEAR(*inked.rbegin(), total.right(), 2);
+    for (const int x : inked) {
+        EXPECT_TRUE((x > p.left() - 2 && x < p.right() + 2) || x > total.left() - 2) << x;
+    }
+}
+
+TEST_F(HeadOfTwoColumns, LeavesOutWordsWithoutAColumn) {
+    head.setCaption("P Q1 Q2");
+    EXPECT_EQ(head.words().size(), 2U);
+    head.setCaption("P");
+    EXPECT_EQ(head.words().size(), 1U);
+    head.standOver({});
+    EXPECT_TRUE(head.words().empty());
 }
 
 TEST(Row, SetsLabelsSideBySideByTheirWidths) {

@@ -10,6 +10,7 @@
 #include "controls/answer_box.h"
 #include "controls/label.h"
 #include "controls/panel.h"
+#include "controls/table_head.h"
 #include "shell/exercise_form.h"
 
 namespace tavrune::test {
@@ -70,6 +71,9 @@ struct Layout {
         }
         height = y;
         place(label);
+        if (const auto* const head = qobject_cast<const TableHead*>(&label)) {
+            place(*head);
+        }
     }
 
     std::vector<std::pair<QRectF, QString>> words;
@@ -107,6 +111,16 @@ private:
                  paragraph.mid(at, stop - at)});
             at = stop;
         }
+    }
+
+    void place(const TableHead& head) {
+        const auto standing = head.words();
+        for (std::size_t w = 0; w < words.size() && w < standing.size(); ++w) {
+            QRectF& ink = words[w].first;
+            const QRectF& name = standing[w].first;
+            ink = QRectF(name.left(), ink.top(), name.width(), ink.height());
+        }
+        widest = words.back().first.right();
     }
 
     void place(const Label& label) {

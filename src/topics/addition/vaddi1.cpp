@@ -26,6 +26,7 @@ Vaddi1::Vaddi1(Draws& draws)
     columnQ1_ = {ui_->Text10, ui_->Text11, ui_->Text12};
     columnQ2_ = {ui_->Text13, ui_->Text14, ui_->Text15};
     columnQtotal_ = {ui_->Text16, ui_->Text17, ui_->Text18};
+    ui_->Label40->standOver({ui_->Text7, ui_->Text10, ui_->Text13, ui_->Text16});
     buttons({.newExercise = ui_->Command1,
              .ok = ui_->Command2,
              .giveAnswer = ui_->Command4,

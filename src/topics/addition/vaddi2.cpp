@@ -55,6 +55,7 @@ Vaddi2::Vaddi2(Draws& draws)
                 {ui_->Text13, ui_->Text14, ui_->Text15, ui_->Text16},
                 kBlack}}};
     columnQtotal_ = {ui_->Text17, ui_->Text18, ui_->Text19, ui_->Text20};
+    ui_->Label62->standOver({ui_->Text1, ui_->Text5, ui_->Text9, ui_->Text13, ui_->Text17});
     buttons({.newExercise = ui_->Command1,
              .ok = ui_->Command2,
              .giveAnswer = ui_->Command4,

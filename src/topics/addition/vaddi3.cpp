@@ -115,6 +115,13 @@ void Vaddi3::showTable() {
     }
     ui_->Label9->setCaption(state_.isJumpUp() ? "P          Q1a       Q1b        Q2    Qtotala  Qtotalb"
                                               : "              P           Q1          Q2     Qtotal");
+    std::vector<const Control*> columns;
+    for (const HelpColumn& column : table_) {
+        if (column.front()->isShown()) {
+            columns.push_back(column.front());
+        }
+    }
+    ui_->Label9->standOver(columns);
     nameTable();
 }
 
