@@ -68,10 +68,15 @@ void Label::paintHalo() {
     QPainter painter(this);
     QPalette white;
     white.setColor(QPalette::WindowText, kWhite);
-    for (const QPointF offset : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)}) {
-        painter.setWorldTransform(QTransform::fromTranslate(offset.x() * zoom(), offset.y() * zoom()));
-        style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), white, true, text(),
-                              QPalette::WindowText);
+    for (const double dx : {-1.0, 0.0, 1.0}) {
+        for (const double dy : {-1.0, 0.0, 1.0}) {
+            if (dx == 0 && dy == 0) {
+                continue;
+            }
+            painter.setWorldTransform(QTransform::fromTranslate(dx * zoom(), dy * zoom()));
+            style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), white, true,
+                                  text(), QPalette::WindowText);
+        }
     }
 }
 
