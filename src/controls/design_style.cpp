@@ -25,6 +25,12 @@ void DesignStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
                 isFocused ? option->palette.color(QPalette::Highlight) : kFieldOutline);
 }
 
+int DesignStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* data) const {
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0
+                                                       : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
 int DesignStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     const int pixels = QProxyStyle::pixelMetric(metric, option, widget);
     switch (metric) {

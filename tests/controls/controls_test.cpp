@@ -7,6 +7,7 @@
 
 #include "controls/answer_box.h"
 #include "controls/button.h"
+#include "controls/design_style.h"
 #include "controls/fraction.h"
 #include "controls/label.h"
 #include "controls/line_control.h"
@@ -475,6 +476,23 @@ TEST(Panel, HasAnOutlineAsWideOnEverySideAtEveryZoom) {
         EXPECT_EQ(edgesOf(picture, true), std::pair(drawn, drawn)) << zoom;
         EXPECT_EQ(edgesOf(picture, false), std::pair(drawn, drawn)) << zoom;
     }
+}
+
+/// A desktop that puts icons on the buttons of its message boxes.
+class StyleWithIcons : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+TEST(DesignStyle, LeavesTheButtonsOfMessagesWithoutIcons) {
+    DesignStyle style;
+    style.setBaseStyle(new StyleWithIcons);
+    EXPECT_EQ(style.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons, nullptr, nullptr, nullptr), 0);
 }
 
 TEST(AnswerBox, HasAnOutlineTwiceAsWideWhereTheFocusStands) {
