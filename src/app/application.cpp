@@ -46,7 +46,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
 
 void Application::showIcon() {
     QIcon icon;
-    for (const char* size : {"16", "32", "48", "128"}) {
+    for (const char* size : {"16", "32", "48", "64"}) {
         icon.addFile(QString(":/icons/%1.png").arg(size));
     }
     setWindowIcon(icon);

@@ -218,7 +218,7 @@ TEST(Application, ShowsNumbersWithTheMarkOfTheLocale) {
 TEST(Application, HasItsIconAfterTheFirstRoundOfEvents) {
     settle();
     EXPECT_EQ(QApplication::windowIcon().availableSizes(),
-              (QList<QSize>{{16, 16}, {32, 32}, {48, 48}, {128, 128}}));
+              (QList<QSize>{{16, 16}, {32, 32}, {48, 48}, {64, 64}}));
 }
 
 class Failing : public QObject {
