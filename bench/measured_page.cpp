@@ -150,16 +150,6 @@ void MeasuredPage::measure(std::uint64_t seed) {
     take(newExercise, [this] { click(facts_.newExercise); });
     judgeWrong();
     take(helping, [this] { showAllSteps(); });
-    if (helpsByMessage()) {
-        take(bareMessages, [this] {
-            // As many letters as there are in the help.
-            auto* const box = new QMessageBox(QMessageBox::NoIcon, "Message",
-                                              "This message has just as many letters as the help of the form",
-                                              QMessageBox::Ok, program_->page());
-            box->setAttribute(Qt::WA_DeleteOnClose);
-            box->open();
-        });
-    }
     judgeRight(seed + 2);
     program_.reset();
     settle();

@@ -40,20 +40,18 @@ public:
 
     [[nodiscard]] const test::FormFacts& facts() const { return facts_; }
 
-    /// True if its help is a message box: a window of its own, which the desktop takes its time to place.
-    [[nodiscard]] bool helpsByMessage() const { return facts_.page == PageName::Rogt; }
-
     Samples opening;
     Samples newExercise;
     Samples judging;
     Samples helping;
-    /// Message boxes that have nothing of Tavrune but the window in front of which they stand.
-    Samples bareMessages;
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
+    /// True if its help is a message box.
+    [[nodiscard]] bool helpsByMessage() const { return facts_.page == PageName::Rogt; }
+
     using Milliseconds = std::chrono::duration<double, std::milli>;
 
     /// Runs `action` and everything that comes of it, until the display shows it.

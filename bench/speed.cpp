@@ -94,12 +94,6 @@ void measurePages(SpeedTable& table) {
     }
     const auto add = [&](const std::string& what, Samples MeasuredPage::*samples, double bar) {
         for (const auto& page : pages) {
-            if (samples == &MeasuredPage::helping && page->helpsByMessage()) {
-                table.addRatio(
-                    std::string(textOf(page->facts().page)) + ": help, a message box, against a bare one",
-                    "ms", page->helping, page->bareMessages, kStartBar);
-                continue;
-            }
             table.addTimes(std::string(textOf(page->facts().page)) + ": " + what, "ms", (*page).*samples,
                            bar);
         }

@@ -27,8 +27,14 @@ void DesignStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
 
 int DesignStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                            QStyleHintReturn* data) const {
-    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0
-                                                       : QProxyStyle::styleHint(hint, option, widget, data);
+    switch (hint) {
+        case SH_DialogButtonBox_ButtonsHaveIcons:
+            return 0;
+        case SH_MessageBox_TextInteractionFlags:
+            return Qt::NoTextInteraction;
+        default:
+            return QProxyStyle::styleHint(hint, option, widget, data);
+    }
 }
 
 int DesignStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

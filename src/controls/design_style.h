@@ -15,7 +15,7 @@ public:
     /// The outlines of fields are of straight lines, a unit wide; two where the focus stands.
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
-    /// Buttons of message boxes have words alone.
+    /// Message boxes have plain words, on their buttons too.
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;

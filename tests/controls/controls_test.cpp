@@ -478,21 +478,30 @@ TEST(Panel, HasAnOutlineAsWideOnEverySideAtEveryZoom) {
     }
 }
 
-/// A desktop that puts icons on the buttons of its message boxes.
-class StyleWithIcons : public QProxyStyle {
+/// A desktop whose message boxes have icons on their buttons and texts with links.
+class RichStyle : public QProxyStyle {
 public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override {
-        return hint == SH_DialogButtonBox_ButtonsHaveIcons
-                   ? 1
-                   : QProxyStyle::styleHint(hint, option, widget, data);
+        switch (hint) {
+            case SH_DialogButtonBox_ButtonsHaveIcons:
+                return 1;
+            case SH_MessageBox_TextInteractionFlags:
+                return Qt::TextBrowserInteraction;
+            default:
+                return QProxyStyle::styleHint(hint, option, widget, data);
+        }
     }
 };
 
-TEST(DesignStyle, LeavesTheButtonsOfMessagesWithoutIcons) {
+TEST(DesignStyle, LeavesMessagesWithPlainWords) {
     DesignStyle style;
-    style.setBaseStyle(new StyleWithIcons);
-    EXPECT_EQ(style.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons, nullptr, nullptr, nullptr), 0);
+    style.setBaseStyle(new RichStyle);
+    const auto hint = [&style](QStyle::StyleHint asked) {
+        return style.styleHint(asked, nullptr, nullptr, nullptr);
+    };
+    EXPECT_EQ(hint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons), 0);
+    EXPECT_EQ(hint(QStyle::SH_MessageBox_TextInteractionFlags), Qt::NoTextInteraction);
 }
 
 TEST(AnswerBox, HasAnOutlineTwiceAsWideWhereTheFocusStands) {
