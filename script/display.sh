@@ -1,8 +1,9 @@
 # Tavrune on a virtual display, played by real keys; sourced after common.sh, not run. `program` is what is
 # started, `errors` the file that gets its messages.
 
-# Words before the program: what it runs under.
+# Words before the program: what it runs under. Words after it: there is none that it takes.
 under=()
+arguments=()
 
 # A display of its own with a window manager, for as long as the script runs.
 start_display() {
@@ -30,7 +31,7 @@ keys() { xdotool key --delay 30 "$@"; sleep 0.1; }
 typed() { xdotool type --delay 10 "$1"; }
 
 start() {
-    "${under[@]}" "$program" 2>"$errors" &
+    "${under[@]}" "$program" "${arguments[@]}" 2>"$errors" &
     tavrune=$!
     local tries=0
     until xdotool search --onlyvisible --name '^Tavrune' >/dev/null 2>&1; do
