@@ -257,7 +257,7 @@ void GraphBox::renewPicture() {
 
 void GraphBox::childEvent(QChildEvent* event) {
     auto* const label = event->polished() ? qobject_cast<Label*>(event->child()) : nullptr;
-    if (label != nullptr && !bare_ && !label->wordWrap()) {
+    if (label != nullptr && !bare_ && !panel_ && !label->wordWrap()) {
         label->setHaloed(true);
     }
     QWidget::childEvent(event);

@@ -88,6 +88,8 @@ public:
     void setBare(bool bare);
     /// A thin outline.
     void setFramed(bool framed);
+    /// A help panel that is drawn on: its texts stand beside what is drawn, and need no halo.
+    void setPanel(bool panel) { panel_ = panel; }
     /// A frame that is never cleared gets the same ticks with every exercise; it keeps each once.
     void setKeepsOnce(bool keepsOnce) { keepsOnce_ = keepsOnce; }
 
@@ -107,6 +109,7 @@ private:
     int width_ = 1;
     bool bare_ = false;
     bool framed_ = false;
+    bool panel_ = false;
     bool keepsOnce_ = false;
     std::vector<Stroke> strokes_;
 

@@ -252,6 +252,13 @@ TEST_F(NumberOverAnArea, HasNoHaloOnABareFrame) {
     EXPECT_EQ(inked(kWhite), 0);
 }
 
+TEST_F(NumberOverAnArea, HasNoHaloInAHelpPanel) {
+    box.setPanel(true);
+    box.show();
+    EXPECT_GT(inked(kBlack), 0);
+    EXPECT_EQ(inked(kWhite), 0);
+}
+
 TEST_F(NumberOverAnArea, HasNoHaloAsARunningText) {
     number.setWordWrap(true);
     box.show();
