@@ -49,7 +49,6 @@ protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    /// True if its help is a message box.
     [[nodiscard]] bool helpsByMessage() const { return facts_.page == PageName::Rogt; }
 
     using Milliseconds = std::chrono::duration<double, std::milli>;

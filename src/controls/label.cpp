@@ -4,7 +4,6 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QStyle>
 #include <QTextLayout>
 
 #include "controls/text.h"
@@ -66,14 +65,12 @@ void Label::paintEvent(QPaintEvent* event) {
 
 void Label::paintHalo() {
     QPainter painter(this);
-    QPalette white;
-    white.setColor(QPalette::WindowText, kWhite);
+    painter.setPen(kWhite);
     // The corners are enough: glyphs are drawn in strokes.
     for (const double dx : {-1.0, 1.0}) {
         for (const double dy : {-1.0, 1.0}) {
-            painter.setWorldTransform(QTransform::fromTranslate(dx * zoom(), dy * zoom()));
-            style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), white, true,
-                                  text(), QPalette::WindowText);
+            const QRectF moved = QRectF(contentsRect()).translated(dx * zoom(), dy * zoom());
+            painter.drawText(moved, static_cast<int>(alignment()), text());
         }
     }
 }

@@ -236,6 +236,12 @@ protected:
         number.setCaption("5");
     }
 
+    void expectNoHalo() {
+        box.show();
+        EXPECT_GT(inked(kBlack), 0);
+        EXPECT_EQ(inked(kWhite), 0);
+    }
+
     Label number{&box};
 };
 
@@ -247,23 +253,17 @@ TEST_F(NumberOverAnArea, IsReadableByItsHalo) {
 
 TEST_F(NumberOverAnArea, HasNoHaloOnABareFrame) {
     box.setBare(true);
-    box.show();
-    EXPECT_GT(inked(kBlack), 0);
-    EXPECT_EQ(inked(kWhite), 0);
+    expectNoHalo();
 }
 
 TEST_F(NumberOverAnArea, HasNoHaloInAHelpPanel) {
     box.setPanel(true);
-    box.show();
-    EXPECT_GT(inked(kBlack), 0);
-    EXPECT_EQ(inked(kWhite), 0);
+    expectNoHalo();
 }
 
 TEST_F(NumberOverAnArea, HasNoHaloAsARunningText) {
     number.setWordWrap(true);
-    box.show();
-    EXPECT_GT(inked(kBlack), 0);
-    EXPECT_EQ(inked(kWhite), 0);
+    expectNoHalo();
 }
 
 }  // namespace
