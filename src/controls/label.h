@@ -39,7 +39,6 @@ public:
 
     /// White round the text, a unit wide: on a graph it stays readable over lines and areas.
     void setHaloed(bool haloed);
-    [[nodiscard]] bool isHaloed() const { return haloed_; }
 
     /// A verdict is announced when it appears.
     void setVerdict(bool verdict) { verdict_ = verdict; }
