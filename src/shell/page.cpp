@@ -156,6 +156,9 @@ void Page::tell(const QString& message) {
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     box->button(QMessageBox::Ok)->setText("OK");
+    // A button that is polished only after its box was shown has the whole box laid out and painted once
+    // more.
+    QCoreApplication::sendPostedEvents(box->button(QMessageBox::Ok), QEvent::PolishRequest);
     box->open();
 }
 
