@@ -8,8 +8,13 @@
 namespace tavrune {
 namespace {
 
+/// From this size on letters look the same with or without being fitted to the pixels, which takes its time.
+constexpr double kLargeText = 17;
+
+/// Widths are never rounded to whole pixels, whatever the desktop has set: texts grow with their size.
 QFont sized(QFont font, double units) {
     font.setPixelSize(qMax(1, qRound(units)));
+    font.setHintingPreference(units < kLargeText ? QFont::PreferVerticalHinting : QFont::PreferNoHinting);
     return font;
 }
 
@@ -27,12 +32,8 @@ QFont zoomed(const QFont& design, double zoom) {
 const QFont& designFont() {
     // Copies share what is found out about it, so there is one, and it outlives all of them.
     static const QFont* const kFont = [] {
-        auto* const font = new QFont;
+        auto* const font = new QFont(sized(QFont(), kDesignTextSize));
         font->setFamilies({"Arial", "Liberation Sans", "Arimo", "Helvetica"});
-        font->setPixelSize(qRound(kDesignTextSize));
-        // Widths that are not rounded to whole pixels, whatever the desktop has set: texts grow with their
-        // size.
-        font->setHintingPreference(QFont::PreferVerticalHinting);
         return font;
     }();
     return *kFont;

@@ -231,9 +231,9 @@ protected:
         Box::SetUp();
         box.DrawWidth(200);
         box.Line(-10, 0, 10, 0, kBlue);
-        number.setPlace({30, 30, 40, 40});
-        number.setTextSize(33);
-        number.setCaption("5");
+        number.setPlace({30, 40, 60, 20});
+        number.setTextSize(16);
+        number.setCaption("55555");
     }
 
     void expectNoHalo() {
