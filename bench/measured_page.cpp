@@ -4,7 +4,9 @@
 #include <set>
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QMessageBox>
+#include <QThread>
 
 #include "controls/button.h"
 #include "controls/option_button.h"
@@ -18,6 +20,17 @@ void settle() {
         QGuiApplication::sync();
         QCoreApplication::processEvents();
     }
+}
+
+// The window manager makes a new window the active one last of all; what is measured next does not wait for
+// that.
+void settle(const QWidget& window) {
+    const QDeadlineTimer deadline(1000);
+    while (!window.isActiveWindow() && !deadline.hasExpired()) {
+        QThread::msleep(1);
+        QCoreApplication::processEvents();
+    }
+    settle();
 }
 
 }  // namespace
@@ -37,7 +50,7 @@ double MeasuredPage::timed(const std::function<void()>& action) {
     const auto start = std::chrono::steady_clock::now();
     action();
     while (!isPainted_) {
-        QCoreApplication::processEvents();
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     QGuiApplication::sync();
     const Milliseconds taken = std::chrono::steady_clock::now() - start;
@@ -80,11 +93,12 @@ std::vector<AnswerBox*> MeasuredPage::boxes() const {
 
 void MeasuredPage::openByMenu(std::uint64_t seed) {
     program_->open(PageName::Form1);
-    settle();
+    settle(*program_->page()->window());
     draws_.start(seed);
     // What is painted before the first exercise is drawn does not count.
     drawnBefore_ = draws_.drawn();
     take(opening, [this] { program_->page()->topicMenu().actionFor(facts_.page)->trigger(); });
+    settle(*program_->page()->window());
     drawnBefore_ = kNone;
 }
 
