@@ -26,7 +26,7 @@ public:
     void note(const std::string& what);
 
     /// Empty if the event has passed in time, otherwise what is wrong. An event has a second; on a machine
-    /// that was busy with other things meanwhile, it has a second of its own. A heavy one has three under the
+    /// that was busy with other things meanwhile, it has a second of its own. A heavy one has ten under the
     /// sanitizers, which take most of them for themselves.
     [[nodiscard]] std::string end(bool isHeavy = false);
 
