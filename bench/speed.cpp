@@ -1,9 +1,13 @@
 // Measures everything that a student waits for, and prints one table. Wants a display of its own.
 //
-//     tavrune_speed START_PAGE BARE_WINDOW GENERATORS STRIPPED_BINARY
+//     tavrune_speed [--once] START_PAGE BARE_WINDOW GENERATORS STRIPPED_BINARY
+//
+// Once, everything but the idling is done a single time: the table is whole then, its figures mean nothing.
+//
 //     tavrune_speed --idle PLACE_IN_THE_LIST
 
 #include <array>
+#include <charconv>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -22,8 +26,14 @@
 namespace tavrune::bench {
 namespace {
 
-constexpr int kStarts = 40;
-constexpr int kRounds = 40;
+/// How often everything is measured.
+struct Effort {
+    int starts = 40;
+    int rounds = 40;
+    bool idles = true;
+    std::string secondsAGenerator = "0.1";
+};
+
 constexpr double kStartBar = 1.25;
 constexpr double kOpeningBar = 16;
 constexpr double kActionBar = 8;
@@ -64,11 +74,11 @@ struct Start {
     }
 };
 
-void measureStart(SpeedTable& table, const std::string& ours, const std::string& bare) {
+void measureStart(SpeedTable& table, const Effort& effort, const std::string& ours, const std::string& bare) {
     Start tavrune;
     Start window;
     // The first of each finds nothing in memory.
-    for (int i = -2; i < kStarts; ++i) {
+    for (int i = -2; i < effort.starts; ++i) {
         if (i == 0) {
             tavrune = {};
             window = {};
@@ -82,12 +92,12 @@ void measureStart(SpeedTable& table, const std::string& ours, const std::string&
                    kStartBar);
 }
 
-void measurePages(SpeedTable& table) {
+void measurePages(SpeedTable& table, const Effort& effort) {
     std::vector<std::unique_ptr<MeasuredPage>> pages;
     for (const test::FormFacts& facts : test::builtForms()) {
         pages.push_back(std::make_unique<MeasuredPage>(facts));
     }
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < effort.rounds; ++round) {
         for (const auto& page : pages) {
             page->measure(static_cast<std::uint64_t>(round) * 1000 + 17);
         }
@@ -104,10 +114,12 @@ void measurePages(SpeedTable& table) {
     add("help with all its steps", &MeasuredPage::helping, kActionBar);
 }
 
-void measureGenerators(SpeedTable& table, const std::string& generators) {
+void measureGenerators(SpeedTable& table, const Effort& effort, const std::string& generators) {
     // Name, and of several figures in a row the exercises a second.
-    std::istringstream rows(outputOf(generators + " --benchmark_filter=Generator --benchmark_format=csv"
-                                                  " --benchmark_min_time=0.1 2>/dev/null"));
+    std::istringstream rows(outputOf(generators +
+                                     " --benchmark_filter=Generator --benchmark_format=csv"
+                                     " --benchmark_min_time=" +
+                                     effort.secondsAGenerator + " 2>/dev/null"));
     std::string row;
     while (std::getline(rows, row)) {
         if (row.rfind("\"Generator/", 0) != 0) {
@@ -119,8 +131,9 @@ void measureGenerators(SpeedTable& table, const std::string& generators) {
             cells.push_back(cell);
         }
         const std::string name = cells[0].substr(11, cells[0].size() - 12);
-        table.addRate(name + ": exercises with their solutions", "a second", std::atof(cells.at(6).c_str()),
-                      kGeneratorBar);
+        double rate = 0;
+        std::from_chars(cells.at(6).data(), cells.at(6).data() + cells.at(6).size(), rate);
+        table.addRate(name + ": exercises with their solutions", "a second", rate, kGeneratorBar);
     }
 }
 
@@ -175,14 +188,16 @@ void measureIdling(SpeedTable& table, const std::string& self) {
     table.addCount("Wake-ups of any of them but the caret's", "", most, 0);
 }
 
-int measure(char** argv) {
+int measure(const Effort& effort, const std::string& self, char** programs) {
     SpeedTable table;
-    measureStart(table, argv[1], argv[2]);
-    measureIdling(table, argv[0]);
-    measurePages(table);
-    measureGenerators(table, argv[3]);
+    measureStart(table, effort, programs[0], programs[1]);
+    if (effort.idles) {
+        measureIdling(table, self);
+    }
+    measurePages(table, effort);
+    measureGenerators(table, effort, programs[2]);
     table.addFact("Stripped binary", "MB",
-                  static_cast<double>(std::filesystem::file_size(argv[4])) / (1024 * 1024));
+                  static_cast<double>(std::filesystem::file_size(programs[3])) / (1024 * 1024));
     std::fputs(table.text().c_str(), stdout);
     return table.areAllMet() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
@@ -195,9 +210,11 @@ int main(int argc, char** argv) {
     if (argc == 3 && std::strcmp(argv[1], "--idle") == 0) {
         return tavrune::bench::idle(std::atoi(argv[2]));
     }
-    if (argc != 5) {
-        std::fprintf(stderr, "%s START_PAGE BARE_WINDOW GENERATORS STRIPPED_BINARY\n", argv[0]);
+    const bool once = argc == 6 && std::strcmp(argv[1], "--once") == 0;
+    if (argc != 5 && !once) {
+        std::fprintf(stderr, "%s [--once] START_PAGE BARE_WINDOW GENERATORS STRIPPED_BINARY\n", argv[0]);
         return EXIT_FAILURE;
     }
-    return tavrune::bench::measure(argv);
+    const auto effort = once ? tavrune::bench::Effort{1, 1, false, "0.001"} : tavrune::bench::Effort{};
+    return tavrune::bench::measure(effort, argv[0], argv + argc - 4);
 }

@@ -1,16 +1,19 @@
 #include "speed_table.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 
 namespace tavrune::bench {
 namespace {
 
 std::string number(double x) {
-    char text[32];
-    std::snprintf(text, sizeof text, std::abs(x) >= 1000 ? "%.0f" : "%.2f", x);
-    return text;
+    // The same in every locale.
+    std::array<char, 64> text{};
+    const auto end =
+        std::to_chars(text.begin(), text.end(), x, std::chars_format::fixed, std::abs(x) >= 1000 ? 0 : 2);
+    return {text.begin(), end.ptr};
 }
 
 }  // namespace

@@ -3,6 +3,11 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
+# The same words, numbers and order on every machine; `as_at_home` goes back to the user's own.
+users_locale=${LC_ALL-}
+export LC_ALL=C.UTF-8
+as_at_home() { if [ -n "$users_locale" ]; then export LC_ALL=$users_locale; else unset LC_ALL; fi; }
+
 say() { printf '%s\n' "$*"; }
 
 fail() {
@@ -10,8 +15,29 @@ fail() {
     exit 1
 }
 
+# What everything that is built and installed for it takes, with room to spare.
+need_room() {
+    local place free
+    for place in . /usr; do
+        free=$(df --output=avail -B 1M "$place" | tail -n 1)
+        [ "$free" -ge 2048 ] || fail "Only $free MB of the disk of $(cd "$place" && pwd) are free; 2048 MB are needed."
+    done
+}
+
+# The oldest compilers with C++20 and conversions of floating-point numbers: GCC 11, clang 14.
+need_compiler() {
+    local compiler=${CXX:-c++}
+    command -v "$compiler" >/dev/null || return 0
+    printf '%s\n' '#include <charconv>' '#include <compare>' \
+        'double read(const char* a, const char* b) { double x = 0; std::from_chars(a, b, x); return x; }' |
+        "$compiler" -std=c++20 -fsyntax-only -x c++ - >/dev/null 2>&1 ||
+        fail "The compiler $compiler is too old: C++20 with conversions of floating-point numbers is needed, as GCC 11 and clang 14 have it."
+}
+
 # Installs those of the named Debian packages that are missing, and says which. Never asks.
 need() {
+    need_room
+    need_compiler
     local missing=() package
     for package in "$@"; do
         dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
@@ -24,25 +50,30 @@ need() {
         as_root=(sudo)
     fi
     say "Installing: ${missing[*]}"
-    local log
+    local log reached=yes
     log=$(mktemp)
-    if ! { "${as_root[@]}" apt-get update -qq &&
-        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"; } \
-        >"$log" 2>&1 </dev/null; then
-        tail -n 20 "$log" >&2
-        fail "These packages could not be installed: ${missing[*]}"
+    # By itself apt goes on with old lists where it reaches no network.
+    "${as_root[@]}" apt-get update -qq -o APT::Update::Error-Mode=any >"$log" 2>&1 </dev/null || reached=no
+    if ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+        "${missing[@]}" >>"$log" 2>&1 </dev/null; then
+        [ "$reached" = yes ] || fail "These packages are missing, and Debian's archive can't be reached to install them (see $log): ${missing[*]}"
+        fail "These packages could not be installed (see $log): ${missing[*]}"
     fi
     rm -f "$log"
+    # It may just have come.
+    need_compiler
 }
 
 need_build() { need g++ cmake ninja-build qt6-base-dev fonts-liberation; }
-need_tests() { need libgtest-dev libgmock-dev librapidcheck-dev; }
+need_tests() { need libgtest-dev libgmock-dev librapidcheck-dev locales; }
 need_style() { need clang clang-format clang-tidy; }
 need_tour() { need xvfb openbox xdotool imagemagick x11-utils; }
 need_bench() { need libbenchmark-dev; }
 need_package() {
-    need dpkg-dev file lintian appstream desktop-file-utils man-db groff-base xvfb xdotool qt6-translations-l10n
+    need dpkg-dev binutils devscripts file lintian appstream desktop-file-utils man-db groff-base xvfb xdotool \
+        qt6-translations-l10n
 }
+need_bare() { need debootstrap; }
 need_proof() { need strace dbus xvfb openbox xdotool x11-utils clang libclang-rt-dev; }
 
 # Runs a command that has something to say only if it fails.
@@ -54,12 +85,12 @@ quietly() {
     }
 }
 
-# Configures once and builds what has changed: build PRESET [cmake --build option...].
+# Configures, anew where the presets have changed, and builds what has changed: build PRESET [cmake --build option...].
 build() {
     local preset=$1 tree=$1
     shift
     # The programs under the sanitizers stand beside the others.
     [ "$preset" != watched ] || tree=dev
-    [ -f "build/$tree/build.ninja" ] || quietly cmake --preset "$tree" || fail "The preset $tree could not be configured."
+    [ "build/$tree/build.ninja" -nt CMakePresets.json ] || quietly cmake --preset "$tree" || fail "The preset $tree could not be configured."
     cmake --build --preset "$preset" "$@"
 }

@@ -1,5 +1,7 @@
 #include "app/application.h"
 
+#include <cstdio>
+
 #include <QAccessible>
 #include <QIcon>
 #include <QLibraryInfo>
@@ -76,6 +78,8 @@ void Application::endAfter(ArithmeticFailure::Kind kind) {
     if (!message_.isNull()) {
         return;
     }
+    // The exit status says that something was wrong, and this what, where nobody sees the box.
+    std::fprintf(stderr, "Tavrune: %s\n", messageFor(kind));
     message_ = new QMessageBox(QMessageBox::Critical, "Tavrune", QString::fromUtf8(messageFor(kind)),
                                QMessageBox::Ok);
     message_->setAttribute(Qt::WA_DeleteOnClose);

@@ -1,5 +1,7 @@
 #include "app/program.h"
 
+#include <clocale>
+
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
@@ -135,6 +137,22 @@ TEST_F(ProgramRun, BringsAMinimisedAboutBoxBack) {
     EXPECT_TRUE(program.about()->isVisible());
 }
 
+TEST_F(ProgramRun, WaitsAsAWholeForAMessageTheAboutBoxToo) {
+    program.openAbout();
+    choose(PageName::Rogt);
+    program.page()->findChild<Button*>("Command2")->click();
+    settle();
+    const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->windowModality(), Qt::ApplicationModal);
+    // What is done to a blocked window does not reach it.
+    QTest::mouseClick(program.about(), Qt::LeftButton);
+    EXPECT_NE(QApplication::activeWindow(), program.about());
+    QTest::keyClick(box->button(QMessageBox::Ok), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 TEST_F(ProgramRun, OpensAPageAnewInItsDesignState) {
     choose(PageName::Brok);
     program.page()->findChild<Button*>("Command4")->click();
@@ -213,6 +231,15 @@ TEST(Application, ShowsNumbersWithTheMarkOfTheLocale) {
     EXPECT_EQ(NumberText(2.5), "2,5");
     Application::useDecimalMarkOf(QLocale("en_GB"));
     EXPECT_EQ(NumberText(2.5), "2.5");
+}
+
+// On a Danish machine the toolkit switches the C library to commas: the ordinary run plays it so, too.
+TEST(ProcessLocale, LeavesTheReadingAndWritingOfNumbersAlone) {
+    const bool isDanish = qEnvironmentVariable("LC_ALL").startsWith("da_DK");
+    EXPECT_STREQ(std::localeconv()->decimal_point, isDanish ? "," : ".");
+    EXPECT_EQ(NumberText(-2.25), "-2.25");
+    EXPECT_EQ(Val("1.5"), 1.5);
+    EXPECT_EQ(Val("1,5"), 1);
 }
 
 TEST(Application, HasItsIconAfterTheFirstRoundOfEvents) {
