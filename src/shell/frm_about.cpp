@@ -1,6 +1,7 @@
 #include "shell/frm_about.h"
 
 #include <QScreen>
+#include <QTimer>
 
 #include "controls/text.h"
 #include "shell/page_name.h"
@@ -17,14 +18,30 @@ FrmAbout::FrmAbout() {
     setFixedSize(designSize_);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
-    move(centredOn(screen()->geometry(), size()));
 }
 
 void FrmAbout::setZoom(ZoomStep step) {
     zoomControls(*this, step);
     setFixedSize(designSize_ * step.factor());
-    move(centredOn(screen()->geometry(), size()));
 }
+
+void FrmAbout::showEvent(QShowEvent* event) {
+    if (!hasOpened_) {
+        centre();
+    }
+    QWidget::showEvent(event);
+}
+
+void FrmAbout::paintEvent(QPaintEvent* event) {
+    if (!hasOpened_) {
+        hasOpened_ = true;
+        // By now the window manager has put its frame round it.
+        QTimer::singleShot(0, this, &FrmAbout::centre);
+    }
+    QWidget::paintEvent(event);
+}
+
+void FrmAbout::centre() { move(centredOn(screen()->geometry(), frameGeometry().size())); }
 
 QPoint centredOn(const QRect& screen, QSize size) {
     return {screen.left() + (screen.width() - size.width()) / 2,

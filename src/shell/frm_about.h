@@ -16,8 +16,17 @@ public:
 
     void setZoom(ZoomStep step);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
 private:
+    /// The middle of its frame in the middle of the screen.
+    void centre();
+
     QSize designSize_;
+    /// It is centred as it opens, and stays where it is from then on.
+    bool hasOpened_ = false;
 };
 
 /// Where a box of `size` stands to have its middle in the middle of `screen`.

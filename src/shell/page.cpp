@@ -159,7 +159,9 @@ void Page::tell(const QString& message) {
     // A button that is polished only after its box was shown has the whole box laid out and painted once
     // more.
     QCoreApplication::sendPostedEvents(box->button(QMessageBox::Ok), QEvent::PolishRequest);
-    box->open();
+    // The whole program waits for it, the about box too.
+    box->setWindowModality(Qt::ApplicationModal);
+    box->show();
 }
 
 }  // namespace tavrune

@@ -130,10 +130,28 @@ TEST_F(AboutPages, HaveNoTextCutOffOrOverAnother) {
     EXPECT_EQ(test::flawsOf(about), std::vector<std::string>{});
 }
 
-TEST(AboutBox, IsCentredWhenItLoadsAndNeverAgain) {
+TEST(AboutBox, IsCentredWithItsFrameAsItOpens) {
     FrmAbout about;
-    EXPECT_EQ(about.pos(), centredOn(about.screen()->geometry(), about.size()));
     about.show();
+    test::settle();
+    EXPECT_NE(about.frameGeometry().size(), about.size());
+    EXPECT_EQ(about.pos(), centredOn(about.screen()->geometry(), about.frameGeometry().size()));
+}
+
+TEST(AboutBox, IsNotMovedByAZoom) {
+    FrmAbout about;
+    about.show();
+    test::settle();
+    const QPoint before = about.pos();
+    about.setZoom(ZoomStep().larger());
+    test::settle();
+    EXPECT_EQ(about.pos(), before);
+}
+
+TEST(AboutBox, IsCentredOnceAndNeverAgain) {
+    FrmAbout about;
+    about.show();
+    test::settle();
     about.move(5, 6);
     about.hide();
     about.show();

@@ -94,7 +94,7 @@ void Vaddi2::firstTick() {
 }
 
 void Vaddi2::newExercise() {
-    ui_->Picture10->hide();
+    closePanel();
     ui_->Label25->setCaption("");
     ui_->Label27->setCaption("");
     focusOn(ui_->Text1);
@@ -165,7 +165,7 @@ void Vaddi2::drawSum(double lastQ) {
 }
 
 void Vaddi2::giveAnswer() {
-    ui_->Picture10->hide();
+    closePanel();
     drawTypedSum();
     drawSum(state_.upperEndAsked() ? state_.upperEnd().number() : kBeyondQ);
     fillTable();
@@ -209,7 +209,16 @@ void Vaddi2::fillAnswer() {
     }
 }
 
-void Vaddi2::help() { openPanel(ui_->Picture10, ui_->Vis1); }
+void Vaddi2::help() {
+    // It stands half beside the panel.
+    ui_->Label251->hide();
+    openPanel(ui_->Picture10, ui_->Vis1);
+}
+
+void Vaddi2::closePanel() {
+    ui_->Picture10->hide();
+    ui_->Label251->show();
+}
 
 void Vaddi2::showPrices() {
     focusOn(ui_->Vis2);
@@ -277,7 +286,7 @@ void Vaddi2::drawStack(std::size_t row) {
 }
 
 void Vaddi2::closeHelp() {
-    ui_->Picture10->hide();
+    closePanel();
     focusOn(ui_->Text1);
 }
 

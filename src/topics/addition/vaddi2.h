@@ -55,6 +55,7 @@ private:
     void showQuantities();
     void showSum();
     void drawStack(std::size_t row);
+    void closePanel();
     void closeHelp();
 
     std::unique_ptr<Ui::Vaddi2> ui_;

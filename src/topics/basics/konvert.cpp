@@ -39,6 +39,8 @@ Konvert::Konvert(Draws& draws)
     enterChain({ui_->Text1, ui_->Text2}, LastBox::OkOrNewExercise);
     onClick(ui_->Vis, &Konvert::showWorkedSolution);
     onClick(ui_->Luk, &Konvert::closeHelp);
+    ui_->Label42_0->setCaption("= " + exampleResult());
+    ui_->Label235->setCaption("P = " + exampleResult());
 }
 
 Konvert::~Konvert() = default;

@@ -64,6 +64,8 @@ std::string functionText(const KonvertState& state) {
     return "P= " + NumberText(state.givenSlope) + "Q + " + NumberText(state.givenConstant);
 }
 
+std::string exampleResult() { return NumberText(-0.25) + "K + 5"; }
+
 KonvertGiven givenTexts(const KonvertState& state) {
     return {"P= " + NumberText(state.givenSlope) + " Q + " + NumberText(state.givenConstant),
             "1 Q svarer til " + factorText(state) + " K"};

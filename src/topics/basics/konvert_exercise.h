@@ -35,6 +35,9 @@ void roundSolution(KonvertState& state);
 /// "P= 3Q + 5", as it stands on the graph.
 [[nodiscard]] std::string functionText(const KonvertState& state);
 
+/// "-0.25K + 5": what the general solution comes to in its own example, with the mark of the locale.
+[[nodiscard]] std::string exampleResult();
+
 /// What the worked solution shows of this exercise.
 struct KonvertGiven {
     std::string function;

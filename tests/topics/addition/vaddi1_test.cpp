@@ -13,6 +13,7 @@
 #include "support/decimal_mark.h"
 #include "support/fixed_texts.h"
 #include "support/form_driver.h"
+#include "support/lines.h"
 #include "support/scripted_draws.h"
 #include "support/strokes.h"
 #include "topics/addition/axis_texts.h"
@@ -224,6 +225,40 @@ TEST_F(Vaddi1Form, TellsTheMethodInThreeSteps) {
     EXPECT_EQ(sentences("Label28"),
               "Beregn den eller de resulterende funktioner ved at beregne forskrifterne for linierne mellem "
               "de samhørende Qtotal- og P-værdier.");
+}
+
+TEST_F(Vaddi1Form, BeginsEachSentenceOfItsStepsOnALineOfItsOwn) {
+    const FormDriver& f = open(kFalling);
+    for (const auto& [step, sentence] : {std::pair{"Label24", "Bestem P-værdierne"},
+                                         {"Label24", "Hvis funktionerne er voksende"},
+                                         {"Label24", "Hvis der er en vandret linie"},
+                                         {"Label25", "Bestem for hver P-værdi"},
+                                         {"Label25", "Hvis der er en vandret linie"},
+                                         {"Label28", "Beregn den eller de"}}) {
+        EXPECT_TRUE(test::hasALineThatBegins(f.label(step), sentence)) << sentence;
+    }
+}
+
+TEST_F(Vaddi1Form, StandsAtItsPlacesToTheUnit) {
+    const FormDriver& f = open(kFalling);
+    for (const char* ofTheGivenFunctions : {"Label1", "Label2", "Label3", "Label4", "Label5", "Label6",
+                                            "Label9_2", "Label9_3", "Label9_4", "Label9_5"}) {
+        EXPECT_EQ(f.label(ofTheGivenFunctions).place().top(), 176) << ofTheGivenFunctions;
+    }
+    EXPECT_EQ(f.label("Label1").place().left(), 29);
+    EXPECT_EQ(f.label("Label4").place().left(), 227);
+    for (const auto& [box, left, top] : {std::tuple{"Text4", 24, 272},
+                                         {"Text5", 80, 272},
+                                         {"Text6", 184, 272},
+                                         {"Text1", 24, 296},
+                                         {"Text2", 80, 296},
+                                         {"Text3", 128, 296},
+                                         {"Text20", 184, 296}}) {
+        EXPECT_EQ(f.box(box).place().topLeft(), QPointF(left, top)) << box;
+    }
+    const auto& panel = f.find<Panel>("Picture3");
+    EXPECT_EQ(panel.Control::place(), QRectF(224, 192, 409, 217));
+    EXPECT_EQ(f.label("Label23").place().topLeft(), QPointF(16, 184));
 }
 
 TEST_F(Vaddi1Form, NumbersTheAxesInSteps) {

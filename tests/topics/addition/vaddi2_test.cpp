@@ -12,6 +12,7 @@
 #include "support/decimal_mark.h"
 #include "support/fixed_texts.h"
 #include "support/form_driver.h"
+#include "support/lines.h"
 #include "support/looks.h"
 #include "support/scripted_draws.h"
 #include "support/strokes.h"
@@ -233,6 +234,50 @@ TEST_F(Vaddi2Form, TellsTheMethodInItsHelp) {
     EXPECT_EQ(sentences("Label36"),
               "Beregn den eller de resulterende funktioner ved at beregne forskrifterne for linierne mellem "
               "de samhørende Qtotal- og P-værdier.");
+}
+
+TEST_F(Vaddi2Form, BeginsEachSentenceOfItsStepsOnALineOfItsOwn) {
+    const FormDriver& f = open(kThree);
+    for (const auto& [step, sentence] : {std::pair{"Label15", "Bestem P-værdierne"},
+                                         {"Label15", "Hvis funktionerne er voksende"},
+                                         {"Label15", "Hvis der er en vandret linie"},
+                                         {"Label29", "Bestem for hver P-værdi"},
+                                         {"Label29", "Hvis der er en vandret linie"},
+                                         {"Label36", "Beregn den eller de"}}) {
+        EXPECT_TRUE(test::hasALineThatBegins(f.label(step), sentence)) << sentence;
+    }
+}
+
+TEST_F(Vaddi2Form, StandsAtItsPlacesToTheUnit) {
+    const FormDriver& f = open(kThree);
+    for (const char* ofTheGivenFunctions :
+         {"Label1", "Label2", "Label3", "Label4", "Label5", "Label6", "Label31", "Label32", "Label33",
+          "Label47_0", "Label47_1", "Label47_2", "Label47_3", "Label47_4", "Label47_5"}) {
+        EXPECT_EQ(f.label(ofTheGivenFunctions).place().top(), 176) << ofTheGivenFunctions;
+    }
+    for (const auto& [box, left, top] : {std::tuple{"Text23", 184, 312},
+                                         {"Text26", 128, 336},
+                                         {"Text27", 184, 336},
+                                         {"Text30", 128, 360},
+                                         {"Text31", 184, 360}}) {
+        EXPECT_EQ(f.box(box).place().topLeft(), QPointF(left, top)) << box;
+    }
+    EXPECT_EQ(f.find<GraphBox>("Picture8").Control::place().topLeft(), QPointF(328, 192));
+    // Eight units lower it would lie over the standing buttons.
+    EXPECT_EQ(f.find<Panel>("Picture10").Control::place(), QRectF(224, 192, 409, 217));
+}
+
+TEST_F(Vaddi2Form, HidesTheNameOfTheAxisThatWouldStandHalfBesideItsPanel) {
+    SeededDraws seeded{1};
+    const FormDriver f(PageName::Vaddi2, seeded);
+    EXPECT_TRUE(f.isShown("Label251"));
+    f.click("Command3");
+    EXPECT_FALSE(f.isShown("Label251"));
+    f.click("Command7");
+    EXPECT_TRUE(f.isShown("Label251"));
+    f.click("Command3");
+    f.click("Command1");
+    EXPECT_TRUE(f.isShown("Label251"));
 }
 
 TEST_F(Vaddi2Form, UnderlinesTheSignsOfAtLeast) {

@@ -9,6 +9,7 @@
 #include "support/decimal_mark.h"
 #include "support/fixed_texts.h"
 #include "support/form_driver.h"
+#include "support/lines.h"
 #include "support/looks.h"
 #include "support/strokes.h"
 #include "topics/addition/addition_graphs.h"
@@ -720,6 +721,30 @@ TEST_F(Vaddi3Form, WritesTheAnswerWithTheDanishMark) {
 }
 
 // The help.
+
+TEST_F(Vaddi3Form, TellsItsStepsInTheWordsOfTheFirstLevelWhereTheyAreTrueOfIt) {
+    SeededDraws seeded{1};
+    const FormDriver f(PageName::Vaddi3, seeded);
+    SeededDraws other{1};
+    const FormDriver first(PageName::Vaddi1, other);
+    const auto sentences = [](const FormDriver& of, const char* label) {
+        return of.label(label).text().simplified().toStdString();
+    };
+    const std::string prices = sentences(first, "Label24");
+    // Of a level function the price stands but once here.
+    EXPECT_EQ(sentences(f, "Label252"), prices.substr(0, prices.find("Hvis der er en vandret")) +
+                                            "Ens P-værdier indsættes kun én gang.");
+    const std::string quantities = sentences(first, "Label25");
+    EXPECT_TRUE(sentences(f, "Label5")
+                    .starts_with(quantities.substr(0, quantities.find(" Hvis der er en vandret linie"))));
+    EXPECT_EQ(sentences(f, "Label255"), sentences(first, "Label28"));
+    for (const auto& [step, beginning] : {std::pair{"Label252", "Hvis funktionerne er voksende"},
+                                          {"Label252", "Ens P-værdier"},
+                                          {"Label42", "Hvis der er en vandret linie"},
+                                          {"Label5", "Hvis der er en vandret linie"}}) {
+        EXPECT_TRUE(test::hasALineThatBegins(f.label(step), beginning)) << step << ": " << beginning;
+    }
+}
 
 TEST_F(Vaddi3Form, HelpsWithTheTextOfTheKind) {
     const FormDriver& f = open(test::kFourSegments);

@@ -109,18 +109,28 @@ constexpr test::FixedText kFixedTexts[]{
     {"Label232", "P"},
     {"Label233", "Q eller K"},
     {"Label234", "P = -1Q + 10"},
-    {"Label235", "P = -0,25K + 5"},
+    {"Label235", "P = -0.25K + 5"},
     {"Label12_0", "P= "},
     {"Label20_0", "-1"},
     {"Label16_0", "2 · 2"},
     {"Label18_0", "K + "},
     {"Label28_0", "10"},
     {"Label24_0", "2"},
-    {"Label42_0", "= -0,25K + 5"},
+    {"Label42_0", "= -0.25K + 5"},
     {"Label41", "Hældningen er divideret to gange med omregningsfaktoren, konstantleddet én gang."},
     {"Vis", "Vis"},
     {"Luk", "&Luk"},
 };
+
+TEST_F(KonvertForm, WritesItsWorkedExampleWithTheMarkOfTheLocale) {
+    for (const auto& [mark, result] : {std::pair{",", "-0,25K + 5"}, {".", "-0.25K + 5"}}) {
+        const DecimalMark written(mark);
+        SeededDraws seeded{1};
+        const FormDriver f(PageName::Konvert, seeded);
+        EXPECT_EQ(f.caption("Label235"), std::string("P = ") + result);
+        EXPECT_EQ(f.caption("Label42_0"), std::string("= ") + result);
+    }
+}
 
 TEST_F(KonvertForm, BearsItsFixedTexts) {
     const FormDriver& f = open(-3, 5, 4);
