@@ -19,7 +19,7 @@ fail() {
 need_room() {
     local place free
     for place in . /usr; do
-        free=$(df --output=avail -B 1M "$place" | tail -n 1)
+        free=$(df --output=avail -B 1M "$place" | tail -n 1 | tr -d ' ')
         [ "$free" -ge 2048 ] || fail "Only $free MB of the disk of $(cd "$place" && pwd) are free; 2048 MB are needed."
     done
 }
@@ -46,7 +46,7 @@ need() {
     command -v apt-get >/dev/null || fail "These packages are missing, and there is no apt-get to install them: ${missing[*]}"
     local as_root=()
     if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null || fail "These packages are missing, and only root or sudo can install them: ${missing[*]}"
+        { command -v sudo && sudo true; } >/dev/null || fail "These packages are missing, and only root or sudo can install them: ${missing[*]}"
         as_root=(sudo)
     fi
     say "Installing: ${missing[*]}"
