@@ -256,16 +256,27 @@ struct KindRow {
     bool isUpperEndAsked;
 };
 
+const std::vector<std::string> kBoxes{"Text1",  "Text2",  "Text3",  "Text4",  "Text5",
+                                      "Text6",  "Text7",  "Text8",  "Text9",  "Text10",
+                                      "Text11", "Text12", "Text13", "Text14", "Text15"};
+
+/// The captions of a row of the answer, and the sign before its end.
+struct RowNames {
+    std::array<const char*, 4> captions;
+    const char* beforeEnd;
+};
+
+constexpr std::array kRowNames{RowNames{{"Label301", "Label302", "Label303", "Label304"}, "Label305"},
+                               RowNames{{"Label311", "Label312", "Label313", "Label314"}, "Label315"},
+                               RowNames{{"Label321", "Label322", "Label323", "Label324"}, "Label325"},
+                               RowNames{{"Label331", "Label332", "Label333", "Label334"}, "Label335"}};
+
 void PrintTo(const KindRow& row, std::ostream* out) { *out << row.name; }
 
 /// The boxes that a kind shows.
 std::vector<std::string> boxesOf(const KindRow& row) {
     const int whole[]{0, 3, 6, 10, 14};
-    std::vector<std::string> boxes;
-    for (int box = 1; box <= whole[row.segments] + (row.isUpperEndAsked ? 1 : 0); ++box) {
-        boxes.push_back("Text" + std::to_string(box));
-    }
-    return boxes;
+    return {kBoxes.begin(), kBoxes.begin() + whole[row.segments] + (row.isUpperEndAsked ? 1 : 0)};
 }
 
 class Laddi2Kinds : public Laddi2Form, public testing::WithParamInterface<KindRow> {
@@ -283,25 +294,25 @@ protected:
 
 TEST_P(Laddi2Kinds, ShowTheFieldsOfTheExercise) {
     const std::vector<std::string> shown = boxesOf(GetParam());
-    for (int box = 1; box <= 15; ++box) {
-        const std::string name = "Text" + std::to_string(box);
+    for (const std::string& name : kBoxes) {
         EXPECT_EQ(form->isShown(name), std::count(shown.begin(), shown.end(), name) == 1) << name;
     }
-    for (int row = 1; row <= 4; ++row) {
-        const std::string stem = "Label3" + std::to_string(row - 1);
-        for (const char* label : {"1", "2", "3", "4"}) {
-            EXPECT_EQ(form->isShown(stem + label), row <= GetParam().segments) << stem << label;
+    int row = 0;
+    for (const RowNames& names : kRowNames) {
+        ++row;
+        for (const char* caption : names.captions) {
+            EXPECT_EQ(form->isShown(caption), row <= GetParam().segments) << caption;
         }
-        EXPECT_EQ(form->isShown(stem + "5"),
+        EXPECT_EQ(form->isShown(names.beforeEnd),
                   row < GetParam().segments || (row == GetParam().segments && GetParam().isUpperEndAsked))
-            << stem;
+            << names.beforeEnd;
     }
     EXPECT_EQ(form->focus(), "Text1");
 }
 
 TEST_P(Laddi2Kinds, WalkThroughTheFieldsByEnter) {
     std::vector<std::string> walked{form->focus()};
-    while (walked.back().rfind("Text", 0) == 0) {
+    while (form->isFocusInABox()) {
         form->press(walked.back(), Qt::Key_Return);
         walked.push_back(form->focus());
     }
@@ -670,8 +681,9 @@ TEST_F(Laddi2Form, TellsTheIntervalsThenTheSegments) {
     const FormDriver& f = openThirds();
     const auto lines = [&f] {
         std::vector<std::string> captions;
-        for (int label = 70; label <= 76; ++label) {
-            captions.push_back(f.caption("Label" + std::to_string(label)));
+        for (const char* line :
+             {"Label70", "Label71", "Label72", "Label73", "Label74", "Label75", "Label76"}) {
+            captions.push_back(f.caption(line));
         }
         return captions;
     };

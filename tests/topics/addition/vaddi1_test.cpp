@@ -47,6 +47,11 @@ const QColor kSecondBand(0, 255, 0);
 
 const std::vector<std::string> kTableBoxes{"Text7",  "Text10", "Text13", "Text16", "Text8",  "Text11",
                                            "Text14", "Text17", "Text9",  "Text12", "Text15", "Text18"};
+using Column = std::array<const char*, 3>;
+constexpr Column kPrices{"Text7", "Text8", "Text9"};
+constexpr Column kQuantities1{"Text10", "Text11", "Text12"};
+constexpr Column kQuantities2{"Text13", "Text14", "Text15"};
+constexpr Column kTotals{"Text16", "Text17", "Text18"};
 const std::vector<std::string> kAnswerBoxes{"Text4", "Text5", "Text6", "Text1", "Text2", "Text3", "Text20"};
 
 /// `count` upright strokes from `left` on.
@@ -104,9 +109,8 @@ protected:
     [[nodiscard]] std::string textOf(const std::string& name) const { return form->box(name).content(); }
 
     /// The contents of a column of boxes, from the top.
-    [[nodiscard]] std::string column(int first) const {
-        return textOf("Text" + std::to_string(first)) + "|" + textOf("Text" + std::to_string(first + 1)) +
-               "|" + textOf("Text" + std::to_string(first + 2));
+    [[nodiscard]] std::string column(const Column& boxes) const {
+        return textOf(boxes[0]) + "|" + textOf(boxes[1]) + "|" + textOf(boxes[2]);
     }
 
     /// Types into the boxes of the answer; empty texts are passed over.
@@ -677,10 +681,10 @@ TEST_F(Vaddi1Form, GivesTheWholeAnswerOverTheTypedLines) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
     EXPECT_EQ(f.focus(), "Command1");
-    EXPECT_EQ(column(7), "10|8|0");
-    EXPECT_EQ(column(10), " |0|2");
-    EXPECT_EQ(column(13), "0|0,67|3,33");
-    EXPECT_EQ(column(16), "0|0,67|5,33");
+    EXPECT_EQ(column(kPrices), "10|8|0");
+    EXPECT_EQ(column(kQuantities1), " |0|2");
+    EXPECT_EQ(column(kQuantities2), "0|0,67|3,33");
+    EXPECT_EQ(column(kTotals), "0|0,67|5,33");
     const std::vector<std::string> shown{"-3", "10", "0,67", "-1,72", "9,15", "0,67", "5,33"};
     for (std::size_t i = 0; i < shown.size(); ++i) {
         EXPECT_EQ(textOf(kAnswerBoxes[i]), shown[i]) << kAnswerBoxes[i];
@@ -714,18 +718,18 @@ TEST_F(Vaddi1Form, DrawsTheHiddenRowToOfALoneSegment) {
     EXPECT_EQ(textOf("Text5"), "7");
     EXPECT_EQ(textOf("Text6"), "0");
     EXPECT_EQ(textOf("Text3"), "0");
-    EXPECT_EQ(column(7), "7|0| ");
-    EXPECT_EQ(column(16), "0|4.67| ");
+    EXPECT_EQ(column(kPrices), "7|0| ");
+    EXPECT_EQ(column(kTotals), "0|4.67| ");
 }
 
 TEST_F(Vaddi1Form, GivesWhatNoExerciseHasSetAsZeroOrNothing) {
     const FormDriver& f = open(kLevelSecond);
     f.click("Command2");
     f.click("Command4");
-    EXPECT_EQ(column(7), "8|8| ");
-    EXPECT_EQ(column(10), " | | ");
-    EXPECT_EQ(column(13), "0|oo| ");
-    EXPECT_EQ(column(16), "0|| ");
+    EXPECT_EQ(column(kPrices), "8|8| ");
+    EXPECT_EQ(column(kQuantities1), " | | ");
+    EXPECT_EQ(column(kQuantities2), "0|oo| ");
+    EXPECT_EQ(column(kTotals), "0|| ");
     EXPECT_EQ(textOf("Text4"), "0");
     EXPECT_EQ(textOf("Text5"), "0");
     EXPECT_EQ(textOf("Text6"), "0");
@@ -745,7 +749,7 @@ TEST_F(Vaddi1Form, ShowsTheThirdTotalOfTheExerciseBeforeForALevelSecondFunction)
         next(kLevelSecond);
         f.click("Command2");
         f.click("Command4");
-        EXPECT_EQ(column(16), total);
+        EXPECT_EQ(column(kTotals), total);
     }
 }
 
@@ -808,7 +812,7 @@ TEST_P(Vaddi1Steps, MarkTheEndsAndThenTheQuantities) {
     f.click("Vis1");
     EXPECT_EQ(later("Picture4"), row.marks1);
     EXPECT_EQ(later("Picture5"), row.marks2);
-    EXPECT_EQ(column(10), " | | ");
+    EXPECT_EQ(column(kQuantities1), " | | ");
     EXPECT_EQ(f.caption("Label23"), "");
     f.click("Vis2");
     EXPECT_EQ(later("Picture4"), row.marks1 + row.marks1 + row.bands1);
@@ -905,29 +909,29 @@ TEST_F(Vaddi1Form, WritesItsPricesAtTheFirstStepAndTheRestAtTheSecond) {
     const FormDriver& f = open(kFalling);
     f.click("Command3");
     f.click("Vis1");
-    EXPECT_EQ(column(7), "10|8|0");
-    for (const int blank : {10, 13, 16}) {
-        EXPECT_EQ(column(blank), " | | ") << blank;
+    EXPECT_EQ(column(kPrices), "10|8|0");
+    for (const Column& blank : {kQuantities1, kQuantities2, kTotals}) {
+        EXPECT_EQ(column(blank), " | | ") << blank.front();
     }
     f.click("Vis2");
-    EXPECT_EQ(column(10), " |0|2");
-    EXPECT_EQ(column(13), "0|0,67|3,33");
-    EXPECT_EQ(column(16), "0|0,67|5,33");
+    EXPECT_EQ(column(kQuantities1), " |0|2");
+    EXPECT_EQ(column(kQuantities2), "0|0,67|3,33");
+    EXPECT_EQ(column(kTotals), "0|0,67|5,33");
     EXPECT_EQ(f.caption("Label23"),
               "Her fra ( 0 ; 10 ) til ( 0,67 ; 8 ) og fra ( 0,67 ; 8 ) til ( 5,33 ; 0 ).");
     EXPECT_EQ(textOf("Text1"), " ");
     EXPECT_TRUE(f.isShown("Command2"));
     next(kRising);
     EXPECT_EQ(f.caption("Label23"), "");
-    EXPECT_EQ(column(7), " | | ");
+    EXPECT_EQ(column(kPrices), " | | ");
 }
 
 TEST_F(Vaddi1Form, RunsTheStepsBeforeWhicheverIsPressedFirst) {
     const FormDriver& f = open(kFalling);
     f.click("Command3");
     f.click("Vis3");
-    EXPECT_EQ(column(7), "10|8|0");
-    EXPECT_EQ(column(13), "0|0.67|3.33");
+    EXPECT_EQ(column(kPrices), "10|8|0");
+    EXPECT_EQ(column(kQuantities2), "0|0.67|3.33");
     EXPECT_NE(f.caption("Label23"), "");
     const Strokes once = later("Picture4");
     EXPECT_EQ(once.size(), 7U + 6U + 7U + 4U + 5U);
@@ -996,10 +1000,10 @@ TEST_F(Vaddi1Form, FailsAtTheThirdStepOnABlankPriceAfterItHasStackedTheSecondRow
     f.click("Command2");
     f.click("Command3");
     EXPECT_EQ(failureOf(f.button("Vis3")), kTypeMismatch);
-    EXPECT_EQ(column(7), "7|0| ");
-    EXPECT_EQ(column(10), "0|2.33| ");
-    EXPECT_EQ(column(13), "0|2.33| ");
-    EXPECT_EQ(column(16), "0|4.67| ");
+    EXPECT_EQ(column(kPrices), "7|0| ");
+    EXPECT_EQ(column(kQuantities1), "0|2.33| ");
+    EXPECT_EQ(column(kQuantities2), "0|2.33| ");
+    EXPECT_EQ(column(kTotals), "0|4.67| ");
     EXPECT_EQ(f.caption("Label23"), "Her fra ( 0 ; 7 ) til ( 4.67 ; 0 ).");
     EXPECT_EQ(later("Picture4"), markAt(0, 7, 6) + markAt(2.33, 0, 7) + markOff(-5) + first(2.33, 0));
     EXPECT_FALSE(f.isShown("Command2"));

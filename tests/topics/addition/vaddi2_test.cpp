@@ -4,6 +4,7 @@
 #include <cmath>
 #include <map>
 #include <set>
+#include <span>
 
 #include <gtest/gtest.h>
 
@@ -27,6 +28,13 @@ using test::Script;
 using test::ScriptedDraws;
 
 using Strokes = std::vector<Stroke>;
+
+/// The help table, column by column, and the fields of the answer.
+const std::vector<std::string> kTable{"Text1",  "Text2",  "Text3",  "Text4",  "Text5",  "Text6",  "Text7",
+                                      "Text8",  "Text9",  "Text10", "Text11", "Text12", "Text13", "Text14",
+                                      "Text15", "Text16", "Text17", "Text18", "Text19", "Text20"};
+const std::vector<std::string> kAnswer{"Text21", "Text22", "Text23", "Text24", "Text25", "Text26",
+                                       "Text27", "Text28", "Text29", "Text30", "Text31"};
 
 struct Exercise {
     const char* name;
@@ -144,12 +152,17 @@ protected:
     /// What stands on the graph of a function besides the function.
     [[nodiscard]] Strokes drawnOn(const std::string& name) const { return test::strokesFrom(graph(name), 1); }
 
-    [[nodiscard]] std::vector<std::string> contents(int first, int last) const {
+    [[nodiscard]] std::vector<std::string> contents(std::span<const std::string> boxes) const {
         std::vector<std::string> texts;
-        for (int i = first; i <= last; ++i) {
-            texts.push_back(form->box("Text" + std::to_string(i)).content());
+        for (const std::string& box : boxes) {
+            texts.push_back(form->box(box).content());
         }
         return texts;
+    }
+
+    /// One of the five columns of the help table.
+    [[nodiscard]] static std::span<const std::string> column(std::size_t place) {
+        return std::span(kTable).subspan(4 * place, 4);
     }
 
     [[nodiscard]] std::set<std::string> redBoxes() const { return form->redBoxes(); }
@@ -282,8 +295,7 @@ TEST_F(Vaddi2Form, HidesTheNameOfTheAxisThatWouldStandHalfBesideItsPanel) {
 
 TEST_F(Vaddi2Form, UnderlinesTheSignsOfAtLeast) {
     const FormDriver& f = open(kThree);
-    for (int i = 0; i < 6; ++i) {
-        const std::string name = "Label47_" + std::to_string(i);
+    for (const char* name : {"Label47_0", "Label47_1", "Label47_2", "Label47_3", "Label47_4", "Label47_5"}) {
         EXPECT_EQ(f.caption(name), ">") << name;
         EXPECT_TRUE(f.label(name).font().underline()) << name;
     }
@@ -311,7 +323,8 @@ TEST_F(Vaddi2Form, StartsEveryExerciseBlankAndWhite) {
     f.click("Command7");
     f.type("Text21", "5");
     next(kOne);
-    EXPECT_EQ(contents(1, 31), std::vector<std::string>(31, " "));
+    EXPECT_EQ(contents(kTable), std::vector<std::string>(20, " "));
+    EXPECT_EQ(contents(kAnswer), std::vector<std::string>(11, " "));
     EXPECT_EQ(redBoxes(), std::set<std::string>{});
     EXPECT_EQ(f.caption("Label25"), "");
     EXPECT_EQ(f.caption("Label27"), "");
@@ -366,18 +379,15 @@ TEST_P(Vaddi2Rows, ShowWhatTheExerciseAsksFor) {
 TEST_P(Vaddi2Rows, AreWalkedByEnterAfterTheTable) {
     const FormDriver& f = open(GetParam());
     std::vector<std::string> expected;
-    for (int row = 1; row <= 4; ++row) {
-        for (int column = 0; column < 5; ++column) {
-            expected.push_back("Text" + std::to_string(row + 4 * column));
+    for (std::size_t row = 0; row < 4; ++row) {
+        for (std::size_t place = 0; place < 5; ++place) {
+            expected.push_back(column(place)[row]);
         }
     }
-    for (int i = 21; i <= 31; ++i) {
-        if (f.isShown("Text" + std::to_string(i))) {
-            expected.push_back("Text" + std::to_string(i));
-        }
-    }
+    std::copy_if(kAnswer.begin(), kAnswer.end(), std::back_inserter(expected),
+                 [&f](const std::string& box) { return f.isShown(box); });
     std::vector<std::string> walked;
-    while (f.focus().rfind("Text", 0) == 0 && walked.size() < 40) {
+    while (f.isFocusInABox() && walked.size() < 40) {
         walked.push_back(f.focus());
         f.press(f.focus(), Qt::Key_Return);
     }
@@ -404,8 +414,7 @@ TEST_P(Vaddi2Rows, TakeTheAnswerThatTheyAreGiven) {
     f.click("Command2");
     f.click("Command4");
     std::map<std::string, std::string> given;
-    for (int i = 21; i <= 31; ++i) {
-        const std::string name = "Text" + std::to_string(i);
+    for (const std::string& name : kAnswer) {
         if (f.isShown(name)) {
             EXPECT_NE(f.box(name).content(), " ") << name;
             given[name] = f.box(name).content();
@@ -537,12 +546,12 @@ TEST_F(Vaddi2Form, DrawsOneRightSegmentToTheEdgeOfTheGraph) {
 
 TEST_F(Vaddi2Form, DoesNotReadItsTable) {
     open(kThree);
-    for (int i = 1; i <= 20; ++i) {
-        form->type("Text" + std::to_string(i), "99");
+    for (const std::string& box : kTable) {
+        form->type(box, "99");
     }
     answer(kRightOfThree);
     EXPECT_TRUE(form->isShown("Label75"));
-    EXPECT_EQ(contents(1, 20), std::vector<std::string>(20, "99"));
+    EXPECT_EQ(contents(kTable), std::vector<std::string>(20, "99"));
 }
 
 TEST_F(Vaddi2Form, MarksEachFieldThatIsOffAndNoOther) {
@@ -631,13 +640,13 @@ TEST_F(Vaddi2Form, GivesTheAnswerInAllItsFields) {
     f.click("Command3");
     f.click("Command2");
     f.click("Command4");
-    EXPECT_EQ(contents(1, 20), (std::vector<std::string>{"9", "7", "5", "0",    //
-                                                         "0", "2", "4", "9",    //
-                                                         " ", "0", "1", "3.5",  //
-                                                         " ", " ", "0", "5",    //
-                                                         "0", "2", "5", "17.5"}));
-    EXPECT_EQ(contents(21, 31), (std::vector<std::string>{"-1", "9", "2", "-0.67", "8.33", "2", "5", "-0.4",
-                                                          "7", "5", "17.5"}));
+    EXPECT_EQ(contents(kTable), (std::vector<std::string>{"9", "7", "5", "0",    //
+                                                          "0", "2", "4", "9",    //
+                                                          " ", "0", "1", "3.5",  //
+                                                          " ", " ", "0", "5",    //
+                                                          "0", "2", "5", "17.5"}));
+    EXPECT_EQ(contents(kAnswer), (std::vector<std::string>{"-1", "9", "2", "-0.67", "8.33", "2", "5", "-0.4",
+                                                           "7", "5", "17.5"}));
     EXPECT_EQ(redBoxes(), std::set<std::string>{});
     for (const char* hidden : {"Picture10", "Command2", "Command4", "Label74", "Label75"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
@@ -649,12 +658,12 @@ TEST_F(Vaddi2Form, BlanksTheThirdRowOfTheTableForALevelFunctionInTheMiddle) {
     const FormDriver& f = open(kTwoLevel);
     f.click("Command2");
     f.click("Command4");
-    EXPECT_EQ(contents(1, 20), (std::vector<std::string>{"9", "7", "5",  " ",  //
-                                                         "0", "2", "2",  " ",  //
-                                                         " ", "0", "oo", " ",  //
-                                                         " ", " ", " ",  " ",  //
-                                                         "0", "2", "oo", " "}));
-    EXPECT_EQ(contents(21, 31),
+    EXPECT_EQ(contents(kTable), (std::vector<std::string>{"9", "7", "5",  " ",  //
+                                                          "0", "2", "2",  " ",  //
+                                                          " ", "0", "oo", " ",  //
+                                                          " ", " ", " ",  " ",  //
+                                                          "0", "2", "oo", " "}));
+    EXPECT_EQ(contents(kAnswer),
               (std::vector<std::string>{"-1", "9", "2", "0", "7", "2", " ", " ", " ", " ", " "}));
 }
 
@@ -662,7 +671,7 @@ TEST_F(Vaddi2Form, GivesZeroForTheStartOfALoneSegment) {
     const FormDriver& f = open(kOne);
     answer({{"Text26", "3"}});
     f.click("Command4");
-    EXPECT_EQ(contents(21, 31),
+    EXPECT_EQ(contents(kAnswer),
               (std::vector<std::string>{" ", " ", " ", "-0.57", "8", "0", "14", " ", " ", " ", " "}));
 }
 
@@ -750,8 +759,9 @@ TEST_F(Vaddi2Form, WritesThePricesAndMarksTheEndsOfSlopingFunctions) {
     const FormDriver& f = open(kThree);
     f.click("Command3");
     f.click("Vis1");
-    EXPECT_EQ(contents(1, 4), (std::vector<std::string>{"9", "7", "5", "0"}));
-    EXPECT_EQ(contents(5, 31), std::vector<std::string>(27, " "));
+    EXPECT_EQ(contents(column(0)), (std::vector<std::string>{"9", "7", "5", "0"}));
+    EXPECT_EQ(contents(std::span(kTable).subspan(4)), std::vector<std::string>(16, " "));
+    EXPECT_EQ(contents(kAnswer), std::vector<std::string>(11, " "));
     EXPECT_EQ(drawnOn("Picture4"), startMark(9) + startMark(0));
     EXPECT_EQ(drawnOn("Picture5"), startMark(7) + startMark(0));
     EXPECT_EQ(drawnOn("Picture7"), startMark(5) + startMark(0));
@@ -803,8 +813,8 @@ TEST_F(Vaddi2Form, DrawsABandForEachQuantityAndTellsThePath) {
     EXPECT_EQ(sum(), Strokes{});
     EXPECT_EQ(f.caption("Label25"), "Her fra ( 0 ; 9 ) til ( 2 ; 7 ), fra ( 2 ; 7 ) til ( 5 ; 5 ) og fra ");
     EXPECT_EQ(f.caption("Label27"), "( 5 ; 5 ) til ( 17.5 ; 0 ).");
-    EXPECT_EQ(contents(17, 20), (std::vector<std::string>{"0", "2", "5", "17.5"}));
-    EXPECT_EQ(contents(21, 31), std::vector<std::string>(11, " "));
+    EXPECT_EQ(contents(column(4)), (std::vector<std::string>{"0", "2", "5", "17.5"}));
+    EXPECT_EQ(contents(kAnswer), std::vector<std::string>(11, " "));
     EXPECT_TRUE(f.isShown("Command2"));
 }
 
@@ -827,8 +837,8 @@ TEST_F(Vaddi2Form, StacksTheQuantitiesAndDrawsTheSum) {
                       stack(0, 4, 5, kBand1) + stack(4, 5, 5, kBand2) + stack(5, 5, 5, kBlack) +  //
                       stack(0, 9, 0, kBand1) + stack(9, 12.5, 0, kBand2) + stack(12.5, 17.5, 0, kBlack) +
                       Strokes{green(-1, 9, 0, 2), green(-0.67, 8.33, 2, 5), green(-0.4, 7, 5, 50)}));
-    EXPECT_EQ(contents(21, 31), (std::vector<std::string>{"-1", "9", "2", "-0.67", "8.33", "2", "5", "-0.4",
-                                                          "7", "5", "17.5"}));
+    EXPECT_EQ(contents(kAnswer), (std::vector<std::string>{"-1", "9", "2", "-0.67", "8.33", "2", "5", "-0.4",
+                                                           "7", "5", "17.5"}));
     EXPECT_FALSE(f.isShown("Command2"));
     EXPECT_EQ(f.focus(), "Command7");
 }
@@ -927,11 +937,9 @@ TEST(Vaddi2Play, IsSolvedByItsOwnAnswerThroughManyExercises) {
             f.box(name).setContent(NumberText(field.target.value));
             ++asked;
         }
-        std::size_t shown = 0;
-        for (int i = 21; i <= 31; ++i) {
-            shown += f.isShown("Text" + std::to_string(i)) ? 1 : 0;
-        }
-        ASSERT_EQ(shown, asked) << "exercise " << exercise;
+        const auto shown = std::count_if(kAnswer.begin(), kAnswer.end(),
+                                         [&f](const std::string& box) { return f.isShown(box); });
+        ASSERT_EQ(static_cast<std::size_t>(shown), asked) << "exercise " << exercise;
         f.button("Command2").click();
         ASSERT_TRUE(f.isShown("Label75")) << "exercise " << exercise;
         f.button("Command3").click();

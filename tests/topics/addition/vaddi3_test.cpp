@@ -140,7 +140,7 @@ protected:
     [[nodiscard]] Names walkFrom(const std::string& box) const {
         Names walk{box};
         form->box(box).setFocus();
-        while (walk.back().rfind("Text", 0) == 0 && walk.size() < 60) {
+        while (form->isFocusInABox() && walk.size() < 60) {
             form->press(walk.back(), Qt::Key_Return);
             walk.push_back(form->focus());
         }

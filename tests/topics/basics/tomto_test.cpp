@@ -187,18 +187,22 @@ TEST_F(TomtoForm, HasAGraphOfItsSizeWithTicksBesideIt) {
     EXPECT_EQ(box.size(), QSizeF(fromTwips(3645), fromTwips(3645)));
     EXPECT_EQ(graph().backColour(), kWhite);
     // A tenth of the box apart, on whole units; the last one stands on the box's own edge.
-    const auto offset = [&box](int tenths) {
-        return std::min(std::round(box.width() * tenths / 10), box.width() - 1);
+    const auto offset = [&box](int part) {
+        return std::min(std::round(box.width() * part / 10), box.width() - 1);
     };
-    for (int i = 0; i <= 9; ++i) {
-        const QRectF tick = f.find<LineControl>("Line" + std::to_string(17 + i)).place();
-        EXPECT_EQ(tick.right(), box.left()) << i;
-        EXPECT_EQ(tick.top() - box.top(), offset(i)) << i;
+    int tenths = 0;
+    for (const char* name : {"Line17", "Line18", "Line19", "Line20", "Line21", "Line22", "Line23", "Line24",
+                             "Line25", "Line26"}) {
+        const QRectF tick = f.find<LineControl>(name).place();
+        EXPECT_EQ(tick.right(), box.left()) << name;
+        EXPECT_EQ(tick.top() - box.top(), offset(tenths++)) << name;
     }
-    for (int i = 0; i <= 10; ++i) {
-        const QRectF tick = f.find<LineControl>("Line27_" + std::to_string(i)).place();
-        EXPECT_EQ(tick.top(), box.bottom()) << i;
-        EXPECT_EQ(tick.left() - box.left(), offset(i)) << i;
+    tenths = 0;
+    for (const char* name : {"Line27_0", "Line27_1", "Line27_2", "Line27_3", "Line27_4", "Line27_5",
+                             "Line27_6", "Line27_7", "Line27_8", "Line27_9", "Line27_10"}) {
+        const QRectF tick = f.find<LineControl>(name).place();
+        EXPECT_EQ(tick.top(), box.bottom()) << name;
+        EXPECT_EQ(tick.left() - box.left(), offset(tenths++)) << name;
     }
 }
 

@@ -79,6 +79,8 @@ void expectAlike(const Strokes& drawn, const Strokes& expected) {
     }
 }
 
+constexpr std::array kBoxes{"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8", "Text9"};
+
 class GtmForm : public testing::Test {
 protected:
     FormDriver& open(const Numbers& k, Kind kind) {
@@ -97,7 +99,7 @@ protected:
 
     void fill(const Nine& typed) const {
         for (std::size_t i = 0; i < typed.size(); ++i) {
-            form->box("Text" + std::to_string(i + 1)).setContent(typed.at(i));
+            form->box(kBoxes.at(i)).setContent(typed.at(i));
         }
     }
 
@@ -108,8 +110,8 @@ protected:
 
     [[nodiscard]] std::vector<std::string> contents() const {
         std::vector<std::string> all;
-        for (int i = 1; i <= 9; ++i) {
-            all.push_back(form->box("Text" + std::to_string(i)).content());
+        for (const char* box : kBoxes) {
+            all.push_back(form->box(box).content());
         }
         return all;
     }
@@ -118,7 +120,7 @@ protected:
     [[nodiscard]] std::set<int> redBoxes() const {
         std::set<int> red;
         for (int i = 1; i <= 9; ++i) {
-            const QColor colour = form->box("Text" + std::to_string(i)).backColour();
+            const QColor colour = form->box(kBoxes.at(static_cast<std::size_t>(i - 1))).backColour();
             EXPECT_TRUE(colour == kRed || colour == kWhite);
             if (colour == kRed) {
                 red.insert(i);
@@ -188,8 +190,8 @@ protected:
 TEST_F(GtmForm, StartsEmptyWithItsTitle) {
     const FormDriver f = FormDriver::unshown(PageName::Gtm, draws);
     EXPECT_EQ(f.page().windowTitle().toStdString(), "Tavrune - Gennemsnit-total-marginal");
-    for (int i = 1; i <= 9; ++i) {
-        EXPECT_EQ(f.box("Text" + std::to_string(i)).content(), "");
+    for (const char* box : kBoxes) {
+        EXPECT_EQ(f.box(box).content(), "");
     }
     for (const char* hidden : {"Command3", "Labelt", "Picturehlp", "PictureHlpGen", "Picture3", "Picture6",
                                "Picture2", "Picture9", "Picture4", "Picture5", "Picture7", "Picture8"}) {
@@ -424,7 +426,7 @@ TEST_F(GtmForm, IsSolvedByKeysAlone) {
     }
     const std::array<const char*, 6> typed{"1", "-2", "4", "3,0", "-4", "4"};
     for (std::size_t i = 0; i < typed.size(); ++i) {
-        const std::string box = "Text" + std::to_string(i + 4);
+        const std::string box = kBoxes.at(i + 3);
         ASSERT_EQ(f.focus(), box);
         f.type(box, typed.at(i));
         f.press(box, Qt::Key_Return);
@@ -495,10 +497,10 @@ TEST_F(GtmForm, JudgesAHundredHostileRowsWithBoundedCurves) {
     const std::array<std::string, 12> hostile{"1e308", "-1e999", "æ;",    std::string(10'000, '9'),
                                               "400",   "1e39",   "-1e20", "1e-308",
                                               "nan",   "inf",    "0x1p9", "-123456.75"};
-    for (std::size_t box = 1; box <= 9; ++box) {
+    for (const char* box : kBoxes) {
         for (const std::string& typed : hostile) {
             fill({"1", "-2", "4", "1", "-2", "4", "3", "-4", "4"});
-            f.box("Text" + std::to_string(box)).setContent(typed);
+            f.box(box).setContent(typed);
             const std::size_t before = graph().strokes().size();
             f.click("Command2");
             EXPECT_EQ(f.caption("Labelt"), "FORKERT");
