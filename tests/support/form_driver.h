@@ -60,7 +60,9 @@ public:
     [[nodiscard]] std::string focus() const;
 
     /// True if the focus is in an answer box.
-    [[nodiscard]] bool isFocusInABox() const { return page_->findChild<AnswerBox*>(QString::fromStdString(focus())); }
+    [[nodiscard]] bool isFocusInABox() const {
+        return page_->findChild<AnswerBox*>(QString::fromStdString(focus()));
+    }
 
     /// The names of the answer boxes that are red. Throws if one is neither red nor white.
     [[nodiscard]] std::set<std::string> redBoxes() const;
