@@ -81,6 +81,14 @@ void expectAlike(const Strokes& drawn, const Strokes& expected) {
 
 constexpr std::array kBoxes{"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8", "Text9"};
 
+/// The lines of the four ways of the diagram.
+constexpr std::array<std::array<const char*, 4>, 4> kWays{{
+    {"Line1_0", "Line1_1", "Line1_2", "Line1_3"},
+    {"Line2_0", "Line2_1", "Line2_2", "Line2_3"},
+    {"Line3_0", "Line3_1", "Line3_2", "Line3_3"},
+    {"Line4_0", "Line4_1", "Line4_2", "Line4_3"},
+}};
+
 class GtmForm : public testing::Test {
 protected:
     FormDriver& open(const Numbers& k, Kind kind) {
@@ -138,10 +146,11 @@ protected:
     /// The digits of the ways of the diagram that are red; a way is red as a whole or not at all.
     [[nodiscard]] std::string redWays() const {
         std::string red;
-        for (const char way : {'1', '2', '3', '4'}) {
+        char way = '1';
+        for (const auto& lines : kWays) {
             int redLines = 0;
-            for (const char* index : {"_0", "_1", "_2", "_3"}) {
-                const QColor colour = form->find<LineControl>(std::string("Line") + way + index).colour();
+            for (const char* line : lines) {
+                const QColor colour = form->find<LineControl>(line).colour();
                 EXPECT_TRUE(colour == kRed || colour == kBlack);
                 redLines += colour == kRed ? 1 : 0;
             }
@@ -149,6 +158,7 @@ protected:
             if (redLines == 4) {
                 red += way;
             }
+            ++way;
         }
         return red;
     }
