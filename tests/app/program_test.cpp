@@ -92,7 +92,7 @@ TEST_F(ProgramRun, MaximisesAWindowAgainForTheNextPage) {
 
 TEST_F(ProgramRun, PutsTheFocusOnThePageThatHasCome) {
     choose(PageName::Brok);
-    EXPECT_EQ(QApplication::focusWidget(), program.page()->findChild<AnswerBox*>("Text1"));
+    EXPECT_EQ(QApplication::focusWidget(), program.page()->findChild<AnswerBox*>("numerator"));
     choose(PageName::Form1);
     // Nothing there asks for it.
     EXPECT_EQ(QApplication::focusWidget(), program.page()->findChild<Button*>("Command1"));
@@ -155,14 +155,14 @@ TEST_F(ProgramRun, WaitsAsAWholeForAMessageTheAboutBoxToo) {
 
 TEST_F(ProgramRun, OpensAPageAnewInItsDesignState) {
     choose(PageName::Brok);
-    program.page()->findChild<Button*>("Command4")->click();
-    program.page()->findChild<AnswerBox*>("Text2")->setContent("7");
-    program.page()->findChild<Button*>("Command2")->click();
+    program.page()->findChild<Button*>("help")->click();
+    program.page()->findChild<AnswerBox*>("denominator")->setContent("7");
+    program.page()->findChild<Button*>("ok")->click();
     choose(PageName::Form1);
     choose(PageName::Brok);
-    EXPECT_TRUE(program.page()->findChild<Panel*>("Picture1")->isHidden());
-    EXPECT_TRUE(program.page()->findChild<Label*>("Label6")->isHidden());
-    EXPECT_EQ(program.page()->findChild<AnswerBox*>("Text2")->content(), "");
+    EXPECT_TRUE(program.page()->findChild<Panel*>("helpPanel")->isHidden());
+    EXPECT_TRUE(program.page()->findChild<Label*>("verdict")->isHidden());
+    EXPECT_EQ(program.page()->findChild<AnswerBox*>("denominator")->content(), "");
 }
 
 TEST_F(ProgramRun, LastsUntilTheAboutBoxIsClosedToo) {

@@ -9,8 +9,8 @@ using Name = PageName;
 
 const std::vector<FormFacts>& allForms() {
     static const std::vector<FormFacts> forms{
-        {Name::Brok, "Command1", "Command2", "Command3", "Command4", "Label6", "Label6", false, false,
-         "Text2", "Text1", "", "Picture1", "Command6"},
+        {Name::Brok, "newExercise", "ok", "giveAnswer", "help", "verdict", "verdict", false, false,
+         "denominator", "numerator", "", "helpPanel", "closeHelp"},
         {Name::Dlinie, "Command1", "Command2", "Command3", "Command4", "Labelf", "Labelf", false, false,
          "Text2", "Text1", "", "", ""},
         {Name::Afsaet, "Command1", "Command2", "Command3", "Command4", "Labelr", "Labelr", false, false,

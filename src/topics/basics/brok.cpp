@@ -17,49 +17,48 @@ constexpr double kGap = 2;
 
 Brok::Brok(Draws& draws) : ExerciseForm(PageName::Brok, draws), ui_(std::make_unique<Ui::Brok>()) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command1,
-             .ok = ui_->Command2,
-             .giveAnswer = ui_->Command3,
-             .help = ui_->Command4});
-    verdict(OneLabel{ui_->Label6});
-    enterChain({ui_->Text1, ui_->Text2}, LastBox::OkOrStay);
-    onClick(ui_->Command5, &Brok::showWorkedSolution);
-    onClick(ui_->Command6, &Brok::closeHelp);
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(OneLabel{ui_->verdict});
+    enterChain({ui_->numerator, ui_->denominator}, LastBox::OkOrStay);
+    onClick(ui_->showWorkedSolution, &Brok::showWorkedSolution);
+    onClick(ui_->closeHelp, &Brok::closeHelp);
 }
 
 Brok::~Brok() = default;
 
 void Brok::newExercise() {
-    clearBoxes({ui_->Text1, ui_->Text2});
-    hideAll({ui_->Picture2, ui_->Picture1, ui_->Label12, ui_->Line4, ui_->Label10});
+    clearBoxes({ui_->numerator, ui_->denominator});
+    hideAll(
+        {ui_->solutionStep, ui_->helpPanel, ui_->reducedWholeNumber, ui_->reducedBar, ui_->reducedEquals});
     showAsking();
-    ui_->Label9->setCaption("");
-    ui_->Label11->setCaption("");
+    ui_->reducedNumerator->setCaption("");
+    ui_->reducedDenominator->setCaption("");
 
     tavrune::newExercise(state_, draws());
 
     layOutFractions();
-    ui_->Label3->setCaption(state_.operatorText);
-    focusOn(ui_->Text1);
+    ui_->operatorSign->setCaption(state_.operatorText);
+    focusOn(ui_->numerator);
 }
 
 void Brok::layOutFractions() {
-    const Fraction first(ui_->Label1, ui_->Line1, ui_->Label2);
+    const Fraction first(ui_->firstNumerator, ui_->firstBar, ui_->firstDenominator);
     first.setTexts(NumberText(state_.numeratorA), NumberText(state_.denominatorB));
     first.setLeft(kFirstFraction);
-    const Fraction second(ui_->Label4, ui_->Line2, ui_->Label5);
+    const Fraction second(ui_->secondNumerator, ui_->secondBar, ui_->secondDenominator);
     second.setTexts(NumberText(state_.numeratorC), NumberText(state_.denominatorD));
     second.setLeft(kSecondFraction);
 }
 
 void Brok::judge() {
-    ui_->Label12->hide();
-    whiten({ui_->Text1, ui_->Text2});
-    const double n = ui_->Text1->value();
-    const double m = ui_->Text2->value();
+    ui_->reducedWholeNumber->hide();
+    whiten({ui_->numerator, ui_->denominator});
+    const double n = ui_->numerator->value();
+    const double m = ui_->denominator->value();
     if (m == 0) {
         tell("Du må ikke dividere med nul");
-        focusOn(ui_->Text2);
+        focusOn(ui_->denominator);
         return;
     }
     if (isRight(state_, n, m)) {
@@ -67,28 +66,28 @@ void Brok::judge() {
         showReduction();
     } else {
         failed();
-        focusOn(ui_->Text1);
-        ui_->Text1->mark(true);
-        ui_->Text2->mark(true);
+        focusOn(ui_->numerator);
+        ui_->numerator->mark(true);
+        ui_->denominator->mark(true);
     }
 }
 
 void Brok::showReduction() {
-    const ReductionText text = reductionText(state_, ui_->Text1->value());
+    const ReductionText text = reductionText(state_, ui_->numerator->value());
     if (text.whole) {
-        showAll({ui_->Label12, ui_->Label10});
-        ui_->Label12->setCaption(*text.whole);
+        showAll({ui_->reducedWholeNumber, ui_->reducedEquals});
+        ui_->reducedWholeNumber->setCaption(*text.whole);
     } else if (text.fraction) {
-        showAll({ui_->Label10, ui_->Line4});
-        Fraction(ui_->Label9, ui_->Line4, ui_->Label11)
+        showAll({ui_->reducedEquals, ui_->reducedBar});
+        Fraction(ui_->reducedNumerator, ui_->reducedBar, ui_->reducedDenominator)
             .setTexts(text.fraction->numerator, text.fraction->denominator);
     }
 }
 
 void Brok::giveAnswer() {
-    whiten({ui_->Text1, ui_->Text2});
-    ui_->Text1->setContent(NumberText(state_.resultNumerator));
-    ui_->Text2->setContent(NumberText(state_.resultDenominator));
+    whiten({ui_->numerator, ui_->denominator});
+    ui_->numerator->setContent(NumberText(state_.resultNumerator));
+    ui_->denominator->setContent(NumberText(state_.resultDenominator));
     // The verdict is made ready and not shown.
     showRight();
     given();
@@ -97,56 +96,59 @@ void Brok::giveAnswer() {
 
 void Brok::help() {
     const BrokMethod& method = methodFor(state_.operatorText);
-    ui_->Label17->setCaption(state_.operatorText);
-    ui_->Label15->setCaption(method.task);
-    ui_->Label24->setCaption(method.rule);
-    ui_->Label21->setCaption(method.numerator);
-    ui_->Label22->setCaption(method.denominator);
-    ui_->Label22->setWidth(ui_->Label21->place().width());
-    ui_->Line7->setRightEnd(ui_->Label21->place().right());
-    openPanel(ui_->Picture1, ui_->Command5);
+    ui_->generalOperatorSign->setCaption(state_.operatorText);
+    ui_->generalTask->setCaption(method.task);
+    ui_->generalRule->setCaption(method.rule);
+    ui_->generalResultNumerator->setCaption(method.numerator);
+    ui_->generalResultDenominator->setCaption(method.denominator);
+    ui_->generalResultDenominator->setWidth(ui_->generalResultNumerator->place().width());
+    ui_->generalResultBar->setRightEnd(ui_->generalResultNumerator->place().right());
+    openPanel(ui_->helpPanel, ui_->showWorkedSolution);
 }
 
 void Brok::showWorkedSolution() {
     const BrokWorked worked = workedSolution(state_);
-    ui_->Picture2->show();
+    ui_->solutionStep->show();
 
-    const Fraction first(ui_->brokk_0, ui_->Line8, ui_->brokk_1);
+    const Fraction first(ui_->workedFirstNumerator, ui_->workedFirstBar, ui_->workedFirstDenominator);
     first.setTexts(NumberText(state_.numeratorA), NumberText(state_.denominatorB));
-    ui_->brokk_2->setCaption(state_.operatorText);
-    const Fraction second(ui_->brokk_3, ui_->Line9, ui_->brokk_4);
+    ui_->workedOperatorSign->setCaption(state_.operatorText);
+    const Fraction second(ui_->workedSecondNumerator, ui_->workedSecondBar, ui_->workedSecondDenominator);
     second.setTexts(NumberText(state_.numeratorC), NumberText(state_.denominatorD));
 
-    const Fraction middle(ui_->brokk_6, ui_->Line10, ui_->brokk_7);
+    const Fraction middle(ui_->workedWrittenOutNumerator, ui_->workedWrittenOutBar,
+                          ui_->workedWrittenOutDenominator);
     middle.setTexts(worked.middle.numerator, worked.middle.denominator);
     middle.setLeft(kMiddleFraction);
-    const Fraction computed(ui_->brokk_9, ui_->Line11, ui_->brokk_10);
+    const Fraction computed(ui_->workedComputedNumerator, ui_->workedComputedBar,
+                            ui_->workedComputedDenominator);
     computed.setTexts(worked.computed.numerator, worked.computed.denominator);
 
     const LastStep& last = worked.last;
     const bool isReduced = last.kind == LastStep::Kind::Reduced;
-    const Fraction reduced(ui_->brokk_12, ui_->Line12, ui_->brokk_13);
+    const Fraction reduced(ui_->workedReducedNumerator, ui_->workedReducedBar, ui_->workedReducedDenominator);
     reduced.setTexts(isReduced ? last.numerator : "", isReduced ? last.denominator : "");
     reduced.setShown(isReduced);
-    ui_->brokk_11->setVisible(last.kind != LastStep::Kind::Irreducible);
-    ui_->Label23->setVisible(last.kind == LastStep::Kind::Whole);
+    ui_->workedReducedEquals->setVisible(last.kind != LastStep::Kind::Irreducible);
+    ui_->workedReducedWholeNumber->setVisible(last.kind == LastStep::Kind::Whole);
     if (last.kind == LastStep::Kind::Whole) {
-        ui_->Label23->setCaption(last.numerator);
+        ui_->workedReducedWholeNumber->setCaption(last.numerator);
     }
 
     // The row stands round the middle fraction, whose place is fixed: backwards from it, then forwards.
-    const double equals = kMiddleFraction - kGap - ui_->brokk_5->place().width();
-    ui_->brokk_5->setLeft(equals);
+    const double equals = kMiddleFraction - kGap - ui_->workedWrittenOutEquals->place().width();
+    ui_->workedWrittenOutEquals->setLeft(equals);
     second.setLeft(equals - kGap - second.width());
-    ui_->brokk_2->setLeft(ui_->brokk_3->place().left() - kGap - ui_->brokk_2->place().width());
-    first.setLeft(ui_->brokk_2->place().left() - kGap - first.width());
-    ui_->brokk_8->setLeft(middle.right() + kGap);
-    computed.setLeft(ui_->brokk_8->place().right() + kGap);
-    ui_->brokk_11->setLeft(computed.right() + kGap);
-    reduced.setLeft(ui_->brokk_11->place().right() + kGap);
-    ui_->Label23->setLeft(ui_->brokk_11->place().right() + kGap);
+    ui_->workedOperatorSign->setLeft(ui_->workedSecondNumerator->place().left() - kGap -
+                                     ui_->workedOperatorSign->place().width());
+    first.setLeft(ui_->workedOperatorSign->place().left() - kGap - first.width());
+    ui_->workedComputedEquals->setLeft(middle.right() + kGap);
+    computed.setLeft(ui_->workedComputedEquals->place().right() + kGap);
+    ui_->workedReducedEquals->setLeft(computed.right() + kGap);
+    reduced.setLeft(ui_->workedReducedEquals->place().right() + kGap);
+    ui_->workedReducedWholeNumber->setLeft(ui_->workedReducedEquals->place().right() + kGap);
 }
 
-void Brok::closeHelp() { hideAll({ui_->Picture2, ui_->Picture1}); }
+void Brok::closeHelp() { hideAll({ui_->solutionStep, ui_->helpPanel}); }
 
 }  // namespace tavrune

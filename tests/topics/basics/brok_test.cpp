@@ -32,9 +32,9 @@ protected:
     }
 
     void answer(const std::string& n, const std::string& m) const {
-        form->type("Text1", n);
-        form->type("Text2", m);
-        form->click("Command2");
+        form->type("numerator", n);
+        form->type("denominator", m);
+        form->click("ok");
     }
 
     [[nodiscard]] QColor colour(const std::string& box) const { return form->box(box).backColour(); }
@@ -46,96 +46,97 @@ protected:
 TEST_F(BrokForm, IsBlankUntilItsFirstTick) {
     const FormDriver unshown = FormDriver::unshown(PageName::Brok, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Brøker");
-    EXPECT_EQ(unshown.caption("Label8"), "Løs opgaven");
-    EXPECT_EQ(unshown.caption("Label1"), "");
-    for (const char* hidden : {"Command3", "Label6", "Label10", "Line4", "Label12", "Picture1", "Picture2"}) {
+    EXPECT_EQ(unshown.caption("task"), "Løs opgaven");
+    EXPECT_EQ(unshown.caption("firstNumerator"), "");
+    for (const char* hidden : {"giveAnswer", "verdict", "reducedEquals", "reducedBar", "reducedWholeNumber",
+                               "helpPanel", "solutionStep"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
 }
 
 TEST_F(BrokForm, LaysTheTaskOutAsTwoFractions) {
     const FormDriver& f = open(-10, 3, 2, -4, Plus);
-    EXPECT_EQ(f.caption("Label1"), "-10");
-    EXPECT_EQ(f.caption("Label2"), "3");
-    EXPECT_EQ(f.caption("Label3"), "+");
-    EXPECT_EQ(f.caption("Label4"), "2");
-    EXPECT_EQ(f.caption("Label5"), "-4");
-    EXPECT_EQ(f.caption("Label7"), "=");
-    EXPECT_EQ(f.focus(), "Text1");
-    EXPECT_TRUE(f.isShown("Command2"));
-    EXPECT_FALSE(f.isShown("Command3"));
+    EXPECT_EQ(f.caption("firstNumerator"), "-10");
+    EXPECT_EQ(f.caption("firstDenominator"), "3");
+    EXPECT_EQ(f.caption("operatorSign"), "+");
+    EXPECT_EQ(f.caption("secondNumerator"), "2");
+    EXPECT_EQ(f.caption("secondDenominator"), "-4");
+    EXPECT_EQ(f.caption("answerEquals"), "=");
+    EXPECT_EQ(f.focus(), "numerator");
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
 }
 
 TEST_F(BrokForm, MakesTheBarAsWideAsTheWiderNumber) {
     const FormDriver& f = open(-10, 3, 2, -4, Plus);
-    const Label& a = f.label("Label1");
-    const Label& b = f.label("Label2");
+    const Label& a = f.label("firstNumerator");
+    const Label& b = f.label("firstDenominator");
     EXPECT_FALSE(b.isAutoSize());
     EXPECT_TRUE(a.isAutoSize());
     EXPECT_EQ(a.place().width(), a.textWidth());
     EXPECT_EQ(b.place().width(), a.place().width());
     EXPECT_EQ(a.place().left(), fromTwips(600));
-    EXPECT_EQ(f.find<LineControl>("Line1").ends().x2(), b.place().right());
-    EXPECT_EQ(f.find<LineControl>("Line1").ends().x1(), fromTwips(600));
+    EXPECT_EQ(f.find<LineControl>("firstBar").ends().x2(), b.place().right());
+    EXPECT_EQ(f.find<LineControl>("firstBar").ends().x1(), fromTwips(600));
 
-    const Label& d = f.label("Label5");
-    EXPECT_FALSE(f.label("Label4").isAutoSize());
-    EXPECT_EQ(f.label("Label4").place().width(), d.textWidth());
+    const Label& d = f.label("secondDenominator");
+    EXPECT_FALSE(f.label("secondNumerator").isAutoSize());
+    EXPECT_EQ(f.label("secondNumerator").place().width(), d.textWidth());
     EXPECT_EQ(d.place().left(), fromTwips(2160));
-    EXPECT_EQ(f.find<LineControl>("Line2").ends().x2(), d.place().right());
+    EXPECT_EQ(f.find<LineControl>("secondBar").ends().x2(), d.place().right());
 }
 
 TEST_F(BrokForm, TakesAutoSizeFromTheFirstOfTwoEquallyWideNumbers) {
     const FormDriver& f = open(2, 3, 4, 5, Plus);
-    EXPECT_FALSE(f.label("Label1").isAutoSize());
-    EXPECT_TRUE(f.label("Label2").isAutoSize());
-    EXPECT_FALSE(f.label("Label4").isAutoSize());
-    EXPECT_TRUE(f.label("Label5").isAutoSize());
+    EXPECT_FALSE(f.label("firstNumerator").isAutoSize());
+    EXPECT_TRUE(f.label("firstDenominator").isAutoSize());
+    EXPECT_FALSE(f.label("secondNumerator").isAutoSize());
+    EXPECT_TRUE(f.label("secondDenominator").isAutoSize());
 }
 
 TEST_F(BrokForm, IsSolvedByKeysAlone) {
     const FormDriver& f = open(1, 2, 1, 3, Plus);
-    f.type("Text1", "5");
-    f.press("Text1", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text2");
-    f.type("Text2", "6");
-    f.press("Text2", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command2");
-    f.press("Command2", Qt::Key_Return);
-    EXPECT_EQ(f.caption("Label6"), "RIGTIGT");
-    EXPECT_EQ(f.label("Label6").backColour(), QColor(0, 130, 0));
-    EXPECT_TRUE(f.isShown("Label6"));
-    EXPECT_EQ(f.focus(), "Command1");
+    f.type("numerator", "5");
+    f.press("numerator", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "denominator");
+    f.type("denominator", "6");
+    f.press("denominator", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "ok");
+    f.press("ok", Qt::Key_Return);
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
+    EXPECT_EQ(f.label("verdict").backColour(), QColor(0, 130, 0));
+    EXPECT_TRUE(f.isShown("verdict"));
+    EXPECT_EQ(f.focus(), "newExercise");
     script(1, 2, 1, 5, Plus);
-    f.press("Command1", Qt::Key_Return);
-    EXPECT_EQ(f.caption("Label5"), "5");
-    EXPECT_FALSE(f.isShown("Label6"));
-    EXPECT_EQ(f.focus(), "Text1");
+    f.press("newExercise", Qt::Key_Return);
+    EXPECT_EQ(f.caption("secondDenominator"), "5");
+    EXPECT_FALSE(f.isShown("verdict"));
+    EXPECT_EQ(f.focus(), "numerator");
 }
 
 TEST_F(BrokForm, MarksBothBoxesOfAWrongAnswer) {
     const FormDriver& f = open(1, 2, 1, 3, Plus);
     answer("5", "7");
-    EXPECT_EQ(colour("Text1"), kRed);
-    EXPECT_EQ(colour("Text2"), kRed);
-    EXPECT_EQ(f.caption("Label6"), "FORKERT");
-    EXPECT_EQ(f.label("Label6").backColour(), QColor(255, 0, 0));
-    EXPECT_TRUE(f.isShown("Command2"));
-    EXPECT_TRUE(f.isShown("Command3"));
-    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_EQ(colour("numerator"), kRed);
+    EXPECT_EQ(colour("denominator"), kRed);
+    EXPECT_EQ(f.caption("verdict"), "FORKERT");
+    EXPECT_EQ(f.label("verdict").backColour(), QColor(255, 0, 0));
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_TRUE(f.isShown("giveAnswer"));
+    EXPECT_EQ(f.focus(), "numerator");
 }
 
 TEST_F(BrokForm, MayBeTriedAgainAndAgain) {
     const FormDriver& f = open(1, 2, 1, 3, Plus);
     for (int i = 0; i < 5; ++i) {
         answer(std::to_string(100 + i), "7");
-        EXPECT_TRUE(f.isShown("Command3"));
+        EXPECT_TRUE(f.isShown("giveAnswer"));
     }
     answer("-10", "-12");
-    EXPECT_EQ(f.caption("Label6"), "RIGTIGT");
-    EXPECT_EQ(colour("Text1"), kWhite);
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_FALSE(f.isShown("Command3"));
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
+    EXPECT_EQ(colour("numerator"), kWhite);
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
 }
 
 TEST_F(BrokForm, TellsThatZeroDividesNothing) {
@@ -144,11 +145,11 @@ TEST_F(BrokForm, TellsThatZeroDividesNothing) {
         for (const char* m : {"0", "", "abc"}) {
             answer(n, m);
             EXPECT_EQ(f.answerMessage(), "Du må ikke dividere med nul") << n << "/" << m;
-            EXPECT_EQ(f.focus(), "Text2");
-            EXPECT_FALSE(f.isShown("Label6"));
-            EXPECT_EQ(colour("Text2"), kWhite);
-            EXPECT_EQ(f.box("Text1").content(), n);
-            EXPECT_EQ(f.box("Text2").content(), m);
+            EXPECT_EQ(f.focus(), "denominator");
+            EXPECT_FALSE(f.isShown("verdict"));
+            EXPECT_EQ(colour("denominator"), kWhite);
+            EXPECT_EQ(f.box("numerator").content(), n);
+            EXPECT_EQ(f.box("denominator").content(), m);
         }
     }
 }
@@ -158,193 +159,204 @@ TEST_F(BrokForm, LeavesTheVerdictStandingBehindTheMessage) {
     answer("5", "7");
     answer("5", "0");
     EXPECT_EQ(f.answerMessage(), "Du må ikke dividere med nul");
-    EXPECT_TRUE(f.isShown("Label6"));
-    EXPECT_EQ(f.caption("Label6"), "FORKERT");
-    EXPECT_TRUE(f.isShown("Command3"));
+    EXPECT_TRUE(f.isShown("verdict"));
+    EXPECT_EQ(f.caption("verdict"), "FORKERT");
+    EXPECT_TRUE(f.isShown("giveAnswer"));
 }
 
 TEST_F(BrokForm, TakesAnEmptyNumeratorForAWrongZero) {
     const FormDriver& f = open(1, 2, 1, 3, Plus);
     answer("", "6");
-    EXPECT_EQ(f.caption("Label6"), "FORKERT");
+    EXPECT_EQ(f.caption("verdict"), "FORKERT");
 }
 
 TEST_F(BrokForm, ShowsOneWhereTheResultIsOne) {
     const FormDriver& f = open(1, 2, 1, 2, Plus);
     answer("2", "2");
-    EXPECT_EQ(f.caption("Label12"), "1");
-    EXPECT_TRUE(f.isShown("Label12"));
-    EXPECT_TRUE(f.isShown("Label10"));
-    EXPECT_FALSE(f.isShown("Line4"));
+    EXPECT_EQ(f.caption("reducedWholeNumber"), "1");
+    EXPECT_TRUE(f.isShown("reducedWholeNumber"));
+    EXPECT_TRUE(f.isShown("reducedEquals"));
+    EXPECT_FALSE(f.isShown("reducedBar"));
 }
 
 TEST_F(BrokForm, ShowsTheReducedFormOfAnUnreducedAnswer) {
     const FormDriver& f = open(1, 2, 1, 4, Plus);  // 6/8
     answer("6", "8");
-    EXPECT_EQ(f.caption("Label9"), "3");
-    EXPECT_EQ(f.caption("Label11"), "4");
-    EXPECT_TRUE(f.isShown("Line4"));
-    EXPECT_TRUE(f.isShown("Label10"));
-    EXPECT_FALSE(f.isShown("Label12"));
+    EXPECT_EQ(f.caption("reducedNumerator"), "3");
+    EXPECT_EQ(f.caption("reducedDenominator"), "4");
+    EXPECT_TRUE(f.isShown("reducedBar"));
+    EXPECT_TRUE(f.isShown("reducedEquals"));
+    EXPECT_FALSE(f.isShown("reducedWholeNumber"));
 }
 
 TEST_F(BrokForm, ShowsNothingMoreForAReducedAnswer) {
     const FormDriver& f = open(1, 2, 1, 4, Plus);
     answer("3", "4");
-    EXPECT_EQ(f.caption("Label9"), "");
-    EXPECT_FALSE(f.isShown("Line4"));
-    EXPECT_FALSE(f.isShown("Label10"));
+    EXPECT_EQ(f.caption("reducedNumerator"), "");
+    EXPECT_FALSE(f.isShown("reducedBar"));
+    EXPECT_FALSE(f.isShown("reducedEquals"));
 }
 
 TEST_F(BrokForm, ShowsMinusThreeOverFourForThreeOverMinusFour) {
     const FormDriver& f = open(-3, 2, 1, 2, Times);  // -3/4
     answer("3", "-4");
-    EXPECT_EQ(f.caption("Label6"), "RIGTIGT");
-    EXPECT_EQ(f.caption("Label9"), "-3");
-    EXPECT_EQ(f.caption("Label11"), "4");
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
+    EXPECT_EQ(f.caption("reducedNumerator"), "-3");
+    EXPECT_EQ(f.caption("reducedDenominator"), "4");
 }
 
 TEST_F(BrokForm, ShowsAWholeNumberForMinusTwelveSixths) {
     const FormDriver& f = open(-4, 2, 3, 3, Times);  // -12/6
     answer("-12", "6");
-    EXPECT_EQ(f.caption("Label12"), "-2");
+    EXPECT_EQ(f.caption("reducedWholeNumber"), "-2");
 }
 
 TEST_F(BrokForm, GivesTheUnreducedAnswerWithTheReducedBesideIt) {
     const FormDriver& f = open(1, 2, 1, 4, Plus);
     answer("1", "9");
-    f.click("Command3");
-    EXPECT_EQ(f.box("Text1").content(), "6");
-    EXPECT_EQ(f.box("Text2").content(), "8");
-    EXPECT_EQ(colour("Text1"), kWhite);
-    EXPECT_EQ(colour("Text2"), kWhite);
-    EXPECT_EQ(f.caption("Label9"), "3");
-    EXPECT_FALSE(f.isShown("Label6"));
-    EXPECT_EQ(f.caption("Label6"), "RIGTIGT") << "made ready, not shown";
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_FALSE(f.isShown("Command3"));
-    EXPECT_EQ(f.focus(), "Command1");
+    f.click("giveAnswer");
+    EXPECT_EQ(f.box("numerator").content(), "6");
+    EXPECT_EQ(f.box("denominator").content(), "8");
+    EXPECT_EQ(colour("numerator"), kWhite);
+    EXPECT_EQ(colour("denominator"), kWhite);
+    EXPECT_EQ(f.caption("reducedNumerator"), "3");
+    EXPECT_FALSE(f.isShown("verdict"));
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT") << "made ready, not shown";
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
+    EXPECT_EQ(f.focus(), "newExercise");
 }
 
 TEST_F(BrokForm, ForgetsEverythingWithTheNextExercise) {
     const FormDriver& f = open(1, 2, 1, 4, Plus);
     answer("6", "8");
-    f.click("Command4");
-    f.click("Command5");
+    f.click("help");
+    f.click("showWorkedSolution");
     script(1, 2, 1, 3, Plus);
-    f.click("Command1");
-    for (const char* hidden : {"Picture1", "Picture2", "Label12", "Label10", "Line4", "Label6", "Command3"}) {
+    f.click("newExercise");
+    for (const char* hidden : {"helpPanel", "solutionStep", "reducedWholeNumber", "reducedEquals",
+                               "reducedBar", "verdict", "giveAnswer"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_EQ(f.caption("Label9") + f.caption("Label11"), "");
-    EXPECT_EQ(f.box("Text1").content() + f.box("Text2").content(), "");
+    EXPECT_EQ(f.caption("reducedNumerator") + f.caption("reducedDenominator"), "");
+    EXPECT_EQ(f.box("numerator").content() + f.box("denominator").content(), "");
 }
 
 TEST_F(BrokForm, EnterInTheLastBoxDoesNothingOnceSolved) {
     const FormDriver& f = open(1, 2, 1, 3, Plus);
     answer("5", "6");
-    f.box("Text2").setFocus();
-    f.press("Text2", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text2");
+    f.box("denominator").setFocus();
+    f.press("denominator", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "denominator");
 }
 
 TEST_F(BrokForm, OpensTheGeneralMethodOfItsOperator) {
     const FormDriver& f = open(1, 2, 1, 3, Minus);
-    f.click("Command4");
-    EXPECT_TRUE(f.isShown("Picture1"));
-    EXPECT_FALSE(f.isShown("Picture2"));
-    EXPECT_EQ(f.focus(), "Command5");
-    EXPECT_EQ(f.caption("Label17"), "-");
-    EXPECT_EQ(f.caption("Label15"), "I denne opgave skal du trække én brøk fra en anden");
-    EXPECT_EQ(f.caption("Label21"), "a*d - c*b");
-    EXPECT_EQ(f.caption("Label22"), "b*d");
-    EXPECT_EQ(f.label("Label22").place().width(), f.label("Label21").place().width());
-    EXPECT_EQ(f.find<LineControl>("Line7").ends().x2(), f.label("Label21").place().right());
+    f.click("help");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_FALSE(f.isShown("solutionStep"));
+    EXPECT_EQ(f.focus(), "showWorkedSolution");
+    EXPECT_EQ(f.caption("generalOperatorSign"), "-");
+    EXPECT_EQ(f.caption("generalTask"), "I denne opgave skal du trække én brøk fra en anden");
+    EXPECT_EQ(f.caption("generalResultNumerator"), "a*d - c*b");
+    EXPECT_EQ(f.caption("generalResultDenominator"), "b*d");
+    EXPECT_EQ(f.label("generalResultDenominator").place().width(),
+              f.label("generalResultNumerator").place().width());
+    EXPECT_EQ(f.find<LineControl>("generalResultBar").ends().x2(),
+              f.label("generalResultNumerator").place().right());
 }
 
 TEST_F(BrokForm, HasTheHeadingsAndButtonsOfAPanel) {
     const FormDriver& f = open(1, 2, 1, 3, Minus);
-    EXPECT_EQ(f.caption("Label13"), "Generel løsning");
-    EXPECT_EQ(f.caption("Label14"), "Aktuel løsning");
-    EXPECT_EQ(f.button("Command5").caption(), "Vis");
-    EXPECT_EQ(f.button("Command6").caption(), "&Luk");
-    for (const auto& [label, text] :
-         {std::pair{"Label16", "a"}, {"Label18", "b"}, {"Label19", "c"}, {"Label20", "d"}}) {
+    EXPECT_EQ(f.caption("generalHeading"), "Generel løsning");
+    EXPECT_EQ(f.caption("workedHeading"), "Aktuel løsning");
+    EXPECT_EQ(f.button("showWorkedSolution").caption(), "Vis");
+    EXPECT_EQ(f.button("closeHelp").caption(), "&Luk");
+    for (const auto& [label, text] : {std::pair{"generalFirstNumerator", "a"},
+                                      {"generalFirstDenominator", "b"},
+                                      {"generalSecondNumerator", "c"},
+                                      {"generalSecondDenominator", "d"}}) {
         EXPECT_EQ(f.caption(label), text);
     }
 }
 
 TEST_F(BrokForm, WorksTheTaskOutInARow) {
     const FormDriver& f = open(-1, 2, 3, -4, Plus);  // 10/-8
-    f.click("Command4");
-    f.press("Command5", Qt::Key_Return);
-    EXPECT_TRUE(f.isShown("Picture2"));
+    f.click("help");
+    f.press("showWorkedSolution", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("solutionStep"));
     std::string row;
-    for (const char* piece :
-         {"brokk_0", "brokk_1", "brokk_2", "brokk_3", "brokk_4", "brokk_5", "brokk_6", "brokk_7", "brokk_8",
-          "brokk_9", "brokk_10", "brokk_11", "brokk_12", "brokk_13"}) {
+    for (const char* piece : {"workedFirstNumerator", "workedFirstDenominator", "workedOperatorSign",
+                              "workedSecondNumerator", "workedSecondDenominator", "workedWrittenOutEquals",
+                              "workedWrittenOutNumerator", "workedWrittenOutDenominator",
+                              "workedComputedEquals", "workedComputedNumerator", "workedComputedDenominator",
+                              "workedReducedEquals", "workedReducedNumerator", "workedReducedDenominator"}) {
         row += f.caption(piece) + "|";
     }
     EXPECT_EQ(row, "-1|2|+|3|-4|=|(-1)*(-4) + 3*2|2*(-4)|=|10|-8|=|-5|4|");
-    EXPECT_FALSE(f.isShown("Label23"));
-    EXPECT_EQ(f.label("brokk_6").place().left(), fromTwips(1080));
-    EXPECT_EQ(f.label("brokk_7").place().width(), f.label("brokk_6").place().width());
-    EXPECT_EQ(f.find<LineControl>("Line10").ends().x2(), f.label("brokk_6").place().right());
+    EXPECT_FALSE(f.isShown("workedReducedWholeNumber"));
+    EXPECT_EQ(f.label("workedWrittenOutNumerator").place().left(), fromTwips(1080));
+    EXPECT_EQ(f.label("workedWrittenOutDenominator").place().width(),
+              f.label("workedWrittenOutNumerator").place().width());
+    EXPECT_EQ(f.find<LineControl>("workedWrittenOutBar").ends().x2(),
+              f.label("workedWrittenOutNumerator").place().right());
 }
 
 TEST_F(BrokForm, EndsTheRowInAWholeNumber) {
     const FormDriver& f = open(-4, 2, 3, 3, Times);
-    f.click("Command4");
-    f.click("Command5");
-    EXPECT_EQ(f.caption("Label23"), "-2");
-    EXPECT_TRUE(f.isShown("Label23"));
-    EXPECT_TRUE(f.isShown("brokk_11"));
-    for (const char* hidden : {"brokk_12", "brokk_13", "Line12"}) {
+    f.click("help");
+    f.click("showWorkedSolution");
+    EXPECT_EQ(f.caption("workedReducedWholeNumber"), "-2");
+    EXPECT_TRUE(f.isShown("workedReducedWholeNumber"));
+    EXPECT_TRUE(f.isShown("workedReducedEquals"));
+    for (const char* hidden : {"workedReducedNumerator", "workedReducedDenominator", "workedReducedBar"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
 }
 
 TEST_F(BrokForm, EndsTheRowEarlyWhereNothingCancels) {
     const FormDriver& f = open(1, 2, 1, 3, Plus);
-    f.click("Command4");
-    f.click("Command5");
-    for (const char* hidden : {"brokk_11", "brokk_12", "brokk_13", "Line12", "Label23"}) {
+    f.click("help");
+    f.click("showWorkedSolution");
+    for (const char* hidden : {"workedReducedEquals", "workedReducedNumerator", "workedReducedDenominator",
+                               "workedReducedBar", "workedReducedWholeNumber"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
 }
 
 TEST_F(BrokForm, ShowsTheEndOfTheRowAgainAfterAShorterOne) {
     const FormDriver& f = open(1, 2, 1, 3, Plus);
-    f.click("Command4");
-    f.click("Command5");
+    f.click("help");
+    f.click("showWorkedSolution");
     script(1, 2, 1, 4, Plus);
-    f.click("Command1");
-    f.click("Command4");
-    f.click("Command5");
-    for (const char* shown : {"brokk_11", "brokk_12", "brokk_13", "Line12"}) {
+    f.click("newExercise");
+    f.click("help");
+    f.click("showWorkedSolution");
+    for (const char* shown :
+         {"workedReducedEquals", "workedReducedNumerator", "workedReducedDenominator", "workedReducedBar"}) {
         EXPECT_TRUE(f.isShown(shown)) << shown;
     }
-    EXPECT_EQ(f.caption("brokk_12"), "3");
+    EXPECT_EQ(f.caption("workedReducedNumerator"), "3");
 }
 
 TEST_F(BrokForm, ClosesItsHelpAndKeepsWhatWasTyped) {
     const FormDriver& f = open(1, 2, 1, 3, Plus);
-    f.type("Text1", "4");
-    f.click("Command4");
-    f.click("Command5");
-    f.click("Command6");
-    EXPECT_FALSE(f.isShown("Picture1"));
-    EXPECT_FALSE(f.isShown("Picture2"));
-    EXPECT_EQ(f.box("Text1").content(), "4");
+    f.type("numerator", "4");
+    f.click("help");
+    f.click("showWorkedSolution");
+    f.click("closeHelp");
+    EXPECT_FALSE(f.isShown("helpPanel"));
+    EXPECT_FALSE(f.isShown("solutionStep"));
+    EXPECT_EQ(f.box("numerator").content(), "4");
 }
 
 TEST_F(BrokForm, HasRoomForTheLongestNumbers) {
     for (const Type type : {Minus, Plus, Times, By}) {
         const FormDriver& f = open(-10, -10, -10, 9, type);
         answer("1", "1");
-        f.click("Command3");
-        f.click("Command4");
-        f.click("Command5");
+        f.click("giveAnswer");
+        f.click("help");
+        f.click("showWorkedSolution");
         EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{}) << type;
     }
 }
