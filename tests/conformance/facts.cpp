@@ -11,8 +11,8 @@ const std::vector<FormFacts>& allForms() {
     static const std::vector<FormFacts> forms{
         {Name::Brok, "newExercise", "ok", "giveAnswer", "help", "verdict", "verdict", false, false,
          "denominator", "numerator", "", "helpPanel", "closeHelp"},
-        {Name::Dlinie, "Command1", "Command2", "Command3", "Command4", "Labelf", "Labelf", false, false,
-         "Text2", "Text1", "", "", ""},
+        {Name::Dlinie, "newExercise", "ok", "giveAnswer", "help", "verdict", "verdict", false, false,
+         "intercept", "slope", "", "", ""},
         {Name::Afsaet, "Command1", "Command2", "Command3", "Command4", "Labelr", "Labelr", false, false,
          "Text4", "Text1", "", "", ""},
         {Name::Konvert, "newExercise", "ok", "giveAnswer", "help", "right", "wrong", true, true, "intercept",

@@ -26,34 +26,32 @@ void showSlope(const DlinieSlopeStep& step, const Fraction& fraction, Label* res
 
 Dlinie::Dlinie(Draws& draws) : ExerciseForm(PageName::Dlinie, draws), ui_(std::make_unique<Ui::Dlinie>()) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command1,
-             .ok = ui_->Command2,
-             .giveAnswer = ui_->Command3,
-             .help = ui_->Command4});
-    verdict(OneLabel{ui_->Labelf});
-    enterChain({ui_->Text1, ui_->Text2}, LastBox::OkOrStay);
-    onClick(ui_->Command5, &Dlinie::showSlopeOfTwoPoints);
-    onClick(ui_->Command6, &Dlinie::showInterceptOfTwoPoints);
-    onClick(ui_->Command7, &Dlinie::closeTwoPoints);
-    onClick(ui_->Command8, &Dlinie::showInterceptOfPoint);
-    onClick(ui_->Command9, &Dlinie::closeSlopeAndPoint);
-    onClick(ui_->Command10, &Dlinie::closeSlopeAndYCross);
-    onClick(ui_->Command11, &Dlinie::showInterceptOfXCross);
-    onClick(ui_->Command12, &Dlinie::closeSlopeAndXCross);
-    onClick(ui_->Command13, &Dlinie::showSlopeOfBothCrosses);
-    onClick(ui_->Command14, &Dlinie::closeBothCrosses);
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(OneLabel{ui_->verdict});
+    enterChain({ui_->slope, ui_->intercept}, LastBox::OkOrStay);
+    onClick(ui_->showTwoPointsSlope, &Dlinie::showSlopeOfTwoPoints);
+    onClick(ui_->showTwoPointsIntercept, &Dlinie::showInterceptOfTwoPoints);
+    onClick(ui_->closeTwoPointsHelp, &Dlinie::closeTwoPoints);
+    onClick(ui_->showSlopeAndPointIntercept, &Dlinie::showInterceptOfPoint);
+    onClick(ui_->closeSlopeAndPointHelp, &Dlinie::closeSlopeAndPoint);
+    onClick(ui_->closeSlopeAndYCrossHelp, &Dlinie::closeSlopeAndYCross);
+    onClick(ui_->showSlopeAndXCrossIntercept, &Dlinie::showInterceptOfXCross);
+    onClick(ui_->closeSlopeAndXCrossHelp, &Dlinie::closeSlopeAndXCross);
+    onClick(ui_->showBothCrossesSlope, &Dlinie::showSlopeOfBothCrosses);
+    onClick(ui_->closeBothCrossesHelp, &Dlinie::closeBothCrosses);
 }
 
 Dlinie::~Dlinie() = default;
 
 void Dlinie::firstTick() {
-    ui_->Picture1->Scale(-kEnd, kEnd, kEnd, -kEnd);
+    ui_->graph->Scale(-kEnd, kEnd, kEnd, -kEnd);
     // Kept: the first exercise alone may have a slope of 0.
     ask(ZeroSlope::Allowed);
 }
 
 void Dlinie::newExercise() {
-    whiten({ui_->Text1, ui_->Text2});
+    whiten({ui_->slope, ui_->intercept});
     ask(ZeroSlope::Rejected);
     closeTwoPoints();
     closeSlopeAndPoint();
@@ -64,61 +62,61 @@ void Dlinie::newExercise() {
 
 void Dlinie::ask(ZeroSlope zeroSlope) {
     showAsking();
-    ui_->Picture1->Cls();
-    ui_->Text1->setContent("");
-    ui_->Text2->setContent("");
+    ui_->graph->Cls();
+    ui_->slope->setContent("");
+    ui_->intercept->setContent("");
     drawAxes();
 
     tavrune::newExercise(state_, draws(), zeroSlope);
 
     // Without a kind the texts of the last exercise stay.
     if (const auto task = taskTexts(state_)) {
-        ui_->Label1->setCaption(task->sentence);
-        ui_->Label3->setCaption(task->firstFact);
-        ui_->Label4->setCaption(task->secondFact);
+        ui_->task->setCaption(task->sentence);
+        ui_->firstFact->setCaption(task->firstFact);
+        ui_->secondFact->setCaption(task->secondFact);
     }
-    focusOn(ui_->Text1);
+    focusOn(ui_->slope);
 }
 
 void Dlinie::drawAxes() {
-    GraphBox& graph = *ui_->Picture1;
+    GraphBox& graph = *ui_->graph;
     graph.Line(0, kEnd, 0, -kEnd);
     graph.Line(-kEnd, 0, kEnd, 0);
     // Kept: the far ends go without a dot, and the Y axis without its lowest.
     drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd}, {0.1});
     drawTicksAlongY(graph, {.from = -kEnd + 1, .before = kEnd}, {0.07});
-    graph.place(*ui_->Label6, 4.7, -0.2);
-    graph.place(*ui_->Label7, -1, -4.5);
-    graph.place(*ui_->Label8, -5.2, -0.2);
-    graph.place(*ui_->Label9, -0.8, 5.3);
+    graph.place(*ui_->xMark5, 4.7, -0.2);
+    graph.place(*ui_->yMarkMinus5, -1, -4.5);
+    graph.place(*ui_->xMarkMinus5, -5.2, -0.2);
+    graph.place(*ui_->yMark5, -0.8, 5.3);
 }
 
 void Dlinie::drawLine(double slope, double intercept, const QColor& colour) {
-    ui_->Picture1->Line(-kEnd, slope * -kEnd + intercept, kEnd, slope * kEnd + intercept, colour);
+    ui_->graph->Line(-kEnd, slope * -kEnd + intercept, kEnd, slope * kEnd + intercept, colour);
 }
 
 void Dlinie::judge() {
-    const double slope = ui_->Text1->value();
-    const double intercept = ui_->Text2->value();
+    const double slope = ui_->slope->value();
+    const double intercept = ui_->intercept->value();
     const DlinieJudgement judgement = judged(state_, slope, intercept);
-    ui_->Text1->mark(!judgement.slopeIsRight);
-    ui_->Text2->mark(!judgement.interceptIsRight);
+    ui_->slope->mark(!judgement.slopeIsRight);
+    ui_->intercept->mark(!judgement.interceptIsRight);
     if (judgement.isRight()) {
         solved();
         drawLine(state_.slope, state_.intercept, kGreen);
     } else {
         drawLine(slope, intercept, kRed);
         failed();
-        focusOn(ui_->Text1);
+        focusOn(ui_->slope);
     }
 }
 
 void Dlinie::giveAnswer() {
     given();
-    ui_->Text1->setContent(NumberText(state_.slope));
-    ui_->Text2->setContent(interceptAnswer(state_));
+    ui_->slope->setContent(NumberText(state_.slope));
+    ui_->intercept->setContent(interceptAnswer(state_));
     drawLine(state_.slope, state_.intercept, kGreen);
-    whiten({ui_->Text1, ui_->Text2});
+    whiten({ui_->slope, ui_->intercept});
 }
 
 void Dlinie::help() {
@@ -126,65 +124,79 @@ void Dlinie::help() {
         case LineTask::None:
             break;
         case LineTask::TwoPoints:
-            openPanel(ui_->Picture2, ui_->Command5);
+            openPanel(ui_->twoPointsHelpPanel, ui_->showTwoPointsSlope);
             break;
         case LineTask::SlopeAndPoint:
-            openPanel(ui_->Picture4, ui_->Command8);
+            openPanel(ui_->slopeAndPointHelpPanel, ui_->showSlopeAndPointIntercept);
             break;
         case LineTask::SlopeAndYCross:
             // It has no step to show, so the focus stays.
-            ui_->Picture5->show();
+            ui_->slopeAndYCrossHelpPanel->show();
             break;
         case LineTask::SlopeAndXCross:
-            openPanel(ui_->Picture6, ui_->Command11);
+            openPanel(ui_->slopeAndXCrossHelpPanel, ui_->showSlopeAndXCrossIntercept);
             break;
         case LineTask::BothCrosses:
-            openPanel(ui_->Picture8, ui_->Command13);
+            openPanel(ui_->bothCrossesHelpPanel, ui_->showBothCrossesSlope);
             break;
     }
 }
 
 void Dlinie::showSlopeOfTwoPoints() {
-    ui_->Picture3->show();
-    showSlope(slopeBetweenPoints(state_), Fraction(ui_->Label20, ui_->Line2, ui_->Label21), ui_->Label28);
+    ui_->twoPointsSlopeStep->show();
+    showSlope(slopeBetweenPoints(state_),
+              Fraction(ui_->twoPointsWorkedSlopeNumerator, ui_->twoPointsWorkedSlopeBar,
+                       ui_->twoPointsWorkedSlopeDenominator),
+              ui_->twoPointsWorkedSlopeResult);
 }
 
 void Dlinie::showInterceptOfTwoPoints() {
     const DlinieInterceptStep step = interceptFromFirstPoint(state_);
-    showAll({ui_->Label26, ui_->Label27});
-    ui_->Label26->setCaption(step.inserted);
-    ui_->Label27->setCaption(step.solved);
+    showAll({ui_->twoPointsWorkedPointInserted, ui_->twoPointsWorkedIntercept});
+    ui_->twoPointsWorkedPointInserted->setCaption(step.inserted);
+    ui_->twoPointsWorkedIntercept->setCaption(step.solved);
 }
 
 void Dlinie::showInterceptOfPoint() {
     const DlinieInterceptStep step = interceptFromPoint(state_);
-    showAll({ui_->Label34, ui_->Label35});
-    ui_->Label34->setCaption(step.inserted);
-    ui_->Label35->setCaption(step.solved);
+    showAll({ui_->slopeAndPointWorkedPointInserted, ui_->slopeAndPointWorkedIntercept});
+    ui_->slopeAndPointWorkedPointInserted->setCaption(step.inserted);
+    ui_->slopeAndPointWorkedIntercept->setCaption(step.solved);
 }
 
 void Dlinie::showInterceptOfXCross() {
     const DlinieCrossStep step = interceptFromXCross(state_);
-    ui_->Picture7->show();
-    ui_->Label44->setCaption(step.inserted);
-    ui_->Label45->setCaption(step.withZero);
-    ui_->Label46->setCaption(step.solved);
-    ui_->Label47->setCaption(step.result);
+    ui_->slopeAndXCrossInterceptStep->show();
+    ui_->slopeAndXCrossWorkedXInserted->setCaption(step.inserted);
+    ui_->slopeAndXCrossWorkedYInserted->setCaption(step.withZero);
+    ui_->slopeAndXCrossWorkedIntercept->setCaption(step.solved);
+    ui_->slopeAndXCrossWorkedResult->setCaption(step.result);
 }
 
 void Dlinie::showSlopeOfBothCrosses() {
-    ui_->Picture9->show();
-    showSlope(slopeBetweenCrosses(state_), Fraction(ui_->Label63, ui_->Line5, ui_->Label64), ui_->Label65);
+    ui_->bothCrossesSlopeStep->show();
+    showSlope(slopeBetweenCrosses(state_),
+              Fraction(ui_->bothCrossesWorkedSlopeNumerator, ui_->bothCrossesWorkedSlopeBar,
+                       ui_->bothCrossesWorkedSlopeDenominator),
+              ui_->bothCrossesWorkedSlopeResult);
 }
 
-void Dlinie::closeTwoPoints() { hideAll({ui_->Picture2, ui_->Picture3, ui_->Label26, ui_->Label27}); }
+void Dlinie::closeTwoPoints() {
+    hideAll({ui_->twoPointsHelpPanel, ui_->twoPointsSlopeStep, ui_->twoPointsWorkedPointInserted,
+             ui_->twoPointsWorkedIntercept});
+}
 
-void Dlinie::closeSlopeAndPoint() { hideAll({ui_->Label34, ui_->Label35, ui_->Picture4}); }
+void Dlinie::closeSlopeAndPoint() {
+    hideAll({ui_->slopeAndPointWorkedPointInserted, ui_->slopeAndPointWorkedIntercept,
+             ui_->slopeAndPointHelpPanel});
+}
 
-void Dlinie::closeSlopeAndYCross() { ui_->Picture5->hide(); }
+void Dlinie::closeSlopeAndYCross() { ui_->slopeAndYCrossHelpPanel->hide(); }
 
-void Dlinie::closeSlopeAndXCross() { hideAll({ui_->Picture6, ui_->Picture7}); }
+void Dlinie::closeSlopeAndXCross() {
+    hideAll({ui_->slopeAndXCrossHelpPanel, ui_->slopeAndXCrossInterceptStep});
+}
 
-void Dlinie::closeBothCrosses() { hideAll({ui_->Picture8, ui_->Picture9}); }
+void Dlinie::closeBothCrosses() { hideAll({ui_->bothCrossesHelpPanel, ui_->bothCrossesSlopeStep}); }
 
 }  // namespace tavrune
