@@ -19,38 +19,36 @@ constexpr double kGap = 4;
 
 Tomto::Tomto(Draws& draws) : ExerciseForm(PageName::Tomto, draws), ui_(std::make_unique<Ui::Tomto>()) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command1,
-             .ok = ui_->Command2,
-             .giveAnswer = ui_->Command3,
-             .help = ui_->Command7});
-    verdict(OneLabel{ui_->Label5});
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(OneLabel{ui_->verdict});
     // Kept: from the right-hand field to the left one, against the layout.
-    enterChain({ui_->Text2, ui_->Text1}, LastBox::OkOrStay);
-    options_ = {{ui_->Option1, Relation::Crossing},
-                {ui_->Option2, Relation::Parallel},
-                {ui_->Option3, Relation::Coinciding}};
-    onClick(ui_->Option1, &Tomto::askForCrossing);
-    onClick(ui_->Option2, &Tomto::hideCrossing);
-    onClick(ui_->Option3, &Tomto::hideCrossing);
-    onClick(ui_->Command5, &Tomto::showWorkedExplicit);
-    onClick(ui_->Command6, &Tomto::closeExplicitHelp);
-    onClick(ui_->Command10, &Tomto::showWorkedImplicit);
-    onClick(ui_->Command4, &Tomto::closeImplicitHelp);
+    enterChain({ui_->crossingPointPrice, ui_->crossingPointQuantity}, LastBox::OkOrStay);
+    options_ = {{ui_->crossing, Relation::Crossing},
+                {ui_->parallel, Relation::Parallel},
+                {ui_->coinciding, Relation::Coinciding}};
+    onClick(ui_->crossing, &Tomto::askForCrossing);
+    onClick(ui_->parallel, &Tomto::hideCrossing);
+    onClick(ui_->coinciding, &Tomto::hideCrossing);
+    onClick(ui_->showExplicitWorkedSolution, &Tomto::showWorkedExplicit);
+    onClick(ui_->closeExplicitHelp, &Tomto::closeExplicitHelp);
+    onClick(ui_->showImplicitWorkedSolution, &Tomto::showWorkedImplicit);
+    onClick(ui_->closeImplicitHelp, &Tomto::closeImplicitHelp);
 }
 
 Tomto::~Tomto() = default;
 
 std::array<Tomto::Field, 2> Tomto::fields() const {
-    return {{{ui_->Text1, state_.solutionQ}, {ui_->Text2, state_.solutionP}}};
+    return {{{ui_->crossingPointQuantity, state_.solutionQ}, {ui_->crossingPointPrice, state_.solutionP}}};
 }
 
 void Tomto::firstTick() {
-    ui_->Label6->setCaption("5");
-    ui_->Label7->setCaption("5");
+    ui_->priceMarkMiddle->setCaption("5");
+    ui_->quantityMarkMiddle->setCaption("5");
     prepare();
     firstExercise(state_, draws());
     showTask();
-    if (ui_->Option1->isChosen()) {
+    if (ui_->crossing->isChosen()) {
         askForCrossing();
     }
 }
@@ -67,47 +65,48 @@ void Tomto::newExercise() {
 void Tomto::prepare() {
     showAsking();
     hideCrossing();
-    ui_->Picture1->DrawWidth(kThin);
-    clearBoxes({ui_->Text1, ui_->Text2});
-    ui_->Picture1->Cls();
+    ui_->graph->DrawWidth(kThin);
+    clearBoxes({ui_->crossingPointQuantity, ui_->crossingPointPrice});
+    ui_->graph->Cls();
     // Kept: the numbers on the axes are left as they are.
-    ui_->Picture1->Scale(0, 10, 10, 0);
+    ui_->graph->Scale(0, 10, 10, 0);
     options_.resetColours();
-    ui_->Label1->show();
+    ui_->equationsBackground->show();
 }
 
 void Tomto::showTask() {
     const auto [l, m] = lineTexts(state_);
-    ui_->Label2->setCaption(l);
-    ui_->Label3->setCaption(m);
+    ui_->givenEquation1->setCaption(l);
+    ui_->givenEquation2->setCaption(m);
 }
 
 void Tomto::askForCrossing() {
-    showAll({ui_->Label4, ui_->Picture2});
-    focusOn(ui_->Text2);
+    showAll({ui_->crossingPointEquals, ui_->crossingPoint});
+    focusOn(ui_->crossingPointPrice);
 }
 
-void Tomto::hideCrossing() { hideAll({ui_->Label4, ui_->Picture2}); }
+void Tomto::hideCrossing() { hideAll({ui_->crossingPointEquals, ui_->crossingPoint}); }
 
 void Tomto::setRange() {
     state_.graphMax = rangeFor(state_);
     const std::string middle = NumberText(state_.graphMax / 2);
-    ui_->Label7->setCaption(middle);
-    ui_->Label6->setCaption(middle);
+    ui_->quantityMarkMiddle->setCaption(middle);
+    ui_->priceMarkMiddle->setCaption(middle);
 }
 
 void Tomto::judge() {
     setRange();
     const float max = state_.graphMax;
-    ui_->Picture1->Scale(0, max, max, 0);
-    if (isRight(state_, options_.chosen(), ui_->Text1->value(), ui_->Text2->value())) {
-        whiten({ui_->Text1, ui_->Text2});
+    ui_->graph->Scale(0, max, max, 0);
+    if (isRight(state_, options_.chosen(), ui_->crossingPointQuantity->value(),
+                ui_->crossingPointPrice->value())) {
+        whiten({ui_->crossingPointQuantity, ui_->crossingPointPrice});
         solved();
         drawLines(state_.formKind == 0 ? kGreen : kBlack);
-        ui_->Picture1->DrawWidth(kThin);
+        ui_->graph->DrawWidth(kThin);
         return;
     }
-    focusOn(ui_->Text2);
+    focusOn(ui_->crossingPointPrice);
     failed();
     // Hidden fields too, whatever is chosen.
     for (const auto& [box, target] : fields()) {
@@ -116,7 +115,7 @@ void Tomto::judge() {
 }
 
 void Tomto::giveAnswer() {
-    whiten({ui_->Text1, ui_->Text2});
+    whiten({ui_->crossingPointQuantity, ui_->crossingPointPrice});
     // Kept: the scale is the judge's; without a judgement it still ends at 10.
     setRange();
     // Kept: the width stays wide until the next exercise.
@@ -127,63 +126,69 @@ void Tomto::giveAnswer() {
         for (const auto& [box, target] : fields()) {
             box->setContent(NumberText(target));
         }
-        showAll({ui_->Picture2, ui_->Label4});
+        showAll({ui_->crossingPoint, ui_->crossingPointEquals});
     }
     given();
 }
 
 void Tomto::drawLines(const QColor& colour) {
     for (const auto& [atZero, atMax] : graphLines(state_)) {
-        ui_->Picture1->Line(0, atZero, state_.graphMax, atMax, colour);
+        ui_->graph->Line(0, atZero, state_.graphMax, atMax, colour);
     }
-    ui_->Picture1->DrawWidth(kThick);
+    ui_->graph->DrawWidth(kThick);
     if (state_.relation == Relation::Crossing) {
-        ui_->Picture1->PSet(state_.solutionQ, state_.solutionP, kBlue);
+        ui_->graph->PSet(state_.solutionQ, state_.solutionP, kBlue);
     }
 }
 
 void Tomto::help() {
     if (state_.formTag == "a") {
         if (hasDerivation(state_)) {
-            ui_->Picture4->show();
+            ui_->explicitDerivation->show();
         }
-        openPanel(ui_->Picture3, ui_->Command5);
+        openPanel(ui_->explicitHelpPanel, ui_->showExplicitWorkedSolution);
     } else if (state_.formTag == "b") {
         if (hasDerivation(state_)) {
-            ui_->Picture6->show();
+            ui_->implicitDerivation->show();
         }
-        openPanel(ui_->Picture5, ui_->Command10);
+        openPanel(ui_->implicitHelpPanel, ui_->showImplicitWorkedSolution);
     }
 }
 
 void Tomto::showWorkedExplicit() {
     const ExplicitWorked worked = workedExplicit(state_);
-    ui_->Label34->setCaption(worked.equated);
-    ui_->Label35->setCaption(worked.collected);
-    ui_->Label36->setCaption(worked.q);
-    ui_->Label37->setCaption(worked.p);
-    showAll({ui_->Label34, ui_->Label35, ui_->Label36, ui_->Label37});
+    ui_->explicitWorkedEquated->setCaption(worked.equated);
+    ui_->explicitWorkedCollected->setCaption(worked.collected);
+    ui_->explicitWorkedQuantity->setCaption(worked.q);
+    ui_->explicitWorkedPrice->setCaption(worked.p);
+    showAll({ui_->explicitWorkedEquated, ui_->explicitWorkedCollected, ui_->explicitWorkedQuantity,
+             ui_->explicitWorkedPrice});
 }
 
 void Tomto::closeExplicitHelp() {
-    hideAll({ui_->Picture3, ui_->Picture4, ui_->Label34, ui_->Label35, ui_->Label36, ui_->Label37});
+    hideAll({ui_->explicitHelpPanel, ui_->explicitDerivation, ui_->explicitWorkedEquated,
+             ui_->explicitWorkedCollected, ui_->explicitWorkedQuantity, ui_->explicitWorkedPrice});
 }
 
 void Tomto::showWorkedImplicit() {
     const ImplicitWorked worked = workedImplicit(state_);
-    const Fraction q(ui_->Label56, ui_->Line10, ui_->Label57);
+    const Fraction q(ui_->implicitWorkedQuantityNumerator, ui_->implicitWorkedQuantityBar,
+                     ui_->implicitWorkedQuantityDenominator);
     q.setTexts(worked.numerator, worked.denominator);
     q.setShown(true);
-    ui_->Label58->setLeft(q.right() + kGap);
-    ui_->Label58->setCaption(worked.q);
-    ui_->Label59->setCaption(worked.inserted);
-    ui_->Label60->setCaption(worked.p);
-    showAll({ui_->Label54, ui_->Label58, ui_->Label59, ui_->Label60});
+    ui_->implicitWorkedQuantity->setLeft(q.right() + kGap);
+    ui_->implicitWorkedQuantity->setCaption(worked.q);
+    ui_->implicitWorkedInserted->setCaption(worked.inserted);
+    ui_->implicitWorkedPrice->setCaption(worked.p);
+    showAll({ui_->implicitWorkedQuantityEquals, ui_->implicitWorkedQuantity, ui_->implicitWorkedInserted,
+             ui_->implicitWorkedPrice});
 }
 
 void Tomto::closeImplicitHelp() {
-    hideAll({ui_->Picture5, ui_->Picture6, ui_->Label54, ui_->Label56, ui_->Label57, ui_->Label58,
-             ui_->Label59, ui_->Label60, ui_->Line10});
+    hideAll({ui_->implicitHelpPanel, ui_->implicitDerivation, ui_->implicitWorkedQuantityEquals,
+             ui_->implicitWorkedQuantityNumerator, ui_->implicitWorkedQuantityDenominator,
+             ui_->implicitWorkedQuantity, ui_->implicitWorkedInserted, ui_->implicitWorkedPrice,
+             ui_->implicitWorkedQuantityBar});
 }
 
 }  // namespace tavrune

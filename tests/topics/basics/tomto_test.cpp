@@ -63,38 +63,38 @@ protected:
 
     void next(const Task& task) {
         script(task);
-        form->click("Command1");
+        form->click("newExercise");
     }
 
     void answer(const std::string& q, const std::string& p) const {
-        form->click("Option1");
-        form->type("Text1", q);
-        form->type("Text2", p);
-        form->click("Command2");
+        form->click("crossing");
+        form->type("crossingPointQuantity", q);
+        form->type("crossingPointPrice", p);
+        form->click("ok");
     }
 
     void choose(const std::string& option) const {
         form->click(option);
-        form->click("Command2");
+        form->click("ok");
     }
 
     [[nodiscard]] QColor colour(const std::string& box) const { return form->box(box).backColour(); }
-    [[nodiscard]] GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+    [[nodiscard]] GraphBox& graph() const { return form->find<GraphBox>("graph"); }
     [[nodiscard]] const std::vector<Stroke>& strokes() const { return graph().strokes(); }
 
     [[nodiscard]] std::string choices() const {
         std::string chosen;
-        for (const char* option : {"Option1", "Option2", "Option3"}) {
+        for (const char* option : {"crossing", "parallel", "coinciding"}) {
             chosen += form->option(option).isChosen() ? 'x' : '-';
         }
         return chosen;
     }
 
     [[nodiscard]] bool isRight() const {
-        return form->isShown("Label5") && form->caption("Label5") == "RIGTIGT";
+        return form->isShown("verdict") && form->caption("verdict") == "RIGTIGT";
     }
     [[nodiscard]] bool isWrong() const {
-        return form->isShown("Label5") && form->caption("Label5") == "FORKERT";
+        return form->isShown("verdict") && form->caption("verdict") == "FORKERT";
     }
 
     ScriptedDraws draws;
@@ -102,81 +102,85 @@ protected:
 };
 
 constexpr test::FixedText kFixedTexts[]{
-    {"Label52", "Bestem det eventuelle skæringspunkt mellem de to rette linier:"},
-    {"Frame1", "Linierne"},
-    {"Option1", "skærer hinanden"},
-    {"Option2", "er parallelle"},
-    {"Option3", "er sammenfaldende"},
-    {"Label4", "Skæringspunktets koordinater: (Q;P) ="},
-    {"Label10", "("},
-    {"Label11", ";"},
-    {"Label12", ")"},
-    {"Label8", "0"},
-    {"Label9", "0"},
-    {"Label13", "P"},
-    {"Label14", "Q"},
-    {"Command1", "&Ny opgave"},
-    {"Command2", "&OK"},
-    {"Command3", "&Giv svaret"},
-    {"Command7", "&Hjælp"},
+    {"task", "Bestem det eventuelle skæringspunkt mellem de to rette linier:"},
+    {"relationChoice", "Linierne"},
+    {"crossing", "skærer hinanden"},
+    {"parallel", "er parallelle"},
+    {"coinciding", "er sammenfaldende"},
+    {"crossingPointEquals", "Skæringspunktets koordinater: (Q;P) ="},
+    {"crossingPointOpeningBracket", "("},
+    {"crossingPointSemicolon", ";"},
+    {"crossingPointClosingBracket", ")"},
+    {"priceMark0", "0"},
+    {"quantityMark0", "0"},
+    {"priceAxisName", "P"},
+    {"quantityAxisName", "Q"},
+    {"newExercise", "&Ny opgave"},
+    {"ok", "&OK"},
+    {"giveAnswer", "&Giv svaret"},
+    {"help", "&Hjælp"},
     // Lines of two terms, with the table of decisions.
-    {"Label15", "De to linier er af typen P = a1*Q + b1"},
-    {"Label16", "P = a2*Q + b2"},
-    {"D",
+    {"explicitEquation1Form", "De to linier er af typen P = a1*Q + b1"},
+    {"explicitEquation2Form", "P = a2*Q + b2"},
+    {"explicitTask",
      "Du skal nu finde ud af om de to linier er sammenfaldende, parallele eller om de skærer hinanden. "
      "I sidste tilfælde skal du finde skæringspunktets koordinater"},
-    {"Label201", "a1 ≠ a2"},
-    {"Label202", "=>"},
-    {"Label203", "linierne skærer  hinanden"},
-    {"Label204", "a1 = a2"},
-    {"Label205", "b1 ≠ b2"},
-    {"Label206", "=>"},
-    {"Label207", "linierne er parallelle"},
-    {"Label208", "b1 = b2"},
-    {"Label209", "=>"},
-    {"Label210", "linierne er sammenfaldende"},
-    {"Label211", "Teoretisk løsning"},
-    {"Label212", "Aktuel løsning"},
-    {"Label17", "Find skæringspunktets koordinater"},
-    {"Label29", "a1Q + b1 = a2Q + b2 =>"},
-    {"Label30", "(a1 - a2) * Q = b2 - b1 =>"},
-    {"Label31", "Q = (b2 - b1)/(a1 - a2)"},
-    {"Label32", "P = a1Q + b1"},
-    {"Command5", "Vis"},
-    {"Command6", "Luk"},
+    {"explicitSlopesDiffer", "a1 ≠ a2"},
+    {"explicitCrossingArrow", "=>"},
+    {"explicitCrossingOutcome", "linierne skærer  hinanden"},
+    {"explicitSlopesEqual", "a1 = a2"},
+    {"explicitInterceptsDiffer", "b1 ≠ b2"},
+    {"explicitParallelArrow", "=>"},
+    {"explicitParallelOutcome", "linierne er parallelle"},
+    {"explicitInterceptsEqual", "b1 = b2"},
+    {"explicitCoincidingArrow", "=>"},
+    {"explicitCoincidingOutcome", "linierne er sammenfaldende"},
+    {"explicitGeneralHeading", "Teoretisk løsning"},
+    {"explicitWorkedHeading", "Aktuel løsning"},
+    {"explicitGeneralText", "Find skæringspunktets koordinater"},
+    {"explicitGeneralEquated", "a1Q + b1 = a2Q + b2 =>"},
+    {"explicitGeneralCollected", "(a1 - a2) * Q = b2 - b1 =>"},
+    {"explicitGeneralQuantity", "Q = (b2 - b1)/(a1 - a2)"},
+    {"explicitGeneralPrice", "P = a1Q + b1"},
+    {"showExplicitWorkedSolution", "Vis"},
+    {"closeExplicitHelp", "Luk"},
     // Lines of three terms.
-    {"Label38", "De to linier er af typen   c1*P + a1*Q + b1 = 0"},
-    {"Label39", "c2*P + a2*Q + b2 = 0"},
-    {"Label41", "a1/a2    c1/c2  => linierne  skærer hinanden"},
-    {"Label42", "a1/a2 = c1/c2    b1/b2  => linierne er parallelle"},
-    {"Label43", "a1/a2 = c1/c2 = b1/b2  => linierne er sammenfaldende   "},
-    {"Label44", "≠"},
-    {"Label45", "≠"},
-    {"Label48", "Skæringspunktets koordinater findes først generelt.                 "},
-    {"Label66", "Ligning I ganges igennem med c2 og ligning II med c1"},
-    {"Label49", "I   c2*c1*P+c2*a1*Q+c2*b1=0"},
-    {"Label40", "II  c1*c2*P+c1*a2*Q+c1*b2=0 "},
-    {"Label67", "Ligning II trækkes fra ligning I"},
-    {"Label68", "(a1*c2-a2*c1)*Q+b1*c2-b2*c1=0"},
-    {"Label50", "Q ="},
-    {"Label51", "b1*c2 - b2*c1         "},
-    {"Label55", "a2*c1 - a1*c2"},
-    {"Label69",
+    {"implicitEquation1Form", "De to linier er af typen   c1*P + a1*Q + b1 = 0"},
+    {"implicitEquation2Form", "c2*P + a2*Q + b2 = 0"},
+    {"implicitCrossingRule", "a1/a2    c1/c2  => linierne  skærer hinanden"},
+    {"implicitParallelRule", "a1/a2 = c1/c2    b1/b2  => linierne er parallelle"},
+    {"implicitCoincidingRule", "a1/a2 = c1/c2 = b1/b2  => linierne er sammenfaldende   "},
+    {"implicitCrossingNotEqual", "≠"},
+    {"implicitParallelNotEqual", "≠"},
+    {"implicitGeneralText", "Skæringspunktets koordinater findes først generelt.                 "},
+    {"implicitGeneralScaleText", "Ligning I ganges igennem med c2 og ligning II med c1"},
+    {"implicitGeneralScaledEquation1", "I   c2*c1*P+c2*a1*Q+c2*b1=0"},
+    {"implicitGeneralScaledEquation2", "II  c1*c2*P+c1*a2*Q+c1*b2=0 "},
+    {"implicitGeneralSubtractText", "Ligning II trækkes fra ligning I"},
+    {"implicitGeneralDifference", "(a1*c2-a2*c1)*Q+b1*c2-b2*c1=0"},
+    {"implicitGeneralQuantityEquals", "Q ="},
+    {"implicitGeneralQuantityNumerator", "b1*c2 - b2*c1         "},
+    {"implicitGeneralQuantityDenominator", "a2*c1 - a1*c2"},
+    {"implicitGeneralInsertText",
      "Q Isoleres. Indsæt værdier i udtrykket for Q. Sæt derefter den fundne Q-værdi ind i ligning I eller "
      "II og løs ligningen mht. P"},
-    {"Label54", "Q = "},
-    {"Command10", "Vis"},
-    {"Command4", "&Luk"},
+    {"implicitWorkedQuantityEquals", "Q = "},
+    {"showImplicitWorkedSolution", "Vis"},
+    {"closeImplicitHelp", "&Luk"},
 };
 
 TEST_F(TomtoForm, StandsReadyBeforeItsFirstTick) {
     const FormDriver f = FormDriver::unshown(PageName::Tomto, draws);
     EXPECT_EQ(f.page().windowTitle().toStdString(), "Tavrune - 2 ligninger med 2 ubekendte");
-    EXPECT_EQ(f.caption("Label2") + f.caption("Label3"), "");
+    EXPECT_EQ(f.caption("givenEquation1") + f.caption("givenEquation2"), "");
     test::expectTexts(f, kFixedTexts);
-    for (const char* hidden : {"Label4", "Picture2", "Label5", "Command3", "Picture3", "Picture4", "Picture5",
-                               "Picture6", "Label34", "Label35", "Label36", "Label37", "Label54", "Label56",
-                               "Label57", "Label58", "Label59", "Label60", "Line10"}) {
+    for (const char* hidden :
+         {"crossingPointEquals", "crossingPoint", "verdict", "giveAnswer", "explicitHelpPanel",
+          "explicitDerivation", "implicitHelpPanel", "implicitDerivation", "explicitWorkedEquated",
+          "explicitWorkedCollected", "explicitWorkedQuantity", "explicitWorkedPrice",
+          "implicitWorkedQuantityEquals", "implicitWorkedQuantityNumerator",
+          "implicitWorkedQuantityDenominator", "implicitWorkedQuantity", "implicitWorkedInserted",
+          "implicitWorkedPrice", "implicitWorkedQuantityBar"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
 }
@@ -191,15 +195,16 @@ TEST_F(TomtoForm, HasAGraphOfItsSizeWithTicksBesideIt) {
         return std::min(std::round(box.width() * part / 10), box.width() - 1);
     };
     int tenths = 0;
-    for (const char* name : {"Line17", "Line18", "Line19", "Line20", "Line21", "Line22", "Line23", "Line24",
-                             "Line25", "Line26"}) {
+    for (const char* name : {"priceTick10", "priceTick9", "priceTick8", "priceTick7", "priceTick6",
+                             "priceTick5", "priceTick4", "priceTick3", "priceTick2", "priceTick1"}) {
         const QRectF tick = f.find<LineControl>(name).place();
         EXPECT_EQ(tick.right(), box.left()) << name;
         EXPECT_EQ(tick.top() - box.top(), offset(tenths++)) << name;
     }
     tenths = 0;
-    for (const char* name : {"Line27_0", "Line27_1", "Line27_2", "Line27_3", "Line27_4", "Line27_5",
-                             "Line27_6", "Line27_7", "Line27_8", "Line27_9", "Line27_10"}) {
+    for (const char* name : {"quantityTick0", "quantityTick1", "quantityTick2", "quantityTick3",
+                             "quantityTick4", "quantityTick5", "quantityTick6", "quantityTick7",
+                             "quantityTick8", "quantityTick9", "quantityTick10"}) {
         const QRectF tick = f.find<LineControl>(name).place();
         EXPECT_EQ(tick.top(), box.bottom()) << name;
         EXPECT_EQ(tick.left() - box.left(), offset(tenths++)) << name;
@@ -208,83 +213,83 @@ TEST_F(TomtoForm, HasAGraphOfItsSizeWithTicksBesideIt) {
 
 TEST_F(TomtoForm, ShowsTheTwoLinesAndAsksForTheirRelationFirst) {
     const FormDriver& f = open(kCrossing);
-    EXPECT_EQ(f.caption("Label2"), "l: P = -2Q + 8");
-    EXPECT_EQ(f.caption("Label3"), "m: P = 3Q - 5");
+    EXPECT_EQ(f.caption("givenEquation1"), "l: P = -2Q + 8");
+    EXPECT_EQ(f.caption("givenEquation2"), "m: P = 3Q - 5");
     EXPECT_EQ(choices(), "---");
-    EXPECT_FALSE(f.isShown("Picture2"));
-    EXPECT_FALSE(f.isShown("Label4"));
-    EXPECT_TRUE(f.isShown("Command2"));
-    EXPECT_TRUE(f.isShown("Label1"));
-    EXPECT_EQ(f.caption("Label6") + f.caption("Label7"), "55");
+    EXPECT_FALSE(f.isShown("crossingPoint"));
+    EXPECT_FALSE(f.isShown("crossingPointEquals"));
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_TRUE(f.isShown("equationsBackground"));
+    EXPECT_EQ(f.caption("priceMarkMiddle") + f.caption("quantityMarkMiddle"), "55");
     EXPECT_EQ(graph().scale(), kToTen.scale);
     EXPECT_TRUE(strokes().empty());
 }
 
 TEST_F(TomtoForm, ShowsLinesOfThreeTerms) {
     const FormDriver& f = open(kCrossingOfThree);
-    EXPECT_EQ(f.caption("Label2"), "-10P - 9Q + 9 =  0");
-    EXPECT_EQ(f.caption("Label3"), "-9P - 10Q + 9 =  0");
+    EXPECT_EQ(f.caption("givenEquation1"), "-10P - 9Q + 9 =  0");
+    EXPECT_EQ(f.caption("givenEquation2"), "-9P - 10Q + 9 =  0");
 }
 
 TEST_F(TomtoForm, OpensWithItsOwnReplacementsForZeros) {
     const FormDriver& f = open({{0, 0, 0, 0, 0, 0}, Explicit});
-    EXPECT_EQ(f.caption("Label2"), "l: P = 3Q + 2");
-    EXPECT_EQ(f.caption("Label3"), "m: P = 1Q + 5");
+    EXPECT_EQ(f.caption("givenEquation1"), "l: P = 3Q + 2");
+    EXPECT_EQ(f.caption("givenEquation2"), "m: P = 1Q + 5");
     next({{0, 0, 0, 0, 0, 0}, Explicit});
-    EXPECT_EQ(f.caption("Label2"), "l: P = 7Q + 3");
-    EXPECT_EQ(f.caption("Label3"), "m: P = 1Q + 5");
+    EXPECT_EQ(f.caption("givenEquation1"), "l: P = 7Q + 3");
+    EXPECT_EQ(f.caption("givenEquation2"), "m: P = 1Q + 5");
 }
 
 TEST_F(TomtoForm, RepeatsTheDrawWhereItWouldOpenWithParallelLinesOfTwoTerms) {
     script(kParallel);
     const FormDriver& f = open(kCrossing);
-    EXPECT_EQ(f.caption("Label2"), "l: P = -2Q + 8");
+    EXPECT_EQ(f.caption("givenEquation1"), "l: P = -2Q + 8");
     EXPECT_EQ(draws.randomized(), 2);
 }
 
 TEST_F(TomtoForm, OpensTheFieldsForACrossingAndStartsInTheRightHandOne) {
     const FormDriver& f = open(kCrossing);
-    f.click("Option1");
-    EXPECT_TRUE(f.isShown("Picture2"));
-    EXPECT_TRUE(f.isShown("Label4"));
-    EXPECT_EQ(f.focus(), "Text2");
-    EXPECT_LT(f.box("Text1").place().left(), f.box("Text2").place().left());
+    f.click("crossing");
+    EXPECT_TRUE(f.isShown("crossingPoint"));
+    EXPECT_TRUE(f.isShown("crossingPointEquals"));
+    EXPECT_EQ(f.focus(), "crossingPointPrice");
+    EXPECT_LT(f.box("crossingPointQuantity").place().left(), f.box("crossingPointPrice").place().left());
 }
 
 TEST_F(TomtoForm, ClosesTheFieldsForTheOtherRelations) {
     const FormDriver& f = open(kCrossing);
-    for (const char* other : {"Option2", "Option3"}) {
-        f.click("Option1");
+    for (const char* other : {"parallel", "coinciding"}) {
+        f.click("crossing");
         f.click(other);
-        EXPECT_FALSE(f.isShown("Picture2")) << other;
-        EXPECT_FALSE(f.isShown("Label4")) << other;
+        EXPECT_FALSE(f.isShown("crossingPoint")) << other;
+        EXPECT_FALSE(f.isShown("crossingPointEquals")) << other;
     }
 }
 
 TEST_F(TomtoForm, IsSolvedByKeysAloneFromRightToLeft) {
     const FormDriver& f = open(kCrossing);
-    f.press("Option1", Qt::Key_Space);
-    EXPECT_EQ(f.focus(), "Text2");
-    f.type("Text2", "2,8");
-    f.press("Text2", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text1");
-    f.type("Text1", "2,6");
-    f.press("Text1", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command2");
-    f.press("Command2", Qt::Key_Return);
+    f.press("crossing", Qt::Key_Space);
+    EXPECT_EQ(f.focus(), "crossingPointPrice");
+    f.type("crossingPointPrice", "2,8");
+    f.press("crossingPointPrice", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "crossingPointQuantity");
+    f.type("crossingPointQuantity", "2,6");
+    f.press("crossingPointQuantity", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "ok");
+    f.press("ok", Qt::Key_Return);
     EXPECT_TRUE(isRight());
-    EXPECT_EQ(f.label("Label5").backColour(), kGreen);
-    EXPECT_EQ(f.focus(), "Command1");
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_FALSE(f.isShown("Command3"));
+    EXPECT_EQ(f.label("verdict").backColour(), kGreen);
+    EXPECT_EQ(f.focus(), "newExercise");
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
 }
 
 TEST_F(TomtoForm, EnterInTheLastBoxDoesNothingOnceSolved) {
     const FormDriver& f = open(kCrossing);
     answer("2.6", "2.8");
-    f.box("Text1").setFocus();
-    f.press("Text1", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text1");
+    f.box("crossingPointQuantity").setFocus();
+    f.press("crossingPointQuantity", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "crossingPointQuantity");
 }
 
 TEST_F(TomtoForm, DrawsTheTrueLinesAndTheirCrossing) {
@@ -310,54 +315,54 @@ TEST_F(TomtoForm, MarksEachWrongCoordinateByItself) {
     const FormDriver& f = open(kCrossing);
     answer("2.6", "2.9");
     EXPECT_TRUE(isWrong());
-    EXPECT_EQ(f.label("Label5").backColour(), kRed);
-    EXPECT_EQ(colour("Text1"), kWhite);
-    EXPECT_EQ(colour("Text2"), kRed);
-    EXPECT_EQ(f.focus(), "Text2");
-    EXPECT_TRUE(f.isShown("Command2"));
-    EXPECT_TRUE(f.isShown("Command3"));
+    EXPECT_EQ(f.label("verdict").backColour(), kRed);
+    EXPECT_EQ(colour("crossingPointQuantity"), kWhite);
+    EXPECT_EQ(colour("crossingPointPrice"), kRed);
+    EXPECT_EQ(f.focus(), "crossingPointPrice");
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_TRUE(f.isShown("giveAnswer"));
     answer("2.61", "2.8");
-    EXPECT_EQ(colour("Text1"), kRed);
-    EXPECT_EQ(colour("Text2"), kWhite);
+    EXPECT_EQ(colour("crossingPointQuantity"), kRed);
+    EXPECT_EQ(colour("crossingPointPrice"), kWhite);
     EXPECT_TRUE(strokes().empty());
 }
 
 TEST_F(TomtoForm, IsWrongWithoutAChoice) {
     const FormDriver& f = open(kCrossing);
-    f.click("Command2");
+    f.click("ok");
     EXPECT_TRUE(isWrong());
-    EXPECT_EQ(f.focus(), "Command2") << "the fields are hidden";
-    EXPECT_EQ(colour("Text1"), kRed) << "and marked all the same";
-    EXPECT_EQ(colour("Text2"), kRed);
+    EXPECT_EQ(f.focus(), "ok") << "the fields are hidden";
+    EXPECT_EQ(colour("crossingPointQuantity"), kRed) << "and marked all the same";
+    EXPECT_EQ(colour("crossingPointPrice"), kRed);
 }
 
 TEST_F(TomtoForm, MarksHiddenFieldsByTheirNumbersWhateverIsChosen) {
     const FormDriver& f = open(kCrossing);
-    f.click("Option1");
-    f.type("Text1", "2.6");
-    f.type("Text2", "2.8");
-    for (const char* other : {"Option2", "Option3"}) {
+    f.click("crossing");
+    f.type("crossingPointQuantity", "2.6");
+    f.type("crossingPointPrice", "2.8");
+    for (const char* other : {"parallel", "coinciding"}) {
         choose(other);
         EXPECT_TRUE(isWrong()) << other;
-        EXPECT_EQ(colour("Text1"), kWhite);
-        EXPECT_EQ(colour("Text2"), kWhite);
+        EXPECT_EQ(colour("crossingPointQuantity"), kWhite);
+        EXPECT_EQ(colour("crossingPointPrice"), kWhite);
     }
-    EXPECT_FALSE(f.isShown("Picture2"));
+    EXPECT_FALSE(f.isShown("crossingPoint"));
 }
 
 TEST_F(TomtoForm, TakesParallelLinesByTheChoiceAlone) {
     const FormDriver& f = openThen(kParallel);
-    EXPECT_EQ(f.caption("Label2"), "l: P = 4Q + 3");
-    EXPECT_EQ(f.caption("Label3"), "m: P = 4Q + 8");
+    EXPECT_EQ(f.caption("givenEquation1"), "l: P = 4Q + 3");
+    EXPECT_EQ(f.caption("givenEquation2"), "m: P = 4Q + 8");
     answer("5", "5");
     EXPECT_TRUE(isWrong());
-    EXPECT_EQ(colour("Text1"), kRed);
-    choose("Option2");
+    EXPECT_EQ(colour("crossingPointQuantity"), kRed);
+    choose("parallel");
     EXPECT_TRUE(isRight());
-    EXPECT_FALSE(f.isShown("Picture2"));
-    EXPECT_EQ(colour("Text1"), kWhite);
-    EXPECT_EQ(colour("Text2"), kWhite);
-    EXPECT_EQ(f.box("Text1").content(), "5");
+    EXPECT_FALSE(f.isShown("crossingPoint"));
+    EXPECT_EQ(colour("crossingPointQuantity"), kWhite);
+    EXPECT_EQ(colour("crossingPointPrice"), kWhite);
+    EXPECT_EQ(f.box("crossingPointQuantity").content(), "5");
     EXPECT_EQ(strokes(),
               (std::vector<Stroke>{kToTen.line(0, 3, 10, 43, kGreen), kToTen.line(0, 8, 10, 48, kGreen)}));
     graph().PSet(1, 1);
@@ -367,19 +372,19 @@ TEST_F(TomtoForm, TakesParallelLinesByTheChoiceAlone) {
 TEST_F(TomtoForm, ClearsWhatAWrongTryLeftInHiddenFields) {
     const FormDriver& f = openThen(kParallel);
     answer("5", "5");
-    choose("Option3");
+    choose("coinciding");
     EXPECT_TRUE(isWrong());
-    EXPECT_EQ(colour("Text1"), kRed);
+    EXPECT_EQ(colour("crossingPointQuantity"), kRed);
     next(kCrossing);
-    EXPECT_EQ(colour("Text1"), kWhite);
-    EXPECT_EQ(f.box("Text1").content() + f.box("Text2").content(), "");
+    EXPECT_EQ(colour("crossingPointQuantity"), kWhite);
+    EXPECT_EQ(f.box("crossingPointQuantity").content() + f.box("crossingPointPrice").content(), "");
 }
 
 TEST_F(TomtoForm, TakesCoincidingLinesByTheChoiceAlone) {
     openThen(kCoinciding);
-    choose("Option2");
+    choose("parallel");
     EXPECT_TRUE(isWrong());
-    choose("Option3");
+    choose("coinciding");
     EXPECT_TRUE(isRight());
     EXPECT_EQ(strokes(),
               (std::vector<Stroke>{kToTen.line(0, 3, 10, 43, kGreen), kToTen.line(0, 3, 10, 43, kGreen)}));
@@ -387,26 +392,26 @@ TEST_F(TomtoForm, TakesCoincidingLinesByTheChoiceAlone) {
 
 TEST_F(TomtoForm, CountsParallelLinesOfThreeTermsWithOppositeConstantsAsCoinciding) {
     open(kCoincidingOfThree);
-    choose("Option2");
+    choose("parallel");
     EXPECT_TRUE(isWrong());
-    choose("Option3");
+    choose("coinciding");
     EXPECT_TRUE(isRight());
 }
 
 TEST_F(TomtoForm, CountsTheSameLineOfThreeTermsTwiceAsParallel) {
     open({{2, 3, 4, 2, 3, 4}, Implicit});
-    choose("Option3");
+    choose("coinciding");
     EXPECT_TRUE(isWrong());
-    choose("Option2");
+    choose("parallel");
     EXPECT_TRUE(isRight());
 }
 
 TEST_F(TomtoForm, ReachesToAHundredForACrossingBeyondTen) {
     const FormDriver& f = open(kFarCrossing);
-    EXPECT_EQ(f.caption("Label6"), "5");
+    EXPECT_EQ(f.caption("priceMarkMiddle"), "5");
     answer("1", "1");
-    EXPECT_EQ(f.caption("Label6"), "50") << "at a wrong try too";
-    EXPECT_EQ(f.caption("Label7"), "50");
+    EXPECT_EQ(f.caption("priceMarkMiddle"), "50") << "at a wrong try too";
+    EXPECT_EQ(f.caption("quantityMarkMiddle"), "50");
     EXPECT_EQ(graph().scale(), kToAHundred.scale);
     answer("11", "12");
     EXPECT_TRUE(isRight());
@@ -419,7 +424,7 @@ TEST_F(TomtoForm, ReachesToAHundredForACrossingBeyondTenInQAlone) {
     const FormDriver& f = open(kFarInQOnly);
     answer("12", "4");
     EXPECT_TRUE(isRight());
-    EXPECT_EQ(f.caption("Label6") + f.caption("Label7"), "5050");
+    EXPECT_EQ(f.caption("priceMarkMiddle") + f.caption("quantityMarkMiddle"), "5050");
     EXPECT_EQ(graph().scale(), kToAHundred.scale);
     EXPECT_EQ(strokes(), (std::vector<Stroke>{kToAHundred.line(0, -2, 100, 48),
                                               kToAHundred.line(0, -0.8F, 100, 100 * 0.4F - 0.8F),
@@ -430,7 +435,7 @@ TEST_F(TomtoForm, ReachesToAHundredForACrossingBeyondTenInPAlone) {
     const FormDriver& f = open(kFarInPOnly);
     answer("2", "11");
     EXPECT_TRUE(isRight());
-    EXPECT_EQ(f.caption("Label6") + f.caption("Label7"), "5050");
+    EXPECT_EQ(f.caption("priceMarkMiddle") + f.caption("quantityMarkMiddle"), "5050");
     EXPECT_EQ(graph().scale(), kToAHundred.scale);
     EXPECT_EQ(strokes(), (std::vector<Stroke>{kToAHundred.line(0, 7, 100, 207, kGreen),
                                               kToAHundred.line(0, 1, 100, 501, kGreen),
@@ -441,7 +446,7 @@ TEST_F(TomtoForm, StaysAtTenForACrossingWithinTen) {
     const FormDriver& f = open(kNearCrossing);
     answer("8.5", "0.5");
     EXPECT_TRUE(isRight());
-    EXPECT_EQ(f.caption("Label6"), "5");
+    EXPECT_EQ(f.caption("priceMarkMiddle"), "5");
     EXPECT_EQ(graph().scale(), kToTen.scale);
 }
 
@@ -450,28 +455,28 @@ TEST_F(TomtoForm, LeavesTheNumbersOnTheAxesUntilTheNextJudging) {
     answer("11", "12");
     next(kCrossing);
     EXPECT_EQ(graph().scale(), kToTen.scale);
-    EXPECT_EQ(f.caption("Label6") + f.caption("Label7"), "5050");
-    f.click("Command2");
-    EXPECT_EQ(f.caption("Label6") + f.caption("Label7"), "55");
+    EXPECT_EQ(f.caption("priceMarkMiddle") + f.caption("quantityMarkMiddle"), "5050");
+    f.click("ok");
+    EXPECT_EQ(f.caption("priceMarkMiddle") + f.caption("quantityMarkMiddle"), "55");
 }
 
 TEST_F(TomtoForm, GivesACrossing) {
     const FormDriver& f = open(kCrossing);
-    choose("Option2");
-    f.click("Command3");
+    choose("parallel");
+    f.click("giveAnswer");
     EXPECT_EQ(choices(), "x--");
-    EXPECT_EQ(f.option("Option1").backColour(), kGreen);
-    EXPECT_NE(f.option("Option2").backColour(), kGreen);
-    EXPECT_TRUE(f.isShown("Picture2"));
-    EXPECT_TRUE(f.isShown("Label4"));
-    EXPECT_EQ(f.box("Text1").content(), "2.6");
-    EXPECT_EQ(f.box("Text2").content(), "2.8");
-    EXPECT_EQ(colour("Text1"), kWhite);
-    EXPECT_EQ(colour("Text2"), kWhite);
-    EXPECT_FALSE(f.isShown("Label5"));
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_FALSE(f.isShown("Command3"));
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(f.option("crossing").backColour(), kGreen);
+    EXPECT_NE(f.option("parallel").backColour(), kGreen);
+    EXPECT_TRUE(f.isShown("crossingPoint"));
+    EXPECT_TRUE(f.isShown("crossingPointEquals"));
+    EXPECT_EQ(f.box("crossingPointQuantity").content(), "2.6");
+    EXPECT_EQ(f.box("crossingPointPrice").content(), "2.8");
+    EXPECT_EQ(colour("crossingPointQuantity"), kWhite);
+    EXPECT_EQ(colour("crossingPointPrice"), kWhite);
+    EXPECT_FALSE(f.isShown("verdict"));
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
+    EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_EQ(strokes(),
               (std::vector<Stroke>{kToTen.line(0, 8, 10, -12, kGreen), kToTen.line(0, -5, 10, 25, kGreen),
                                    kToTen.point(2.6, 2.8, kBlue, kThick)}));
@@ -481,35 +486,35 @@ TEST_F(TomtoForm, WritesAGivenCrossingWithTheLocalesMark) {
     const test::DecimalMark inUse(",");
     const FormDriver& f = open(kCrossing);
     answer("1", "1");
-    f.click("Command3");
-    EXPECT_EQ(f.box("Text1").content(), "2,6");
+    f.click("giveAnswer");
+    EXPECT_EQ(f.box("crossingPointQuantity").content(), "2,6");
 }
 
 TEST_F(TomtoForm, GivesParallelLinesAndLeavesTheFieldsAsTheyAre) {
     const FormDriver& f = openThen(kParallel);
     answer("5", "6");
-    f.click("Command3");
+    f.click("giveAnswer");
     EXPECT_EQ(choices(), "-x-");
-    EXPECT_EQ(f.option("Option2").backColour(), kGreen);
-    EXPECT_TRUE(f.isShown("Picture2")) << "setting an option is no click";
-    EXPECT_EQ(f.box("Text1").content(), "5");
-    EXPECT_EQ(colour("Text1"), kWhite);
+    EXPECT_EQ(f.option("parallel").backColour(), kGreen);
+    EXPECT_TRUE(f.isShown("crossingPoint")) << "setting an option is no click";
+    EXPECT_EQ(f.box("crossingPointQuantity").content(), "5");
+    EXPECT_EQ(colour("crossingPointQuantity"), kWhite);
     EXPECT_EQ(strokes().size(), 2U);
 }
 
 TEST_F(TomtoForm, GivesCoincidingLines) {
     const FormDriver& f = openThen(kCoinciding);
-    choose("Option2");
-    f.click("Command3");
+    choose("parallel");
+    f.click("giveAnswer");
     EXPECT_EQ(choices(), "--x");
-    EXPECT_EQ(f.option("Option3").backColour(), kGreen);
-    EXPECT_FALSE(f.isShown("Picture2"));
+    EXPECT_EQ(f.option("coinciding").backColour(), kGreen);
+    EXPECT_FALSE(f.isShown("crossingPoint"));
 }
 
 TEST_F(TomtoForm, DrawsGivenLinesOfThreeTermsInGreen) {
     open(kCrossingOfThree);
     answer("1", "1");
-    form->click("Command3");
+    form->click("giveAnswer");
     ASSERT_EQ(strokes().size(), 3U);
     EXPECT_EQ(strokes()[0], kToTen.line(0, 0.9F, 10, 10 * -0.9F + 0.9F, kGreen));
     EXPECT_EQ(strokes()[1].colour, kGreen);
@@ -517,8 +522,8 @@ TEST_F(TomtoForm, DrawsGivenLinesOfThreeTermsInGreen) {
 
 TEST_F(TomtoForm, KeepsThePenWideFromAGivenAnswerToTheNextExercise) {
     open(kParallelOfThree);
-    choose("Option3");
-    form->click("Command3");
+    choose("coinciding");
+    form->click("giveAnswer");
     graph().PSet(1, 1);
     EXPECT_EQ(strokes().back().width, 3);
     next(kCrossing);
@@ -529,8 +534,8 @@ TEST_F(TomtoForm, KeepsThePenWideFromAGivenAnswerToTheNextExercise) {
 
 TEST_F(TomtoForm, GivesAFarCrossingUnjudgedOnAxesThatStillEndAtTen) {
     const FormDriver& f = open(kFarCrossing);
-    f.button("Command3").click();
-    EXPECT_EQ(f.caption("Label6") + f.caption("Label7"), "5050");
+    f.button("giveAnswer").click();
+    EXPECT_EQ(f.caption("priceMarkMiddle") + f.caption("quantityMarkMiddle"), "5050");
     EXPECT_EQ(graph().scale(), kToTen.scale);
     EXPECT_EQ(strokes(),
               (std::vector<Stroke>{kToTen.line(0, 1, 100, 101, kGreen), kToTen.line(0, -10, 100, 190, kGreen),
@@ -539,131 +544,144 @@ TEST_F(TomtoForm, GivesAFarCrossingUnjudgedOnAxesThatStillEndAtTen) {
 
 TEST_F(TomtoForm, ForgetsEverythingWithTheNextExercise) {
     const FormDriver& f = open(kCrossing);
-    const QColor face = f.option("Option1").backColour();
+    const QColor face = f.option("crossing").backColour();
     answer("1", "1");
-    f.click("Command3");
-    f.click("Command7");
-    f.click("Command5");
+    f.click("giveAnswer");
+    f.click("help");
+    f.click("showExplicitWorkedSolution");
     next(kCrossingOfThree);
     EXPECT_EQ(choices(), "---");
-    EXPECT_EQ(f.option("Option1").backColour(), face);
-    for (const char* hidden : {"Picture2", "Label4", "Label5", "Command3", "Picture3", "Picture4", "Label34",
-                               "Label35", "Label36", "Label37"}) {
+    EXPECT_EQ(f.option("crossing").backColour(), face);
+    for (const char* hidden : {"crossingPoint", "crossingPointEquals", "verdict", "giveAnswer",
+                               "explicitHelpPanel", "explicitDerivation", "explicitWorkedEquated",
+                               "explicitWorkedCollected", "explicitWorkedQuantity", "explicitWorkedPrice"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_TRUE(f.isShown("Command2"));
-    EXPECT_EQ(f.box("Text1").content() + f.box("Text2").content(), "");
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_EQ(f.box("crossingPointQuantity").content() + f.box("crossingPointPrice").content(), "");
     EXPECT_TRUE(strokes().empty());
-    EXPECT_EQ(f.focus(), "Command1") << "the focus stays where it is";
+    EXPECT_EQ(f.focus(), "newExercise") << "the focus stays where it is";
 }
 
 TEST_F(TomtoForm, TeachesLinesOfTwoTerms) {
     const FormDriver& f = open(kCrossing);
-    f.click("Command7");
-    EXPECT_TRUE(f.isShown("Picture3"));
-    EXPECT_TRUE(f.isShown("Picture4"));
-    EXPECT_FALSE(f.isShown("Picture5"));
-    EXPECT_EQ(f.focus(), "Command5");
-    EXPECT_FALSE(f.isShown("Label34"));
+    f.click("help");
+    EXPECT_TRUE(f.isShown("explicitHelpPanel"));
+    EXPECT_TRUE(f.isShown("explicitDerivation"));
+    EXPECT_FALSE(f.isShown("implicitHelpPanel"));
+    EXPECT_EQ(f.focus(), "showExplicitWorkedSolution");
+    EXPECT_FALSE(f.isShown("explicitWorkedEquated"));
     test::expectTexts(f, kFixedTexts);
 }
 
 TEST_F(TomtoForm, WorksLinesOfTwoTermsOut) {
     const FormDriver& f = open(kCrossing);
-    f.click("Command7");
-    f.press("Command5", Qt::Key_Return);
-    EXPECT_EQ(f.caption("Label34"), "-2Q + 8 = 3Q - 5 =>");
-    EXPECT_EQ(f.caption("Label35"), "(-2 - 3) * Q = -5 - 8 =>");
-    EXPECT_EQ(f.caption("Label36"), "Q = 13/5 = 2.6");
-    EXPECT_EQ(f.caption("Label37"), "P = -2*(13/5) + 8 = 2.8");
-    for (const char* shown : {"Label34", "Label35", "Label36", "Label37"}) {
+    f.click("help");
+    f.press("showExplicitWorkedSolution", Qt::Key_Return);
+    EXPECT_EQ(f.caption("explicitWorkedEquated"), "-2Q + 8 = 3Q - 5 =>");
+    EXPECT_EQ(f.caption("explicitWorkedCollected"), "(-2 - 3) * Q = -5 - 8 =>");
+    EXPECT_EQ(f.caption("explicitWorkedQuantity"), "Q = 13/5 = 2.6");
+    EXPECT_EQ(f.caption("explicitWorkedPrice"), "P = -2*(13/5) + 8 = 2.8");
+    for (const char* shown : {"explicitWorkedEquated", "explicitWorkedCollected", "explicitWorkedQuantity",
+                              "explicitWorkedPrice"}) {
         EXPECT_TRUE(f.isShown(shown)) << shown;
     }
-    f.click("Command6");
-    for (const char* hidden : {"Picture3", "Picture4", "Label34", "Label35", "Label36", "Label37"}) {
+    f.click("closeExplicitHelp");
+    for (const char* hidden : {"explicitHelpPanel", "explicitDerivation", "explicitWorkedEquated",
+                               "explicitWorkedCollected", "explicitWorkedQuantity", "explicitWorkedPrice"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
 }
 
 TEST_F(TomtoForm, TeachesNoDerivationForEqualSlopes) {
     const FormDriver& f = openThen(kParallel);
-    f.click("Command7");
-    EXPECT_TRUE(f.isShown("Picture3"));
-    EXPECT_FALSE(f.isShown("Picture4"));
-    EXPECT_EQ(f.focus(), "Command7");
+    f.click("help");
+    EXPECT_TRUE(f.isShown("explicitHelpPanel"));
+    EXPECT_FALSE(f.isShown("explicitDerivation"));
+    EXPECT_EQ(f.focus(), "help");
     next(kParallelOfThree);
-    f.click("Command7");
-    EXPECT_TRUE(f.isShown("Picture5"));
-    EXPECT_FALSE(f.isShown("Picture6"));
-    EXPECT_EQ(f.focus(), "Command7");
+    f.click("help");
+    EXPECT_TRUE(f.isShown("implicitHelpPanel"));
+    EXPECT_FALSE(f.isShown("implicitDerivation"));
+    EXPECT_EQ(f.focus(), "help");
 }
 
 TEST_F(TomtoForm, TeachesLinesOfThreeTerms) {
     const FormDriver& f = open(kCrossingOfThree);
-    f.click("Command7");
-    EXPECT_TRUE(f.isShown("Picture5"));
-    EXPECT_TRUE(f.isShown("Picture6"));
-    EXPECT_FALSE(f.isShown("Picture3"));
-    EXPECT_EQ(f.focus(), "Command10");
+    f.click("help");
+    EXPECT_TRUE(f.isShown("implicitHelpPanel"));
+    EXPECT_TRUE(f.isShown("implicitDerivation"));
+    EXPECT_FALSE(f.isShown("explicitHelpPanel"));
+    EXPECT_EQ(f.focus(), "showImplicitWorkedSolution");
     test::expectTexts(f, kFixedTexts);
 }
 
 TEST_F(TomtoForm, WorksLinesOfThreeTermsOut) {
     const FormDriver& f = open(kCrossingOfThree);
-    f.click("Command7");
-    f.press("Command10", Qt::Key_Return);
-    EXPECT_EQ(f.caption("Label56"), "9*(-9) - 9*(-10)");
-    EXPECT_EQ(f.caption("Label57"), "-10*(-10) - (-9)*(-9)");
-    EXPECT_EQ(f.caption("Label58"), "= 9/19 = 0.47");
-    EXPECT_EQ(f.caption("Label59"), "I   -10*P - 9*(9/19)+9 = 0 ");
-    EXPECT_EQ(f.caption("Label60"), "=> P = 0.47");
-    const char* const revealed[] = {"Label54", "Label56", "Label57", "Label58",
-                                    "Label59", "Label60", "Line10"};
+    f.click("help");
+    f.press("showImplicitWorkedSolution", Qt::Key_Return);
+    EXPECT_EQ(f.caption("implicitWorkedQuantityNumerator"), "9*(-9) - 9*(-10)");
+    EXPECT_EQ(f.caption("implicitWorkedQuantityDenominator"), "-10*(-10) - (-9)*(-9)");
+    EXPECT_EQ(f.caption("implicitWorkedQuantity"), "= 9/19 = 0.47");
+    EXPECT_EQ(f.caption("implicitWorkedInserted"), "I   -10*P - 9*(9/19)+9 = 0 ");
+    EXPECT_EQ(f.caption("implicitWorkedPrice"), "=> P = 0.47");
+    const char* const revealed[] = {"implicitWorkedQuantityEquals",
+                                    "implicitWorkedQuantityNumerator",
+                                    "implicitWorkedQuantityDenominator",
+                                    "implicitWorkedQuantity",
+                                    "implicitWorkedInserted",
+                                    "implicitWorkedPrice",
+                                    "implicitWorkedQuantityBar"};
     for (const char* shown : revealed) {
         EXPECT_TRUE(f.isShown(shown)) << shown;
     }
-    f.click("Command4");
+    f.click("closeImplicitHelp");
     for (const char* hidden : revealed) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_FALSE(f.isShown("Picture5"));
-    EXPECT_FALSE(f.isShown("Picture6"));
+    EXPECT_FALSE(f.isShown("implicitHelpPanel"));
+    EXPECT_FALSE(f.isShown("implicitDerivation"));
 }
 
 TEST_F(TomtoForm, RunsTheBarToTheEndOfTheWiderNumber) {
     const FormDriver& f = open(kCrossingOfThree);
-    f.click("Command7");
-    f.click("Command10");
-    EXPECT_EQ(f.find<LineControl>("Line10").ends().x2(), f.label("Label57").place().right());
-    EXPECT_EQ(f.label("Label57").place().width(), f.label("Label57").textWidth()) << "the wider one";
+    f.click("help");
+    f.click("showImplicitWorkedSolution");
+    EXPECT_EQ(f.find<LineControl>("implicitWorkedQuantityBar").ends().x2(),
+              f.label("implicitWorkedQuantityDenominator").place().right());
+    EXPECT_EQ(f.label("implicitWorkedQuantityDenominator").place().width(),
+              f.label("implicitWorkedQuantityDenominator").textWidth())
+        << "the wider one";
     // The shorter texts that follow are not measured by the longer ones.
     next({{1, 1, -3, -2, 1, -2}, Implicit});
-    f.click("Command7");
-    f.click("Command10");
-    EXPECT_EQ(f.caption("Label56"), "-3*1 - (-2)*1");
-    EXPECT_EQ(f.find<LineControl>("Line10").ends().x2(),
-              f.label("Label56").place().left() + f.label("Label56").textWidth());
+    f.click("help");
+    f.click("showImplicitWorkedSolution");
+    EXPECT_EQ(f.caption("implicitWorkedQuantityNumerator"), "-3*1 - (-2)*1");
+    EXPECT_EQ(f.find<LineControl>("implicitWorkedQuantityBar").ends().x2(),
+              f.label("implicitWorkedQuantityNumerator").place().left() +
+                  f.label("implicitWorkedQuantityNumerator").textWidth());
 }
 
 TEST_F(TomtoForm, ClosesHelpOfThreeTermsWithTheNextExercise) {
     const FormDriver& f = open(kCrossingOfThree);
-    f.click("Command7");
-    f.click("Command10");
+    f.click("help");
+    f.click("showImplicitWorkedSolution");
     next(kCrossing);
-    for (const char* hidden : {"Picture5", "Picture6", "Label54", "Label56", "Line10"}) {
+    for (const char* hidden : {"implicitHelpPanel", "implicitDerivation", "implicitWorkedQuantityEquals",
+                               "implicitWorkedQuantityNumerator", "implicitWorkedQuantityBar"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
 }
 
 TEST_F(TomtoForm, KeepsWhatWasTypedWhileHelpComesAndGoes) {
     const FormDriver& f = open(kCrossing);
-    f.click("Option1");
-    f.type("Text1", "4");
-    f.click("Command7");
-    f.click("Command6");
-    EXPECT_EQ(f.box("Text1").content(), "4");
+    f.click("crossing");
+    f.type("crossingPointQuantity", "4");
+    f.click("help");
+    f.click("closeExplicitHelp");
+    EXPECT_EQ(f.box("crossingPointQuantity").content(), "4");
     EXPECT_EQ(choices(), "x--");
-    EXPECT_TRUE(f.isShown("Picture2"));
+    EXPECT_TRUE(f.isShown("crossingPoint"));
 }
 
 TEST_F(TomtoForm, TakesAnyTypedText) {
@@ -672,23 +690,23 @@ TEST_F(TomtoForm, TakesAnyTypedText) {
         answer(text, text);
         EXPECT_TRUE(isWrong()) << text;
     }
-    f.box("Text1").setContent(std::string(1'000'000, '9'));
-    f.click("Command2");
+    f.box("crossingPointQuantity").setContent(std::string(1'000'000, '9'));
+    f.click("ok");
     EXPECT_TRUE(isWrong());
 }
 
 TEST_F(TomtoForm, HasRoomForTheLongestNumbers) {
     const FormDriver& f = open({{-10, -10, 6, 7, -10, -4}, Implicit});
-    f.click("Command7");
-    f.click("Command10");
+    f.click("help");
+    f.click("showImplicitWorkedSolution");
     EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
     next({{-10, 8, 7, 5, 6, -3}, Explicit});
-    f.click("Command7");
-    f.click("Command5");
+    f.click("help");
+    f.click("showExplicitWorkedSolution");
     EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
-    f.click("Command6");
+    f.click("closeExplicitHelp");
     answer("11.11", "111.11");
-    f.click("Command3");
+    f.click("giveAnswer");
     EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
 }
 
