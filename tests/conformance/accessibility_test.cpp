@@ -158,7 +158,7 @@ TEST(NamesInWords, FollowTheCoordinateThatIsAskedFor) {
     const BlindStudent student(form.page());
     std::set<std::string> names;
     for (int exercise = 0; exercise < 20; ++exercise) {
-        const std::string letter = form.caption("Label16");
+        const std::string letter = form.caption("askedLetter");
         EXPECT_TRUE(student.hears(QAccessible::EditableText, "det nye punkts " + letter + "-koordinat"));
         names.insert(letter);
         student.press("Ny opgave");

@@ -64,7 +64,7 @@ TEST_F(ZoomedPage, GrowsAndShrinksByTheKeysStepByStep) {
 }
 
 TEST_F(ZoomedPage, TakesTheKeysWhileABoxHasTheFocusAndTypesNothing) {
-    AnswerBox& box = form.box("Text1");
+    AnswerBox& box = form.box("askedCoordinate");
     ASSERT_TRUE(box.hasFocus());
     QTest::keyClick(&box, Qt::Key_Plus, Qt::ControlModifier);
     QTest::keyClick(&box, Qt::Key_0, Qt::ControlModifier);
@@ -125,22 +125,22 @@ TEST_F(ZoomedPage, ScalesEveryControlWithItsText) {
 }
 
 TEST_F(ZoomedPage, ComesBackToWhereItWas) {
-    const QRect before = form.button("Command10").geometry();
+    const QRect before = form.button("help").geometry();
     for (int times = 0; times < 10; ++times) {
         press(Qt::Key_Plus);
     }
     EXPECT_EQ(form.page().zoom().percent(), 300);
     press(Qt::Key_0);
-    EXPECT_EQ(form.button("Command10").geometry(), before);
+    EXPECT_EQ(form.button("help").geometry(), before);
 }
 
 TEST_F(ZoomedPage, KeepsItsExerciseItsFocusAndItsStrokes) {
-    form.type("Text1", "12");
-    const auto strokes = form.find<GraphBox>("Picture1").strokes();
+    form.type("askedCoordinate", "12");
+    const auto strokes = form.find<GraphBox>("graph").strokes();
     press(Qt::Key_Plus);
-    EXPECT_EQ(form.box("Text1").content(), "12");
-    EXPECT_EQ(form.focus(), "Text1");
-    EXPECT_EQ(form.find<GraphBox>("Picture1").strokes(), strokes);
+    EXPECT_EQ(form.box("askedCoordinate").content(), "12");
+    EXPECT_EQ(form.focus(), "askedCoordinate");
+    EXPECT_EQ(form.find<GraphBox>("graph").strokes(), strokes);
 }
 
 TEST_F(ZoomedPage, NeedsNoScrollingAtItsOwnSize) {
@@ -161,11 +161,11 @@ TEST_F(ZoomedPage, ScrollsToTheFocusWhereItIsLargerThanTheWindow) {
         return view().viewport()->rect().contains(
             QRect(widget.mapTo(view().viewport(), QPoint(0, 0)), widget.size()));
     };
-    focusOn(&form.button("Command10"));
-    EXPECT_TRUE(isInSight("Command10"));
-    EXPECT_FALSE(isInSight("Text1"));
-    focusOn(&form.box("Text1"));
-    EXPECT_TRUE(isInSight("Text1"));
+    focusOn(&form.button("help"));
+    EXPECT_TRUE(isInSight("help"));
+    EXPECT_FALSE(isInSight("askedCoordinate"));
+    focusOn(&form.box("askedCoordinate"));
+    EXPECT_TRUE(isInSight("askedCoordinate"));
 }
 
 class ZoomedProgram : public testing::Test {
@@ -191,7 +191,7 @@ TEST_F(ZoomedProgram, KeepsItsSizeFromPageToPage) {
     program.open(PageName::Lininter);
     settle();
     EXPECT_EQ(program.page()->zoom().percent(), 125);
-    EXPECT_EQ(program.page()->findChild<Button*>("Command10")->width(), 95);
+    EXPECT_EQ(program.page()->findChild<Button*>("help")->width(), 95);
 }
 
 TEST_F(ZoomedProgram, SizesTheAboutBoxToo) {

@@ -22,45 +22,44 @@ constexpr double kNameDrop = 0.5;
 Lininter::Lininter(Draws& draws)
     : ExerciseForm(PageName::Lininter, draws), ui_(std::make_unique<Ui::Lininter>()) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command3,
-             .ok = ui_->Command1,
-             .giveAnswer = ui_->Command2,
-             .help = ui_->Command10});
-    verdict(TwoLabels{.right = ui_->Label19, .wrong = ui_->Label18});
-    enterChain({ui_->Text1}, LastBox::OkOrStay);
-    onClick(ui_->Command11, &Lininter::uncoverLeft);
-    onClick(ui_->Command12, &Lininter::uncoverRight);
-    onClick(ui_->Command13, &Lininter::closeHelp);
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
+    enterChain({ui_->askedCoordinate}, LastBox::OkOrStay);
+    onClick(ui_->showPriceSolution, &Lininter::uncoverLeft);
+    onClick(ui_->showQuantitySolution, &Lininter::uncoverRight);
+    onClick(ui_->closeHelp, &Lininter::closeHelp);
 }
 
 Lininter::~Lininter() = default;
 
 void Lininter::newExercise() {
     drawAxes();
-    ui_->Command11->setEnabled(false);
-    ui_->Command12->setEnabled(false);
-    showAll({ui_->Label99, ui_->Label100});
-    ui_->Picture2->hide();
-    showAll({ui_->Label3, ui_->Label9, ui_->Label13, ui_->Label14, ui_->Label15, ui_->Label16, ui_->Label17,
-             ui_->Text1});
+    ui_->showPriceSolution->setEnabled(false);
+    ui_->showQuantitySolution->setEnabled(false);
+    showAll({ui_->priceSolutionCover, ui_->quantitySolutionCover});
+    ui_->helpPanel->hide();
+    showAll({ui_->pointA, ui_->pointB, ui_->givenLetter, ui_->givenEquals, ui_->givenCoordinate,
+             ui_->askedLetter, ui_->askedEquals, ui_->askedCoordinate});
     showAsking();
-    clearBoxes({ui_->Text1});
+    clearBoxes({ui_->askedCoordinate});
 
     tavrune::newExercise(state_, draws());
 
-    ui_->Label3->setCaption(textOfA(state_));
-    ui_->Label9->setCaption(textOfB(state_));
+    ui_->pointA->setCaption(textOfA(state_));
+    ui_->pointB->setCaption(textOfB(state_));
     const LininterTask asked = task(state_);
-    ui_->Label13->setCaption(asked.givenLetter);
-    ui_->Label15->setCaption(asked.given);
-    ui_->Label16->setCaption(asked.askedLetter);
-    ui_->Text1->setAccessibleName(QString("det nye punkts %1-koordinat").arg(fromUtf8(asked.askedLetter)));
+    ui_->givenLetter->setCaption(asked.givenLetter);
+    ui_->givenCoordinate->setCaption(asked.given);
+    ui_->askedLetter->setCaption(asked.askedLetter);
+    ui_->askedCoordinate->setAccessibleName(
+        QString("det nye punkts %1-koordinat").arg(fromUtf8(asked.askedLetter)));
     drawPoints();
-    focusOn(ui_->Text1);
+    focusOn(ui_->askedCoordinate);
 }
 
 void Lininter::drawAxes() {
-    GraphBox& graph = *ui_->Picture1;
+    GraphBox& graph = *ui_->graph;
     graph.Cls();
     graph.Scale(kLeftmostQ, kTopmostP, kRightmostQ, kLowestP);
     graph.Line(0, kTopmostP, 0, kLowestP);
@@ -72,20 +71,20 @@ void Lininter::drawAxes() {
 void Lininter::drawPoints() {
     draw(crossAt(state_.Qa, state_.Pa), kBlue);
     draw(crossAt(state_.Qb, state_.Pb), kBlue);
-    showAll({ui_->Label26, ui_->Label27});
-    ui_->Picture1->place(*ui_->Label26, state_.Qa, state_.Pa - kNameDrop);
-    ui_->Picture1->place(*ui_->Label27, state_.Qb, state_.Pb - kNameDrop);
+    showAll({ui_->pointAName, ui_->pointBName});
+    ui_->graph->place(*ui_->pointAName, state_.Qa, state_.Pa - kNameDrop);
+    ui_->graph->place(*ui_->pointBName, state_.Qb, state_.Pb - kNameDrop);
 }
 
 void Lininter::judge() {
     hideVerdict();
-    if (!isRight(state_, ui_->Text1->value())) {
+    if (!isRight(state_, ui_->askedCoordinate->value())) {
         failed();
-        focusOn(ui_->Text1);
-        ui_->Text1->mark(true);
+        focusOn(ui_->askedCoordinate);
+        ui_->askedCoordinate->mark(true);
         return;
     }
-    whiten({ui_->Text1});
+    whiten({ui_->askedCoordinate});
     solved();
     drawSolution();
     draw(arrowheads(state_, Occasion::Judged), kGreen);
@@ -93,9 +92,9 @@ void Lininter::judge() {
 
 void Lininter::giveAnswer() {
     given();
-    const double typed = ui_->Text1->value();
-    ui_->Text1->setContent(answerText(state_));
-    whiten({ui_->Text1});
+    const double typed = ui_->askedCoordinate->value();
+    ui_->askedCoordinate->setContent(answerText(state_));
+    whiten({ui_->askedCoordinate});
     drawSolution();
     draw(crossOfTyped(state_, typed), kRed);
     draw(arrowheads(state_, Occasion::Given), kGreen);
@@ -108,7 +107,7 @@ void Lininter::drawSolution() {
 
 void Lininter::draw(std::span<const Segment> segments, const QColor& colour) {
     for (const Segment& s : segments) {
-        ui_->Picture1->Line(s.x1, s.y1, s.x2, s.y2, colour);
+        ui_->graph->Line(s.x1, s.y1, s.x2, s.y2, colour);
     }
 }
 
@@ -116,33 +115,35 @@ void Lininter::help() {
     // Only the solution that fits the direction is filled; what the other column holds stays covered.
     const LininterWorked worked = workedSolution(state_);
     const bool isLeft = isQGiven(state_);
-    const Fraction fraction = isLeft ? Fraction(ui_->Label91, ui_->Line3, ui_->Label92)
-                                     : Fraction(ui_->Label95, ui_->Line4, ui_->Label96);
-    Label* const ratio = isLeft ? ui_->Label93 : ui_->Label97;
+    const Fraction fraction =
+        isLeft ? Fraction(ui_->workedSlopeNumerator, ui_->workedSlopeBar, ui_->workedSlopeDenominator)
+               : Fraction(ui_->workedInverseSlopeNumerator, ui_->workedInverseSlopeBar,
+                          ui_->workedInverseSlopeDenominator);
+    Label* const ratio = isLeft ? ui_->workedSlope : ui_->workedInverseSlope;
     fraction.setTexts(worked.numerator, worked.denominator);
     ratio->setCaption(worked.ratio);
     ratio->setLeft(fraction.right());
-    (isLeft ? ui_->Label94 : ui_->Label98)->setCaption(worked.result);
+    (isLeft ? ui_->workedPrice : ui_->workedQuantity)->setCaption(worked.result);
 
-    Button* const vis = isLeft ? ui_->Command11 : ui_->Command12;
+    Button* const vis = isLeft ? ui_->showPriceSolution : ui_->showQuantitySolution;
     vis->setEnabled(true);
-    ui_->Picture3->show();
-    openPanel(ui_->Picture2, vis);
+    ui_->workedSolution->show();
+    openPanel(ui_->helpPanel, vis);
 }
 
 void Lininter::uncoverLeft() {
-    ui_->Label99->hide();
-    focusOn(ui_->Command13);
+    ui_->priceSolutionCover->hide();
+    focusOn(ui_->closeHelp);
 }
 
 void Lininter::uncoverRight() {
-    ui_->Label100->hide();
-    focusOn(ui_->Command13);
+    ui_->quantitySolutionCover->hide();
+    focusOn(ui_->closeHelp);
 }
 
 void Lininter::closeHelp() {
-    ui_->Picture2->hide();
-    showAll({ui_->Label99, ui_->Label100});
+    ui_->helpPanel->hide();
+    showAll({ui_->priceSolutionCover, ui_->quantitySolutionCover});
 }
 
 }  // namespace tavrune

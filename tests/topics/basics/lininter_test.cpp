@@ -50,16 +50,16 @@ protected:
     FormDriver& openPBelow() { return open(2, 6, 4, 7, GivenP, 1); }   // Q is -8.
 
     void answer(const std::string& typed) const {
-        form->type("Text1", typed);
-        form->click("Command1");
+        form->type("askedCoordinate", typed);
+        form->click("ok");
     }
 
     void giveAfter(const std::string& typed) const {
         answer(typed);
-        form->click("Command2");
+        form->click("giveAnswer");
     }
 
-    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("graph"); }
 
     /// What was drawn after the task.
     [[nodiscard]] std::vector<Stroke> drawnLater() const {
@@ -73,100 +73,102 @@ protected:
 TEST_F(LininterForm, IsBlankUntilItsFirstTick) {
     const FormDriver unshown = FormDriver::unshown(PageName::Lininter, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Lineær interpolation/ekstrapolation");
-    for (const char* blank : {"Label3", "Label9", "Label13", "Label15", "Label16", "Label94", "Label98"}) {
+    for (const char* blank : {"pointA", "pointB", "givenLetter", "givenCoordinate", "askedLetter",
+                              "workedPrice", "workedQuantity"}) {
         EXPECT_EQ(unshown.caption(blank), "") << blank;
     }
     for (const char* hidden :
-         {"Command2", "Label18", "Label19", "Picture2", "Picture3", "Label26", "Label27"}) {
+         {"giveAnswer", "wrong", "right", "helpPanel", "workedSolution", "pointAName", "pointBName"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
-    EXPECT_FALSE(unshown.button("Command11").isEnabled());
-    EXPECT_FALSE(unshown.button("Command12").isEnabled());
+    EXPECT_FALSE(unshown.button("showPriceSolution").isEnabled());
+    EXPECT_FALSE(unshown.button("showQuantitySolution").isEnabled());
 }
 
 constexpr test::FixedText kFixedTexts[]{
-    {"Label32", "Givet følgende to punkter:"},
-    {"Label33", "Givet:"},
-    {"Label34", "Bestem:"},
-    {"Label35", "Så det nye punkt (P;Q) ligger på linien gennem A og B."},
-    {"Label14", "="},
-    {"Label17", "="},
-    {"Label20", "5"},
-    {"Label21", "10"},
-    {"Label22", "0"},
-    {"Label23", "5"},
-    {"Label24", "10"},
-    {"Label25", "15"},
-    {"Label26", "A"},
-    {"Label27", "B"},
-    {"Label28", "P"},
-    {"Label29", "Q"},
-    {"Command3", "&Ny opgave"},
-    {"Command1", "&OK"},
-    {"Command2", "&Giv svaret"},
-    {"Command10", "&Hjælp"},
-    {"Label201", "Generel løsning"},
-    {"Label72",
+    {"givenPointsHeading", "Givet følgende to punkter:"},
+    {"givenCaption", "Givet:"},
+    {"askedCaption", "Bestem:"},
+    {"newPointCondition", "Så det nye punkt (P;Q) ligger på linien gennem A og B."},
+    {"givenEquals", "="},
+    {"askedEquals", "="},
+    {"quantityMark5", "5"},
+    {"quantityMark10", "10"},
+    {"originMark", "0"},
+    {"priceMark5", "5"},
+    {"priceMark10", "10"},
+    {"priceMark15", "15"},
+    {"pointAName", "A"},
+    {"pointBName", "B"},
+    {"priceAxisName", "P"},
+    {"quantityAxisName", "Q"},
+    {"newExercise", "&Ny opgave"},
+    {"ok", "&OK"},
+    {"giveAnswer", "&Giv svaret"},
+    {"help", "&Hjælp"},
+    {"generalHeading", "Generel løsning"},
+    {"generalText",
      "Princippet for lineær interpolation og ekstrapolation er det samme. Vi vil finde den rette linie, "
      "som går gennem de to givne punkter A og B. Derpå indsætter vi det opgivne Q eller P, og finder "
      "derpå det manglende koordinat, så det fremkomne punkt ligger på linien."},
-    {"Label73", "Interpolation og ekstrapolation hvor Q-koordinat kendes."},
-    {"Label74", "Interpolation og ekstrapolation hvor P-koordinat kendes."},
-    {"Label75",
+    {"generalQuantityGivenHeading", "Interpolation og ekstrapolation hvor Q-koordinat kendes."},
+    {"generalPriceGivenHeading", "Interpolation og ekstrapolation hvor P-koordinat kendes."},
+    {"generalSlopeText",
      "Kendes to punkter A og B, findes ændringen i P-værdien i forhold til ændringen i Q-værdien ved at "
      "gå fra A til B."},
-    {"Label83",
+    {"generalInverseSlopeText",
      "Kendes to punkter A og B, findes ændringen i Q-værdien i forhold til ændringen i P-værdien ved at "
      "gå fra A til B."},
-    {"Label80", "Givet et nyt punkts Q-værdi kan punktets P-værdi nu findes."},
-    {"Label88", "Givet et nyt punkts P-værdi kan punktets Q-værdi nu findes."},
-    {"Label76", "Pb - Pa"},
-    {"Label77", "Qb - Qa"},
-    {"Label79", "α"},
-    {"Label84", "Qb - Qa"},
-    {"Label85", "Pb - Pa"},
-    {"Label87", "ω"},
-    {"Label81", "P = Pa - ( Qa - Q )·"},
-    {"Label82", "α"},
-    {"Label89", "Q = Qa - ( Pa - P )·"},
-    {"Label90", "ω"},
-    {"Label31", "Aktuel løsning"},
-    {"Label78", "="},
-    {"Label86", "="},
-    {"Command11", "Vis"},
-    {"Command12", "Vis"},
-    {"Command13", "&Luk"},
+    {"generalPriceText", "Givet et nyt punkts Q-værdi kan punktets P-værdi nu findes."},
+    {"generalQuantityText", "Givet et nyt punkts P-værdi kan punktets Q-værdi nu findes."},
+    {"generalSlopeNumerator", "Pb - Pa"},
+    {"generalSlopeDenominator", "Qb - Qa"},
+    {"generalSlope", "α"},
+    {"generalInverseSlopeNumerator", "Qb - Qa"},
+    {"generalInverseSlopeDenominator", "Pb - Pa"},
+    {"generalInverseSlope", "ω"},
+    {"generalPriceRule", "P = Pa - ( Qa - Q )·"},
+    {"generalPriceRuleSlope", "α"},
+    {"generalQuantityRule", "Q = Qa - ( Pa - P )·"},
+    {"generalQuantityRuleInverseSlope", "ω"},
+    {"workedHeading", "Aktuel løsning"},
+    {"generalSlopeEquals", "="},
+    {"generalInverseSlopeEquals", "="},
+    {"showPriceSolution", "Vis"},
+    {"showQuantitySolution", "Vis"},
+    {"closeHelp", "&Luk"},
 };
 
 TEST_F(LininterForm, BearsItsFixedTexts) {
     const FormDriver& f = openQAbove();
-    f.click("Command10");
+    f.click("help");
     test::expectTexts(f, kFixedTexts);
-    for (const char* onGraph : {"Label20", "Label21", "Label22", "Label23", "Label24", "Label25", "Label26",
-                                "Label27", "Label28", "Label29"}) {
+    for (const char* onGraph :
+         {"quantityMark5", "quantityMark10", "originMark", "priceMark5", "priceMark10", "priceMark15",
+          "pointAName", "pointBName", "priceAxisName", "quantityAxisName"}) {
         EXPECT_EQ(f.label(onGraph).parentWidget(), &graph()) << onGraph;
     }
 }
 
 TEST_F(LininterForm, GivesQAndAsksForP) {
     const FormDriver& f = openQAbove();
-    EXPECT_EQ(f.caption("Label3"), "A : ( 1 ; 2 )");
-    EXPECT_EQ(f.caption("Label9"), "B : ( 3 ; 6 )");
-    EXPECT_EQ(f.caption("Label13"), "Q");
-    EXPECT_EQ(f.caption("Label14"), "=");
-    EXPECT_EQ(f.caption("Label15"), "4");
-    EXPECT_EQ(f.caption("Label16"), "P");
-    EXPECT_EQ(f.caption("Label17"), "=");
-    EXPECT_EQ(f.focus(), "Text1");
-    EXPECT_TRUE(f.isShown("Command1"));
-    EXPECT_FALSE(f.isShown("Command2"));
+    EXPECT_EQ(f.caption("pointA"), "A : ( 1 ; 2 )");
+    EXPECT_EQ(f.caption("pointB"), "B : ( 3 ; 6 )");
+    EXPECT_EQ(f.caption("givenLetter"), "Q");
+    EXPECT_EQ(f.caption("givenEquals"), "=");
+    EXPECT_EQ(f.caption("givenCoordinate"), "4");
+    EXPECT_EQ(f.caption("askedLetter"), "P");
+    EXPECT_EQ(f.caption("askedEquals"), "=");
+    EXPECT_EQ(f.focus(), "askedCoordinate");
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
 }
 
 TEST_F(LininterForm, GivesPAndAsksForQ) {
     const FormDriver& f = openPAbove();
-    EXPECT_EQ(f.caption("Label13"), "P");
-    EXPECT_EQ(f.caption("Label15"), "5");
-    EXPECT_EQ(f.caption("Label16"), "Q");
+    EXPECT_EQ(f.caption("givenLetter"), "P");
+    EXPECT_EQ(f.caption("givenCoordinate"), "5");
+    EXPECT_EQ(f.caption("askedLetter"), "Q");
 }
 
 TEST_F(LininterForm, DrawsAxesThenTicksThenACrossForEachPoint) {
@@ -188,13 +190,13 @@ TEST_F(LininterForm, DrawsAxesThenTicksThenACrossForEachPoint) {
 
 TEST_F(LininterForm, PutsTheNamesByThePoints) {
     const FormDriver& f = openPBelow();
-    EXPECT_TRUE(f.isShown("Label26"));
-    EXPECT_TRUE(f.isShown("Label27"));
+    EXPECT_TRUE(f.isShown("pointAName"));
+    EXPECT_TRUE(f.isShown("pointBName"));
     const double unitsToOne = graph().Control::place().height() / 21.5;
-    EXPECT_NEAR(graph().leftOf(f.label("Label26")), 2, 1e-6);
-    EXPECT_NEAR(f.label("Label26").place().top(), (16.5 - 5.5) * unitsToOne, 1e-6);
-    EXPECT_NEAR(graph().leftOf(f.label("Label27")), 4, 1e-6);
-    EXPECT_NEAR(f.label("Label27").place().top(), (16.5 - 6.5) * unitsToOne, 1e-6);
+    EXPECT_NEAR(graph().leftOf(f.label("pointAName")), 2, 1e-6);
+    EXPECT_NEAR(f.label("pointAName").place().top(), (16.5 - 5.5) * unitsToOne, 1e-6);
+    EXPECT_NEAR(graph().leftOf(f.label("pointBName")), 4, 1e-6);
+    EXPECT_NEAR(f.label("pointBName").place().top(), (16.5 - 6.5) * unitsToOne, 1e-6);
 }
 
 TEST_F(LininterForm, ClearsTheGraphWithEachExercise) {
@@ -202,81 +204,81 @@ TEST_F(LininterForm, ClearsTheGraphWithEachExercise) {
     answer("8");
     EXPECT_GT(graph().strokes().size(), kStrokesOfTask);
     script(9, 4, 10, 6, GivenQ, 1);
-    f.click("Command3");
+    f.click("newExercise");
     EXPECT_EQ(graph().strokes().size(), kStrokesOfTask);
     EXPECT_EQ(graph().scale(), kGraph.scale);
-    EXPECT_NEAR(graph().leftOf(f.label("Label26")), 9, 1e-6);
+    EXPECT_NEAR(graph().leftOf(f.label("pointAName")), 9, 1e-6);
 }
 
 TEST_F(LininterForm, IsSolvedByKeysAlone) {
     const FormDriver& f = openPAbove();
-    f.type("Text1", "2,5");
-    f.press("Text1", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command1");
-    f.press("Command1", Qt::Key_Return);
-    EXPECT_TRUE(f.isShown("Label19"));
-    EXPECT_EQ(f.focus(), "Command3");
+    f.type("askedCoordinate", "2,5");
+    f.press("askedCoordinate", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "ok");
+    f.press("ok", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_EQ(f.focus(), "newExercise");
     script(1, 2, 3, 6, GivenQ, 4);
-    f.press("Command3", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Label19"));
-    EXPECT_EQ(f.caption("Label13"), "Q");
-    EXPECT_EQ(f.box("Text1").content(), "");
-    EXPECT_EQ(f.focus(), "Text1");
+    f.press("newExercise", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("right"));
+    EXPECT_EQ(f.caption("givenLetter"), "Q");
+    EXPECT_EQ(f.box("askedCoordinate").content(), "");
+    EXPECT_EQ(f.focus(), "askedCoordinate");
 }
 
 TEST_F(LininterForm, MarksAWrongAnswerAndDrawsNothing) {
     const FormDriver& f = openQAbove();
     answer("7");
-    EXPECT_TRUE(f.isShown("Label18"));
-    EXPECT_FALSE(f.isShown("Label19"));
-    EXPECT_EQ(f.box("Text1").backColour(), kRed);
-    EXPECT_EQ(f.box("Text1").content(), "7");
-    EXPECT_TRUE(f.isShown("Command1"));
-    EXPECT_TRUE(f.isShown("Command2"));
-    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("right"));
+    EXPECT_EQ(f.box("askedCoordinate").backColour(), kRed);
+    EXPECT_EQ(f.box("askedCoordinate").content(), "7");
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_TRUE(f.isShown("giveAnswer"));
+    EXPECT_EQ(f.focus(), "askedCoordinate");
     EXPECT_TRUE(drawnLater().empty());
 }
 
 TEST_F(LininterForm, StaysRedUntilARightAnswer) {
     const FormDriver& f = openQAbove();
     answer("7");
-    f.type("Text1", "8");
-    EXPECT_EQ(f.box("Text1").backColour(), kRed);
-    f.click("Command1");
-    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
-    EXPECT_TRUE(f.isShown("Label19"));
-    EXPECT_FALSE(f.isShown("Label18"));
-    EXPECT_FALSE(f.isShown("Command1"));
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_EQ(f.focus(), "Command3");
+    f.type("askedCoordinate", "8");
+    EXPECT_EQ(f.box("askedCoordinate").backColour(), kRed);
+    f.click("ok");
+    EXPECT_EQ(f.box("askedCoordinate").backColour(), kWhite);
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_FALSE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
+    EXPECT_EQ(f.focus(), "newExercise");
 }
 
 TEST_F(LininterForm, StaysRedUntilTheAnswerIsGivenOrTheNextExercise) {
     const FormDriver& f = openQAbove();
     giveAfter("7");
-    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
+    EXPECT_EQ(f.box("askedCoordinate").backColour(), kWhite);
     script(1, 2, 3, 6, GivenQ, 4);
-    f.click("Command3");
+    f.click("newExercise");
     answer("7");
     script(1, 2, 3, 6, GivenQ, 4);
-    f.click("Command3");
-    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
-    EXPECT_FALSE(f.isShown("Label18"));
+    f.click("newExercise");
+    EXPECT_EQ(f.box("askedCoordinate").backColour(), kWhite);
+    EXPECT_FALSE(f.isShown("wrong"));
 }
 
 TEST_F(LininterForm, TakesTheHalfOpenBandRoundTheTarget) {
     const FormDriver& f = open(2, 4, 10, 9, GivenQ, 1);  // 3.375
     for (const char* wrong : {"3.37", "3.38001", "3.4", "", "abc", "3,4"}) {
         answer(wrong);
-        EXPECT_TRUE(f.isShown("Label18")) << wrong;
+        EXPECT_TRUE(f.isShown("wrong")) << wrong;
     }
     answer("3.37001");
-    EXPECT_TRUE(f.isShown("Label19"));
+    EXPECT_TRUE(f.isShown("right"));
     for (const char* right : {"3.38", "3.375"}) {
         script(2, 4, 10, 9, GivenQ, 1);
-        f.click("Command3");
+        f.click("newExercise");
         answer(right);
-        EXPECT_TRUE(f.isShown("Label19")) << right;
+        EXPECT_TRUE(f.isShown("right")) << right;
     }
 }
 
@@ -362,7 +364,7 @@ TEST_F(LininterForm, DrawsTheHeadAstrayOnTheBoxWhereTheLineIsSeenThere) {
 TEST_F(LininterForm, StandsATargetJustBelowSixteenInsideTheBox) {
     open(1, 2, 4, 9, GivenQ, 7);
     answer("15.999");
-    EXPECT_TRUE(form->isShown("Label19"));
+    EXPECT_TRUE(form->isShown("right"));
     const std::vector<Stroke> guidesAndHeads = test::strokesFrom(graph(), kStrokesOfTask + 1);
     ASSERT_EQ(guidesAndHeads.size(), 6U);
     EXPECT_EQ(guidesAndHeads.front(), kGraph.line(7, 0, 7, 15.999999F, kGreen));
@@ -388,7 +390,7 @@ TEST_F(LininterForm, DrawsEverythingByTheLineWhereSinglesPutItBesideTheGivenP) {
               (std::vector<Stroke>{through, guides[0], guides[1], heads[0], heads[1], heads[2], heads[3]}));
     open(1, 1, 4, 3, GivenP, 6);
     giveAfter("2");
-    EXPECT_EQ(form->box("Text1").content(), "8.5");
+    EXPECT_EQ(form->box("askedCoordinate").content(), "8.5");
     EXPECT_EQ(
         drawnLater(),
         (std::vector<Stroke>{through, guides[0], guides[1], kGraph.line(1.65, 6, 2.35, 6, kRed),
@@ -408,148 +410,150 @@ TEST_F(LininterForm, GivesTheAnswerInTheLocaleAndCrossesAtWhatWasTypedBefore) {
     const DecimalMark danish(",");
     const FormDriver& f = open(1, 2, 4, 7, GivenQ, 8);  // 13.666...
     giveAfter("13,6");
-    EXPECT_EQ(f.box("Text1").content(), "13,67");
+    EXPECT_EQ(f.box("askedCoordinate").content(), "13,67");
     EXPECT_EQ(drawnLater()[3], kGraph.line(7.65, 13.6, 8.35, 13.6, kRed));
-    EXPECT_FALSE(f.isShown("Command1"));
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_FALSE(f.isShown("Label18"));
-    EXPECT_FALSE(f.isShown("Label19"));
-    EXPECT_EQ(f.focus(), "Command3");
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
+    EXPECT_FALSE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("right"));
+    EXPECT_EQ(f.focus(), "newExercise");
 }
 
 TEST_F(LininterForm, TakesAnyTypedText) {
     const FormDriver& f = openQAbove();
     for (const std::string& typed :
          {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
-        f.box("Text1").setContent(typed);
-        f.click("Command1");
-        f.click("Command2");
+        f.box("askedCoordinate").setContent(typed);
+        f.click("ok");
+        f.click("giveAnswer");
         EXPECT_FALSE(f.page().grab().isNull());
-        EXPECT_EQ(f.box("Text1").content(), "8");
+        EXPECT_EQ(f.box("askedCoordinate").content(), "8");
         script(1, 2, 3, 6, GivenQ, 4);
-        f.click("Command3");
+        f.click("newExercise");
     }
 }
 
 TEST_F(LininterForm, ExplainsBothDirections) {
     const FormDriver& f = openQAbove();
-    f.click("Command10");
-    EXPECT_TRUE(f.isShown("Picture2"));
-    EXPECT_TRUE(f.isShown("Picture3"));
+    f.click("help");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_TRUE(f.isShown("workedSolution"));
 }
 
 TEST_F(LininterForm, OpensOnlyTheSolutionOfItsDirection) {
     const FormDriver& q = openQAbove();
-    q.click("Command10");
-    EXPECT_TRUE(q.button("Command11").isEnabled());
-    EXPECT_FALSE(q.button("Command12").isEnabled());
-    EXPECT_EQ(q.focus(), "Command11");
-    EXPECT_EQ(q.caption("Label91"), "6 - 2");
-    EXPECT_EQ(q.caption("Label92"), "3 - 1");
-    EXPECT_EQ(q.caption("Label93"), " = 2");
-    EXPECT_EQ(q.caption("Label94"), "P=2 - ( 1 - 4 )·2 = 8");
-    EXPECT_EQ(q.caption("Label98"), "");
+    q.click("help");
+    EXPECT_TRUE(q.button("showPriceSolution").isEnabled());
+    EXPECT_FALSE(q.button("showQuantitySolution").isEnabled());
+    EXPECT_EQ(q.focus(), "showPriceSolution");
+    EXPECT_EQ(q.caption("workedSlopeNumerator"), "6 - 2");
+    EXPECT_EQ(q.caption("workedSlopeDenominator"), "3 - 1");
+    EXPECT_EQ(q.caption("workedSlope"), " = 2");
+    EXPECT_EQ(q.caption("workedPrice"), "P=2 - ( 1 - 4 )·2 = 8");
+    EXPECT_EQ(q.caption("workedQuantity"), "");
 
     script(2, 6, 4, 7, GivenP, 1);
-    q.click("Command3");
-    EXPECT_FALSE(q.button("Command11").isEnabled());
-    EXPECT_FALSE(q.button("Command12").isEnabled());
-    q.click("Command10");
-    EXPECT_FALSE(q.button("Command11").isEnabled());
-    EXPECT_TRUE(q.button("Command12").isEnabled());
-    EXPECT_EQ(q.focus(), "Command12");
-    EXPECT_EQ(q.caption("Label95"), "4 - 2");
-    EXPECT_EQ(q.caption("Label96"), "7 - 6");
-    EXPECT_EQ(q.caption("Label97"), " = 2");
-    EXPECT_EQ(q.caption("Label98"), "Q = 2 - ( 6 - 1 )·2 = -8");
+    q.click("newExercise");
+    EXPECT_FALSE(q.button("showPriceSolution").isEnabled());
+    EXPECT_FALSE(q.button("showQuantitySolution").isEnabled());
+    q.click("help");
+    EXPECT_FALSE(q.button("showPriceSolution").isEnabled());
+    EXPECT_TRUE(q.button("showQuantitySolution").isEnabled());
+    EXPECT_EQ(q.focus(), "showQuantitySolution");
+    EXPECT_EQ(q.caption("workedInverseSlopeNumerator"), "4 - 2");
+    EXPECT_EQ(q.caption("workedInverseSlopeDenominator"), "7 - 6");
+    EXPECT_EQ(q.caption("workedInverseSlope"), " = 2");
+    EXPECT_EQ(q.caption("workedQuantity"), "Q = 2 - ( 6 - 1 )·2 = -8");
 }
 
 TEST_F(LininterForm, LeavesTheOtherSolutionFromBeforeUnderItsCover) {
     const FormDriver& f = openQAbove();
-    f.click("Command10");
-    f.click("Command11");
+    f.click("help");
+    f.click("showPriceSolution");
     script(2, 6, 4, 7, GivenP, 1);
-    f.click("Command3");
-    f.click("Command10");
-    EXPECT_EQ(f.caption("Label94"), "P=2 - ( 1 - 4 )·2 = 8");
-    EXPECT_TRUE(f.isShown("Label99"));
+    f.click("newExercise");
+    f.click("help");
+    EXPECT_EQ(f.caption("workedPrice"), "P=2 - ( 1 - 4 )·2 = 8");
+    EXPECT_TRUE(f.isShown("priceSolutionCover"));
 }
 
 TEST_F(LininterForm, UncoversTheSolutionAndGoesToTheCloseButton) {
     const FormDriver& q = openQAbove();
-    q.click("Command10");
-    EXPECT_TRUE(q.isShown("Label99"));
-    EXPECT_TRUE(q.isShown("Label100"));
-    q.press("Command11", Qt::Key_Return);
-    EXPECT_FALSE(q.isShown("Label99"));
-    EXPECT_TRUE(q.isShown("Label100"));
-    EXPECT_EQ(q.focus(), "Command13");
+    q.click("help");
+    EXPECT_TRUE(q.isShown("priceSolutionCover"));
+    EXPECT_TRUE(q.isShown("quantitySolutionCover"));
+    q.press("showPriceSolution", Qt::Key_Return);
+    EXPECT_FALSE(q.isShown("priceSolutionCover"));
+    EXPECT_TRUE(q.isShown("quantitySolutionCover"));
+    EXPECT_EQ(q.focus(), "closeHelp");
 
     const FormDriver& p = openPAbove();
-    p.click("Command10");
-    p.press("Command12", Qt::Key_Return);
-    EXPECT_TRUE(p.isShown("Label99"));
-    EXPECT_FALSE(p.isShown("Label100"));
-    EXPECT_EQ(p.focus(), "Command13");
+    p.click("help");
+    p.press("showQuantitySolution", Qt::Key_Return);
+    EXPECT_TRUE(p.isShown("priceSolutionCover"));
+    EXPECT_FALSE(p.isShown("quantitySolutionCover"));
+    EXPECT_EQ(p.focus(), "closeHelp");
 }
 
 TEST_F(LininterForm, CoversTheSolutionsAgainWhenThePanelCloses) {
     const FormDriver& f = openQAbove();
-    f.click("Command10");
-    f.click("Command11");
-    f.click("Command13");
-    EXPECT_FALSE(f.isShown("Picture2"));
-    EXPECT_TRUE(f.isShown("Label99"));
-    EXPECT_TRUE(f.isShown("Label100"));
-    EXPECT_TRUE(f.button("Command11").isEnabled());
+    f.click("help");
+    f.click("showPriceSolution");
+    f.click("closeHelp");
+    EXPECT_FALSE(f.isShown("helpPanel"));
+    EXPECT_TRUE(f.isShown("priceSolutionCover"));
+    EXPECT_TRUE(f.isShown("quantitySolutionCover"));
+    EXPECT_TRUE(f.button("showPriceSolution").isEnabled());
 }
 
 TEST_F(LininterForm, CoversTheSolutionsAgainWithTheNextExercise) {
     const FormDriver& f = openQAbove();
-    f.click("Command10");
-    f.click("Command11");
+    f.click("help");
+    f.click("showPriceSolution");
     script(1, 2, 3, 6, GivenQ, 4);
-    f.click("Command3");
-    EXPECT_FALSE(f.isShown("Picture2"));
-    EXPECT_TRUE(f.isShown("Label99"));
+    f.click("newExercise");
+    EXPECT_FALSE(f.isShown("helpPanel"));
+    EXPECT_TRUE(f.isShown("priceSolutionCover"));
 }
 
 TEST_F(LininterForm, KeepsAnOpenSolutionWhereHelpIsAskedForAgain) {
     const FormDriver& f = openQAbove();
-    f.click("Command10");
-    f.click("Command11");
-    f.click("Command10");
-    EXPECT_FALSE(f.isShown("Label99"));
-    EXPECT_EQ(f.focus(), "Command11");
+    f.click("help");
+    f.click("showPriceSolution");
+    f.click("help");
+    EXPECT_FALSE(f.isShown("priceSolutionCover"));
+    EXPECT_EQ(f.focus(), "showPriceSolution");
 }
 
 TEST_F(LininterForm, LeavesThePanelOpenWhileTheExerciseGoesOn) {
     const FormDriver& f = openQAbove();
-    f.click("Command10");
+    f.click("help");
     answer("7");
-    EXPECT_TRUE(f.isShown("Picture2"));
-    f.click("Command2");
-    EXPECT_TRUE(f.isShown("Picture2"));
-    EXPECT_EQ(f.box("Text1").content(), "8");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    f.click("giveAnswer");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_EQ(f.box("askedCoordinate").content(), "8");
 }
 
 TEST_F(LininterForm, CoversTheWholeSolutionAndNothingElse) {
     const FormDriver& f = open(10, 10, 7, 3, GivenQ, 3);
-    f.click("Command10");
-    const QRect left = f.find("Label99").geometry();
-    const QRect right = f.find("Label100").geometry();
-    for (const char* covered : {"Label91", "Line3", "Label92", "Label93", "Label94"}) {
+    f.click("help");
+    const QRect left = f.find("priceSolutionCover").geometry();
+    const QRect right = f.find("quantitySolutionCover").geometry();
+    for (const char* covered :
+         {"workedSlopeNumerator", "workedSlopeBar", "workedSlopeDenominator", "workedSlope", "workedPrice"}) {
         EXPECT_TRUE(left.contains(f.find(covered).geometry())) << covered;
         EXPECT_FALSE(right.intersects(f.find(covered).geometry())) << covered;
     }
-    for (const char* covered : {"Label95", "Line4", "Label96", "Label97", "Label98"}) {
+    for (const char* covered : {"workedInverseSlopeNumerator", "workedInverseSlopeBar",
+                                "workedInverseSlopeDenominator", "workedInverseSlope", "workedQuantity"}) {
         EXPECT_TRUE(right.contains(f.find(covered).geometry())) << covered;
         EXPECT_FALSE(left.intersects(f.find(covered).geometry())) << covered;
     }
-    EXPECT_FALSE(left.intersects(f.find("Label31").geometry()));
-    EXPECT_EQ(f.label("Label99").backColour(), kWhite);
-    EXPECT_TRUE(f.find("Label99").autoFillBackground());
-    EXPECT_TRUE(f.find("Label100").autoFillBackground());
+    EXPECT_FALSE(left.intersects(f.find("workedHeading").geometry()));
+    EXPECT_EQ(f.label("priceSolutionCover").backColour(), kWhite);
+    EXPECT_TRUE(f.find("priceSolutionCover").autoFillBackground());
+    EXPECT_TRUE(f.find("quantitySolutionCover").autoFillBackground());
 }
 
 TEST_F(LininterForm, HasRoomForTheLongestNumbers) {
@@ -558,8 +562,8 @@ TEST_F(LininterForm, HasRoomForTheLongestNumbers) {
         const bool isQ = direction == GivenQ;
         const FormDriver& f = isQ ? open(10, 10, 7, 3, GivenQ, 3) : open(3, 10, 10, 6, GivenP, 8);
         giveAfter("-123456.75");
-        f.click("Command10");
-        f.click(isQ ? "Command11" : "Command12");
+        f.click("help");
+        f.click(isQ ? "showPriceSolution" : "showQuantitySolution");
         EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
     }
 }
