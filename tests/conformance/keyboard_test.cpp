@@ -138,9 +138,9 @@ TEST(RoedderKeyboard, ChoosesTheOptionByTheKeyThatTheMenuHasTooAndOpensTheMenuBy
     const FormDriver form(PageName::Roedder, draws);
     for (int times = 0; times < 3; ++times) {
         QTest::keyClick(form.page().windowHandle(), Qt::Key_T, Qt::AltModifier);
-        EXPECT_TRUE(form.option("Option1").isChosen());
+        EXPECT_TRUE(form.option("twoRoots").isChosen());
         QTest::keyClick(form.page().windowHandle(), Qt::Key_I, Qt::AltModifier);
-        EXPECT_TRUE(form.option("Option3").isChosen());
+        EXPECT_TRUE(form.option("noRoots").isChosen());
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     }
     QTest::keyClick(form.page().windowHandle(), Qt::Key_F10);

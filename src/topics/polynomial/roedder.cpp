@@ -17,47 +17,46 @@ constexpr double kHalfTick = 0.5;
 Roedder::Roedder(Draws& draws)
     : ExerciseForm(PageName::Roedder, draws), ui_(std::make_unique<Ui::Roedder>()) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command6,
-             .ok = ui_->Command2,
-             .giveAnswer = ui_->Command10,
-             .help = ui_->Command1});
-    verdict(TwoLabels{.right = ui_->Label2_0, .wrong = ui_->Label9});
-    enterChain({ui_->Text8, ui_->Text9}, LastBox::OkOrStay);
-    options_ = {
-        {ui_->Option1, RootCount::Two}, {ui_->Option2, RootCount::Double}, {ui_->Option3, RootCount::None}};
-    onClick(ui_->Option1, &Roedder::askForTwoRoots);
-    onClick(ui_->Option2, &Roedder::askForDoubleRoot);
-    onClick(ui_->Option3, &Roedder::askForNoRoots);
-    onClick(ui_->Command5, &Roedder::showDiscriminant);
-    onClick(ui_->Command4, &Roedder::showRootCount);
-    onClick(ui_->Command7, &Roedder::showSolution);
-    onClick(ui_->Command3, &Roedder::closeHelp);
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
+    enterChain({ui_->rootOne, ui_->rootTwo}, LastBox::OkOrStay);
+    options_ = {{ui_->twoRoots, RootCount::Two},
+                {ui_->doubleRoot, RootCount::Double},
+                {ui_->noRoots, RootCount::None}};
+    onClick(ui_->twoRoots, &Roedder::askForTwoRoots);
+    onClick(ui_->doubleRoot, &Roedder::askForDoubleRoot);
+    onClick(ui_->noRoots, &Roedder::askForNoRoots);
+    onClick(ui_->showDiscriminant, &Roedder::showDiscriminant);
+    onClick(ui_->showRootCount, &Roedder::showRootCount);
+    onClick(ui_->showRoots, &Roedder::showSolution);
+    onClick(ui_->closeHelp, &Roedder::closeHelp);
 }
 
 Roedder::~Roedder() = default;
 
-void Roedder::loadStep() { ui_->Command6->show(); }
+void Roedder::loadStep() { ui_->newExercise->show(); }
 
 void Roedder::newExercise() {
-    showAll({ui_->Label88, ui_->Label89, ui_->Label90});
+    showAll({ui_->rootsCover, ui_->rootCountCover, ui_->discriminantCover});
     closeHelp();
     drawAxes();
     options_.resetColours();
     options_.chooseNone();
     // Kept: the boxes hold text and colour until an option is picked.
     hideAnswer();
-    ui_->Command2->hide();
+    ui_->ok->hide();
 
     tavrune::newExercise(state_, draws());
 
-    ui_->Label91->setCaption(state_.polynomial);
-    ui_->Label92->setCaption(state_.polynomial);
-    ui_->Label45->setCaption(discriminantText(state_));
+    ui_->givenFunction->setCaption(state_.polynomial);
+    ui_->workedFunction->setCaption(state_.polynomial);
+    ui_->workedDiscriminant->setCaption(discriminantText(state_));
     clearWorkedSolution();
 }
 
 void Roedder::drawAxes() {
-    GraphBox& graph = *ui_->Picture1;
+    GraphBox& graph = *ui_->graph;
     graph.Cls();
     graph.Scale(-kEnd, kEnd, kEnd, -kEnd);
     graph.Line(0, kEnd, 0, -kEnd);
@@ -71,48 +70,49 @@ void Roedder::drawAxes() {
 }
 
 void Roedder::drawCurve(double neverMet) {
-    plotCurve(*ui_->Picture1, [this](double q) { return valueAt(state_.coefficients, q); },
+    plotCurve(*ui_->graph, [this](double q) { return valueAt(state_.coefficients, q); },
               {.start = -10, .step = 0.05, .neverMet = neverMet, .largest = 2000});
 }
 
-void Roedder::drawTick(double root) { ui_->Picture1->Line(root, -kHalfTick, root, kHalfTick, kRed); }
+void Roedder::drawTick(double root) { ui_->graph->Line(root, -kHalfTick, root, kHalfTick, kRed); }
 
 void Roedder::hideAnswer() {
-    hideAll({ui_->Text8, ui_->Text9, ui_->Label1_0, ui_->Label3_0, ui_->Label4_0, ui_->Command10});
+    hideAll({ui_->rootOne, ui_->rootTwo, ui_->doubleRootCaption, ui_->rootOneCaption, ui_->rootTwoCaption,
+             ui_->giveAnswer});
     hideVerdict();
 }
 
 void Roedder::nameSecondBox(RootCount count) {
-    ui_->Text9->setAccessibleName(count == RootCount::Double ? "dobbelt rod" : "rod 2");
+    ui_->rootTwo->setAccessibleName(count == RootCount::Double ? "dobbelt rod" : "rod 2");
 }
 
 void Roedder::askForTwoRoots() {
     hideAnswer();
-    clearBoxes({ui_->Text8, ui_->Text9});
+    clearBoxes({ui_->rootOne, ui_->rootTwo});
     nameSecondBox(RootCount::Two);
-    showAll({ui_->Text8, ui_->Text9, ui_->Label3_0, ui_->Label4_0, ui_->Command2});
-    focusOn(ui_->Text8);
+    showAll({ui_->rootOne, ui_->rootTwo, ui_->rootOneCaption, ui_->rootTwoCaption, ui_->ok});
+    focusOn(ui_->rootOne);
 }
 
 void Roedder::askForDoubleRoot() {
     hideAnswer();
-    whiten({ui_->Text8, ui_->Text9});
+    whiten({ui_->rootOne, ui_->rootTwo});
     // Kept: the first box is hidden with what it holds, and still decides which box is marked.
-    ui_->Text9->setContent("");
+    ui_->rootTwo->setContent("");
     nameSecondBox(RootCount::Double);
-    showAll({ui_->Text9, ui_->Label1_0, ui_->Command2});
-    focusOn(ui_->Text9);
+    showAll({ui_->rootTwo, ui_->doubleRootCaption, ui_->ok});
+    focusOn(ui_->rootTwo);
 }
 
 void Roedder::askForNoRoots() {
     hideAnswer();
-    ui_->Command2->show();
-    focusOn(ui_->Command2);
+    ui_->ok->show();
+    focusOn(ui_->ok);
 }
 
 void Roedder::judge() {
-    whiten({ui_->Text8, ui_->Text9});
-    const TypedRoots typed{.first = ui_->Text8->value(), .second = ui_->Text9->value()};
+    whiten({ui_->rootOne, ui_->rootTwo});
+    const TypedRoots typed{.first = ui_->rootOne->value(), .second = ui_->rootTwo->value()};
     if (isRight(state_, options_.chosen(), typed)) {
         solved();
         colourRightOption();
@@ -127,12 +127,12 @@ void Roedder::judge() {
         drawTick(typed.second);
     }
     const RootMarks marks = rootMarks(state_.discriminant, state_.roots, typed);
-    ui_->Text8->mark(marks.first);
-    ui_->Text9->mark(marks.second);
+    ui_->rootOne->mark(marks.first);
+    ui_->rootTwo->mark(marks.second);
 }
 
 void Roedder::giveAnswer() {
-    whiten({ui_->Text8, ui_->Text9});
+    whiten({ui_->rootOne, ui_->rootTwo});
     options_.resetColours();
     colourRightOption();
 
@@ -140,15 +140,15 @@ void Roedder::giveAnswer() {
     const bool isTwo = count == RootCount::Two;
     const bool isDouble = count == RootCount::Double;
     nameSecondBox(count);
-    setShown(isTwo, {ui_->Label3_0, ui_->Label4_0, ui_->Text8});
-    setShown(isDouble, {ui_->Label1_0});
-    setShown(isTwo || isDouble, {ui_->Text9});
+    setShown(isTwo, {ui_->rootOneCaption, ui_->rootTwoCaption, ui_->rootOne});
+    setShown(isDouble, {ui_->doubleRootCaption});
+    setShown(isTwo || isDouble, {ui_->rootTwo});
     const RoedderAnswer answer = answerTexts(state_);
     if (isTwo) {
-        ui_->Text8->setContent(answer.root1);
-        ui_->Text9->setContent(answer.root2);
+        ui_->rootOne->setContent(answer.root1);
+        ui_->rootTwo->setContent(answer.root2);
     } else if (isDouble) {
-        ui_->Text9->setContent(answer.root1);
+        ui_->rootTwo->setContent(answer.root1);
     }
     drawCurve(state_.coefficients.a < 0 ? 7 : 10);
     given();
@@ -165,63 +165,76 @@ void Roedder::help() {
             workOutDoubleRoot();
             break;
         case RootCount::None:
-            showAll({ui_->Label56, ui_->Label81, ui_->Label82});
+            showAll({ui_->workedNoRootsConclusion, ui_->workedNoRootsCase, ui_->workedNoRootsText});
             break;
     }
-    openPanel(ui_->Picture2, ui_->Command5);
+    openPanel(ui_->helpPanel, ui_->showDiscriminant);
 }
 
 void Roedder::workOutTwoRoots() {
-    showAll({ui_->Label54, ui_->Label57, ui_->Label58, ui_->Label59, ui_->Label61, ui_->Label72, ui_->Label65,
-             ui_->Label66, ui_->Label68, ui_->Label73, ui_->Line10, ui_->Line11, ui_->Line12, ui_->Line13,
-             ui_->Line14, ui_->Line15, ui_->Line16, ui_->Line17});
+    showAll({ui_->workedTwoRootsConclusion, ui_->workedTwoRootsCase, ui_->workedRootOneEquals,
+             ui_->workedRootOneLeadingMinus, ui_->workedRootOnePlusRoot, ui_->workedRootOneResultEquals,
+             ui_->workedRootTwoEquals, ui_->workedRootTwoLeadingMinus, ui_->workedRootTwoMinusRoot,
+             ui_->workedRootTwoResultEquals, ui_->workedRootOneRootSignHook, ui_->workedRootOneRootSignRise,
+             ui_->workedRootOneRootSignBar, ui_->workedRootOneBar, ui_->workedRootTwoRootSignHook,
+             ui_->workedRootTwoRootSignRise, ui_->workedRootTwoRootSignBar, ui_->workedRootTwoBar});
     const RoedderFormula formula = formulaTexts(state_);
-    ui_->Label60->setCaption(formula.b);
-    ui_->Label67->setCaption(formula.b);
-    ui_->Label62->setCaption(formula.d);
-    ui_->Label69->setCaption(formula.d);
-    ui_->Label64->setCaption(formula.denominator);
-    ui_->Label71->setCaption(formula.denominator);
+    ui_->workedRootOneCoefficientB->setCaption(formula.b);
+    ui_->workedRootTwoCoefficientB->setCaption(formula.b);
+    ui_->workedRootOneDiscriminant->setCaption(formula.d);
+    ui_->workedRootTwoDiscriminant->setCaption(formula.d);
+    ui_->workedRootOneDenominator->setCaption(formula.denominator);
+    ui_->workedRootTwoDenominator->setCaption(formula.denominator);
     const RoedderAnswer answer = answerTexts(state_);
-    ui_->Label74->setCaption(answer.root1);
-    ui_->Label75->setCaption(answer.root2);
+    ui_->workedRootOneResult->setCaption(answer.root1);
+    ui_->workedRootTwoResult->setCaption(answer.root2);
 }
 
 void Roedder::workOutDoubleRoot() {
-    showAll({ui_->Label55, ui_->Label76, ui_->Label77, ui_->Label83, ui_->Line18});
+    showAll({ui_->workedDoubleRootConclusion, ui_->workedDoubleRootCase, ui_->workedDoubleRootEquals,
+             ui_->workedDoubleRootResultEquals, ui_->workedDoubleRootBar});
     const RoedderFormula formula = formulaTexts(state_);
-    ui_->Label78->setCaption(formula.minusB);
-    ui_->Label80->setCaption(formula.denominator);
-    ui_->Label84->setCaption(answerTexts(state_).root1);
+    ui_->workedDoubleRootNumerator->setCaption(formula.minusB);
+    ui_->workedDoubleRootDenominator->setCaption(formula.denominator);
+    ui_->workedDoubleRootResult->setCaption(answerTexts(state_).root1);
 }
 
 void Roedder::clearWorkedSolution() {
     // Kept: the places of the numbers are emptied and stay; the rest is hidden until help is asked for.
-    for (Label* number : {ui_->Label60, ui_->Label62, ui_->Label64, ui_->Label74, ui_->Label67, ui_->Label69,
-                          ui_->Label71, ui_->Label75, ui_->Label78, ui_->Label80, ui_->Label84}) {
+    for (Label* number :
+         {ui_->workedRootOneCoefficientB, ui_->workedRootOneDiscriminant, ui_->workedRootOneDenominator,
+          ui_->workedRootOneResult, ui_->workedRootTwoCoefficientB, ui_->workedRootTwoDiscriminant,
+          ui_->workedRootTwoDenominator, ui_->workedRootTwoResult, ui_->workedDoubleRootNumerator,
+          ui_->workedDoubleRootDenominator, ui_->workedDoubleRootResult}) {
         number->setCaption("");
     }
-    hideAll({ui_->Label54, ui_->Label55, ui_->Label56, ui_->Label57, ui_->Label58, ui_->Label59, ui_->Label61,
-             ui_->Label72, ui_->Label65, ui_->Label66, ui_->Label68, ui_->Label73, ui_->Label76, ui_->Label77,
-             ui_->Label83, ui_->Label81, ui_->Label82, ui_->Line10,  ui_->Line11,  ui_->Line12,  ui_->Line13,
-             ui_->Line14,  ui_->Line15,  ui_->Line16,  ui_->Line17,  ui_->Line18});
+    hideAll(
+        {ui_->workedTwoRootsConclusion,  ui_->workedDoubleRootConclusion, ui_->workedNoRootsConclusion,
+         ui_->workedTwoRootsCase,        ui_->workedRootOneEquals,        ui_->workedRootOneLeadingMinus,
+         ui_->workedRootOnePlusRoot,     ui_->workedRootOneResultEquals,  ui_->workedRootTwoEquals,
+         ui_->workedRootTwoLeadingMinus, ui_->workedRootTwoMinusRoot,     ui_->workedRootTwoResultEquals,
+         ui_->workedDoubleRootCase,      ui_->workedDoubleRootEquals,     ui_->workedDoubleRootResultEquals,
+         ui_->workedNoRootsCase,         ui_->workedNoRootsText,          ui_->workedRootOneRootSignHook,
+         ui_->workedRootOneRootSignRise, ui_->workedRootOneRootSignBar,   ui_->workedRootOneBar,
+         ui_->workedRootTwoRootSignHook, ui_->workedRootTwoRootSignRise,  ui_->workedRootTwoRootSignBar,
+         ui_->workedRootTwoBar,          ui_->workedDoubleRootBar});
 }
 
 void Roedder::showDiscriminant() {
-    ui_->Label90->hide();
-    focusOn(ui_->Command4);
+    ui_->discriminantCover->hide();
+    focusOn(ui_->showRootCount);
 }
 
 void Roedder::showRootCount() {
-    hideAll({ui_->Label90, ui_->Label89});
-    focusOn(ui_->Command7);
+    hideAll({ui_->discriminantCover, ui_->rootCountCover});
+    focusOn(ui_->showRoots);
 }
 
 void Roedder::showSolution() {
-    hideAll({ui_->Label90, ui_->Label89, ui_->Label88});
-    focusOn(ui_->Command3);
+    hideAll({ui_->discriminantCover, ui_->rootCountCover, ui_->rootsCover});
+    focusOn(ui_->closeHelp);
 }
 
-void Roedder::closeHelp() { ui_->Picture2->hide(); }
+void Roedder::closeHelp() { ui_->helpPanel->hide(); }
 
 }  // namespace tavrune

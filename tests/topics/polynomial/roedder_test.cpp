@@ -35,19 +35,31 @@ const GraphScale kScale{-15, 15, 15, -15};
 using Names = std::vector<std::string>;
 
 /// Everything of the current solution but the numbers in it.
-const Names kPieces{"Label54", "Label55", "Label56", "Label57", "Label58", "Label59", "Label61",
-                    "Label72", "Label65", "Label66", "Label68", "Label73", "Label76", "Label77",
-                    "Label83", "Label81", "Label82", "Line10",  "Line11",  "Line12",  "Line13",
-                    "Line14",  "Line15",  "Line16",  "Line17",  "Line18"};
-const Names kNumbers{"Label60", "Label62", "Label64", "Label74", "Label67", "Label69",
-                     "Label71", "Label75", "Label78", "Label80", "Label84"};
+const Names kPieces{"workedTwoRootsConclusion",  "workedDoubleRootConclusion", "workedNoRootsConclusion",
+                    "workedTwoRootsCase",        "workedRootOneEquals",        "workedRootOneLeadingMinus",
+                    "workedRootOnePlusRoot",     "workedRootOneResultEquals",  "workedRootTwoEquals",
+                    "workedRootTwoLeadingMinus", "workedRootTwoMinusRoot",     "workedRootTwoResultEquals",
+                    "workedDoubleRootCase",      "workedDoubleRootEquals",     "workedDoubleRootResultEquals",
+                    "workedNoRootsCase",         "workedNoRootsText",          "workedRootOneRootSignHook",
+                    "workedRootOneRootSignRise", "workedRootOneRootSignBar",   "workedRootOneBar",
+                    "workedRootTwoRootSignHook", "workedRootTwoRootSignRise",  "workedRootTwoRootSignBar",
+                    "workedRootTwoBar",          "workedDoubleRootBar"};
+const Names kNumbers{"workedRootOneCoefficientB",   "workedRootOneDiscriminant", "workedRootOneDenominator",
+                     "workedRootOneResult",         "workedRootTwoCoefficientB", "workedRootTwoDiscriminant",
+                     "workedRootTwoDenominator",    "workedRootTwoResult",       "workedDoubleRootNumerator",
+                     "workedDoubleRootDenominator", "workedDoubleRootResult"};
 
 /// Those of them that stand with two roots, a double root and none.
-const Names kPiecesOfTwo{"Label54", "Label57", "Label58", "Label59", "Label61", "Label72",
-                         "Label65", "Label66", "Label68", "Label73", "Line10",  "Line11",
-                         "Line12",  "Line13",  "Line14",  "Line15",  "Line16",  "Line17"};
-const Names kPiecesOfDouble{"Label55", "Label76", "Label77", "Label83", "Line18"};
-const Names kPiecesOfNone{"Label56", "Label81", "Label82"};
+const Names kPiecesOfTwo{
+    "workedTwoRootsConclusion",  "workedTwoRootsCase",        "workedRootOneEquals",
+    "workedRootOneLeadingMinus", "workedRootOnePlusRoot",     "workedRootOneResultEquals",
+    "workedRootTwoEquals",       "workedRootTwoLeadingMinus", "workedRootTwoMinusRoot",
+    "workedRootTwoResultEquals", "workedRootOneRootSignHook", "workedRootOneRootSignRise",
+    "workedRootOneRootSignBar",  "workedRootOneBar",          "workedRootTwoRootSignHook",
+    "workedRootTwoRootSignRise", "workedRootTwoRootSignBar",  "workedRootTwoBar"};
+const Names kPiecesOfDouble{"workedDoubleRootConclusion", "workedDoubleRootCase", "workedDoubleRootEquals",
+                            "workedDoubleRootResultEquals", "workedDoubleRootBar"};
+const Names kPiecesOfNone{"workedNoRootsConclusion", "workedNoRootsCase", "workedNoRootsText"};
 
 const test::StrokesIn kIn{kScale};
 
@@ -106,18 +118,18 @@ protected:
 
     void next(int a, int b, int c, int patternCase) {
         script(a, b, c, patternCase);
-        form->click("Command6");
+        form->click("newExercise");
     }
 
     void answerTwo(const std::string& first, const std::string& second) const {
-        form->type("Text8", first);
-        form->type("Text9", second);
-        form->click("Command2");
+        form->type("rootOne", first);
+        form->type("rootTwo", second);
+        form->click("ok");
     }
 
     /// What was drawn since the axes.
     [[nodiscard]] std::vector<Stroke> drawn() const {
-        const auto& graph = form->find<GraphBox>("Picture1");
+        const auto& graph = form->find<GraphBox>("graph");
         const std::vector<Stroke> first = axes();
         const std::vector<Stroke> later = test::strokesFrom(graph, first.size());
         EXPECT_TRUE(std::equal(first.begin(), first.end(), graph.strokes().begin()));
@@ -136,13 +148,13 @@ protected:
 
     /// The boxes, their labels, the verdicts and the buttons that come and go.
     [[nodiscard]] Names shownAnswer() const {
-        return shown({"Label3_0", "Text8", "Label4_0", "Label1_0", "Text9", "Label2_0", "Label9", "Command6",
-                      "Command2", "Command10"});
+        return shown({"rootOneCaption", "rootOne", "rootTwoCaption", "doubleRootCaption", "rootTwo", "right",
+                      "wrong", "newExercise", "ok", "giveAnswer"});
     }
 
     [[nodiscard]] Names greenOptions() const {
         Names names;
-        for (const char* name : {"Option1", "Option2", "Option3"}) {
+        for (const char* name : {"twoRoots", "doubleRoot", "noRoots"}) {
             const QColor colour = form->option(name).backColour();
             if (colour == kGreen) {
                 names.emplace_back(name);
@@ -154,7 +166,7 @@ protected:
     }
 
     [[nodiscard]] std::string chosen() const {
-        for (const char* name : {"Option1", "Option2", "Option3"}) {
+        for (const char* name : {"twoRoots", "doubleRoot", "noRoots"}) {
             if (form->option(name).isChosen()) {
                 return name;
             }
@@ -164,7 +176,7 @@ protected:
 
     [[nodiscard]] Names redBoxes() const {
         Names names;
-        for (const char* name : {"Text8", "Text9"}) {
+        for (const char* name : {"rootOne", "rootTwo"}) {
             if (form->box(name).backColour() == kRed) {
                 names.emplace_back(name);
             } else {
@@ -191,58 +203,60 @@ protected:
 TEST_F(RoedderForm, HidesWhatIsNotAskedForUntilItsFirstTick) {
     FormDriver unshown = FormDriver::unshown(PageName::Roedder, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Andengradspolynomiet - Rødder");
-    for (const char* hidden : {"Command2", "Command6", "Command10", "Label2_0", "Label9", "Picture2", "Text8",
-                               "Text9", "Label1_0", "Label3_0", "Label4_0"}) {
+    for (const char* hidden : {"ok", "newExercise", "giveAnswer", "right", "wrong", "helpPanel", "rootOne",
+                               "rootTwo", "doubleRootCaption", "rootOneCaption", "rootTwoCaption"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
-    for (const char* blank : {"Label91", "Label92", "Label45", "Label88", "Label89", "Label90"}) {
+    for (const char* blank : {"givenFunction", "workedFunction", "workedDiscriminant", "rootsCover",
+                              "rootCountCover", "discriminantCover"}) {
         EXPECT_EQ(unshown.caption(blank), "") << blank;
     }
     for (const std::string& number : kNumbers) {
         EXPECT_EQ(unshown.caption(number), "") << number;
     }
-    for (const char* box : {"Text8", "Text9"}) {
+    for (const char* box : {"rootOne", "rootTwo"}) {
         EXPECT_EQ(unshown.box(box).content(), "") << box;
     }
-    EXPECT_TRUE(unshown.find<GraphBox>("Picture1").strokes().empty());
+    EXPECT_TRUE(unshown.find<GraphBox>("graph").strokes().empty());
     script(1, 1, 1, 1);
     unshown.show();
-    EXPECT_TRUE(unshown.isShown("Command6"));
+    EXPECT_TRUE(unshown.isShown("newExercise"));
 }
 
 TEST_F(RoedderForm, AsksForTheRootsOfAPolynomial) {
     const FormDriver& f = open(5, 2, 3, 12);
-    EXPECT_EQ(f.caption("Label22"), "Bestem rødderne i følgende andengradspolynomium:");
-    EXPECT_EQ(f.caption("Label5_0"), "P =");
-    EXPECT_EQ(f.caption("Label91"), "-5Q²+2Q-3");
-    EXPECT_EQ(f.find<Frame>("Frame1").caption(), "Rødder");
-    EXPECT_EQ(f.option("Option1").caption(), "&To rødder");
-    EXPECT_EQ(f.option("Option2").caption(), "&Dobbelt rod");
-    EXPECT_EQ(f.option("Option3").caption(), "&Ingen rødder");
-    EXPECT_EQ(f.caption("Label3_0"), "Rod 1");
-    EXPECT_EQ(f.caption("Label4_0"), "Rod 2");
-    EXPECT_EQ(f.caption("Label1_0"), "Rod");
-    EXPECT_EQ(shownAnswer(), Names{"Command6"});
+    EXPECT_EQ(f.caption("task"), "Bestem rødderne i følgende andengradspolynomium:");
+    EXPECT_EQ(f.caption("priceEquals"), "P =");
+    EXPECT_EQ(f.caption("givenFunction"), "-5Q²+2Q-3");
+    EXPECT_EQ(f.find<Frame>("rootCountChoice").caption(), "Rødder");
+    EXPECT_EQ(f.option("twoRoots").caption(), "&To rødder");
+    EXPECT_EQ(f.option("doubleRoot").caption(), "&Dobbelt rod");
+    EXPECT_EQ(f.option("noRoots").caption(), "&Ingen rødder");
+    EXPECT_EQ(f.caption("rootOneCaption"), "Rod 1");
+    EXPECT_EQ(f.caption("rootTwoCaption"), "Rod 2");
+    EXPECT_EQ(f.caption("doubleRootCaption"), "Rod");
+    EXPECT_EQ(shownAnswer(), Names{"newExercise"});
     EXPECT_EQ(chosen(), "");
     EXPECT_EQ(greenOptions(), Names{});
-    for (const char* stays : {"Label22", "Label5_0", "Label5_1", "Frame1", "Option1", "Option2", "Option3"}) {
+    for (const char* stays : {"task", "priceEquals", "workedPriceEquals", "rootCountChoice", "twoRoots",
+                              "doubleRoot", "noRoots"}) {
         EXPECT_TRUE(f.isShown(stays)) << stays;
     }
 }
 
 TEST_F(RoedderForm, WritesACoefficientOfOneOut) {
     const FormDriver& f = open(1, 3, 3, 2);
-    EXPECT_EQ(f.caption("Label91"), "1Q²");
-    EXPECT_EQ(f.caption("Label92"), "1Q²");
+    EXPECT_EQ(f.caption("givenFunction"), "1Q²");
+    EXPECT_EQ(f.caption("workedFunction"), "1Q²");
 }
 
 TEST_F(RoedderForm, DrawsAxesAndTicksWithEveryExercise) {
     const FormDriver& f = openTwo();
-    const GraphBox& graph = f.find<GraphBox>("Picture1");
+    const GraphBox& graph = f.find<GraphBox>("graph");
     EXPECT_EQ(graph.scale(), kScale);
     EXPECT_EQ(graph.strokes(), axes());
     EXPECT_EQ(graph.strokes().size(), 2U + 2 * 30 + 4 * 6);
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("1", "2");
     EXPECT_GT(graph.strokes().size(), axes().size());
     next(2, 2, 2, 2);
@@ -251,9 +265,9 @@ TEST_F(RoedderForm, DrawsAxesAndTicksWithEveryExercise) {
 
 TEST_F(RoedderForm, NamesItsAxesAndTheirTicks) {
     const FormDriver& f = openTwo();
-    const auto& graph = f.find<GraphBox>("Picture1");
-    EXPECT_EQ(f.caption("Label25"), "Q");
-    EXPECT_EQ(f.caption("Label24"), "P");
+    const auto& graph = f.find<GraphBox>("graph");
+    EXPECT_EQ(f.caption("quantityAxisName"), "Q");
+    EXPECT_EQ(f.caption("priceAxisName"), "P");
     EXPECT_EQ(graph.backColour(), kWhite);
     const double unit = graph.Control::place().width() / 30;
     std::multiset<std::string> captions;
@@ -274,65 +288,67 @@ TEST_F(RoedderForm, NamesItsAxesAndTheirTicks) {
 
 TEST_F(RoedderForm, SetsNoFocusWithANewExercise) {
     const FormDriver& f = openTwo();
-    f.button("Command1").setFocus();
+    f.button("help").setFocus();
     script(1, 1, 1, 1);
-    f.button("Command6").click();
+    f.button("newExercise").click();
     test::settle();
-    EXPECT_EQ(f.caption("Label91"), "1Q²+1Q+1");
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(f.caption("givenFunction"), "1Q²+1Q+1");
+    EXPECT_EQ(f.focus(), "help");
 }
 
 TEST_F(RoedderForm, AsksForTwoRootsInEmptyWhiteBoxes) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
-    EXPECT_EQ(shownAnswer(), (Names{"Label3_0", "Text8", "Label4_0", "Text9", "Command6", "Command2"}));
-    EXPECT_EQ(f.focus(), "Text8");
+    f.click("twoRoots");
+    EXPECT_EQ(shownAnswer(),
+              (Names{"rootOneCaption", "rootOne", "rootTwoCaption", "rootTwo", "newExercise", "ok"}));
+    EXPECT_EQ(f.focus(), "rootOne");
     answerTwo("7", "8");
-    EXPECT_EQ(redBoxes(), (Names{"Text8", "Text9"}));
-    f.click("Option1");
-    EXPECT_EQ(f.box("Text8").content(), "");
-    EXPECT_EQ(f.box("Text9").content(), "");
+    EXPECT_EQ(redBoxes(), (Names{"rootOne", "rootTwo"}));
+    f.click("twoRoots");
+    EXPECT_EQ(f.box("rootOne").content(), "");
+    EXPECT_EQ(f.box("rootTwo").content(), "");
     EXPECT_EQ(redBoxes(), Names{});
-    EXPECT_EQ(shownAnswer(), (Names{"Label3_0", "Text8", "Label4_0", "Text9", "Command6", "Command2"}))
+    EXPECT_EQ(shownAnswer(),
+              (Names{"rootOneCaption", "rootOne", "rootTwoCaption", "rootTwo", "newExercise", "ok"}))
         << "the verdict and \"&Giv svaret\" go: the student must fail once more";
 }
 
 TEST_F(RoedderForm, AsksForADoubleRootInTheSecondBoxAndKeepsTheFirst) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("7", "8");
-    f.click("Option2");
-    EXPECT_EQ(shownAnswer(), (Names{"Label1_0", "Text9", "Command6", "Command2"}));
-    EXPECT_EQ(f.focus(), "Text9");
-    EXPECT_EQ(f.box("Text8").content(), "7");
-    EXPECT_EQ(f.box("Text9").content(), "");
+    f.click("doubleRoot");
+    EXPECT_EQ(shownAnswer(), (Names{"doubleRootCaption", "rootTwo", "newExercise", "ok"}));
+    EXPECT_EQ(f.focus(), "rootTwo");
+    EXPECT_EQ(f.box("rootOne").content(), "7");
+    EXPECT_EQ(f.box("rootTwo").content(), "");
     EXPECT_EQ(redBoxes(), Names{});
 }
 
 TEST_F(RoedderForm, AsksForNothingMoreWithoutRoots) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("7", "8");
-    f.click("Option3");
-    EXPECT_EQ(shownAnswer(), (Names{"Command6", "Command2"}));
-    EXPECT_EQ(f.focus(), "Command2");
-    EXPECT_EQ(f.box("Text8").content(), "7");
-    EXPECT_EQ(f.box("Text9").content(), "8");
-    EXPECT_EQ(redBoxes(), (Names{"Text8", "Text9"})) << "hidden, they keep text and colour";
+    f.click("noRoots");
+    EXPECT_EQ(shownAnswer(), (Names{"newExercise", "ok"}));
+    EXPECT_EQ(f.focus(), "ok");
+    EXPECT_EQ(f.box("rootOne").content(), "7");
+    EXPECT_EQ(f.box("rootTwo").content(), "8");
+    EXPECT_EQ(redBoxes(), (Names{"rootOne", "rootTwo"})) << "hidden, they keep text and colour";
 }
 
 TEST_F(RoedderForm, LeavesTextAndColourOfTheBoxesToTheOptions) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("7", "8");
     next(1, 1, 1, 1);
-    EXPECT_EQ(shownAnswer(), Names{"Command6"});
+    EXPECT_EQ(shownAnswer(), Names{"newExercise"});
     EXPECT_EQ(chosen(), "");
-    EXPECT_EQ(f.box("Text8").content(), "7");
-    EXPECT_EQ(f.box("Text9").content(), "8");
-    EXPECT_EQ(redBoxes(), (Names{"Text8", "Text9"}));
-    f.click("Option2");
-    EXPECT_EQ(f.box("Text8").content(), "7");
+    EXPECT_EQ(f.box("rootOne").content(), "7");
+    EXPECT_EQ(f.box("rootTwo").content(), "8");
+    EXPECT_EQ(redBoxes(), (Names{"rootOne", "rootTwo"}));
+    f.click("doubleRoot");
+    EXPECT_EQ(f.box("rootOne").content(), "7");
     EXPECT_EQ(redBoxes(), Names{});
 }
 
@@ -343,54 +359,55 @@ TEST_F(RoedderForm, IsSolvedByKeysAlone) {
         test::settle();
     };
     access(Qt::Key_D);
-    EXPECT_EQ(chosen(), "Option2");
-    EXPECT_EQ(f.focus(), "Text9");
+    EXPECT_EQ(chosen(), "doubleRoot");
+    EXPECT_EQ(f.focus(), "rootTwo");
     access(Qt::Key_T);
-    EXPECT_EQ(chosen(), "Option1");
-    EXPECT_EQ(f.focus(), "Text8");
-    f.type("Text8", "3,00");
-    EXPECT_EQ(f.box("Text8").content(), "3.00");
-    f.press("Text8", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text9");
-    f.type("Text9", "-2,00");
-    f.press("Text9", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command2");
-    f.press("Command2", Qt::Key_Return);
-    EXPECT_EQ(shownAnswer(), (Names{"Label3_0", "Text8", "Label4_0", "Text9", "Label2_0", "Command6"}));
-    EXPECT_EQ(f.focus(), "Command6");
-    EXPECT_EQ(greenOptions(), Names{"Option1"});
+    EXPECT_EQ(chosen(), "twoRoots");
+    EXPECT_EQ(f.focus(), "rootOne");
+    f.type("rootOne", "3,00");
+    EXPECT_EQ(f.box("rootOne").content(), "3.00");
+    f.press("rootOne", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "rootTwo");
+    f.type("rootTwo", "-2,00");
+    f.press("rootTwo", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "ok");
+    f.press("ok", Qt::Key_Return);
+    EXPECT_EQ(shownAnswer(),
+              (Names{"rootOneCaption", "rootOne", "rootTwoCaption", "rootTwo", "right", "newExercise"}));
+    EXPECT_EQ(f.focus(), "newExercise");
+    EXPECT_EQ(greenOptions(), Names{"twoRoots"});
     EXPECT_EQ(redBoxes(), Names{});
     EXPECT_EQ(drawn(), curve(1, -1, -6));
     script(1, 1, 1, 1);
-    f.press("Command6", Qt::Key_Return);
-    EXPECT_EQ(f.caption("Label91"), "1Q²+1Q+1");
-    EXPECT_EQ(shownAnswer(), Names{"Command6"});
+    f.press("newExercise", Qt::Key_Return);
+    EXPECT_EQ(f.caption("givenFunction"), "1Q²+1Q+1");
+    EXPECT_EQ(shownAnswer(), Names{"newExercise"});
     EXPECT_EQ(greenOptions(), Names{});
     EXPECT_EQ(drawn(), std::vector<Stroke>{});
 }
 
 TEST_F(RoedderForm, StaysInTheLastBoxWhereOkIsHidden) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("3", "-2");
-    f.box("Text9").setFocus();
-    f.press("Text9", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text9");
+    f.box("rootTwo").setFocus();
+    f.press("rootTwo", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "rootTwo");
 }
 
 TEST_F(RoedderForm, TakesTheRootsInEitherOrder) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("-2", "3");
-    EXPECT_TRUE(f.isShown("Label2_0"));
+    EXPECT_TRUE(f.isShown("right"));
     EXPECT_EQ(drawn(), curve(1, -1, -6));
 }
 
 TEST_F(RoedderForm, DrawsTheWholeCurveForARightAnswerWithANegativeA) {
     const FormDriver& f = open(2, 3, 1, 12);
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("0.5", "1");
-    EXPECT_TRUE(f.isShown("Label2_0"));
+    EXPECT_TRUE(f.isShown("right"));
     const std::vector<Stroke> pieces = drawn();
     EXPECT_EQ(pieces, curve(-2, 3, -1));
     ASSERT_FALSE(pieces.empty());
@@ -402,47 +419,47 @@ TEST_F(RoedderForm, DrawsTheWholeCurveForARightAnswerWithANegativeA) {
 
 TEST_F(RoedderForm, TakesNothingForTheDoubleRootZero) {
     const FormDriver& f = open(4, 3, 3, 2);
-    f.click("Option2");
-    EXPECT_EQ(f.box("Text9").content(), "");
-    f.click("Command2");
-    EXPECT_EQ(shownAnswer(), (Names{"Label1_0", "Text9", "Label2_0", "Command6"}));
-    EXPECT_EQ(f.focus(), "Command6");
-    EXPECT_EQ(greenOptions(), Names{"Option2"});
+    f.click("doubleRoot");
+    EXPECT_EQ(f.box("rootTwo").content(), "");
+    f.click("ok");
+    EXPECT_EQ(shownAnswer(), (Names{"doubleRootCaption", "rootTwo", "right", "newExercise"}));
+    EXPECT_EQ(f.focus(), "newExercise");
+    EXPECT_EQ(greenOptions(), Names{"doubleRoot"});
     EXPECT_EQ(drawn(), curve(4, 0, 0));
 }
 
 TEST_F(RoedderForm, TakesNoRootsForRight) {
     const FormDriver& f = openNone();
-    f.click("Option3");
-    f.click("Command2");
-    EXPECT_EQ(shownAnswer(), (Names{"Label2_0", "Command6"}));
-    EXPECT_EQ(greenOptions(), Names{"Option3"});
+    f.click("noRoots");
+    f.click("ok");
+    EXPECT_EQ(shownAnswer(), (Names{"right", "newExercise"}));
+    EXPECT_EQ(greenOptions(), Names{"noRoots"});
     EXPECT_EQ(drawn(), curve(1, 1, 1));
 }
 
 TEST_F(RoedderForm, TicksBothRootsOfAWrongTryAndMovesNoFocus) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
-    f.type("Text8", "1.5");
-    f.type("Text9", "-4");
-    f.press("Text9", Qt::Key_Return);
-    f.press("Command2", Qt::Key_Return);
-    EXPECT_EQ(shownAnswer(), (Names{"Label3_0", "Text8", "Label4_0", "Text9", "Label9", "Command6",
-                                    "Command2", "Command10"}));
-    EXPECT_EQ(f.focus(), "Command2");
+    f.click("twoRoots");
+    f.type("rootOne", "1.5");
+    f.type("rootTwo", "-4");
+    f.press("rootTwo", Qt::Key_Return);
+    f.press("ok", Qt::Key_Return);
+    EXPECT_EQ(shownAnswer(), (Names{"rootOneCaption", "rootOne", "rootTwoCaption", "rootTwo", "wrong",
+                                    "newExercise", "ok", "giveAnswer"}));
+    EXPECT_EQ(f.focus(), "ok");
     EXPECT_EQ(drawn(), (std::vector{tick(1.5), tick(-4)}));
     EXPECT_EQ(greenOptions(), Names{});
 }
 
 TEST_F(RoedderForm, KeepsTheTicksOfSeveralTriesSideBySide) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("1", "2");
     answerTwo("abc", "");
-    f.click("Option2");
-    f.type("Text9", "9");
-    f.click("Command2");
-    f.click("Option1");
+    f.click("doubleRoot");
+    f.type("rootTwo", "9");
+    f.click("ok");
+    f.click("twoRoots");
     answerTwo("3", "-2");
     const std::vector<Stroke> ticks{tick(1), tick(2), tick(0), tick(0), tick(9)};
     EXPECT_EQ(drawn(), ticks + curve(1, -1, -6));
@@ -452,8 +469,8 @@ TEST_F(RoedderForm, KeepsTheTicksOfSeveralTriesSideBySide) {
 
 TEST_F(RoedderForm, ClipsATickOutsideThePicture) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
-    auto& graph = f.find<GraphBox>("Picture1");
+    f.click("twoRoots");
+    auto& graph = f.find<GraphBox>("graph");
     const QImage before = graph.grab().toImage();
     answerTwo("20", "-20");
     EXPECT_EQ(drawn(), (std::vector{tick(20), tick(-20)}));
@@ -464,14 +481,14 @@ TEST_F(RoedderForm, ClipsATickOutsideThePicture) {
 
 TEST_F(RoedderForm, ShowsTheRightVerdictInFrontOfAnOldWrongOne) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("1", "2");
     answerTwo("3", "-2");
-    EXPECT_TRUE(f.isShown("Label9"));
-    EXPECT_TRUE(f.isShown("Label2_0"));
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_TRUE(f.isShown("right"));
     EXPECT_EQ(redBoxes(), Names{});
-    const Label& right = f.label("Label2_0");
-    const Label& wrong = f.label("Label9");
+    const Label& right = f.label("right");
+    const Label& wrong = f.label("wrong");
     EXPECT_EQ(right.place(), wrong.place());
     const QObjectList& siblings = right.parent()->children();
     EXPECT_GT(siblings.indexOf(&right), siblings.indexOf(&wrong));
@@ -489,117 +506,118 @@ class RoedderColours : public RoedderForm, public testing::WithParamInterface<Co
 
 TEST_P(RoedderColours, FollowTheFirstBoxThatHoldsARoot) {
     openTwo();
-    form->click("Option1");
+    form->click("twoRoots");
     answerTwo(GetParam().first, GetParam().second);
-    EXPECT_TRUE(form->isShown("Label9"));
+    EXPECT_TRUE(form->isShown("wrong"));
     EXPECT_EQ(redBoxes(), GetParam().red);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, RoedderColours,
-                         testing::Values(ColourRow{"FirstHoldsRoot1", "3", "7", {"Text9"}},
-                                         ColourRow{"SecondHoldsRoot1", "7", "3", {"Text8"}},
-                                         ColourRow{"FirstHoldsRoot2", "-2", "7", {"Text9"}},
-                                         ColourRow{"SecondHoldsRoot2", "7", "-2", {"Text8"}},
-                                         ColourRow{"TheSameRootTwice", "3", "3", {"Text9"}},
-                                         ColourRow{"TheOtherRootTwice", "-2", "-2", {"Text9"}},
-                                         ColourRow{"NoRoot", "7", "8", {"Text8", "Text9"}},
-                                         ColourRow{"JustBelow", "2.99", "-2", {"Text8"}},
-                                         ColourRow{"JustAbove", "3.006", "-2", {"Text8"}}),
+                         testing::Values(ColourRow{"FirstHoldsRoot1", "3", "7", {"rootTwo"}},
+                                         ColourRow{"SecondHoldsRoot1", "7", "3", {"rootOne"}},
+                                         ColourRow{"FirstHoldsRoot2", "-2", "7", {"rootTwo"}},
+                                         ColourRow{"SecondHoldsRoot2", "7", "-2", {"rootOne"}},
+                                         ColourRow{"TheSameRootTwice", "3", "3", {"rootTwo"}},
+                                         ColourRow{"TheOtherRootTwice", "-2", "-2", {"rootTwo"}},
+                                         ColourRow{"NoRoot", "7", "8", {"rootOne", "rootTwo"}},
+                                         ColourRow{"JustBelow", "2.99", "-2", {"rootOne"}},
+                                         ColourRow{"JustAbove", "3.006", "-2", {"rootOne"}}),
                          [](const auto& row) { return row.param.name; });
 
 TEST_F(RoedderForm, MarksBothBoxesWhereThereAreFewerThanTwoRoots) {
     const FormDriver& f = openDouble();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("-2", "-2");
-    EXPECT_EQ(redBoxes(), (Names{"Text8", "Text9"})) << "the wrong option is a wrong answer";
-    f.click("Option2");
-    f.type("Text9", "2");
-    f.click("Command2");
-    EXPECT_EQ(redBoxes(), (Names{"Text8", "Text9"}));
+    EXPECT_EQ(redBoxes(), (Names{"rootOne", "rootTwo"})) << "the wrong option is a wrong answer";
+    f.click("doubleRoot");
+    f.type("rootTwo", "2");
+    f.click("ok");
+    EXPECT_EQ(redBoxes(), (Names{"rootOne", "rootTwo"}));
     next(1, 1, 1, 1);
-    f.click("Option2");
-    f.click("Command2");
-    EXPECT_EQ(redBoxes(), (Names{"Text8", "Text9"}));
+    f.click("doubleRoot");
+    f.click("ok");
+    EXPECT_EQ(redBoxes(), (Names{"rootOne", "rootTwo"}));
     EXPECT_EQ(drawn(), std::vector{tick(0)});
 }
 
 TEST_F(RoedderForm, MarksByTheHiddenBoxToo) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
-    f.type("Text8", "3");
-    f.click("Option2");
-    f.type("Text9", "-2");
-    f.click("Command2");
-    EXPECT_TRUE(f.isShown("Label9"));
-    EXPECT_EQ(redBoxes(), Names{"Text9"}) << "the hidden first box holds a root";
+    f.click("twoRoots");
+    f.type("rootOne", "3");
+    f.click("doubleRoot");
+    f.type("rootTwo", "-2");
+    f.click("ok");
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_EQ(redBoxes(), Names{"rootTwo"}) << "the hidden first box holds a root";
     EXPECT_EQ(drawn(), std::vector{tick(-2)});
-    f.click("Option3");
-    f.click("Command2");
-    EXPECT_TRUE(f.isShown("Label9"));
-    EXPECT_EQ(redBoxes(), Names{"Text9"});
+    f.click("noRoots");
+    f.click("ok");
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_EQ(redBoxes(), Names{"rootTwo"});
     EXPECT_EQ(drawn(), std::vector{tick(-2)}) << "no roots, no ticks";
 }
 
 TEST_F(RoedderForm, BearsAnythingTyped) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("1e308", "-1e999");
-    EXPECT_EQ(redBoxes(), (Names{"Text8", "Text9"}));
+    EXPECT_EQ(redBoxes(), (Names{"rootOne", "rootTwo"}));
     EXPECT_EQ(drawn().size(), 2U);
-    f.box("Text9").setContent(std::string(100'000, '9'));
-    f.click("Command2");
-    EXPECT_TRUE(f.isShown("Label9"));
+    f.box("rootTwo").setContent(std::string(100'000, '9'));
+    f.click("ok");
+    EXPECT_TRUE(f.isShown("wrong"));
     f.page().grab();
 }
 
 TEST_F(RoedderForm, GivesTwoRootsAndLeavesTheStudentsChoice) {
     const DecimalMark comma(",");
     const FormDriver& f = open(5, 5, 5, 9);
-    f.click("Option2");
-    f.type("Text9", "4");
-    f.click("Command2");
-    f.click("Command10");
-    EXPECT_EQ(shownAnswer(), (Names{"Label3_0", "Text8", "Label4_0", "Text9", "Command6"}));
-    EXPECT_EQ(f.box("Text8").content(), "1,62");
-    EXPECT_EQ(f.box("Text9").content(), "-0,62");
+    f.click("doubleRoot");
+    f.type("rootTwo", "4");
+    f.click("ok");
+    f.click("giveAnswer");
+    EXPECT_EQ(shownAnswer(),
+              (Names{"rootOneCaption", "rootOne", "rootTwoCaption", "rootTwo", "newExercise"}));
+    EXPECT_EQ(f.box("rootOne").content(), "1,62");
+    EXPECT_EQ(f.box("rootTwo").content(), "-0,62");
     EXPECT_EQ(redBoxes(), Names{});
-    EXPECT_EQ(greenOptions(), Names{"Option1"});
-    EXPECT_EQ(chosen(), "Option2");
-    EXPECT_EQ(f.focus(), "Command6");
+    EXPECT_EQ(greenOptions(), Names{"twoRoots"});
+    EXPECT_EQ(chosen(), "doubleRoot");
+    EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_EQ(drawn(), std::vector{tick(4)} + curve(5, -5, -5));
 }
 
 TEST_F(RoedderForm, GivesADoubleRootInTheSecondBox) {
     const FormDriver& f = openDouble();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("7", "8");
-    f.click("Command10");
-    EXPECT_EQ(shownAnswer(), (Names{"Label1_0", "Text9", "Command6"}));
-    EXPECT_EQ(f.box("Text8").content(), "7");
-    EXPECT_EQ(f.box("Text9").content(), "-2");
+    f.click("giveAnswer");
+    EXPECT_EQ(shownAnswer(), (Names{"doubleRootCaption", "rootTwo", "newExercise"}));
+    EXPECT_EQ(f.box("rootOne").content(), "7");
+    EXPECT_EQ(f.box("rootTwo").content(), "-2");
     EXPECT_EQ(redBoxes(), Names{});
-    EXPECT_EQ(greenOptions(), Names{"Option2"});
-    EXPECT_EQ(f.focus(), "Command6");
+    EXPECT_EQ(greenOptions(), Names{"doubleRoot"});
+    EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_EQ(drawn(), (std::vector{tick(7), tick(8)} + curve(1, 4, 4)));
 }
 
 TEST_F(RoedderForm, GivesNoRoots) {
     const FormDriver& f = openNone();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("7", "8");
-    f.click("Command10");
-    EXPECT_EQ(shownAnswer(), Names{"Command6"});
-    EXPECT_EQ(f.box("Text9").content(), "8");
-    EXPECT_EQ(greenOptions(), Names{"Option3"});
-    EXPECT_EQ(f.focus(), "Command6");
+    f.click("giveAnswer");
+    EXPECT_EQ(shownAnswer(), Names{"newExercise"});
+    EXPECT_EQ(f.box("rootTwo").content(), "8");
+    EXPECT_EQ(greenOptions(), Names{"noRoots"});
+    EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_EQ(drawn(), (std::vector{tick(7), tick(8)} + curve(1, 1, 1)));
 }
 
 TEST_F(RoedderForm, BeginsTheCurveOfAGivenAnswerAtTheSamePlaceForANegativeA) {
     const FormDriver& f = open(2, 3, 4, 12);
-    f.click("Option1");
-    f.click("Command2");
-    f.click("Command10");
+    f.click("twoRoots");
+    f.click("ok");
+    f.click("giveAnswer");
     const std::vector<Stroke> pieces = curve(-2, 3, -4);
     EXPECT_EQ(pieces.front().x1, -10);
     EXPECT_GT(pieces.back().x1, 7) << "the end of 7 is never met";
@@ -608,44 +626,46 @@ TEST_F(RoedderForm, BeginsTheCurveOfAGivenAnswerAtTheSamePlaceForANegativeA) {
 
 TEST_F(RoedderForm, LeavesItsOptionsAliveAfterTheAnswer) {
     const FormDriver& f = openDouble();
-    f.click("Option2");
-    f.type("Text9", "-2");
-    f.click("Command2");
-    f.click("Option1");
-    EXPECT_EQ(shownAnswer(), (Names{"Label3_0", "Text8", "Label4_0", "Text9", "Command6", "Command2"}));
-    EXPECT_EQ(greenOptions(), Names{"Option2"});
-    f.click("Command2");
-    EXPECT_TRUE(f.isShown("Label9"));
-    EXPECT_EQ(greenOptions(), Names{"Option2"});
-    f.click("Command10");
-    EXPECT_EQ(greenOptions(), Names{"Option2"});
-    f.click("Option3");
-    EXPECT_EQ(shownAnswer(), (Names{"Command6", "Command2"}));
+    f.click("doubleRoot");
+    f.type("rootTwo", "-2");
+    f.click("ok");
+    f.click("twoRoots");
+    EXPECT_EQ(shownAnswer(),
+              (Names{"rootOneCaption", "rootOne", "rootTwoCaption", "rootTwo", "newExercise", "ok"}));
+    EXPECT_EQ(greenOptions(), Names{"doubleRoot"});
+    f.click("ok");
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_EQ(greenOptions(), Names{"doubleRoot"});
+    f.click("giveAnswer");
+    EXPECT_EQ(greenOptions(), Names{"doubleRoot"});
+    f.click("noRoots");
+    EXPECT_EQ(shownAnswer(), (Names{"newExercise", "ok"}));
 }
 
 TEST_F(RoedderForm, TellsTheGeneralSolution) {
     const FormDriver& f = openTwo();
-    f.click("Command1");
-    EXPECT_EQ(f.caption("Label86"), "Generel løsning");
-    EXPECT_EQ(f.caption("Label87"), "Aktuel løsning");
-    EXPECT_EQ(f.caption("Label26"), "P = aQ² + bQ + c");
-    EXPECT_EQ(f.caption("Label6"), "d = b ² - 4 · a · c ");
-    for (const char* denominator : {"Label34", "Label38", "Label42"}) {
+    f.click("help");
+    EXPECT_EQ(f.caption("generalHeading"), "Generel løsning");
+    EXPECT_EQ(f.caption("workedHeading"), "Aktuel løsning");
+    EXPECT_EQ(f.caption("generalFunction"), "P = aQ² + bQ + c");
+    EXPECT_EQ(f.caption("generalDiscriminant"), "d = b ² - 4 · a · c ");
+    for (const char* denominator :
+         {"generalRootOneDenominator", "generalRootTwoDenominator", "generalDoubleRootDenominator"}) {
         EXPECT_EQ(f.caption(denominator), "2 · a") << denominator;
     }
-    EXPECT_EQ(f.caption("Label202"), "Rod 1=");
-    EXPECT_EQ(f.caption("Label203"), "- b+");
-    EXPECT_EQ(f.caption("Label204"), "d");
-    EXPECT_EQ(f.caption("Label205"), "Rod 2=");
-    EXPECT_EQ(f.caption("Label206"), "- b -");
-    EXPECT_EQ(f.caption("Label207"), "d");
-    EXPECT_EQ(f.caption("Label209"), "Rod =");
-    EXPECT_EQ(f.caption("Label210"), "- b");
-    EXPECT_EQ(f.caption("Label220"), "Ingen rødder");
-    for (const char* button : {"Command5", "Command4", "Command7"}) {
+    EXPECT_EQ(f.caption("generalRootOneEquals"), "Rod 1=");
+    EXPECT_EQ(f.caption("generalRootOneMinusBPlus"), "- b+");
+    EXPECT_EQ(f.caption("generalRootOneDiscriminant"), "d");
+    EXPECT_EQ(f.caption("generalRootTwoEquals"), "Rod 2=");
+    EXPECT_EQ(f.caption("generalRootTwoMinusBMinus"), "- b -");
+    EXPECT_EQ(f.caption("generalRootTwoDiscriminant"), "d");
+    EXPECT_EQ(f.caption("generalDoubleRootEquals"), "Rod =");
+    EXPECT_EQ(f.caption("generalDoubleRootNumerator"), "- b");
+    EXPECT_EQ(f.caption("generalNoRootsText"), "Ingen rødder");
+    for (const char* button : {"showDiscriminant", "showRootCount", "showRoots"}) {
         EXPECT_EQ(f.button(button).caption(), "Vis") << button;
     }
-    EXPECT_EQ(f.button("Command3").caption(), "&Luk");
+    EXPECT_EQ(f.button("closeHelp").caption(), "&Luk");
 }
 
 TEST_F(RoedderForm, WorksOutTwoRoots) {
@@ -653,92 +673,96 @@ TEST_F(RoedderForm, WorksOutTwoRoots) {
     const FormDriver& f = open(5, 5, 5, 16);
     EXPECT_EQ(shown(kPieces), Names{});
     EXPECT_EQ(numbers(), Names{});
-    f.click("Command1");
-    EXPECT_TRUE(f.isShown("Picture2"));
-    EXPECT_EQ(f.focus(), "Command5");
-    EXPECT_EQ(f.caption("Label5_1"), "P =");
-    EXPECT_EQ(f.caption("Label92"), "-5Q²-5Q+5");
-    EXPECT_EQ(f.caption("Label45"), "d = (-5) ² - 4 · (-5) · 5 = 125");
-    EXPECT_EQ(f.caption("Label54"), "d > 0, der er to rødder");
+    f.click("help");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_EQ(f.focus(), "showDiscriminant");
+    EXPECT_EQ(f.caption("workedPriceEquals"), "P =");
+    EXPECT_EQ(f.caption("workedFunction"), "-5Q²-5Q+5");
+    EXPECT_EQ(f.caption("workedDiscriminant"), "d = (-5) ² - 4 · (-5) · 5 = 125");
+    EXPECT_EQ(f.caption("workedTwoRootsConclusion"), "d > 0, der er to rødder");
     EXPECT_EQ(shown(kPieces), kPiecesOfTwo);
-    EXPECT_EQ(f.caption("Label57"), "A)");
-    EXPECT_EQ(numbers(), (Names{"Label60 (-5)", "Label62 125", "Label64 2 · (-5)", "Label74 -1,62",
-                                "Label67 (-5)", "Label69 125", "Label71 2 · (-5)", "Label75 0,62"}));
-    EXPECT_EQ(f.caption("Label58"), "Rod 1=");
-    EXPECT_EQ(f.caption("Label59"), "-");
-    EXPECT_EQ(f.caption("Label61"), "+");
-    EXPECT_EQ(f.caption("Label65"), "Rod 2=");
-    EXPECT_EQ(f.caption("Label66"), "-");
-    EXPECT_EQ(f.caption("Label68"), "-");
-    EXPECT_EQ(f.caption("Label72"), "=");
-    EXPECT_EQ(f.caption("Label73"), "=");
+    EXPECT_EQ(f.caption("workedTwoRootsCase"), "A)");
+    EXPECT_EQ(numbers(), (Names{"workedRootOneCoefficientB (-5)", "workedRootOneDiscriminant 125",
+                                "workedRootOneDenominator 2 · (-5)", "workedRootOneResult -1,62",
+                                "workedRootTwoCoefficientB (-5)", "workedRootTwoDiscriminant 125",
+                                "workedRootTwoDenominator 2 · (-5)", "workedRootTwoResult 0,62"}));
+    EXPECT_EQ(f.caption("workedRootOneEquals"), "Rod 1=");
+    EXPECT_EQ(f.caption("workedRootOneLeadingMinus"), "-");
+    EXPECT_EQ(f.caption("workedRootOnePlusRoot"), "+");
+    EXPECT_EQ(f.caption("workedRootTwoEquals"), "Rod 2=");
+    EXPECT_EQ(f.caption("workedRootTwoLeadingMinus"), "-");
+    EXPECT_EQ(f.caption("workedRootTwoMinusRoot"), "-");
+    EXPECT_EQ(f.caption("workedRootOneResultEquals"), "=");
+    EXPECT_EQ(f.caption("workedRootTwoResultEquals"), "=");
 }
 
 TEST_F(RoedderForm, WorksOutADoubleRoot) {
     const FormDriver& f = open(1, 4, 4, 18);
-    f.click("Command1");
-    EXPECT_EQ(f.caption("Label45"), "d = (-4) ² - 4 · (-1) · (-4) = 0");
-    EXPECT_EQ(f.caption("Label55"), "d = 0, der er en dobbelt rod");
+    f.click("help");
+    EXPECT_EQ(f.caption("workedDiscriminant"), "d = (-4) ² - 4 · (-1) · (-4) = 0");
+    EXPECT_EQ(f.caption("workedDoubleRootConclusion"), "d = 0, der er en dobbelt rod");
     EXPECT_EQ(shown(kPieces), kPiecesOfDouble);
-    EXPECT_EQ(f.caption("Label76"), "B)");
-    EXPECT_EQ(numbers(), (Names{"Label78 - (-4)", "Label80 2 · (-1)", "Label84 -2"}));
-    EXPECT_EQ(f.caption("Label77"), "Rod=");
-    EXPECT_EQ(f.caption("Label83"), "=");
+    EXPECT_EQ(f.caption("workedDoubleRootCase"), "B)");
+    EXPECT_EQ(numbers(), (Names{"workedDoubleRootNumerator - (-4)", "workedDoubleRootDenominator 2 · (-1)",
+                                "workedDoubleRootResult -2"}));
+    EXPECT_EQ(f.caption("workedDoubleRootEquals"), "Rod=");
+    EXPECT_EQ(f.caption("workedDoubleRootResultEquals"), "=");
     next(3, 1, 1, 2);
-    f.click("Command1");
-    EXPECT_EQ(numbers(), (Names{"Label78 - 0", "Label80 2 · 3", "Label84 0"}));
+    f.click("help");
+    EXPECT_EQ(numbers(), (Names{"workedDoubleRootNumerator - 0", "workedDoubleRootDenominator 2 · 3",
+                                "workedDoubleRootResult 0"}));
 }
 
 TEST_F(RoedderForm, WorksOutThatThereAreNoRoots) {
     const FormDriver& f = openNone();
-    f.click("Command1");
-    EXPECT_EQ(f.caption("Label45"), "d = 1 ² - 4 ·1·1=-3");
-    EXPECT_EQ(f.caption("Label56"), "d < 0, der er ingen rødder");
-    EXPECT_EQ(f.caption("Label82"), "Ingen rødder");
+    f.click("help");
+    EXPECT_EQ(f.caption("workedDiscriminant"), "d = 1 ² - 4 ·1·1=-3");
+    EXPECT_EQ(f.caption("workedNoRootsConclusion"), "d < 0, der er ingen rødder");
+    EXPECT_EQ(f.caption("workedNoRootsText"), "Ingen rødder");
     EXPECT_EQ(shown(kPieces), kPiecesOfNone);
-    EXPECT_EQ(f.caption("Label81"), "C)");
+    EXPECT_EQ(f.caption("workedNoRootsCase"), "C)");
     EXPECT_EQ(numbers(), Names{});
 }
 
 TEST_F(RoedderForm, UncoversTheSolutionStepByStep) {
-    const Names covers{"Label90", "Label89", "Label88"};
+    const Names covers{"discriminantCover", "rootCountCover", "rootsCover"};
     const FormDriver& f = openTwo();
-    f.click("Command1");
+    f.click("help");
     EXPECT_EQ(shown(covers), covers);
-    f.press("Command5", Qt::Key_Return);
-    EXPECT_EQ(shown(covers), (Names{"Label89", "Label88"}));
-    EXPECT_EQ(f.focus(), "Command4");
-    f.press("Command4", Qt::Key_Return);
-    EXPECT_EQ(shown(covers), Names{"Label88"});
-    EXPECT_EQ(f.focus(), "Command7");
-    f.press("Command7", Qt::Key_Return);
+    f.press("showDiscriminant", Qt::Key_Return);
+    EXPECT_EQ(shown(covers), (Names{"rootCountCover", "rootsCover"}));
+    EXPECT_EQ(f.focus(), "showRootCount");
+    f.press("showRootCount", Qt::Key_Return);
+    EXPECT_EQ(shown(covers), Names{"rootsCover"});
+    EXPECT_EQ(f.focus(), "showRoots");
+    f.press("showRoots", Qt::Key_Return);
     EXPECT_EQ(shown(covers), Names{});
-    EXPECT_EQ(f.focus(), "Command3");
-    f.press("Command3", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Picture2"));
+    EXPECT_EQ(f.focus(), "closeHelp");
+    f.press("closeHelp", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("helpPanel"));
 
-    f.click("Command1");
+    f.click("help");
     EXPECT_EQ(shown(covers), Names{}) << "closing does not cover the solution again";
     next(1, 1, 1, 1);
-    EXPECT_FALSE(f.isShown("Picture2"));
+    EXPECT_FALSE(f.isShown("helpPanel"));
     EXPECT_EQ(shown(covers), covers);
 }
 
 TEST_F(RoedderForm, UncoversWhatCameBeforeALaterStep) {
-    const Names covers{"Label90", "Label89", "Label88"};
+    const Names covers{"discriminantCover", "rootCountCover", "rootsCover"};
     const FormDriver& f = openTwo();
-    f.click("Command1");
-    f.click("Command4");
-    EXPECT_EQ(shown(covers), Names{"Label88"});
+    f.click("help");
+    f.click("showRootCount");
+    EXPECT_EQ(shown(covers), Names{"rootsCover"});
     next(1, 1, 1, 1);
-    f.click("Command1");
-    f.click("Command7");
+    f.click("help");
+    f.click("showRoots");
     EXPECT_EQ(shown(covers), Names{});
 }
 
 TEST_F(RoedderForm, EmptiesTheWorkedSolutionWithEveryExercise) {
     const FormDriver& f = openTwo();
-    f.click("Command1");
+    f.click("help");
     EXPECT_EQ(numbers().size(), 8U);
     next(1, 4, 4, 1);
     EXPECT_EQ(shown(kPieces), Names{});
@@ -748,19 +772,19 @@ TEST_F(RoedderForm, EmptiesTheWorkedSolutionWithEveryExercise) {
 
 TEST_F(RoedderForm, LeavesTheExerciseAloneWhileHelpIsOpen) {
     const FormDriver& f = openTwo();
-    f.click("Option1");
+    f.click("twoRoots");
     answerTwo("3", "9");
     const Names before = shownAnswer();
-    f.click("Command1");
-    f.click("Command7");
+    f.click("help");
+    f.click("showRoots");
     EXPECT_EQ(shownAnswer(), before);
-    EXPECT_EQ(f.box("Text9").content(), "9");
-    EXPECT_EQ(redBoxes(), Names{"Text9"});
-    f.type("Text9", "-2");
-    f.click("Command2");
-    EXPECT_TRUE(f.isShown("Label2_0"));
-    EXPECT_TRUE(f.isShown("Picture2"));
-    f.click("Command3");
+    EXPECT_EQ(f.box("rootTwo").content(), "9");
+    EXPECT_EQ(redBoxes(), Names{"rootTwo"});
+    f.type("rootTwo", "-2");
+    f.click("ok");
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    f.click("closeHelp");
     EXPECT_EQ(drawn().back(), curve(1, -1, -6).back());
 }
 
@@ -776,13 +800,16 @@ TEST_F(RoedderForm, CoversEachStepAndNothingElse) {
     Names solution(kPieces.begin() + 3, kPieces.end());
     solution.insert(solution.end(), kNumbers.begin(), kNumbers.end());
     const std::map<std::string, Names> steps{
-        {"Label90", {"Label45"}}, {"Label89", {"Label54", "Label55", "Label56"}}, {"Label88", solution}};
+        {"discriminantCover", {"workedDiscriminant"}},
+        {"rootCountCover",
+         {"workedTwoRootsConclusion", "workedDoubleRootConclusion", "workedNoRootsConclusion"}},
+        {"rootsCover", solution}};
     for (const auto& [name, step] : steps) {
         const Label& cover = f.label(name);
         EXPECT_EQ(cover.caption(), "");
         EXPECT_TRUE(cover.autoFillBackground());
         EXPECT_EQ(cover.backColour(), kWhite);
-        for (const QWidget* widget : f.find("Picture2").findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        for (const QWidget* widget : f.find("helpPanel").findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
             const std::string other = widget->objectName().toStdString();
             if (std::find(step.begin(), step.end(), other) != step.end()) {
                 EXPECT_TRUE(covers(cover, *widget)) << name << " over " << other;
@@ -807,7 +834,7 @@ class RoedderRootSigns : public RoedderForm, public testing::WithParamInterface<
 
 TEST_P(RoedderRootSigns, StandOverTheDiscriminantAndABar) {
     const FormDriver& f = open(5, 5, 5, 16);
-    f.click("Command1");
+    f.click("help");
     const auto& [name, downLine, upLine, roofLine, under, barLine, denominator] = GetParam();
     const QLineF down = f.find<LineControl>(downLine).ends();
     const QLineF up = f.find<LineControl>(upLine).ends();
@@ -838,10 +865,18 @@ TEST_P(RoedderRootSigns, StandOverTheDiscriminantAndABar) {
 
 INSTANTIATE_TEST_SUITE_P(
     Formulas, RoedderRootSigns,
-    testing::Values(RootSign{"General1", "Line1", "Line2", "Line3", "Label204", "Line4", "Label34"},
-                    RootSign{"General2", "Line5", "Line6", "Line7", "Label207", "Line8", "Label38"},
-                    RootSign{"Current1", "Line10", "Line11", "Line12", "Label62", "Line13", "Label64"},
-                    RootSign{"Current2", "Line14", "Line15", "Line16", "Label69", "Line17", "Label71"}),
+    testing::Values(RootSign{"General1", "generalRootOneRootSignHook", "generalRootOneRootSignRise",
+                             "generalRootOneRootSignBar", "generalRootOneDiscriminant", "generalRootOneBar",
+                             "generalRootOneDenominator"},
+                    RootSign{"General2", "generalRootTwoRootSignHook", "generalRootTwoRootSignRise",
+                             "generalRootTwoRootSignBar", "generalRootTwoDiscriminant", "generalRootTwoBar",
+                             "generalRootTwoDenominator"},
+                    RootSign{"Current1", "workedRootOneRootSignHook", "workedRootOneRootSignRise",
+                             "workedRootOneRootSignBar", "workedRootOneDiscriminant", "workedRootOneBar",
+                             "workedRootOneDenominator"},
+                    RootSign{"Current2", "workedRootTwoRootSignHook", "workedRootTwoRootSignRise",
+                             "workedRootTwoRootSignBar", "workedRootTwoDiscriminant", "workedRootTwoBar",
+                             "workedRootTwoDenominator"}),
     [](const auto& row) { return row.param.name; });
 
 std::string inBrackets(float n) { return n < 0 ? "(" + NumberText(n) + ")" : NumberText(n); }
@@ -868,16 +903,16 @@ Worked expectedWork(const Polynomial& polynomial) {
         return NumberText(RoundSigned2((-b + sign * std::sqrt(d)) / (2 * a)));
     };
     if (d == 0) {
-        numbers["Label78"] = "- " + inBrackets(b);
-        numbers["Label80"] = denominator;
-        numbers["Label84"] = root(1);
+        numbers["workedDoubleRootNumerator"] = "- " + inBrackets(b);
+        numbers["workedDoubleRootDenominator"] = denominator;
+        numbers["workedDoubleRootResult"] = root(1);
         return {kPiecesOfDouble, numbers};
     }
-    numbers["Label60"] = numbers["Label67"] = inBrackets(b);
-    numbers["Label62"] = numbers["Label69"] = NumberText(d);
-    numbers["Label64"] = numbers["Label71"] = denominator;
-    numbers["Label74"] = root(1);
-    numbers["Label75"] = root(-1);
+    numbers["workedRootOneCoefficientB"] = numbers["workedRootTwoCoefficientB"] = inBrackets(b);
+    numbers["workedRootOneDiscriminant"] = numbers["workedRootTwoDiscriminant"] = NumberText(d);
+    numbers["workedRootOneDenominator"] = numbers["workedRootTwoDenominator"] = denominator;
+    numbers["workedRootOneResult"] = root(1);
+    numbers["workedRootTwoResult"] = root(-1);
     return {kPiecesOfTwo, numbers};
 }
 
@@ -890,15 +925,15 @@ protected:
         for (const std::string& name : kNumbers) {
             numbers_[name] = &form.label(name);
         }
-        labels_ = form.find("Picture2").findChildren<Label*>();
+        labels_ = form.find("helpPanel").findChildren<Label*>();
     }
 
     void press(const char* name) const { form.find<QAbstractButton>(name).click(); }
 
     void tryRoots(const std::string& first, const std::string& second) const {
-        form.box("Text8").setContent(first);
-        form.box("Text9").setContent(second);
-        press("Command2");
+        form.box("rootOne").setContent(first);
+        form.box("rootTwo").setContent(second);
+        press("ok");
     }
 
     void expectWork(const Worked& expected) const {
@@ -930,36 +965,36 @@ private:
 
 TEST_F(RoedderSpaceShown, IsGivenWorkedOutAndSolvedThroughout) {
     const RoedderState& state = dynamic_cast<const Roedder&>(form.page()).state();
-    const char* const options[] = {"Option1", "Option2", "Option3"};
+    const char* const options[] = {"twoRoots", "doubleRoot", "noRoots"};
     for (int exercise = 0; exercise < test::kPolynomials; ++exercise) {
         SCOPED_TRACE(state.polynomial);
         const auto count = static_cast<std::size_t>(rootCountOf(state.discriminant));
         press(options[(count + 1) % 3]);
-        press("Command2");
-        ASSERT_TRUE(form.isShown("Label9"));
-        ASSERT_FALSE(form.isShown("Label2_0"));
+        press("ok");
+        ASSERT_TRUE(form.isShown("wrong"));
+        ASSERT_FALSE(form.isShown("right"));
 
-        press("Command1");
+        press("help");
         expectWork(expectedWork(state.coefficients));
         if (HasFatalFailure()) {
             return;
         }
-        press("Command3");
+        press("closeHelp");
 
-        press("Command10");
-        const std::string first = form.box("Text8").content();
-        const std::string second = form.box("Text9").content();
+        press("giveAnswer");
+        const std::string first = form.box("rootOne").content();
+        const std::string second = form.box("rootTwo").content();
         ASSERT_EQ(form.option(options[count]).backColour(), kGreen);
         press(options[count]);
         tryRoots(first, second);
-        ASSERT_TRUE(form.isShown("Label2_0")) << first << " and " << second;
+        ASSERT_TRUE(form.isShown("right")) << first << " and " << second;
         if (count == 0) {
             press(options[count]);
-            ASSERT_FALSE(form.isShown("Label2_0"));
+            ASSERT_FALSE(form.isShown("right"));
             tryRoots(second, first);
-            ASSERT_TRUE(form.isShown("Label2_0")) << second << " and " << first;
+            ASSERT_TRUE(form.isShown("right")) << second << " and " << first;
         }
-        press("Command6");
+        press("newExercise");
     }
     EXPECT_EQ(state.polynomial, "1Q²+1Q+1");
 }
