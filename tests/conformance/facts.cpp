@@ -41,8 +41,8 @@ const std::vector<FormFacts>& allForms() {
          "", "twoRoots", "helpPanel", "closeHelp"},
         {Name::Rogt, "Command5", "Command1", "Command9", "Command2", "Label10", "Label9", false, false,
          "Text14", "", "Option1", "", ""},
-        {Name::Topp, "Command7", "Command3", "Command11", "Command1", "Label10", "Label27", false, false,
-         "Text7", "Text16", "", "Picture2", "Command4"},
+        {Name::Topp, "newExercise", "ok", "giveAnswer", "help", "right", "wrong", false, false,
+         "vertexQuantity", "vertexPrice", "", "helpPanel", "closeHelp"},
         {Name::Diff, "Command15", "Command13", "Command14", "Command1", "Label10", "Label27", false, false,
          "Text1", "Text1", "", "Picture2", "Command2"},
     };

@@ -19,42 +19,40 @@ constexpr double kGap = 4;
 
 Topp::Topp(Draws& draws) : ExerciseForm(PageName::Topp, draws), ui_(std::make_unique<Ui::Topp>()) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command7,
-             .ok = ui_->Command3,
-             .giveAnswer = ui_->Command11,
-             .help = ui_->Command1});
-    verdict(TwoLabels{.right = ui_->Label10, .wrong = ui_->Label27});
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
     // Kept: from the right-hand box to the left-hand one.
-    enterChain({ui_->Text16, ui_->Text7}, LastBox::OkOrStay);
-    onClick(ui_->Command2, &Topp::uncover);
-    onClick(ui_->Command4, &Topp::closeHelp);
+    enterChain({ui_->vertexPrice, ui_->vertexQuantity}, LastBox::OkOrStay);
+    onClick(ui_->showWorkedSolution, &Topp::uncover);
+    onClick(ui_->closeHelp, &Topp::closeHelp);
 }
 
 Topp::~Topp() = default;
 
-void Topp::loadStep() { ui_->Command7->show(); }
+void Topp::loadStep() { ui_->newExercise->show(); }
 
 void Topp::newExercise() {
-    ui_->Picture2->hide();
-    ui_->Label49->show();
+    ui_->helpPanel->hide();
+    ui_->workedSolutionCover->show();
     drawAxes();
-    ui_->Command7->hide();
+    ui_->newExercise->hide();
 
     tavrune::newExercise(state_, draws());
 
-    ui_->Label22->setCaption("Bestem toppunktet i følgende andengradspolynomium");
-    ui_->Label1->setCaption(state_.polynomialText);
-    ui_->Label61->setCaption(state_.polynomialText);
+    ui_->task->setCaption("Bestem toppunktet i følgende andengradspolynomium");
+    ui_->workedFunction->setCaption(state_.polynomialText);
+    ui_->givenFunction->setCaption(state_.polynomialText);
     fillHelp();
-    clearBoxes({ui_->Text7, ui_->Text16});
-    showAll({ui_->Label22, ui_->Label5, ui_->Label2, ui_->Text7, ui_->Label14, ui_->Text16, ui_->Label15,
-             ui_->Command7});
+    clearBoxes({ui_->vertexQuantity, ui_->vertexPrice});
+    showAll({ui_->task, ui_->priceEquals, ui_->vertexEquals, ui_->vertexQuantity, ui_->vertexSemicolon,
+             ui_->vertexPrice, ui_->vertexClosingBracket, ui_->newExercise});
     showAsking();
-    focusOn(ui_->Text16);
+    focusOn(ui_->vertexPrice);
 }
 
 void Topp::drawAxes() {
-    GraphBox& graph = *ui_->Picture1;
+    GraphBox& graph = *ui_->graph;
     graph.Cls();
     graph.Scale(-2, 15, 15, -15);
     graph.Line(0, 20, 0, -20);
@@ -69,60 +67,62 @@ void Topp::drawAxes() {
 
 void Topp::fillHelp() {
     const ToppWorked worked = workedSolution(state_);
-    ui_->Label51->setCaption(worked.discriminant);
-    ui_->Label48->setCaption(worked.result);
-    const Fraction p(ui_->Label45, ui_->Line3, ui_->Label46);
+    ui_->workedDiscriminant->setCaption(worked.discriminant);
+    ui_->workedResult->setCaption(worked.result);
+    const Fraction p(ui_->workedVertexPriceNumerator, ui_->workedVertexPriceBar,
+                     ui_->workedVertexPriceDenominator);
     p.setTexts(worked.numeratorOfP, worked.denominatorOfP);
-    const Fraction q(ui_->Label43, ui_->Line4, ui_->Label44);
+    const Fraction q(ui_->workedVertexQuantityNumerator, ui_->workedVertexQuantityBar,
+                     ui_->workedVertexQuantityDenominator);
     q.setTexts(worked.numeratorOfQ, worked.denominatorOfQ);
 
-    const double left = ui_->Label39->place().left();
-    p.setLeft(layOutRow({ui_->Label39, ui_->Label40}, left, kGap) + kGap);
-    q.setLeft(layOutRow({ui_->Label42}, p.right() + kGap) + kGap);
-    layOutRow({ui_->Label41}, q.right() + kGap);
+    const double left = ui_->workedVertexEquals->place().left();
+    p.setLeft(layOutRow({ui_->workedVertexEquals, ui_->workedVertexOpeningBracket}, left, kGap) + kGap);
+    q.setLeft(layOutRow({ui_->workedVertexSemicolon}, p.right() + kGap) + kGap);
+    layOutRow({ui_->workedVertexClosingBracket}, q.right() + kGap);
 }
 
 void Topp::drawCurve() {
-    plotCurve(*ui_->Picture1, [this](double q) { return valueAt(state_.polynomial, q); },
+    plotCurve(*ui_->graph, [this](double q) { return valueAt(state_.polynomial, q); },
               {.start = -7, .step = 0.05, .neverMet = 7, .largest = 1000});
 }
 
 void Topp::judge() {
     hideVerdict();
-    const ToppVerdict right = tavrune::judge(state_, ui_->Text7->value(), ui_->Text16->value());
-    ui_->Text7->mark(!right.q);
-    ui_->Text16->mark(!right.p);
+    const ToppVerdict right = tavrune::judge(state_, ui_->vertexQuantity->value(), ui_->vertexPrice->value());
+    ui_->vertexQuantity->mark(!right.q);
+    ui_->vertexPrice->mark(!right.p);
     if (right.q && right.p) {
         solved();
         drawCurve();
         return;
     }
     failed();
-    focusOn(right.p ? ui_->Text7 : ui_->Text16);
+    focusOn(right.p ? ui_->vertexQuantity : ui_->vertexPrice);
 }
 
 void Topp::giveAnswer() {
-    const double typedQ = ui_->Text7->value();
-    const double typedP = ui_->Text16->value();
-    whiten({ui_->Text7, ui_->Text16});
-    ui_->Text7->setContent(answerTextOfQ(state_));
-    ui_->Text16->setContent(answerTextOfP(state_));
+    const double typedQ = ui_->vertexQuantity->value();
+    const double typedP = ui_->vertexPrice->value();
+    whiten({ui_->vertexQuantity, ui_->vertexPrice});
+    ui_->vertexQuantity->setContent(answerTextOfQ(state_));
+    ui_->vertexPrice->setContent(answerTextOfP(state_));
     given();
-    ui_->Picture1->Line(typedQ - kReach, typedP, typedQ + kReach, typedP, kRed);
-    ui_->Picture1->Line(typedQ, typedP - kReach, typedQ, typedP + kReach, kRed);
+    ui_->graph->Line(typedQ - kReach, typedP, typedQ + kReach, typedP, kRed);
+    ui_->graph->Line(typedQ, typedP - kReach, typedQ, typedP + kReach, kRed);
     drawCurve();
 }
 
-void Topp::help() { openPanel(ui_->Picture2, ui_->Command2); }
+void Topp::help() { openPanel(ui_->helpPanel, ui_->showWorkedSolution); }
 
 void Topp::uncover() {
-    ui_->Label49->hide();
-    focusOn(ui_->Command4);
+    ui_->workedSolutionCover->hide();
+    focusOn(ui_->closeHelp);
 }
 
 void Topp::closeHelp() {
-    ui_->Picture2->hide();
-    focusOn(ui_->Text16);
+    ui_->helpPanel->hide();
+    focusOn(ui_->vertexPrice);
 }
 
 }  // namespace tavrune

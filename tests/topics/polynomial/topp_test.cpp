@@ -55,22 +55,22 @@ protected:
     FormDriver& openNegative() { return open(1, 6, 5, 7); }  // -1Q²+6Q+5: the vertex is (3;14).
 
     void answer(const std::string& q, const std::string& p) const {
-        form->type("Text16", p);
-        form->type("Text7", q);
-        form->click("Command3");
+        form->type("vertexPrice", p);
+        form->type("vertexQuantity", q);
+        form->click("ok");
     }
 
     void giveAfter(const std::string& q, const std::string& p) const {
         answer(q, p);
-        form->click("Command11");
+        form->click("giveAnswer");
     }
 
     void nextExercise(int a, int b, int c, int patternCase) {
         script(a, b, c, patternCase);
-        form->click("Command7");
+        form->click("newExercise");
     }
 
-    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("graph"); }
 
     /// What was drawn after the task.
     [[nodiscard]] std::vector<Stroke> drawnLater() const {
@@ -84,35 +84,37 @@ protected:
 TEST_F(ToppForm, HidesTheButtonOfTheNextExerciseUntilItIsOnScreen) {
     const FormDriver unshown = FormDriver::unshown(PageName::Topp, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Andengradspolynomiet - Toppunkt");
-    for (const char* hidden : {"Command7", "Command11", "Label10", "Label27", "Picture2"}) {
+    for (const char* hidden : {"newExercise", "giveAnswer", "right", "wrong", "helpPanel"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
-    for (const char* blank : {"Label1", "Label22", "Label48", "Label51", "Label61"}) {
+    for (const char* blank :
+         {"workedFunction", "task", "workedResult", "workedDiscriminant", "givenFunction"}) {
         EXPECT_EQ(unshown.caption(blank), "") << blank;
     }
 }
 
 TEST_F(ToppForm, AsksForTheVertex) {
     const FormDriver& f = openPlain();
-    EXPECT_EQ(f.caption("Label22"), "Bestem toppunktet i følgende andengradspolynomium");
-    EXPECT_EQ(f.caption("Label5"), "P =");
-    EXPECT_EQ(f.caption("Label61"), "1Q²-5Q+6");
-    EXPECT_EQ(f.caption("Label2"), "Toppunkt: (Q;P) = (");
-    EXPECT_EQ(f.caption("Label14"), " ;");
-    EXPECT_EQ(f.caption("Label15"), ")");
-    for (const char* shown : {"Label22", "Label5", "Label61", "Label2", "Text7", "Label14", "Text16",
-                              "Label15", "Command3", "Command7", "Label49"}) {
+    EXPECT_EQ(f.caption("task"), "Bestem toppunktet i følgende andengradspolynomium");
+    EXPECT_EQ(f.caption("priceEquals"), "P =");
+    EXPECT_EQ(f.caption("givenFunction"), "1Q²-5Q+6");
+    EXPECT_EQ(f.caption("vertexEquals"), "Toppunkt: (Q;P) = (");
+    EXPECT_EQ(f.caption("vertexSemicolon"), " ;");
+    EXPECT_EQ(f.caption("vertexClosingBracket"), ")");
+    for (const char* shown :
+         {"task", "priceEquals", "givenFunction", "vertexEquals", "vertexQuantity", "vertexSemicolon",
+          "vertexPrice", "vertexClosingBracket", "ok", "newExercise", "workedSolutionCover"}) {
         EXPECT_TRUE(f.isShown(shown)) << shown;
     }
-    for (const char* hidden : {"Command11", "Label10", "Label27", "Picture2"}) {
+    for (const char* hidden : {"giveAnswer", "right", "wrong", "helpPanel"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
 }
 
 TEST_F(ToppForm, NamesTheAxesAndTheirTicks) {
     const FormDriver& f = openPlain();
-    EXPECT_EQ(f.caption("Label23"), "P");
-    EXPECT_EQ(f.caption("Label24"), "Q");
+    EXPECT_EQ(f.caption("priceAxisName"), "P");
+    EXPECT_EQ(f.caption("quantityAxisName"), "Q");
     std::multiset<std::string> captions;
     for (const Label* label : graph().findChildren<Label*>()) {
         captions.insert(label->caption());
@@ -122,12 +124,12 @@ TEST_F(ToppForm, NamesTheAxesAndTheirTicks) {
 
 TEST_F(ToppForm, StartsInTheRightHandBoxAndGoesToTheLeftHandOne) {
     const FormDriver& f = openPlain();
-    EXPECT_EQ(f.focus(), "Text16");
-    EXPECT_GT(f.box("Text16").place().left(), f.box("Text7").place().left());
-    f.press("Text16", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text7");
-    f.press("Text7", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command3");
+    EXPECT_EQ(f.focus(), "vertexPrice");
+    EXPECT_GT(f.box("vertexPrice").place().left(), f.box("vertexQuantity").place().left());
+    f.press("vertexPrice", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "vertexQuantity");
+    f.press("vertexQuantity", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "ok");
 }
 
 TEST_F(ToppForm, DrawsAxesThenRowsOfTicks) {
@@ -160,8 +162,8 @@ TEST_F(ToppForm, DrawsTheAxesOnceHoweverManyVerticesAreOutOfReach) {
     script(1, 10, 10, 7);
     const FormDriver& f = openPlain();
     EXPECT_EQ(graph().strokes().size(), kStrokesOfTask);
-    EXPECT_EQ(f.caption("Label61"), "1Q²-5Q+6");
-    EXPECT_EQ(f.caption("Label1"), "1Q²-5Q+6");
+    EXPECT_EQ(f.caption("givenFunction"), "1Q²-5Q+6");
+    EXPECT_EQ(f.caption("workedFunction"), "1Q²-5Q+6");
 }
 
 TEST_F(ToppForm, ClearsTheGraphWithEachExercise) {
@@ -170,44 +172,44 @@ TEST_F(ToppForm, ClearsTheGraphWithEachExercise) {
     EXPECT_GT(graph().strokes().size(), kStrokesOfTask);
     nextExercise(1, 6, 5, 7);
     EXPECT_EQ(graph().strokes().size(), kStrokesOfTask);
-    EXPECT_EQ(form->caption("Label61"), "-1Q²+6Q+5");
+    EXPECT_EQ(form->caption("givenFunction"), "-1Q²+6Q+5");
 }
 
 TEST_F(ToppForm, IsSolvedByKeysAlone) {
     const FormDriver& f = openPlain();
-    f.type("Text16", "-0,25");
-    f.press("Text16", Qt::Key_Return);
-    f.type("Text7", "2,5");
-    f.press("Text7", Qt::Key_Return);
-    f.press("Command3", Qt::Key_Return);
-    EXPECT_TRUE(f.isShown("Label10"));
-    EXPECT_EQ(f.focus(), "Command7");
+    f.type("vertexPrice", "-0,25");
+    f.press("vertexPrice", Qt::Key_Return);
+    f.type("vertexQuantity", "2,5");
+    f.press("vertexQuantity", Qt::Key_Return);
+    f.press("ok", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_EQ(f.focus(), "newExercise");
     script(1, 6, 5, 7);
-    f.press("Command7", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Label10"));
-    EXPECT_TRUE(f.isShown("Command7"));
-    EXPECT_TRUE(f.isShown("Command3"));
-    EXPECT_EQ(f.box("Text7").content(), "");
-    EXPECT_EQ(f.box("Text16").content(), "");
-    EXPECT_EQ(f.focus(), "Text16");
+    f.press("newExercise", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("right"));
+    EXPECT_TRUE(f.isShown("newExercise"));
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_EQ(f.box("vertexQuantity").content(), "");
+    EXPECT_EQ(f.box("vertexPrice").content(), "");
+    EXPECT_EQ(f.focus(), "vertexPrice");
 }
 
 TEST_F(ToppForm, DrawsTheCurveAndLeavesOnlyTheNextExerciseWhenSolved) {
     const FormDriver& f = openPlain();
     answer("1", "1");
     answer("2.5", "-0.25");
-    EXPECT_TRUE(f.isShown("Label10"));
-    EXPECT_FALSE(f.isShown("Label27"));
-    EXPECT_FALSE(f.isShown("Command3"));
-    EXPECT_FALSE(f.isShown("Command11"));
-    EXPECT_TRUE(f.isShown("Command7"));
-    EXPECT_EQ(f.focus(), "Command7");
-    EXPECT_EQ(f.box("Text7").backColour(), kWhite);
-    EXPECT_EQ(f.box("Text16").backColour(), kWhite);
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_FALSE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
+    EXPECT_TRUE(f.isShown("newExercise"));
+    EXPECT_EQ(f.focus(), "newExercise");
+    EXPECT_EQ(f.box("vertexQuantity").backColour(), kWhite);
+    EXPECT_EQ(f.box("vertexPrice").backColour(), kWhite);
     EXPECT_EQ(drawnLater(), curve(1, -5, 6));
-    f.box("Text7").setFocus();
-    f.press("Text7", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text7");
+    f.box("vertexQuantity").setFocus();
+    f.press("vertexQuantity", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "vertexQuantity");
 }
 
 TEST_F(ToppForm, DrawsADownwardCurve) {
@@ -231,66 +233,66 @@ TEST_P(ToppMarks, ShowWhichCoordinateIsWrong) {
     const MarkRow& row = GetParam();
     const FormDriver& f = openPlain();
     answer(row.q, row.p);
-    EXPECT_EQ(f.box("Text7").backColour(), row.isQRed ? kRed : kWhite);
-    EXPECT_EQ(f.box("Text16").backColour(), row.isPRed ? kRed : kWhite);
+    EXPECT_EQ(f.box("vertexQuantity").backColour(), row.isQRed ? kRed : kWhite);
+    EXPECT_EQ(f.box("vertexPrice").backColour(), row.isPRed ? kRed : kWhite);
     EXPECT_EQ(f.focus(), row.focus);
-    EXPECT_TRUE(f.isShown("Label27"));
-    EXPECT_FALSE(f.isShown("Label10"));
-    EXPECT_TRUE(f.isShown("Command11"));
-    EXPECT_TRUE(f.isShown("Command3"));
-    EXPECT_EQ(f.box("Text7").content(), row.q);
-    EXPECT_EQ(f.box("Text16").content(), row.p);
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("right"));
+    EXPECT_TRUE(f.isShown("giveAnswer"));
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_EQ(f.box("vertexQuantity").content(), row.q);
+    EXPECT_EQ(f.box("vertexPrice").content(), row.p);
     EXPECT_TRUE(drawnLater().empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, ToppMarks,
-                         testing::Values(MarkRow{"OnlyQIsRight", "2.5", "1", false, true, "Text16"},
-                                         MarkRow{"OnlyPIsRight", "1", "-0.25", true, false, "Text7"},
-                                         MarkRow{"NeitherIsRight", "1", "1", true, true, "Text16"},
-                                         MarkRow{"TheyAreSwapped", "-0.25", "2.5", true, true, "Text16"},
-                                         MarkRow{"NothingIsTyped", "", "", true, true, "Text16"}),
+                         testing::Values(MarkRow{"OnlyQIsRight", "2.5", "1", false, true, "vertexPrice"},
+                                         MarkRow{"OnlyPIsRight", "1", "-0.25", true, false, "vertexQuantity"},
+                                         MarkRow{"NeitherIsRight", "1", "1", true, true, "vertexPrice"},
+                                         MarkRow{"TheyAreSwapped", "-0.25", "2.5", true, true, "vertexPrice"},
+                                         MarkRow{"NothingIsTyped", "", "", true, true, "vertexPrice"}),
                          [](const auto& row) { return row.param.name; });
 
 TEST_F(ToppForm, WhitensABoxThatHasBecomeRight) {
     const FormDriver& f = openPlain();
     answer("1", "1");
     answer("2.5", "1");
-    EXPECT_EQ(f.box("Text7").backColour(), kWhite);
-    EXPECT_EQ(f.box("Text16").backColour(), kRed);
+    EXPECT_EQ(f.box("vertexQuantity").backColour(), kWhite);
+    EXPECT_EQ(f.box("vertexPrice").backColour(), kRed);
     nextExercise(1, 6, 5, 7);
-    EXPECT_EQ(f.box("Text16").backColour(), kWhite);
-    EXPECT_FALSE(f.isShown("Label27"));
-    EXPECT_FALSE(f.isShown("Command11"));
+    EXPECT_EQ(f.box("vertexPrice").backColour(), kWhite);
+    EXPECT_FALSE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
 }
 
 TEST_F(ToppForm, TakesTheHalfOpenBandRoundTheVertex) {
     const FormDriver& f = openPlain();
     for (const char* wrong : {"2.49499", "2.495", "2.506"}) {
         answer(wrong, "-0.25");
-        EXPECT_EQ(f.box("Text7").backColour(), kRed) << wrong;
+        EXPECT_EQ(f.box("vertexQuantity").backColour(), kRed) << wrong;
     }
     for (const char* right : {"2.49501", "2.505"}) {
         answer(right, "0");
-        EXPECT_EQ(f.box("Text7").backColour(), kWhite) << right;
+        EXPECT_EQ(f.box("vertexQuantity").backColour(), kWhite) << right;
     }
 }
 
 TEST_F(ToppForm, TakesTwoEmptyBoxesForTheVertexOfABareSquare) {
     const FormDriver& f = open(2, 3, 4, 1);
-    EXPECT_EQ(f.caption("Label61"), "2Q²");
-    f.click("Command3");
-    EXPECT_TRUE(f.isShown("Label10"));
+    EXPECT_EQ(f.caption("givenFunction"), "2Q²");
+    f.click("ok");
+    EXPECT_TRUE(f.isShown("right"));
 }
 
 TEST_F(ToppForm, WantsTheVertexOfPlusBWhereCaseEightShowsMinusB) {
     const FormDriver& f = open(1, 4, 7, 8);
-    EXPECT_EQ(f.caption("Label61"), "-1Q²-4Q");
-    EXPECT_EQ(f.caption("Label1"), "-1Q²-4Q");
-    EXPECT_EQ(f.caption("Label51"), "d = 4² - 4 · (-1) · 0 = 16");
+    EXPECT_EQ(f.caption("givenFunction"), "-1Q²-4Q");
+    EXPECT_EQ(f.caption("workedFunction"), "-1Q²-4Q");
+    EXPECT_EQ(f.caption("workedDiscriminant"), "d = 4² - 4 · (-1) · 0 = 16");
     answer("-2", "4");
-    EXPECT_TRUE(f.isShown("Label27"));
+    EXPECT_TRUE(f.isShown("wrong"));
     answer("2", "4");
-    EXPECT_TRUE(f.isShown("Label10"));
+    EXPECT_TRUE(f.isShown("right"));
     EXPECT_EQ(drawnLater(), curve(-1, 4, 0));
 }
 
@@ -298,14 +300,14 @@ TEST_F(ToppForm, GivesTheAnswerWithACrossAtWhatWasTyped) {
     const DecimalMark danish(",");
     const FormDriver& f = openPlain();
     giveAfter("3", "-4,5");
-    EXPECT_EQ(f.box("Text7").content(), "2,5");
-    EXPECT_EQ(f.box("Text16").content(), "-0,25");
-    EXPECT_EQ(f.box("Text7").backColour(), kWhite);
-    EXPECT_EQ(f.box("Text16").backColour(), kWhite);
-    for (const char* hidden : {"Command3", "Command11", "Label10", "Label27"}) {
+    EXPECT_EQ(f.box("vertexQuantity").content(), "2,5");
+    EXPECT_EQ(f.box("vertexPrice").content(), "-0,25");
+    EXPECT_EQ(f.box("vertexQuantity").backColour(), kWhite);
+    EXPECT_EQ(f.box("vertexPrice").backColour(), kWhite);
+    for (const char* hidden : {"ok", "giveAnswer", "right", "wrong"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_EQ(f.focus(), "Command7");
+    EXPECT_EQ(f.focus(), "newExercise");
     const std::vector<Stroke> cross{kIn.line(2.5, -4.5, 3.5, -4.5, kRed), kIn.line(3, -5, 3, -4, kRed)};
     EXPECT_EQ(drawnLater(), cross + curve(1, -5, 6));
 }
@@ -313,9 +315,9 @@ TEST_F(ToppForm, GivesTheAnswerWithACrossAtWhatWasTyped) {
 TEST_F(ToppForm, CrossesAtWhatStandsInTheBoxesWhenTheAnswerIsAskedFor) {
     const FormDriver& f = openPlain();
     answer("1", "1");
-    f.type("Text7", "4");
-    f.type("Text16", "");
-    f.click("Command11");
+    f.type("vertexQuantity", "4");
+    f.type("vertexPrice", "");
+    f.click("giveAnswer");
     const std::vector<Stroke> later = drawnLater();
     ASSERT_GT(later.size(), 2U);
     EXPECT_EQ(later[0], kIn.line(3.5, 0, 4.5, 0, kRed));
@@ -326,12 +328,12 @@ TEST_F(ToppForm, TakesAnyTypedText) {
     const FormDriver& f = openPlain();
     for (const std::string& typed :
          {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
-        f.box("Text7").setContent(typed);
-        f.box("Text16").setContent(typed);
-        f.click("Command3");
-        f.click("Command11");
+        f.box("vertexQuantity").setContent(typed);
+        f.box("vertexPrice").setContent(typed);
+        f.click("ok");
+        f.click("giveAnswer");
         EXPECT_FALSE(f.page().grab().isNull());
-        EXPECT_EQ(f.box("Text7").content(), "2.5");
+        EXPECT_EQ(f.box("vertexQuantity").content(), "2.5");
         nextExercise(1, 5, 6, 3);
     }
 }
@@ -339,101 +341,105 @@ TEST_F(ToppForm, TakesAnyTypedText) {
 TEST_F(ToppForm, ExplainsTheGeneralSolution) {
     const FormDriver& f = openPlain();
     const std::pair<const char*, const char*> texts[]{
-        {"Label25", "Generel løsning"},
-        {"Label28", "P = aQ² + bQ + c"},
-        {"Label47", "d = b² - 4 · a · c"},
-        {"Label29", "Toppunktet (T) findes ved hjælp af følgende formel:"},
-        {"Label38", "T: (P; Q) ="},
-        {"Label31", "("},
-        {"Label35", "-d"},
-        {"Label36", "4 · a"},
-        {"Label34", ";"},
-        {"Label32", "-b"},
-        {"Label33", "2 · a"},
-        {"Label37", ")"},
-        {"Label26", "Aktuel løsning"},
-        {"Label6", "P="},
-        {"Label39", "T: (P;Q) ="},
-        {"Label40", "("},
-        {"Label42", ";"},
-        {"Label41", ")"}};
+        {"generalHeading", "Generel løsning"},
+        {"generalFunction", "P = aQ² + bQ + c"},
+        {"generalDiscriminant", "d = b² - 4 · a · c"},
+        {"generalText", "Toppunktet (T) findes ved hjælp af følgende formel:"},
+        {"generalVertexEquals", "T: (P; Q) ="},
+        {"generalVertexOpeningBracket", "("},
+        {"generalVertexPriceNumerator", "-d"},
+        {"generalVertexPriceDenominator", "4 · a"},
+        {"generalVertexSemicolon", ";"},
+        {"generalVertexQuantityNumerator", "-b"},
+        {"generalVertexQuantityDenominator", "2 · a"},
+        {"generalVertexClosingBracket", ")"},
+        {"workedHeading", "Aktuel løsning"},
+        {"workedPriceEquals", "P="},
+        {"workedVertexEquals", "T: (P;Q) ="},
+        {"workedVertexOpeningBracket", "("},
+        {"workedVertexSemicolon", ";"},
+        {"workedVertexClosingBracket", ")"}};
     for (const auto& [name, text] : texts) {
         EXPECT_EQ(f.caption(name), text) << name;
     }
-    EXPECT_EQ(f.button("Command2").caption(), "Vis");
-    EXPECT_EQ(f.button("Command4").caption(), "&Luk");
+    EXPECT_EQ(f.button("showWorkedSolution").caption(), "Vis");
+    EXPECT_EQ(f.button("closeHelp").caption(), "&Luk");
 }
 
 TEST_F(ToppForm, WorksTheSolutionOutWithTheNumbersOfTheExercise) {
     const DecimalMark danish(",");
     const FormDriver& f = openPlain();
-    EXPECT_EQ(f.caption("Label1"), "1Q²-5Q+6");
-    EXPECT_EQ(f.caption("Label51"), "d = (-5)² - 4 · 1 · 6 = 1");
-    EXPECT_EQ(f.caption("Label45"), "-1");
-    EXPECT_EQ(f.caption("Label46"), "4·1");
-    EXPECT_EQ(f.caption("Label43"), "-(-5)");
-    EXPECT_EQ(f.caption("Label44"), "2·1");
-    EXPECT_EQ(f.caption("Label48"), "T: (P;Q) = (-0,25 ; 2,5)");
+    EXPECT_EQ(f.caption("workedFunction"), "1Q²-5Q+6");
+    EXPECT_EQ(f.caption("workedDiscriminant"), "d = (-5)² - 4 · 1 · 6 = 1");
+    EXPECT_EQ(f.caption("workedVertexPriceNumerator"), "-1");
+    EXPECT_EQ(f.caption("workedVertexPriceDenominator"), "4·1");
+    EXPECT_EQ(f.caption("workedVertexQuantityNumerator"), "-(-5)");
+    EXPECT_EQ(f.caption("workedVertexQuantityDenominator"), "2·1");
+    EXPECT_EQ(f.caption("workedResult"), "T: (P;Q) = (-0,25 ; 2,5)");
     nextExercise(2, 5, 6, 11);
-    EXPECT_EQ(f.caption("Label1"), "-2Q²-6");
-    EXPECT_EQ(f.caption("Label51"), "d = 0² - 4 · (-2) · (-6) = -48");
-    EXPECT_EQ(f.caption("Label45"), "-(-48)");
-    EXPECT_EQ(f.caption("Label46"), "4·(-2)");
-    EXPECT_EQ(f.caption("Label43"), "-0");
-    EXPECT_EQ(f.caption("Label44"), "2·(-2)");
-    EXPECT_EQ(f.caption("Label48"), "T: (P;Q) = (-6 ; 0)");
+    EXPECT_EQ(f.caption("workedFunction"), "-2Q²-6");
+    EXPECT_EQ(f.caption("workedDiscriminant"), "d = 0² - 4 · (-2) · (-6) = -48");
+    EXPECT_EQ(f.caption("workedVertexPriceNumerator"), "-(-48)");
+    EXPECT_EQ(f.caption("workedVertexPriceDenominator"), "4·(-2)");
+    EXPECT_EQ(f.caption("workedVertexQuantityNumerator"), "-0");
+    EXPECT_EQ(f.caption("workedVertexQuantityDenominator"), "2·(-2)");
+    EXPECT_EQ(f.caption("workedResult"), "T: (P;Q) = (-6 ; 0)");
 }
 
 TEST_F(ToppForm, OpensItsHelpCoveredAndUncoversIt) {
     const FormDriver& f = openPlain();
-    f.click("Command1");
-    EXPECT_TRUE(f.isShown("Picture2"));
-    EXPECT_TRUE(f.isShown("Label49"));
-    EXPECT_EQ(f.focus(), "Command2");
-    f.press("Command2", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Label49"));
-    EXPECT_EQ(f.focus(), "Command4");
-    f.press("Command4", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Picture2"));
-    EXPECT_EQ(f.focus(), "Text16");
+    f.click("help");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_TRUE(f.isShown("workedSolutionCover"));
+    EXPECT_EQ(f.focus(), "showWorkedSolution");
+    f.press("showWorkedSolution", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("workedSolutionCover"));
+    EXPECT_EQ(f.focus(), "closeHelp");
+    f.press("closeHelp", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("helpPanel"));
+    EXPECT_EQ(f.focus(), "vertexPrice");
 }
 
 TEST_F(ToppForm, StaysUncoveredUntilTheNextExercise) {
     const FormDriver& f = openPlain();
-    f.click("Command1");
-    f.click("Command2");
-    f.click("Command4");
-    f.click("Command1");
-    EXPECT_FALSE(f.isShown("Label49"));
-    EXPECT_EQ(f.focus(), "Command2");
+    f.click("help");
+    f.click("showWorkedSolution");
+    f.click("closeHelp");
+    f.click("help");
+    EXPECT_FALSE(f.isShown("workedSolutionCover"));
+    EXPECT_EQ(f.focus(), "showWorkedSolution");
     nextExercise(1, 6, 5, 7);
-    EXPECT_TRUE(f.isShown("Label49"));
-    EXPECT_FALSE(f.isShown("Picture2"));
+    EXPECT_TRUE(f.isShown("workedSolutionCover"));
+    EXPECT_FALSE(f.isShown("helpPanel"));
 }
 
 TEST_F(ToppForm, LeavesThePanelOpenWhileTheExerciseGoesOn) {
     const FormDriver& f = openPlain();
-    f.click("Command1");
+    f.click("help");
     answer("1", "1");
-    EXPECT_TRUE(f.isShown("Picture2"));
-    f.click("Command11");
-    EXPECT_TRUE(f.isShown("Picture2"));
-    EXPECT_EQ(f.box("Text7").content(), "2.5");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    f.click("giveAnswer");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_EQ(f.box("vertexQuantity").content(), "2.5");
 }
 
 TEST(ToppCover, LiesInFrontOfTheSolutionBelowThePolynomialAndOfNothingElse) {
-    const std::set<std::string> solution{"Label51", "Label39", "Label40", "Label45", "Line3",   "Label46",
-                                         "Label42", "Label43", "Line4",   "Label44", "Label41", "Label48"};
+    const std::set<std::string> solution{"workedDiscriminant",         "workedVertexEquals",
+                                         "workedVertexOpeningBracket", "workedVertexPriceNumerator",
+                                         "workedVertexPriceBar",       "workedVertexPriceDenominator",
+                                         "workedVertexSemicolon",      "workedVertexQuantityNumerator",
+                                         "workedVertexQuantityBar",    "workedVertexQuantityDenominator",
+                                         "workedVertexClosingBracket", "workedResult"};
     SeededDraws draws(3);
     const FormDriver f(PageName::Topp, draws);
-    const Label& cover = f.label("Label49");
+    const Label& cover = f.label("workedSolutionCover");
     EXPECT_EQ(cover.backColour(), kWhite);
     EXPECT_TRUE(cover.autoFillBackground());
     EXPECT_EQ(cover.caption(), "");
-    const auto inPanel = f.find("Picture2").findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    const auto inPanel = f.find("helpPanel").findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
     const QObjectList& siblings = cover.parent()->children();
     for (int exercise = 0; exercise < 500; ++exercise) {
-        SCOPED_TRACE(f.caption("Label1"));
+        SCOPED_TRACE(f.caption("workedFunction"));
         std::size_t covered = 0;
         for (const QWidget* widget : inPanel) {
             const std::string name = widget->objectName().toStdString();
@@ -446,20 +452,23 @@ TEST(ToppCover, LiesInFrontOfTheSolutionBelowThePolynomialAndOfNothingElse) {
             }
         }
         ASSERT_EQ(covered, solution.size());
-        f.button("Command7").click();
+        f.button("newExercise").click();
     }
 }
 
 TEST_F(ToppForm, SetsItsFormulaSideBySideWithBarsAsWideAsTheFractions) {
     const FormDriver& f = open(3, 10, 10, 3);
     double right = 0;
-    for (const char* name : {"Label39", "Label40", "Label45", "Label42", "Label43", "Label41"}) {
+    for (const char* name :
+         {"workedVertexEquals", "workedVertexOpeningBracket", "workedVertexPriceNumerator",
+          "workedVertexSemicolon", "workedVertexQuantityNumerator", "workedVertexClosingBracket"}) {
         EXPECT_GE(f.label(name).place().left(), right) << name;
         EXPECT_LE(f.label(name).place().left(), std::max(right, 320.0) + 4) << name;
         right = f.label(name).place().right();
     }
-    const std::array<std::string, 3> fractions[]{{"Label45", "Line3", "Label46"},
-                                                 {"Label43", "Line4", "Label44"}};
+    const std::array<std::string, 3> fractions[]{
+        {"workedVertexPriceNumerator", "workedVertexPriceBar", "workedVertexPriceDenominator"},
+        {"workedVertexQuantityNumerator", "workedVertexQuantityBar", "workedVertexQuantityDenominator"}};
     for (const auto& [numerator, bar, denominator] : fractions) {
         const QLineF ends = f.find<LineControl>(bar).ends();
         EXPECT_EQ(ends.x1(), f.label(numerator).place().left());
@@ -477,8 +486,8 @@ TEST_F(ToppForm, HasRoomForTheLongestNumbers) {
         const int c = patternCase == 3 || patternCase == 9 ? 10 : 6;
         const FormDriver& f = open(3, 10, c, patternCase);
         giveAfter("-123456.75", "-123456.75");
-        f.click("Command1");
-        f.click("Command2");
+        f.click("help");
+        f.click("showWorkedSolution");
         EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
     }
 }
