@@ -140,7 +140,7 @@ TEST_F(ProgramRun, BringsAMinimisedAboutBoxBack) {
 TEST_F(ProgramRun, WaitsAsAWholeForAMessageTheAboutBoxToo) {
     program.openAbout();
     choose(PageName::Rogt);
-    program.page()->findChild<Button*>("Command2")->click();
+    program.page()->findChild<Button*>("help")->click();
     settle();
     const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     ASSERT_NE(box, nullptr);

@@ -14,30 +14,29 @@ constexpr double kHalfTick = 0.5;
 
 Rogt::Rogt(Draws& draws) : ExerciseForm(PageName::Rogt, draws), ui_(std::make_unique<Ui::Rogt>()) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command5,
-             .ok = ui_->Command1,
-             .giveAnswer = ui_->Command9,
-             .help = ui_->Command2});
-    verdict(TwoLabels{.right = ui_->Label10, .wrong = ui_->Label9});
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
     // Kept: the vertex is walked from its right-hand box to the left one, against the layout.
-    enterChain({ui_->Text10, ui_->Text11, ui_->Text15, ui_->Text14}, LastBox::OkOrStay);
-    options_ = {
-        {ui_->Option1, RootCount::Two}, {ui_->Option2, RootCount::Double}, {ui_->Option3, RootCount::None}};
-    onClick(ui_->Option1, &Rogt::askForTwoRoots);
-    onClick(ui_->Option2, &Rogt::askForADoubleRoot);
-    onClick(ui_->Option3, &Rogt::askForTheVertexOnly);
+    enterChain({ui_->rootOne, ui_->rootTwo, ui_->vertexPrice, ui_->vertexQuantity}, LastBox::OkOrStay);
+    options_ = {{ui_->twoRoots, RootCount::Two},
+                {ui_->doubleRoot, RootCount::Double},
+                {ui_->noRoots, RootCount::None}};
+    onClick(ui_->twoRoots, &Rogt::askForTwoRoots);
+    onClick(ui_->doubleRoot, &Rogt::askForADoubleRoot);
+    onClick(ui_->noRoots, &Rogt::askForTheVertexOnly);
 }
 
 Rogt::~Rogt() = default;
 
-void Rogt::loadStep() { ui_->Command5->show(); }
+void Rogt::loadStep() { ui_->newExercise->show(); }
 
 std::vector<AnswerBox*> Rogt::chosenRootBoxes() const {
     switch (options_.chosen().value_or(RootCount::None)) {
         case RootCount::Two:
-            return {ui_->Text10, ui_->Text11};
+            return {ui_->rootOne, ui_->rootTwo};
         case RootCount::Double:
-            return {ui_->Text11};
+            return {ui_->rootTwo};
         case RootCount::None:
             break;
     }
@@ -64,16 +63,16 @@ void Rogt::newExercise() {
     options_.resetColours();
     hideRootFields();
     hideVerdict();
-    hideAll({ui_->Command1, ui_->Command9});
+    hideAll({ui_->ok, ui_->giveAnswer});
 
     tavrune::newExercise(state_, draws());
 
-    ui_->Label29->setCaption(state_.polynomialText);
-    clearBoxes({ui_->Text10, ui_->Text11, ui_->Text14, ui_->Text15});
+    ui_->givenFunction->setCaption(state_.polynomialText);
+    clearBoxes({ui_->rootOne, ui_->rootTwo, ui_->vertexQuantity, ui_->vertexPrice});
 }
 
 void Rogt::drawAxes() {
-    GraphBox& graph = *ui_->Picture1;
+    GraphBox& graph = *ui_->graph;
     graph.Cls();
     graph.Scale(-15, 15, 15, -15);
     graph.Line(0, 15, 0, -15);
@@ -87,41 +86,43 @@ void Rogt::drawAxes() {
 }
 
 void Rogt::drawCurve() {
-    plotCurve(*ui_->Picture1, [this](double q) { return valueAt(state_.coefficients, q); },
+    plotCurve(*ui_->graph, [this](double q) { return valueAt(state_.coefficients, q); },
               {.start = -7, .step = 0.05, .neverMet = 7, .largest = 1000});
 }
 
-void Rogt::hideRootFields() { hideAll({ui_->Text10, ui_->Text11, ui_->Label3, ui_->Label4, ui_->Label7}); }
+void Rogt::hideRootFields() {
+    hideAll({ui_->rootOne, ui_->rootTwo, ui_->rootOneCaption, ui_->rootTwoCaption, ui_->doubleRootCaption});
+}
 
 void Rogt::beginEntry() {
     // What the boxes hold and their colours stay.
     hideRootFields();
     hideVerdict();
-    ui_->Command9->hide();
-    showAll({ui_->Command1, ui_->Command5});
+    ui_->giveAnswer->hide();
+    showAll({ui_->ok, ui_->newExercise});
 }
 
 void Rogt::nameSecondBox(RootCount count) {
-    ui_->Text11->setAccessibleName(count == RootCount::Double ? "dobbelt rod" : "rod 2");
+    ui_->rootTwo->setAccessibleName(count == RootCount::Double ? "dobbelt rod" : "rod 2");
 }
 
 void Rogt::askForTwoRoots() {
     beginEntry();
     nameSecondBox(RootCount::Two);
-    showAll({ui_->Label3, ui_->Label4, ui_->Text10, ui_->Text11});
-    focusOn(ui_->Text10);
+    showAll({ui_->rootOneCaption, ui_->rootTwoCaption, ui_->rootOne, ui_->rootTwo});
+    focusOn(ui_->rootOne);
 }
 
 void Rogt::askForADoubleRoot() {
     beginEntry();
     nameSecondBox(RootCount::Double);
-    showAll({ui_->Label7, ui_->Text11});
-    focusOn(ui_->Text11);
+    showAll({ui_->doubleRootCaption, ui_->rootTwo});
+    focusOn(ui_->rootTwo);
 }
 
 void Rogt::askForTheVertexOnly() {
     beginEntry();
-    focusOn(ui_->Text15);
+    focusOn(ui_->vertexPrice);
 }
 
 void Rogt::judge() {
@@ -134,43 +135,43 @@ void Rogt::judge() {
     }
     if (!rootsRight || !vertexRight) {
         showWrong();
-        showAll({ui_->Command1, ui_->Command9});
+        showAll({ui_->ok, ui_->giveAnswer});
         focusOnWrongBox();
         return;
     }
-    focusOn(ui_->Command5);
-    hideAll({ui_->Command1, ui_->Command9});
+    focusOn(ui_->newExercise);
+    hideAll({ui_->ok, ui_->giveAnswer});
     drawCurve();
 }
 
 bool Rogt::judgeRoots() {
-    whiten({ui_->Text10, ui_->Text11});
-    const TypedRoots typed{.first = ui_->Text10->value(), .second = ui_->Text11->value()};
+    whiten({ui_->rootOne, ui_->rootTwo});
+    const TypedRoots typed{.first = ui_->rootOne->value(), .second = ui_->rootTwo->value()};
     if (rootsAreRight(state_, options_.chosen(), typed)) {
         colourRightOption();
         return true;
     }
     for (const AnswerBox* box : chosenRootBoxes()) {
         const double root = box->value();
-        ui_->Picture1->Line(root, -kHalfTick, root, kHalfTick, kRed);
+        ui_->graph->Line(root, -kHalfTick, root, kHalfTick, kRed);
     }
     // Hidden boxes too, whatever is chosen.
     const RootMarks marks = rootMarks(state_.discriminant, state_.roots, typed);
-    ui_->Text10->mark(marks.first);
-    ui_->Text11->mark(marks.second);
+    ui_->rootOne->mark(marks.first);
+    ui_->rootTwo->mark(marks.second);
     return false;
 }
 
 bool Rogt::judgeVertex() {
-    const VertexMatch match = matchVertex(state_, ui_->Text14->value(), ui_->Text15->value());
-    ui_->Text14->mark(!match.q);
-    ui_->Text15->mark(!match.p);
+    const VertexMatch match = matchVertex(state_, ui_->vertexQuantity->value(), ui_->vertexPrice->value());
+    ui_->vertexQuantity->mark(!match.q);
+    ui_->vertexPrice->mark(!match.p);
     return match.isRight();
 }
 
 void Rogt::focusOnWrongBox() {
     // The last of these that is red and shown gets it; without one the focus stays.
-    for (AnswerBox* box : {ui_->Text14, ui_->Text15, ui_->Text11, ui_->Text10}) {
+    for (AnswerBox* box : {ui_->vertexQuantity, ui_->vertexPrice, ui_->rootTwo, ui_->rootOne}) {
         if (box->backColour() == kRed && box->isShown()) {
             focusOn(box);
         }
@@ -181,25 +182,25 @@ void Rogt::giveAnswer() {
     given();
     drawCurve();
     options_.resetColours();
-    whiten({ui_->Text10, ui_->Text11, ui_->Text14, ui_->Text15});
+    whiten({ui_->rootOne, ui_->rootTwo, ui_->vertexQuantity, ui_->vertexPrice});
     const RogtAnswer answer = answerOf(state_);
     hideRootFields();
     nameSecondBox(rootCountOf(state_.discriminant));
     switch (rootCountOf(state_.discriminant)) {
         case RootCount::Two:
-            showAll({ui_->Label3, ui_->Label4, ui_->Text10, ui_->Text11});
-            ui_->Text10->setContent(answer.root1);
-            ui_->Text11->setContent(answer.root2);
+            showAll({ui_->rootOneCaption, ui_->rootTwoCaption, ui_->rootOne, ui_->rootTwo});
+            ui_->rootOne->setContent(answer.root1);
+            ui_->rootTwo->setContent(answer.root2);
             break;
         case RootCount::Double:
-            showAll({ui_->Label7, ui_->Text11});
-            ui_->Text11->setContent(answer.root1);
+            showAll({ui_->doubleRootCaption, ui_->rootTwo});
+            ui_->rootTwo->setContent(answer.root1);
             break;
         case RootCount::None:
             break;
     }
-    ui_->Text14->setContent(answer.vertexQ);
-    ui_->Text15->setContent(answer.vertexP);
+    ui_->vertexQuantity->setContent(answer.vertexQ);
+    ui_->vertexPrice->setContent(answer.vertexP);
     colourRightOption();
 }
 

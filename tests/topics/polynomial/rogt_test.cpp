@@ -28,8 +28,8 @@ constexpr GraphScale kScale{-15, 15, 15, -15};
 constexpr test::StrokesIn kIn{kScale};
 /// Two axes, three rows of points along each.
 constexpr std::size_t kAxesAndTicks = 2 + 2 * (30 + 6 + 6);
-constexpr const char* kBoxes[] = {"Text10", "Text11", "Text14", "Text15"};
-constexpr const char* kOptions[] = {"Option1", "Option2", "Option3"};
+constexpr const char* kBoxes[] = {"rootOne", "rootTwo", "vertexQuantity", "vertexPrice"};
+constexpr const char* kOptions[] = {"twoRoots", "doubleRoot", "noRoots"};
 
 /// The sizes in the order in which they are drawn, and the pattern.
 struct Task {
@@ -77,21 +77,21 @@ protected:
 
     void next(const Task& task) {
         script(task);
-        form->click("Command5");
+        form->click("newExercise");
     }
 
     /// Fills the boxes, hidden ones too, and leaves the focus alone.
     void fill(const Typed& typed) const {
-        form->box("Text10").setContent(typed.root1);
-        form->box("Text11").setContent(typed.root2);
-        form->box("Text14").setContent(typed.q);
-        form->box("Text15").setContent(typed.p);
+        form->box("rootOne").setContent(typed.root1);
+        form->box("rootTwo").setContent(typed.root2);
+        form->box("vertexQuantity").setContent(typed.q);
+        form->box("vertexPrice").setContent(typed.p);
     }
 
     void answer(const std::string& option, const Typed& typed) const {
         form->click(option);
         fill(typed);
-        form->click("Command1");
+        form->click("ok");
     }
 
     /// The names of the boxes for which this holds, one after another.
@@ -128,9 +128,11 @@ protected:
         }
         return list;
     }
-    [[nodiscard]] std::string shownRootLabels() const { return shown({"Label3", "Label4", "Label7"}); }
-    [[nodiscard]] std::string verdicts() const { return shown({"Label10", "Label9"}); }
-    [[nodiscard]] std::string judgeButtons() const { return shown({"Command1", "Command9"}); }
+    [[nodiscard]] std::string shownRootLabels() const {
+        return shown({"rootOneCaption", "rootTwoCaption", "doubleRootCaption"});
+    }
+    [[nodiscard]] std::string verdicts() const { return shown({"right", "wrong"}); }
+    [[nodiscard]] std::string judgeButtons() const { return shown({"ok", "giveAnswer"}); }
 
     /// The others have the button face.
     [[nodiscard]] std::string greenOptions() const {
@@ -153,7 +155,7 @@ protected:
         return names;
     }
 
-    [[nodiscard]] GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+    [[nodiscard]] GraphBox& graph() const { return form->find<GraphBox>("graph"); }
     [[nodiscard]] const std::vector<Stroke>& strokes() const { return graph().strokes(); }
 
     /// Where ticks of wrong roots stand.
@@ -180,30 +182,30 @@ protected:
 TEST_F(RogtForm, StandsReadyBeforeItsFirstTick) {
     const FormDriver f = FormDriver::unshown(PageName::Rogt, draws);
     EXPECT_EQ(f.page().windowTitle().toStdString(), "Tavrune - Andengradspolynomiet - Rødder og toppunkt");
-    EXPECT_EQ(f.caption("Label22"), "Bestem rødder og toppunktet i følgende andengradspolynomium");
-    EXPECT_EQ(f.caption("Label5"), "P =");
-    EXPECT_EQ(f.caption("Label29"), "");
-    EXPECT_EQ(f.find<Frame>("Frame1").caption(), "Rødder");
-    EXPECT_EQ(f.option("Option1").caption(), "&To rødder");
-    EXPECT_EQ(f.option("Option2").caption(), "&Dobbelt rod");
-    EXPECT_EQ(f.option("Option3").caption(), "Ingen &rødder");
-    EXPECT_EQ(f.caption("Label3"), "Rod 1");
-    EXPECT_EQ(f.caption("Label4"), "Rod 2");
-    EXPECT_EQ(f.caption("Label7"), "Rod");
-    EXPECT_EQ(f.caption("Label2"), "Toppunkt: (Q;P)=(");
-    EXPECT_EQ(f.caption("Label14"), " ;");
-    EXPECT_EQ(f.caption("Label15"), ")");
-    EXPECT_EQ(f.caption("Label28") + f.caption("Label27"), "QP");
-    for (const char* hidden : {"Command5", "Command1", "Command9", "Label10", "Label9", "Text10", "Text11",
-                               "Label3", "Label4", "Label7"}) {
+    EXPECT_EQ(f.caption("task"), "Bestem rødder og toppunktet i følgende andengradspolynomium");
+    EXPECT_EQ(f.caption("priceEquals"), "P =");
+    EXPECT_EQ(f.caption("givenFunction"), "");
+    EXPECT_EQ(f.find<Frame>("rootCountChoice").caption(), "Rødder");
+    EXPECT_EQ(f.option("twoRoots").caption(), "&To rødder");
+    EXPECT_EQ(f.option("doubleRoot").caption(), "&Dobbelt rod");
+    EXPECT_EQ(f.option("noRoots").caption(), "Ingen &rødder");
+    EXPECT_EQ(f.caption("rootOneCaption"), "Rod 1");
+    EXPECT_EQ(f.caption("rootTwoCaption"), "Rod 2");
+    EXPECT_EQ(f.caption("doubleRootCaption"), "Rod");
+    EXPECT_EQ(f.caption("vertexEquals"), "Toppunkt: (Q;P)=(");
+    EXPECT_EQ(f.caption("vertexSemicolon"), " ;");
+    EXPECT_EQ(f.caption("vertexClosingBracket"), ")");
+    EXPECT_EQ(f.caption("quantityAxisName") + f.caption("priceAxisName"), "QP");
+    for (const char* hidden : {"newExercise", "ok", "giveAnswer", "right", "wrong", "rootOne", "rootTwo",
+                               "rootOneCaption", "rootTwoCaption", "doubleRootCaption"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
 }
 
 TEST_F(RogtForm, PutsTheWrongVerdictInFrontOfTheRightOne) {
     const FormDriver& f = open(kTwo);
-    const QObjectList& siblings = f.label("Label9").parentWidget()->children();
-    EXPECT_GT(siblings.indexOf(&f.label("Label9")), siblings.indexOf(&f.label("Label10")));
+    const QObjectList& siblings = f.label("wrong").parentWidget()->children();
+    EXPECT_GT(siblings.indexOf(&f.label("wrong")), siblings.indexOf(&f.label("right")));
 }
 
 TEST_F(RogtForm, NumbersItsAxesWhereTheyAre) {
@@ -228,13 +230,13 @@ TEST_F(RogtForm, NumbersItsAxesWhereTheyAre) {
 
 TEST_F(RogtForm, ShowsThePolynomialAndAsksForTheNumberOfRootsFirst) {
     const FormDriver& f = open(kTwo);
-    EXPECT_EQ(f.caption("Label29"), "1Q²-3Q+2");
+    EXPECT_EQ(f.caption("givenFunction"), "1Q²-3Q+2");
     EXPECT_EQ(chosenOption() + greenOptions(), "");
-    EXPECT_EQ(shownBoxes(), "Text14 Text15");
+    EXPECT_EQ(shownBoxes(), "vertexQuantity vertexPrice");
     EXPECT_EQ(shownRootLabels() + verdicts() + judgeButtons(), "");
-    EXPECT_TRUE(f.isShown("Command5"));
-    for (const char* name : {"Label2", "Label14", "Label15", "Label5", "Label22", "Label29", "Frame1",
-                             "Option1", "Option2", "Option3"}) {
+    EXPECT_TRUE(f.isShown("newExercise"));
+    for (const char* name : {"vertexEquals", "vertexSemicolon", "vertexClosingBracket", "priceEquals", "task",
+                             "givenFunction", "rootCountChoice", "twoRoots", "doubleRoot", "noRoots"}) {
         EXPECT_TRUE(f.isShown(name)) << name;
     }
 }
@@ -263,83 +265,83 @@ TEST_F(RogtForm, DrawsAxesAndSixRowsOfPointsInOrder) {
 
 TEST_F(RogtForm, SetsNoFocusWithANewExercise) {
     const FormDriver& f = open(kTwo);
-    f.box("Text14").setFocus();
+    f.box("vertexQuantity").setFocus();
     script(kNone);
-    f.button("Command5").click();
-    EXPECT_EQ(f.caption("Label29"), "1Q²+1Q+1");
-    EXPECT_EQ(f.focus(), "Text14");
+    f.button("newExercise").click();
+    EXPECT_EQ(f.caption("givenFunction"), "1Q²+1Q+1");
+    EXPECT_EQ(f.focus(), "vertexQuantity");
 }
 
 TEST_F(RogtForm, AsksForTwoRootsAndTheVertex) {
     const FormDriver& f = open(kTwo);
-    f.click("Option2");
-    f.click("Option1");
-    EXPECT_EQ(shownBoxes(), "Text10 Text11 Text14 Text15");
-    EXPECT_EQ(shownRootLabels(), "Label3 Label4");
-    EXPECT_EQ(judgeButtons(), "Command1");
-    EXPECT_TRUE(f.isShown("Command5"));
-    EXPECT_EQ(f.focus(), "Text10");
+    f.click("doubleRoot");
+    f.click("twoRoots");
+    EXPECT_EQ(shownBoxes(), "rootOne rootTwo vertexQuantity vertexPrice");
+    EXPECT_EQ(shownRootLabels(), "rootOneCaption rootTwoCaption");
+    EXPECT_EQ(judgeButtons(), "ok");
+    EXPECT_TRUE(f.isShown("newExercise"));
+    EXPECT_EQ(f.focus(), "rootOne");
 }
 
 TEST_F(RogtForm, AsksForADoubleRootAndTheVertex) {
     const FormDriver& f = open(kTwo);
-    f.click("Option1");
-    f.click("Option2");
-    EXPECT_EQ(shownBoxes(), "Text11 Text14 Text15");
-    EXPECT_EQ(shownRootLabels(), "Label7");
-    EXPECT_EQ(judgeButtons(), "Command1");
-    EXPECT_TRUE(f.isShown("Command5"));
-    EXPECT_EQ(f.focus(), "Text11");
+    f.click("twoRoots");
+    f.click("doubleRoot");
+    EXPECT_EQ(shownBoxes(), "rootTwo vertexQuantity vertexPrice");
+    EXPECT_EQ(shownRootLabels(), "doubleRootCaption");
+    EXPECT_EQ(judgeButtons(), "ok");
+    EXPECT_TRUE(f.isShown("newExercise"));
+    EXPECT_EQ(f.focus(), "rootTwo");
 }
 
 TEST_F(RogtForm, AsksForTheVertexAloneWithoutRoots) {
     const FormDriver& f = open(kTwo);
-    f.click("Option1");
-    f.click("Option3");
-    EXPECT_EQ(shownBoxes(), "Text14 Text15");
+    f.click("twoRoots");
+    f.click("noRoots");
+    EXPECT_EQ(shownBoxes(), "vertexQuantity vertexPrice");
     EXPECT_EQ(shownRootLabels(), "");
-    EXPECT_EQ(judgeButtons(), "Command1");
-    EXPECT_TRUE(f.isShown("Command5"));
-    EXPECT_EQ(f.focus(), "Text15");
+    EXPECT_EQ(judgeButtons(), "ok");
+    EXPECT_TRUE(f.isShown("newExercise"));
+    EXPECT_EQ(f.focus(), "vertexPrice");
 }
 
 TEST_F(RogtForm, KeepsTextsAndColoursWhenAnOptionIsPicked) {
     const FormDriver& f = open(kTwo);
-    answer("Option1", {"7", "8", "9", "10"});
-    for (const char* option : {"Option2", "Option3", "Option1"}) {
+    answer("twoRoots", {"7", "8", "9", "10"});
+    for (const char* option : {"doubleRoot", "noRoots", "twoRoots"}) {
         f.click(option);
-        EXPECT_EQ(redBoxes(), "Text10 Text11 Text14 Text15") << option;
-        EXPECT_EQ(f.box("Text10").content() + f.box("Text11").content(), "78");
-        EXPECT_EQ(f.box("Text14").content() + f.box("Text15").content(), "910");
+        EXPECT_EQ(redBoxes(), "rootOne rootTwo vertexQuantity vertexPrice") << option;
+        EXPECT_EQ(f.box("rootOne").content() + f.box("rootTwo").content(), "78");
+        EXPECT_EQ(f.box("vertexQuantity").content() + f.box("vertexPrice").content(), "910");
     }
 }
 
 TEST_F(RogtForm, TakesVerdictAndOfferAwayWhenAnOptionIsPicked) {
     for (const char* option : kOptions) {
         const FormDriver& f = open(kTwo);
-        answer("Option1", {"2", "1", "9", "10"});
-        EXPECT_EQ(verdicts(), "Label10 Label9");
-        EXPECT_EQ(judgeButtons(), "Command1 Command9");
+        answer("twoRoots", {"2", "1", "9", "10"});
+        EXPECT_EQ(verdicts(), "right wrong");
+        EXPECT_EQ(judgeButtons(), "ok giveAnswer");
         f.click(option);
         EXPECT_EQ(verdicts(), "") << option;
-        EXPECT_EQ(judgeButtons(), "Command1") << option;
+        EXPECT_EQ(judgeButtons(), "ok") << option;
     }
 }
 
 TEST_F(RogtForm, LetsAnOptionBePickedAfterTheEnd) {
     const FormDriver& f = open(kDouble);
-    answer("Option2", {"", "-1", "-1", "0"});
+    answer("doubleRoot", {"", "-1", "-1", "0"});
     EXPECT_EQ(judgeButtons(), "");
-    f.click("Option1");
+    f.click("twoRoots");
     EXPECT_EQ(verdicts(), "");
-    EXPECT_EQ(judgeButtons(), "Command1");
-    EXPECT_EQ(greenOptions(), "Option2");
+    EXPECT_EQ(judgeButtons(), "ok");
+    EXPECT_EQ(greenOptions(), "doubleRoot");
 }
 
 TEST_F(RogtForm, WalksByEnterFromTheRightHandVertexBoxToTheLeftOne) {
     const FormDriver& f = open(kTwo);
-    f.click("Option1");
-    for (const char* box : {"Text11", "Text15", "Text14", "Command1"}) {
+    f.click("twoRoots");
+    for (const char* box : {"rootTwo", "vertexPrice", "vertexQuantity", "ok"}) {
         f.press(f.focus(), Qt::Key_Return);
         EXPECT_EQ(f.focus(), box);
     }
@@ -347,98 +349,98 @@ TEST_F(RogtForm, WalksByEnterFromTheRightHandVertexBoxToTheLeftOne) {
 
 TEST_F(RogtForm, StaysInTheLastBoxWhileThereIsNothingToJudge) {
     const FormDriver& f = open(kTwo);
-    f.box("Text14").setFocus();
-    f.press("Text14", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text14");
+    f.box("vertexQuantity").setFocus();
+    f.press("vertexQuantity", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "vertexQuantity");
 }
 
 TEST_F(RogtForm, TakesTwoRootsInEitherOrderAndColoursNoOption) {
     for (const Typed& typed : {Typed{"2", "1", "1.5", "-0.25"}, Typed{"1", "2", "1.5", "-0.25"}}) {
         const FormDriver& f = open(kTwo);
-        answer("Option1", typed);
-        EXPECT_EQ(verdicts(), "Label10");
+        answer("twoRoots", typed);
+        EXPECT_EQ(verdicts(), "right");
         EXPECT_EQ(judgeButtons(), "");
         EXPECT_EQ(greenOptions() + redBoxes(), "");
-        EXPECT_EQ(f.focus(), "Command5");
+        EXPECT_EQ(f.focus(), "newExercise");
         expectCurve({1, -3, 2}, kAxesAndTicks);
     }
 }
 
 TEST_F(RogtForm, TakesADoubleRootAndColoursItsOption) {
     const FormDriver& f = open(kDouble);
-    answer("Option2", {"77", "-1", "-1", "0"});
-    EXPECT_EQ(verdicts(), "Label10");
+    answer("doubleRoot", {"77", "-1", "-1", "0"});
+    EXPECT_EQ(verdicts(), "right");
     EXPECT_EQ(judgeButtons(), "");
-    EXPECT_EQ(greenOptions(), "Option2");
+    EXPECT_EQ(greenOptions(), "doubleRoot");
     EXPECT_EQ(redBoxes(), "");
-    EXPECT_EQ(f.focus(), "Command5");
+    EXPECT_EQ(f.focus(), "newExercise");
     expectCurve({1, 2, 1}, kAxesAndTicks);
 }
 
 TEST_F(RogtForm, TakesNoRootsAndColoursItsOption) {
     const FormDriver& f = open(kNone);
-    answer("Option3", {"77", "78", "-0.5", "0.75"});
-    EXPECT_EQ(verdicts(), "Label10");
+    answer("noRoots", {"77", "78", "-0.5", "0.75"});
+    EXPECT_EQ(verdicts(), "right");
     EXPECT_EQ(judgeButtons(), "");
-    EXPECT_EQ(greenOptions(), "Option3");
+    EXPECT_EQ(greenOptions(), "noRoots");
     EXPECT_EQ(redBoxes(), "");
-    EXPECT_EQ(f.focus(), "Command5");
+    EXPECT_EQ(f.focus(), "newExercise");
     expectCurve({1, 1, 1}, kAxesAndTicks);
 }
 
 TEST_F(RogtForm, TakesEmptyBoxesForTheRootAndTheVertexOfASquare) {
     const FormDriver& f = open(kSquare);
-    EXPECT_EQ(f.caption("Label29"), "3Q²");
-    answer("Option2", {});
-    EXPECT_EQ(verdicts(), "Label10");
-    EXPECT_EQ(greenOptions(), "Option2");
+    EXPECT_EQ(f.caption("givenFunction"), "3Q²");
+    answer("doubleRoot", {});
+    EXPECT_EQ(verdicts(), "right");
+    EXPECT_EQ(greenOptions(), "doubleRoot");
 }
 
 TEST_F(RogtForm, DrawsADownwardParabola) {
     open(kDownward);
-    answer("Option1", {"4", "-1", "1.5", "6.25"});
-    EXPECT_EQ(verdicts(), "Label10");
+    answer("twoRoots", {"4", "-1", "1.5", "6.25"});
+    EXPECT_EQ(verdicts(), "right");
     expectCurve({-1, 3, 4}, kAxesAndTicks);
 }
 
 TEST_F(RogtForm, JudgesEverythingAgainAfterRightRootsWithAWrongVertex) {
     const FormDriver& f = open(kTwo);
-    answer("Option1", {"2", "1", "1.5", "7"});
-    EXPECT_EQ(verdicts(), "Label10 Label9");
-    EXPECT_EQ(judgeButtons(), "Command1 Command9");
-    EXPECT_EQ(redBoxes(), "Text15");
-    EXPECT_EQ(f.focus(), "Text15");
-    EXPECT_EQ(f.box("Text10").content() + f.box("Text11").content(), "21");
+    answer("twoRoots", {"2", "1", "1.5", "7"});
+    EXPECT_EQ(verdicts(), "right wrong");
+    EXPECT_EQ(judgeButtons(), "ok giveAnswer");
+    EXPECT_EQ(redBoxes(), "vertexPrice");
+    EXPECT_EQ(f.focus(), "vertexPrice");
+    EXPECT_EQ(f.box("rootOne").content() + f.box("rootTwo").content(), "21");
     EXPECT_EQ(strokes().size(), kAxesAndTicks);
 
     fill({"2", "8", "1.5", "-0.25"});
-    f.click("Command1");
-    EXPECT_EQ(verdicts(), "Label10 Label9");
-    EXPECT_EQ(redBoxes(), "Text11");
+    f.click("ok");
+    EXPECT_EQ(verdicts(), "right wrong");
+    EXPECT_EQ(redBoxes(), "rootTwo");
 
     fill({"2", "1", "1.5", "-0.25"});
-    f.click("Command1");
-    EXPECT_EQ(verdicts(), "Label10");
+    f.click("ok");
+    EXPECT_EQ(verdicts(), "right");
     EXPECT_EQ(judgeButtons() + redBoxes(), "");
-    EXPECT_EQ(f.focus(), "Command5");
+    EXPECT_EQ(f.focus(), "newExercise");
 }
 
 TEST_F(RogtForm, ShowsWrongRootsAsWrongThoughTheVertexIsRight) {
     const FormDriver& f = open(kTwo);
-    answer("Option1", {"7", "8", "1.5", "-0.25"});
-    EXPECT_EQ(verdicts(), "Label10 Label9");
-    EXPECT_EQ(judgeButtons(), "Command1 Command9");
-    EXPECT_EQ(redBoxes(), "Text10 Text11");
-    EXPECT_EQ(f.focus(), "Text10");
+    answer("twoRoots", {"7", "8", "1.5", "-0.25"});
+    EXPECT_EQ(verdicts(), "right wrong");
+    EXPECT_EQ(judgeButtons(), "ok giveAnswer");
+    EXPECT_EQ(redBoxes(), "rootOne rootTwo");
+    EXPECT_EQ(f.focus(), "rootOne");
     EXPECT_EQ(strokes().size(), kAxesAndTicks + 2);
     EXPECT_EQ(redTicks(), (std::vector<float>{7, 8}));
 }
 
 TEST_F(RogtForm, ShowsOneVerdictWhereRootsAndVertexAreWrong) {
     open(kTwo);
-    answer("Option1", {"7", "8", "9", "10"});
-    EXPECT_EQ(verdicts(), "Label9");
-    EXPECT_EQ(judgeButtons(), "Command1 Command9");
+    answer("twoRoots", {"7", "8", "9", "10"});
+    EXPECT_EQ(verdicts(), "wrong");
+    EXPECT_EQ(judgeButtons(), "ok giveAnswer");
 }
 
 struct VertexRow {
@@ -453,20 +455,21 @@ class RogtVertexRows : public RogtForm, public testing::WithParamInterface<Verte
 
 TEST_P(RogtVertexRows, MarkTheWrongCoordinates) {
     const FormDriver& f = open(kNone);
-    answer("Option3", {"", "", GetParam().q, GetParam().p});
+    answer("noRoots", {"", "", GetParam().q, GetParam().p});
     EXPECT_EQ(redBoxes(), GetParam().red);
     EXPECT_EQ(f.focus(), GetParam().focus);
-    EXPECT_EQ(verdicts(), "Label10 Label9");
+    EXPECT_EQ(verdicts(), "right wrong");
     // The number of roots is right and says so.
-    EXPECT_EQ(greenOptions(), "Option3");
+    EXPECT_EQ(greenOptions(), "noRoots");
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, RogtVertexRows,
-                         testing::Values(VertexRow{"OnlyQ", "-0.5", "3", "Text15", "Text15"},
-                                         VertexRow{"OnlyP", "3", "0.75", "Text14", "Text14"},
-                                         VertexRow{"Neither", "3", "3", "Text14 Text15", "Text15"},
-                                         VertexRow{"OpenBelow", "-0.505", "0.75", "Text14", "Text14"}),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(
+    Rows, RogtVertexRows,
+    testing::Values(VertexRow{"OnlyQ", "-0.5", "3", "vertexPrice", "vertexPrice"},
+                    VertexRow{"OnlyP", "3", "0.75", "vertexQuantity", "vertexQuantity"},
+                    VertexRow{"Neither", "3", "3", "vertexQuantity vertexPrice", "vertexPrice"},
+                    VertexRow{"OpenBelow", "-0.505", "0.75", "vertexQuantity", "vertexQuantity"}),
+    [](const auto& row) { return row.param.name; });
 
 struct RootRow {
     const char* name;
@@ -486,84 +489,88 @@ TEST_P(RogtRootRows, MarkTheWrongRootsOfTwo) {
     EXPECT_EQ(redBoxes(), GetParam().red);
     EXPECT_EQ(f.focus(), GetParam().focus);
     EXPECT_EQ(redTicks(), GetParam().ticks);
-    EXPECT_EQ(judgeButtons(), "Command1 Command9");
+    EXPECT_EQ(judgeButtons(), "ok giveAnswer");
     EXPECT_EQ(greenOptions(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, RogtRootRows,
     testing::Values(
-        RootRow{"FirstHoldsRoot1", "Option1", {"2", "7", "1.5", "-0.25"}, "Text11", "Text11", {2, 7}},
-        RootRow{"SecondHoldsRoot1", "Option1", {"7", "2", "1.5", "-0.25"}, "Text10", "Text10", {7, 2}},
-        RootRow{"FirstHoldsRoot2", "Option1", {"1", "7", "1.5", "-0.25"}, "Text11", "Text11", {1, 7}},
-        RootRow{"SecondHoldsRoot2", "Option1", {"7", "1", "1.5", "-0.25"}, "Text10", "Text10", {7, 1}},
-        RootRow{"OneRootTwice", "Option1", {"2", "2", "1.5", "-0.25"}, "Text11", "Text11", {2, 2}},
-        RootRow{"Neither", "Option1", {"7", "8", "1.5", "-0.25"}, "Text10 Text11", "Text10", {7, 8}},
+        RootRow{"FirstHoldsRoot1", "twoRoots", {"2", "7", "1.5", "-0.25"}, "rootTwo", "rootTwo", {2, 7}},
+        RootRow{"SecondHoldsRoot1", "twoRoots", {"7", "2", "1.5", "-0.25"}, "rootOne", "rootOne", {7, 2}},
+        RootRow{"FirstHoldsRoot2", "twoRoots", {"1", "7", "1.5", "-0.25"}, "rootTwo", "rootTwo", {1, 7}},
+        RootRow{"SecondHoldsRoot2", "twoRoots", {"7", "1", "1.5", "-0.25"}, "rootOne", "rootOne", {7, 1}},
+        RootRow{"OneRootTwice", "twoRoots", {"2", "2", "1.5", "-0.25"}, "rootTwo", "rootTwo", {2, 2}},
+        RootRow{"Neither", "twoRoots", {"7", "8", "1.5", "-0.25"}, "rootOne rootTwo", "rootOne", {7, 8}},
         RootRow{"TakesTheFocusFromTheVertex",
-                "Option1",
+                "twoRoots",
                 {"2", "7", "9", "9"},
-                "Text11 Text14 Text15",
-                "Text11",
+                "rootTwo vertexQuantity vertexPrice",
+                "rootTwo",
                 {2, 7}},
-        RootRow{"DoubleChosen", "Option2", {"7", "2", "1.5", "-0.25"}, "Text10", "Command1", {2}},
-        RootRow{
-            "DoubleChosenAndHiddenRootRight", "Option2", {"2", "7", "1.5", "-0.25"}, "Text11", "Text11", {7}},
+        RootRow{"DoubleChosen", "doubleRoot", {"7", "2", "1.5", "-0.25"}, "rootOne", "ok", {2}},
+        RootRow{"DoubleChosenAndHiddenRootRight",
+                "doubleRoot",
+                {"2", "7", "1.5", "-0.25"},
+                "rootTwo",
+                "rootTwo",
+                {7}},
         RootRow{"DoubleChosenAndVertexWrong",
-                "Option2",
+                "doubleRoot",
                 {"7", "2", "9", "-0.25"},
-                "Text10 Text14",
-                "Text14",
+                "rootOne vertexQuantity",
+                "vertexQuantity",
                 {2}},
-        RootRow{"NoneChosen", "Option3", {"2", "1", "1.5", "-0.25"}, "Text11", "Command1", {}},
+        RootRow{"NoneChosen", "noRoots", {"2", "1", "1.5", "-0.25"}, "rootTwo", "ok", {}},
         RootRow{"NoneChosenAndVertexWrong",
-                "Option3",
+                "noRoots",
                 {"", "", "9", "9"},
-                "Text10 Text11 Text14 Text15",
-                "Text15",
+                "rootOne rootTwo vertexQuantity vertexPrice",
+                "vertexPrice",
                 {}}),
     [](const auto& row) { return row.param.name; });
 
 TEST_F(RogtForm, MarksBothRootBoxesWhereThereAreFewerThanTwoRoots) {
     // The vertex is that of the double root.
-    for (const auto& [task, red] :
-         {std::pair{kDouble, "Text10 Text11"}, std::pair{kNone, "Text10 Text11 Text14 Text15"}}) {
+    for (const auto& [task, red] : {std::pair{kDouble, "rootOne rootTwo"},
+                                    std::pair{kNone, "rootOne rootTwo vertexQuantity vertexPrice"}}) {
         const FormDriver& f = open(task);
-        answer("Option1", {"-1", "-1", "-1", "0"});
+        answer("twoRoots", {"-1", "-1", "-1", "0"});
         EXPECT_EQ(redBoxes(), red);
-        EXPECT_EQ(f.focus(), "Text10");
-        answer("Option2", {"-1", "5", "-1", "0"});
+        EXPECT_EQ(f.focus(), "rootOne");
+        answer("doubleRoot", {"-1", "5", "-1", "0"});
         EXPECT_EQ(redBoxes(), red);
-        EXPECT_EQ(f.focus(), "Text11");
+        EXPECT_EQ(f.focus(), "rootTwo");
     }
 }
 
 TEST_F(RogtForm, TakesNoOptionThatIsNotTheRightOneForADoubleRoot) {
     const FormDriver& f = open(kDouble);
-    answer("Option3", {"-1", "-1", "-1", "0"});
-    EXPECT_EQ(verdicts(), "Label10 Label9");
-    EXPECT_EQ(redBoxes(), "Text10 Text11");
+    answer("noRoots", {"-1", "-1", "-1", "0"});
+    EXPECT_EQ(verdicts(), "right wrong");
+    EXPECT_EQ(redBoxes(), "rootOne rootTwo");
     // Neither of them is shown, so that "&OK" keeps the focus.
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(f.focus(), "ok");
     EXPECT_TRUE(redTicks().empty());
 }
 
 TEST_F(RogtForm, WhitensAllBoxesBeforeItMarksThem) {
     const FormDriver& f = open(kTwo);
-    answer("Option1", {"7", "8", "9", "10"});
-    EXPECT_EQ(redBoxes(), "Text10 Text11 Text14 Text15");
+    answer("twoRoots", {"7", "8", "9", "10"});
+    EXPECT_EQ(redBoxes(), "rootOne rootTwo vertexQuantity vertexPrice");
     fill({"2", "8", "9", "-0.25"});
-    f.click("Command1");
-    EXPECT_EQ(redBoxes(), "Text11 Text14");
-    EXPECT_EQ(f.focus(), "Text11");
+    f.click("ok");
+    EXPECT_EQ(redBoxes(), "rootTwo vertexQuantity");
+    EXPECT_EQ(f.focus(), "rootTwo");
 }
 
 TEST_F(RogtForm, KeepsTheTicksOfSeveralTriesUntilTheNextExercise) {
     open(kTwo);
-    answer("Option1", {"7", "8", "9", "10"});
-    answer("Option2", {"7", "-3.5", "9", "10"});
-    answer("Option1", {"2", "1", "9", "10"});
+    answer("twoRoots", {"7", "8", "9", "10"});
+    answer("doubleRoot", {"7", "-3.5", "9", "10"});
+    answer("twoRoots", {"2", "1", "9", "10"});
     EXPECT_EQ(redTicks(), (std::vector<float>{7, 8, -3.5}));
-    answer("Option1", {"2", "1", "1.5", "-0.25"});
+    answer("twoRoots", {"2", "1", "1.5", "-0.25"});
     expectCurve({1, -3, 2}, kAxesAndTicks + 3);
     next(kNone);
     EXPECT_EQ(strokes().size(), kAxesAndTicks);
@@ -571,11 +578,11 @@ TEST_F(RogtForm, KeepsTheTicksOfSeveralTriesUntilTheNextExercise) {
 
 TEST_F(RogtForm, LeavesTheGreenOfARightOptionWhenTheNextTryIsWrong) {
     const FormDriver& f = open(kNone);
-    answer("Option3", {"", "", "9", "9"});
-    answer("Option1", {"", "", "9", "9"});
-    EXPECT_EQ(greenOptions(), "Option3");
-    f.click("Command9");
-    EXPECT_EQ(greenOptions(), "Option3");
+    answer("noRoots", {"", "", "9", "9"});
+    answer("twoRoots", {"", "", "9", "9"});
+    EXPECT_EQ(greenOptions(), "noRoots");
+    f.click("giveAnswer");
+    EXPECT_EQ(greenOptions(), "noRoots");
     next(kTwo);
     EXPECT_EQ(greenOptions() + chosenOption(), "");
 }
@@ -586,16 +593,16 @@ TEST_F(RogtForm, GivesTwoRootsAndTheVertexWhateverIsChosen) {
         const FormDriver& f = open(kTwo);
         answer(option, {"7", "8", "9", "10"});
         const std::size_t before = strokes().size();
-        f.click("Command9");
-        EXPECT_EQ(shownBoxes(), "Text10 Text11 Text14 Text15");
-        EXPECT_EQ(shownRootLabels(), "Label3 Label4");
-        EXPECT_EQ(f.box("Text10").content(), "2");
-        EXPECT_EQ(f.box("Text11").content(), "1");
-        EXPECT_EQ(f.box("Text14").content(), "1,5");
-        EXPECT_EQ(f.box("Text15").content(), "-0,25");
+        f.click("giveAnswer");
+        EXPECT_EQ(shownBoxes(), "rootOne rootTwo vertexQuantity vertexPrice");
+        EXPECT_EQ(shownRootLabels(), "rootOneCaption rootTwoCaption");
+        EXPECT_EQ(f.box("rootOne").content(), "2");
+        EXPECT_EQ(f.box("rootTwo").content(), "1");
+        EXPECT_EQ(f.box("vertexQuantity").content(), "1,5");
+        EXPECT_EQ(f.box("vertexPrice").content(), "-0,25");
         EXPECT_EQ(verdicts() + judgeButtons() + redBoxes() + greenOptions(), "");
         EXPECT_EQ(chosenOption(), option);
-        EXPECT_EQ(f.focus(), "Command5");
+        EXPECT_EQ(f.focus(), "newExercise");
         expectCurve({1, -3, 2}, before);
     }
 }
@@ -605,18 +612,18 @@ TEST_F(RogtForm, GivesADoubleRootAndTheVertexWhateverIsChosen) {
         const FormDriver& f = open(kDouble);
         answer(option, {"7", "8", "9", "10"});
         const std::size_t before = strokes().size();
-        f.click("Command9");
-        EXPECT_EQ(shownBoxes(), "Text11 Text14 Text15");
-        EXPECT_EQ(shownRootLabels(), "Label7");
+        f.click("giveAnswer");
+        EXPECT_EQ(shownBoxes(), "rootTwo vertexQuantity vertexPrice");
+        EXPECT_EQ(shownRootLabels(), "doubleRootCaption");
         // The hidden box keeps what was typed.
-        EXPECT_EQ(f.box("Text10").content(), "7");
-        EXPECT_EQ(f.box("Text11").content(), "-1");
-        EXPECT_EQ(f.box("Text14").content(), "-1");
-        EXPECT_EQ(f.box("Text15").content(), "0");
+        EXPECT_EQ(f.box("rootOne").content(), "7");
+        EXPECT_EQ(f.box("rootTwo").content(), "-1");
+        EXPECT_EQ(f.box("vertexQuantity").content(), "-1");
+        EXPECT_EQ(f.box("vertexPrice").content(), "0");
         EXPECT_EQ(verdicts() + judgeButtons() + redBoxes(), "");
-        EXPECT_EQ(greenOptions(), "Option2");
+        EXPECT_EQ(greenOptions(), "doubleRoot");
         EXPECT_EQ(chosenOption(), option);
-        EXPECT_EQ(f.focus(), "Command5");
+        EXPECT_EQ(f.focus(), "newExercise");
         expectCurve({1, 2, 1}, before);
     }
 }
@@ -627,15 +634,15 @@ TEST_F(RogtForm, GivesTheVertexAloneWhereThereAreNoRoots) {
         const FormDriver& f = open(kNone);
         answer(option, {"7", "8", "9", "10"});
         const std::size_t before = strokes().size();
-        f.click("Command9");
-        EXPECT_EQ(shownBoxes(), "Text14 Text15");
+        f.click("giveAnswer");
+        EXPECT_EQ(shownBoxes(), "vertexQuantity vertexPrice");
         EXPECT_EQ(shownRootLabels(), "");
-        EXPECT_EQ(f.box("Text10").content() + f.box("Text11").content(), "78");
-        EXPECT_EQ(f.box("Text14").content(), "-0,5");
-        EXPECT_EQ(f.box("Text15").content(), "0,75");
+        EXPECT_EQ(f.box("rootOne").content() + f.box("rootTwo").content(), "78");
+        EXPECT_EQ(f.box("vertexQuantity").content(), "-0,5");
+        EXPECT_EQ(f.box("vertexPrice").content(), "0,75");
         EXPECT_EQ(verdicts() + judgeButtons() + redBoxes(), "");
-        EXPECT_EQ(greenOptions(), "Option3");
-        EXPECT_EQ(f.focus(), "Command5");
+        EXPECT_EQ(greenOptions(), "noRoots");
+        EXPECT_EQ(f.focus(), "newExercise");
         expectCurve({1, 1, 1}, before);
     }
 }
@@ -643,47 +650,47 @@ TEST_F(RogtForm, GivesTheVertexAloneWhereThereAreNoRoots) {
 TEST_F(RogtForm, GivesANegativeHalfThatItWouldJudgeWrong) {
     const test::DecimalMark point(".");
     const FormDriver& f = open(kHalf);
-    answer("Option1", {"0", "-0.25", "9", "9"});
-    f.click("Command9");
-    EXPECT_EQ(f.box("Text14").content(), "-0.13");
-    EXPECT_EQ(f.box("Text15").content(), "-0.06");
-    f.click("Option1");
-    f.click("Command1");
-    EXPECT_EQ(redBoxes(), "Text14");
+    answer("twoRoots", {"0", "-0.25", "9", "9"});
+    f.click("giveAnswer");
+    EXPECT_EQ(f.box("vertexQuantity").content(), "-0.13");
+    EXPECT_EQ(f.box("vertexPrice").content(), "-0.06");
+    f.click("twoRoots");
+    f.click("ok");
+    EXPECT_EQ(redBoxes(), "vertexQuantity");
 }
 
 TEST_F(RogtForm, EmptiesAndWhitensEverythingForTheNextExercise) {
     const FormDriver& f = open(kNone);
-    answer("Option1", {"7", "8", "9", "10"});
+    answer("twoRoots", {"7", "8", "9", "10"});
     next(kTwo);
     EXPECT_EQ(boxesThat([](const AnswerBox& box) { return !box.content().empty(); }), "");
     EXPECT_EQ(redBoxes() + verdicts() + judgeButtons() + shownRootLabels() + chosenOption(), "");
-    EXPECT_EQ(shownBoxes(), "Text14 Text15");
-    EXPECT_EQ(f.caption("Label29"), "1Q²-3Q+2");
+    EXPECT_EQ(shownBoxes(), "vertexQuantity vertexPrice");
+    EXPECT_EQ(f.caption("givenFunction"), "1Q²-3Q+2");
 }
 
 TEST_F(RogtForm, TellsInAMessageWhereHelpIsFoundAndChangesNothing) {
     const FormDriver& f = open(kTwo);
-    answer("Option1", {"7", "8", "9", "10"});
+    answer("twoRoots", {"7", "8", "9", "10"});
     const std::size_t before = strokes().size();
-    f.click("Command2");
+    f.click("help");
     EXPECT_EQ(f.answerMessage(), "Ønsker du hjælp, bør du søge den i 'Rødder' eller 'Toppunkt'");
     EXPECT_EQ(f.answerMessage(), "");
-    EXPECT_EQ(verdicts(), "Label9");
-    EXPECT_EQ(judgeButtons(), "Command1 Command9");
-    EXPECT_EQ(redBoxes(), "Text10 Text11 Text14 Text15");
+    EXPECT_EQ(verdicts(), "wrong");
+    EXPECT_EQ(judgeButtons(), "ok giveAnswer");
+    EXPECT_EQ(redBoxes(), "rootOne rootTwo vertexQuantity vertexPrice");
     EXPECT_EQ(strokes().size(), before);
 }
 
 TEST_F(RogtForm, ObeysTheAccessKeysOfItsOptions) {
     const FormDriver& f = open(kTwo);
     const std::pair<Qt::Key, const char*> keys[] = {
-        {Qt::Key_T, "Option1"}, {Qt::Key_D, "Option2"}, {Qt::Key_R, "Option3"}};
+        {Qt::Key_T, "twoRoots"}, {Qt::Key_D, "doubleRoot"}, {Qt::Key_R, "noRoots"}};
     for (const auto& [key, option] : keys) {
         QTest::keyClick(f.page().focusWidget(), key, Qt::AltModifier);
         test::settle();
         EXPECT_EQ(chosenOption(), option);
-        EXPECT_TRUE(f.isShown("Command1"));
+        EXPECT_TRUE(f.isShown("ok"));
     }
 }
 
@@ -691,13 +698,13 @@ TEST_F(RogtForm, TakesAnyTextForAWrongAnswer) {
     const FormDriver& f = open(kTwo);
     for (const std::string& text :
          {std::string("1e308"), std::string("-1e400"), std::string("abc"), std::string(1U << 14U, '9')}) {
-        answer("Option1", {text, text, text, text});
-        EXPECT_EQ(redBoxes(), "Text10 Text11 Text14 Text15");
-        EXPECT_EQ(verdicts(), "Label9");
+        answer("twoRoots", {text, text, text, text});
+        EXPECT_EQ(redBoxes(), "rootOne rootTwo vertexQuantity vertexPrice");
+        EXPECT_EQ(verdicts(), "wrong");
         static_cast<void>(f.page().grab());
     }
-    f.click("Command9");
-    EXPECT_EQ(f.box("Text10").content(), "2");
+    f.click("giveAnswer");
+    EXPECT_EQ(f.box("rootOne").content(), "2");
 }
 
 TEST_F(RogtForm, LooksWellWithEveryNumberOfRoots) {
@@ -708,7 +715,7 @@ TEST_F(RogtForm, LooksWellWithEveryNumberOfRoots) {
             answer(option, {"7", "8", "9", "10"});
             EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
         }
-        f.click("Command9");
+        f.click("giveAnswer");
         EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
     }
 }
@@ -722,7 +729,7 @@ protected:
 
     void tryAnswer(const Typed& typed) const {
         fill(typed);
-        press("Command1");
+        press("ok");
     }
 
 private:
@@ -749,12 +756,12 @@ std::string exactly(double x) { return QString::number(x, 'f', 9).toStdString();
 std::string rounded(double x) { return NumberText(RoundSigned2(x)); }
 
 TEST_F(RogtSpaceShown, IsTriedGivenAndSolvedThroughout) {
-    const char* const boxesOfCount[] = {"Text10 Text11 Text14 Text15", "Text11 Text14 Text15",
-                                        "Text14 Text15"};
+    const char* const boxesOfCount[] = {"rootOne rootTwo vertexQuantity vertexPrice",
+                                        "rootTwo vertexQuantity vertexPrice", "vertexQuantity vertexPrice"};
     // Two roots get no green.
-    const char* const greenOfCount[] = {"", "Option2", "Option3"};
+    const char* const greenOfCount[] = {"", "doubleRoot", "noRoots"};
     for (int exercise = 0; exercise < test::kPolynomials; ++exercise) {
-        const std::string task = form->caption("Label29");
+        const std::string task = form->caption("givenFunction");
         SCOPED_TRACE(task);
         const auto& [a, b, c] = readPolynomial(task);
         const double d = b * b - 4 * a * c;
@@ -769,31 +776,31 @@ TEST_F(RogtSpaceShown, IsTriedGivenAndSolvedThroughout) {
 
         press(kOptions[count]);
         tryAnswer(wrong);
-        ASSERT_EQ(verdicts(), "Label10 Label9");
-        ASSERT_EQ(judgeButtons(), "Command1 Command9");
-        ASSERT_EQ(redBoxes(), "Text14");
+        ASSERT_EQ(verdicts(), "right wrong");
+        ASSERT_EQ(judgeButtons(), "ok giveAnswer");
+        ASSERT_EQ(redBoxes(), "vertexQuantity");
 
-        press("Command9");
+        press("giveAnswer");
         ASSERT_EQ(verdicts() + judgeButtons() + redBoxes(), "");
         ASSERT_EQ(shownBoxes(), boxesOfCount[count]);
         ASSERT_EQ(greenOptions(), greenOfCount[count]);
-        ASSERT_EQ(form->box("Text14").content(), rounded(q));
-        ASSERT_EQ(form->box("Text15").content(), rounded(p));
+        ASSERT_EQ(form->box("vertexQuantity").content(), rounded(q));
+        ASSERT_EQ(form->box("vertexPrice").content(), rounded(p));
         if (count < 2) {
-            ASSERT_EQ(form->box("Text11").content(), rounded(count == 0 ? root2 : root1));
+            ASSERT_EQ(form->box("rootTwo").content(), rounded(count == 0 ? root2 : root1));
         }
         if (count == 0) {
-            ASSERT_EQ(form->box("Text10").content(), rounded(root1));
+            ASSERT_EQ(form->box("rootOne").content(), rounded(root1));
         }
 
         press(kOptions[count]);
         tryAnswer(right);
-        ASSERT_EQ(verdicts(), "Label10");
+        ASSERT_EQ(verdicts(), "right");
         ASSERT_EQ(judgeButtons() + redBoxes(), "");
         ASSERT_EQ(greenOptions(), greenOfCount[count]);
-        press("Command5");
+        press("newExercise");
     }
-    EXPECT_EQ(form->caption("Label29"), "1Q²+1Q+1");
+    EXPECT_EQ(form->caption("givenFunction"), "1Q²+1Q+1");
 }
 
 }  // namespace
