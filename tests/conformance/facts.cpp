@@ -43,8 +43,8 @@ const std::vector<FormFacts>& allForms() {
          "vertexQuantity", "", "twoRoots", "", ""},
         {Name::Topp, "newExercise", "ok", "giveAnswer", "help", "right", "wrong", false, false,
          "vertexQuantity", "vertexPrice", "", "helpPanel", "closeHelp"},
-        {Name::Diff, "Command15", "Command13", "Command14", "Command1", "Label10", "Label27", false, false,
-         "Text1", "Text1", "", "Picture2", "Command2"},
+        {Name::Diff, "newExercise", "ok", "giveAnswer", "help", "right", "wrong", false, false, "derivative",
+         "derivative", "", "helpPanel", "closeHelp"},
     };
     return forms;
 }

@@ -21,39 +21,37 @@ constexpr double kGap = 4;
 
 Diff::Diff(Draws& draws) : ExerciseForm(PageName::Diff, draws), ui_(std::make_unique<Ui::Diff>()) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command15,
-             .ok = ui_->Command13,
-             .giveAnswer = ui_->Command14,
-             .help = ui_->Command1});
-    verdict(TwoLabels{.right = ui_->Label10, .wrong = ui_->Label27});
-    enterChain({ui_->Text1}, LastBox::OkOrStay);
-    onClick(ui_->Command4, &Diff::showDerivative);
-    onClick(ui_->Command5, &Diff::showDerivativeAtPoint);
-    onClick(ui_->Command2, &Diff::closeHelp);
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
+    enterChain({ui_->derivative}, LastBox::OkOrStay);
+    onClick(ui_->showDerivative, &Diff::showDerivative);
+    onClick(ui_->showDerivativeAtPoint, &Diff::showDerivativeAtPoint);
+    onClick(ui_->closeHelp, &Diff::closeHelp);
 }
 
 Diff::~Diff() = default;
 
-void Diff::loadStep() { ui_->Command15->show(); }
+void Diff::loadStep() { ui_->newExercise->show(); }
 
 void Diff::newExercise() {
-    hideAll({ui_->Picture2, ui_->Label37, ui_->Label47, ui_->Label18});
-    ui_->Label6->show();
+    hideAll({ui_->helpPanel, ui_->workedDerivative, ui_->workedDerivativeAtPoint, ui_->workedResult});
+    ui_->generalRule->show();
     drawAxes();
-    ui_->Command15->hide();
+    ui_->newExercise->hide();
 
     tavrune::newExercise(state_, draws());
 
     showTask();
-    clearBoxes({ui_->Text1});
-    showAll({ui_->Label5, ui_->Label1, ui_->Label25, ui_->Command15});
+    clearBoxes({ui_->derivative});
+    showAll({ui_->givenFunction, ui_->task, ui_->pointQuantity, ui_->newExercise});
     showAsking();
-    focusOn(ui_->Text1);
+    focusOn(ui_->derivative);
     drawCurve();
 }
 
 void Diff::drawAxes() {
-    GraphBox& graph = *ui_->Picture1;
+    GraphBox& graph = *ui_->graph;
     graph.Cls();
     graph.Scale(-1, 65, 8, -65);
     graph.Line(0, 65, 0, -65);
@@ -65,28 +63,27 @@ void Diff::drawAxes() {
 
 void Diff::showTask() {
     const DiffTexts texts = textsOf(state_);
-    ui_->Label5->setCaption(texts.polynomial);
-    ui_->Label25->setCaption(NumberText(state_.pointQ));
-    layOutRow({ui_->Label1, ui_->Label25}, ui_->Label1->place().left(), kGap);
-    ui_->Label49->setCaption(texts.workedPolynomial);
-    ui_->Label37->setCaption(texts.derivative);
-    ui_->Label7->setCaption(texts.atPoint);
-    ui_->Label47->setCaption(texts.derivativeAtPoint);
-    ui_->Label18->setCaption(texts.value);
+    ui_->givenFunction->setCaption(texts.polynomial);
+    ui_->pointQuantity->setCaption(NumberText(state_.pointQ));
+    layOutRow({ui_->task, ui_->pointQuantity}, ui_->task->place().left(), kGap);
+    ui_->workedFunction->setCaption(texts.workedPolynomial);
+    ui_->workedDerivative->setCaption(texts.derivative);
+    ui_->workedForQuantity->setCaption(texts.atPoint);
+    ui_->workedDerivativeAtPoint->setCaption(texts.derivativeAtPoint);
+    ui_->workedResult->setCaption(texts.value);
 }
 
 void Diff::drawCurve() {
     const CurveRange parabola{.start = -10, .step = kStep, .neverMet = 10, .largest = 2000};
     const CurveRange cubic{.start = -7, .step = kStep, .neverMet = 7, .largest = 5000};
     plotCurve(
-        *ui_->Picture1, [this](double q) { return curveAt(state_, q); },
-        hasParabola(state_) ? parabola : cubic);
+        *ui_->graph, [this](double q) { return curveAt(state_, q); }, hasParabola(state_) ? parabola : cubic);
 }
 
 void Diff::drawTangent(double slope, double reach, const QColor& colour) {
     const double right = state_.pointQ + reach;
     const double left = state_.pointQ - reach;
-    ui_->Picture1->Line(right, tangentAt(state_, slope, right), left, tangentAt(state_, slope, left), colour);
+    ui_->graph->Line(right, tangentAt(state_, slope, right), left, tangentAt(state_, slope, left), colour);
 }
 
 void Diff::drawRightTangent() {
@@ -96,9 +93,9 @@ void Diff::drawRightTangent() {
 void Diff::drawTypedTangent(double slope) { drawTangent(slope, kReach, kRed); }
 
 void Diff::judge() {
-    const double typed = ui_->Text1->value();
+    const double typed = ui_->derivative->value();
     const bool right = isRight(state_, typed);
-    ui_->Text1->mark(!right);
+    ui_->derivative->mark(!right);
     // Kept: no verdict is hidden first, so "FORKERT" stays behind a later "RIGTIGT".
     if (right) {
         solved();
@@ -106,41 +103,41 @@ void Diff::judge() {
         return;
     }
     failed();
-    focusOn(ui_->Text1);
+    focusOn(ui_->derivative);
     drawTypedTangent(typed);
 }
 
 void Diff::giveAnswer() {
-    const double typed = ui_->Text1->value();
-    whiten({ui_->Text1});
-    ui_->Text1->setContent(NumberText(state_.slopeAtPoint));
+    const double typed = ui_->derivative->value();
+    whiten({ui_->derivative});
+    ui_->derivative->setContent(NumberText(state_.slopeAtPoint));
     given();
     drawRightTangent();
     drawTypedTangent(typed);
 }
 
 void Diff::help() {
-    ui_->Label26->setCaption("P = aQ³ + bQ² + cQ + d");
+    ui_->generalFunction->setCaption("P = aQ³ + bQ² + cQ + d");
     // Kept: the power of the first term, though 2 would be right.
-    ui_->Label30->setCaption("P'= 3aQ³ + 2bQ + c");
-    openPanel(ui_->Picture2, ui_->Command4);
+    ui_->generalDerivative->setCaption("P'= 3aQ³ + 2bQ + c");
+    openPanel(ui_->helpPanel, ui_->showDerivative);
 }
 
 void Diff::showDerivative() {
-    ui_->Label37->show();
-    focusOn(ui_->Command5);
+    ui_->workedDerivative->show();
+    focusOn(ui_->showDerivativeAtPoint);
 }
 
 void Diff::showDerivativeAtPoint() {
-    showAll({ui_->Label47, ui_->Label18, ui_->Label37});
-    focusOn(ui_->Command2);
+    showAll({ui_->workedDerivativeAtPoint, ui_->workedResult, ui_->workedDerivative});
+    focusOn(ui_->closeHelp);
 }
 
 void Diff::closeHelp() {
     // Kept: the steps that have been shown stay shown until the next exercise.
-    ui_->Picture2->hide();
-    ui_->Label6->show();
-    focusOn(ui_->Text1);
+    ui_->helpPanel->hide();
+    ui_->generalRule->show();
+    focusOn(ui_->derivative);
 }
 
 }  // namespace tavrune

@@ -79,16 +79,16 @@ protected:
 
     void nextExercise(const DiffDraws& drawn) {
         draws.append(drawn.script());
-        form->click("Command15");
+        form->click("newExercise");
         strokesOfTask = graph().strokes().size();
     }
 
     void answer(const std::string& slope) const {
-        form->type("Text1", slope);
-        form->click("Command13");
+        form->type("derivative", slope);
+        form->click("ok");
     }
 
-    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("graph"); }
 
     /// What was drawn after the task.
     [[nodiscard]] std::vector<Stroke> drawnLater() const { return test::strokesFrom(graph(), strokesOfTask); }
@@ -114,34 +114,36 @@ protected:
 TEST_F(DiffForm, HidesTheButtonOfTheNextExerciseUntilItIsOnScreen) {
     const FormDriver unshown = FormDriver::unshown(PageName::Diff, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Differentialregning");
-    for (const char* hidden : {"Command15", "Command14", "Label10", "Label27", "Picture2"}) {
+    for (const char* hidden : {"newExercise", "giveAnswer", "right", "wrong", "helpPanel"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
-    for (const char* blank : {"Label5", "Label25", "Label49", "Label37", "Label7", "Label47", "Label18"}) {
+    for (const char* blank : {"givenFunction", "pointQuantity", "workedFunction", "workedDerivative",
+                              "workedForQuantity", "workedDerivativeAtPoint", "workedResult"}) {
         EXPECT_EQ(unshown.caption(blank), "") << blank;
     }
 }
 
 TEST_F(DiffForm, AsksForTheDerivativeAtAPoint) {
     const FormDriver& f = open(kQuadratic);
-    EXPECT_EQ(f.caption("Label1"), "Bestem differentialkvotienten for Q =");
-    EXPECT_EQ(f.caption("Label25"), "3");
-    EXPECT_EQ(f.caption("Label5"), "P=  2Q² +2Q");
-    EXPECT_EQ(f.caption("Label8"), "Differentialkvotienten =");
-    EXPECT_EQ(f.box("Text1").content(), "");
-    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
-    EXPECT_TRUE(
-        areShown({"Label1", "Label25", "Label5", "Label8", "Text1", "Command13", "Command15", "Command1"}));
-    EXPECT_TRUE(areHidden({"Command14", "Label10", "Label27", "Picture2", "Label37", "Label47", "Label18"}));
-    EXPECT_EQ(f.focus(), "Text1");
-    f.press("Text1", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command13");
+    EXPECT_EQ(f.caption("task"), "Bestem differentialkvotienten for Q =");
+    EXPECT_EQ(f.caption("pointQuantity"), "3");
+    EXPECT_EQ(f.caption("givenFunction"), "P=  2Q² +2Q");
+    EXPECT_EQ(f.caption("derivativeEquals"), "Differentialkvotienten =");
+    EXPECT_EQ(f.box("derivative").content(), "");
+    EXPECT_EQ(f.box("derivative").backColour(), kWhite);
+    EXPECT_TRUE(areShown({"task", "pointQuantity", "givenFunction", "derivativeEquals", "derivative", "ok",
+                          "newExercise", "help"}));
+    EXPECT_TRUE(areHidden({"giveAnswer", "right", "wrong", "helpPanel", "workedDerivative",
+                           "workedDerivativeAtPoint", "workedResult"}));
+    EXPECT_EQ(f.focus(), "derivative");
+    f.press("derivative", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "ok");
 }
 
 TEST_F(DiffForm, SetsThePointRightBehindItsQuestion) {
     const FormDriver& f = open(kQuadratic);
-    EXPECT_NEAR(f.label("Label25").place().left(), f.label("Label1").place().right() + 4, 0.01);
-    EXPECT_EQ(f.label("Label25").place().top(), f.label("Label1").place().top());
+    EXPECT_NEAR(f.label("pointQuantity").place().left(), f.label("task").place().right() + 4, 0.01);
+    EXPECT_EQ(f.label("pointQuantity").place().top(), f.label("task").place().top());
 }
 
 TEST_F(DiffForm, NumbersItsAxesWhereTheTicksAre) {
@@ -159,8 +161,8 @@ TEST_F(DiffForm, NumbersItsAxesWhereTheTicksAre) {
         }
     }
     EXPECT_EQ(captions, (std::multiset<std::string>{"60", "30", "-30", "-60", "5", "Q", "P"}));
-    EXPECT_EQ(form->caption("Label12"), "Q");
-    EXPECT_EQ(form->caption("Label14"), "P");
+    EXPECT_EQ(form->caption("quantityAxisName"), "Q");
+    EXPECT_EQ(form->caption("priceAxisName"), "P");
 }
 
 TEST_F(DiffForm, DrawsAxesTicksAndTheParabolaOfAQuadratic) {
@@ -178,12 +180,12 @@ TEST_F(DiffForm, DrawsTheCurveOfACubic) {
 
 TEST_F(DiffForm, DrawsAParabolaForTheFirstTwoCubics) {
     open(kMismatched);
-    EXPECT_EQ(form->caption("Label5"), "P=  3Q³ +1Q² +2Q+5");
+    EXPECT_EQ(form->caption("givenFunction"), "P=  3Q³ +1Q² +2Q+5");
     EXPECT_EQ(graph().strokes(), axesAndTicks() + parabola(3, 1, 2));
     DiffDraws eighteenth = kMismatched;
     eighteenth.patternCase = 18;
     nextExercise(eighteenth);
-    EXPECT_EQ(form->caption("Label5"), "P=  3Q³ +1Q² +2Q-5");
+    EXPECT_EQ(form->caption("givenFunction"), "P=  3Q³ +1Q² +2Q-5");
     EXPECT_EQ(graph().strokes(), axesAndTicks() + parabola(3, 1, 2));
 }
 
@@ -214,39 +216,39 @@ TEST_F(DiffForm, DrawsTheAxesOnceHoweverManyCurvesAreOutOfReach) {
     EXPECT_TRUE(draws.isUsedUp());
     EXPECT_EQ(draws.randomized(), 3);
     EXPECT_EQ(graph().strokes(), axesAndTicks() + parabola(2, 2, 0));
-    EXPECT_EQ(f.caption("Label5"), "P=  2Q² +2Q");
-    EXPECT_EQ(f.caption("Label49"), "P= 2Q² +2Q");
+    EXPECT_EQ(f.caption("givenFunction"), "P=  2Q² +2Q");
+    EXPECT_EQ(f.caption("workedFunction"), "P= 2Q² +2Q");
 }
 
 TEST_F(DiffForm, IsSolvedByKeysAlone) {
     const FormDriver& f = open(kQuadratic);
-    f.type("Text1", "14,0");
-    EXPECT_EQ(f.box("Text1").content(), "14.0");
-    f.press("Text1", Qt::Key_Return);
-    f.press("Command13", Qt::Key_Return);
-    EXPECT_TRUE(f.isShown("Label10"));
-    EXPECT_EQ(f.focus(), "Command15");
+    f.type("derivative", "14,0");
+    EXPECT_EQ(f.box("derivative").content(), "14.0");
+    f.press("derivative", Qt::Key_Return);
+    f.press("ok", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_EQ(f.focus(), "newExercise");
     draws.append(kCubic.script());
-    f.press("Command15", Qt::Key_Return);
-    EXPECT_TRUE(areHidden({"Label10", "Label27", "Command14"}));
-    EXPECT_TRUE(areShown({"Command13", "Command15"}));
-    EXPECT_EQ(f.caption("Label5"), "P=  1Q³ -2Q² -3Q+4");
-    EXPECT_EQ(f.caption("Label25"), "2");
-    EXPECT_EQ(f.box("Text1").content(), "");
-    EXPECT_EQ(f.focus(), "Text1");
+    f.press("newExercise", Qt::Key_Return);
+    EXPECT_TRUE(areHidden({"right", "wrong", "giveAnswer"}));
+    EXPECT_TRUE(areShown({"ok", "newExercise"}));
+    EXPECT_EQ(f.caption("givenFunction"), "P=  1Q³ -2Q² -3Q+4");
+    EXPECT_EQ(f.caption("pointQuantity"), "2");
+    EXPECT_EQ(f.box("derivative").content(), "");
+    EXPECT_EQ(f.focus(), "derivative");
 }
 
 TEST_F(DiffForm, LeavesOnlyTheNextExerciseWhenSolved) {
     const FormDriver& f = open(kQuadratic);
     answer("14");
-    EXPECT_TRUE(areShown({"Label10", "Command15"}));
-    EXPECT_TRUE(areHidden({"Label27", "Command13", "Command14"}));
-    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
-    EXPECT_EQ(f.box("Text1").content(), "14");
-    EXPECT_EQ(f.focus(), "Command15");
-    f.box("Text1").setFocus();
-    f.press("Text1", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_TRUE(areShown({"right", "newExercise"}));
+    EXPECT_TRUE(areHidden({"wrong", "ok", "giveAnswer"}));
+    EXPECT_EQ(f.box("derivative").backColour(), kWhite);
+    EXPECT_EQ(f.box("derivative").content(), "14");
+    EXPECT_EQ(f.focus(), "newExercise");
+    f.box("derivative").setFocus();
+    f.press("derivative", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "derivative");
 }
 
 TEST_F(DiffForm, DrawsTheRightTangentThreeToEitherSideOnAParabola) {
@@ -265,7 +267,7 @@ TEST_F(DiffForm, DrawsTheRightTangentTwoToEitherSideFromTheNineteenthPatternOn) 
     // 1Q³ +1Q² +1Q at 3: the height is 39, the slope 34.
     open({.a = 1, .b = 1, .c = 1, .x = 3, .patternCase = 19});
     answer("34");
-    EXPECT_TRUE(form->isShown("Label10"));
+    EXPECT_TRUE(form->isShown("right"));
     EXPECT_EQ(drawnLater(), (std::vector{kIn.line(5, 39 + 2 * 34, 1, 39 - 2 * 34, kGreen)}));
 }
 
@@ -287,7 +289,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, DiffFirstCubics, testing::Values(17, 18),
 TEST_P(DiffFirstCubics, DrawTheSlopeOfTheCubicThreeToEitherSideThroughTheParabola) {
     openMismatched();
     answer("89");
-    EXPECT_TRUE(form->isShown("Label10"));
+    EXPECT_TRUE(form->isShown("right"));
     EXPECT_EQ(drawnLater(), (std::vector{rightTangent()}));
 }
 
@@ -295,15 +297,15 @@ TEST_P(DiffFirstCubics, DrawATypedSlopeTwoToEitherSideThroughTheParabola) {
     openMismatched();
     // The slope that the parabola has there.
     answer("19");
-    EXPECT_TRUE(form->isShown("Label27"));
+    EXPECT_TRUE(form->isShown("wrong"));
     EXPECT_EQ(drawnLater(), (std::vector{kIn.line(5, 32 + 2 * 19, 1, 32 - 2 * 19, kRed)}));
 }
 
 TEST_P(DiffFirstCubics, DrawBothTangentsThroughTheParabolaWhenTheAnswerIsGiven) {
     const FormDriver& f = openMismatched();
     answer("-1.5");
-    f.click("Command14");
-    EXPECT_EQ(f.box("Text1").content(), "89");
+    f.click("giveAnswer");
+    EXPECT_EQ(f.box("derivative").content(), "89");
     const Stroke typed = kIn.line(5, 29, 1, 35, kRed);
     EXPECT_EQ(drawnLater(), (std::vector{typed, rightTangent(), typed}));
 }
@@ -311,11 +313,11 @@ TEST_P(DiffFirstCubics, DrawBothTangentsThroughTheParabolaWhenTheAnswerIsGiven) 
 TEST_F(DiffForm, DrawsTheSlopeThatWasTypedInRed) {
     const FormDriver& f = open(kQuadratic);
     answer("1.5");
-    EXPECT_TRUE(areShown({"Label27", "Command13", "Command14", "Command15"}));
-    EXPECT_TRUE(areHidden({"Label10"}));
-    EXPECT_EQ(f.box("Text1").backColour(), kRed);
-    EXPECT_EQ(f.box("Text1").content(), "1.5");
-    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_TRUE(areShown({"wrong", "ok", "giveAnswer", "newExercise"}));
+    EXPECT_TRUE(areHidden({"right"}));
+    EXPECT_EQ(f.box("derivative").backColour(), kRed);
+    EXPECT_EQ(f.box("derivative").content(), "1.5");
+    EXPECT_EQ(f.focus(), "derivative");
     EXPECT_EQ(drawnLater(), (std::vector{kIn.line(5, 27, 1, 21, kRed)}));
 }
 
@@ -335,16 +337,16 @@ TEST_F(DiffForm, ShowsRightInFrontOfAWrongThatStays) {
     const FormDriver& f = open(kQuadratic);
     answer("13");
     answer("14");
-    EXPECT_TRUE(areShown({"Label10", "Label27"}));
-    EXPECT_TRUE(areHidden({"Command13", "Command14"}));
-    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
-    const Label& right = f.label("Label10");
-    const Label& wrong = f.label("Label27");
+    EXPECT_TRUE(areShown({"right", "wrong"}));
+    EXPECT_TRUE(areHidden({"ok", "giveAnswer"}));
+    EXPECT_EQ(f.box("derivative").backColour(), kWhite);
+    const Label& right = f.label("right");
+    const Label& wrong = f.label("wrong");
     EXPECT_EQ(right.place(), wrong.place());
     ASSERT_EQ(right.parent(), wrong.parent());
     EXPECT_GT(right.parent()->children().indexOf(&right), right.parent()->children().indexOf(&wrong));
     nextExercise(kCubic);
-    EXPECT_TRUE(areHidden({"Label10", "Label27"}));
+    EXPECT_TRUE(areHidden({"right", "wrong"}));
 }
 
 struct TypedRow {
@@ -358,8 +360,8 @@ class DiffTyped : public DiffForm, public testing::WithParamInterface<TypedRow> 
 TEST_P(DiffTyped, IsTakenWithinTheHalfOpenBandRoundFourteen) {
     const FormDriver& f = open(kQuadratic);
     answer(GetParam().typed);
-    EXPECT_EQ(f.isShown("Label10"), GetParam().isRight);
-    EXPECT_EQ(f.isShown("Label27"), !GetParam().isRight);
+    EXPECT_EQ(f.isShown("right"), GetParam().isRight);
+    EXPECT_EQ(f.isShown("wrong"), !GetParam().isRight);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -373,21 +375,21 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(DiffForm, TakesAnEmptyBoxForASlopeOfZero) {
     const FormDriver& f = open({.a = 2, .b = 3, .x = 1, .patternCase = 34});
-    f.click("Command13");
-    EXPECT_TRUE(f.isShown("Label10"));
+    f.click("ok");
+    EXPECT_TRUE(f.isShown("right"));
     EXPECT_EQ(drawnLater(), (std::vector{kIn.line(3, -1, -1, -1, kGreen)}));
 }
 
 TEST_F(DiffForm, GivesTheAnswerWithTheRightTangentAndThenTheTypedOne) {
     const FormDriver& f = open(kQuadratic);
     answer("1,5");
-    f.click("Command14");
-    EXPECT_EQ(f.box("Text1").content(), "14");
-    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
-    EXPECT_TRUE(f.isShown("Text1"));
-    EXPECT_TRUE(areHidden({"Command13", "Command14", "Label10", "Label27"}));
-    EXPECT_TRUE(f.isShown("Command15"));
-    EXPECT_EQ(f.focus(), "Command15");
+    f.click("giveAnswer");
+    EXPECT_EQ(f.box("derivative").content(), "14");
+    EXPECT_EQ(f.box("derivative").backColour(), kWhite);
+    EXPECT_TRUE(f.isShown("derivative"));
+    EXPECT_TRUE(areHidden({"ok", "giveAnswer", "right", "wrong"}));
+    EXPECT_TRUE(f.isShown("newExercise"));
+    EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_EQ(drawnLater(), (std::vector{kIn.line(5, 27, 1, 21, kRed), kIn.line(6, 66, 0, -18, kGreen),
                                          kIn.line(5, 27, 1, 21, kRed)}));
 }
@@ -395,9 +397,9 @@ TEST_F(DiffForm, GivesTheAnswerWithTheRightTangentAndThenTheTypedOne) {
 TEST_F(DiffForm, DrawsWhatStandsInTheBoxWhenTheAnswerIsAskedFor) {
     const FormDriver& f = open(kCubic);
     answer("7");
-    f.type("Text1", "");
-    f.click("Command14");
-    EXPECT_EQ(f.box("Text1").content(), "1");
+    f.type("derivative", "");
+    f.click("giveAnswer");
+    EXPECT_EQ(f.box("derivative").content(), "1");
     EXPECT_EQ(drawnLater(), (std::vector{kIn.line(4, 12, 0, -16, kRed), kIn.line(4, 0, 0, -4, kGreen),
                                          kIn.line(4, -2, 0, -2, kRed)}));
 }
@@ -406,21 +408,21 @@ TEST_F(DiffForm, GivesANegativeSlopeWholeInEveryLocale) {
     const DecimalMark danish(",");
     const FormDriver& f = open({.a = 3, .b = 4, .c = 5, .x = 5, .patternCase = 12});
     answer("1");
-    f.click("Command14");
-    EXPECT_EQ(f.box("Text1").content(), "-26");
-    EXPECT_EQ(f.caption("Label18"), "P'(5)=-26");
+    f.click("giveAnswer");
+    EXPECT_EQ(f.box("derivative").content(), "-26");
+    EXPECT_EQ(f.caption("workedResult"), "P'(5)=-26");
 }
 
 TEST_F(DiffForm, TakesAnyTypedText) {
     const FormDriver& f = open(kCubic);
     for (const std::string& typed :
          {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
-        f.box("Text1").setContent(typed);
-        f.click("Command13");
-        EXPECT_EQ(f.box("Text1").backColour(), kRed);
-        f.click("Command14");
+        f.box("derivative").setContent(typed);
+        f.click("ok");
+        EXPECT_EQ(f.box("derivative").backColour(), kRed);
+        f.click("giveAnswer");
         EXPECT_FALSE(f.page().grab().isNull());
-        EXPECT_EQ(f.box("Text1").content(), "1");
+        EXPECT_EQ(f.box("derivative").content(), "1");
         nextExercise(kCubic);
     }
 }
@@ -428,83 +430,83 @@ TEST_F(DiffForm, TakesAnyTypedText) {
 TEST_F(DiffForm, ExplainsTheGeneralSolution) {
     const FormDriver& f = open(kQuadratic);
     constexpr test::FixedText kTexts[]{
-        {"Label24", "Generel løsning"},
-        {"Label6",
+        {"generalHeading", "Generel løsning"},
+        {"generalRule",
          "Differentiér funktionen ledvis: Det enkelte led i polynomiet differentieres ved at gange ledet med "
          "den oprindelige eksponent og reducere eksponenten med 1."},
-        {"Label33", "Aktuel løsning"},
-        {"Command4", "Vis"},
-        {"Command5", "Vis"},
-        {"Command2", "&Luk"}};
+        {"workedHeading", "Aktuel løsning"},
+        {"showDerivative", "Vis"},
+        {"showDerivativeAtPoint", "Vis"},
+        {"closeHelp", "&Luk"}};
     test::expectTexts(f, kTexts);
-    f.click("Command1");
-    EXPECT_EQ(f.caption("Label26"), "P = aQ³ + bQ² + cQ + d");
-    EXPECT_EQ(f.caption("Label30"), "P'= 3aQ³ + 2bQ + c");
-    EXPECT_TRUE(areShown({"Label26", "Label6", "Label30"}));
+    f.click("help");
+    EXPECT_EQ(f.caption("generalFunction"), "P = aQ³ + bQ² + cQ + d");
+    EXPECT_EQ(f.caption("generalDerivative"), "P'= 3aQ³ + 2bQ + c");
+    EXPECT_TRUE(areShown({"generalFunction", "generalRule", "generalDerivative"}));
 }
 
 TEST_F(DiffForm, WorksTheSolutionOutWithTheNumbersOfTheExercise) {
     const FormDriver& f = open(kMismatched);
-    EXPECT_EQ(f.caption("Label49"), "P=  3Q³ +1Q² +2Q+5");
-    EXPECT_EQ(f.caption("Label37"), "P'=3·3Q² +2·1Q + 2");
-    EXPECT_EQ(f.caption("Label7"), "For Q = 3 fås");
-    EXPECT_EQ(f.caption("Label47"), "P'(3)=3·3·3² +2·1·3+2");
-    EXPECT_EQ(f.caption("Label18"), "P'(3)=89");
+    EXPECT_EQ(f.caption("workedFunction"), "P=  3Q³ +1Q² +2Q+5");
+    EXPECT_EQ(f.caption("workedDerivative"), "P'=3·3Q² +2·1Q + 2");
+    EXPECT_EQ(f.caption("workedForQuantity"), "For Q = 3 fås");
+    EXPECT_EQ(f.caption("workedDerivativeAtPoint"), "P'(3)=3·3·3² +2·1·3+2");
+    EXPECT_EQ(f.caption("workedResult"), "P'(3)=89");
     nextExercise({.a = 2, .c = 3, .x = 1, .patternCase = 13});
-    EXPECT_EQ(f.caption("Label5"), "P= -2Q² +3");
-    EXPECT_EQ(f.caption("Label49"), "P=-2Q² +3");
-    EXPECT_EQ(f.caption("Label37"), "P'=2·(-2)Q");
-    EXPECT_EQ(f.caption("Label7"), "For Q = 1 fås");
-    EXPECT_EQ(f.caption("Label47"), "P'(1)=2·(-2)·1");
-    EXPECT_EQ(f.caption("Label18"), "P'(1)=-4");
+    EXPECT_EQ(f.caption("givenFunction"), "P= -2Q² +3");
+    EXPECT_EQ(f.caption("workedFunction"), "P=-2Q² +3");
+    EXPECT_EQ(f.caption("workedDerivative"), "P'=2·(-2)Q");
+    EXPECT_EQ(f.caption("workedForQuantity"), "For Q = 1 fås");
+    EXPECT_EQ(f.caption("workedDerivativeAtPoint"), "P'(1)=2·(-2)·1");
+    EXPECT_EQ(f.caption("workedResult"), "P'(1)=-4");
 }
 
 TEST_F(DiffForm, OpensItsHelpStepByStep) {
     const FormDriver& f = open(kQuadratic);
-    f.click("Command1");
-    EXPECT_TRUE(areShown({"Picture2", "Label49", "Label7"}));
-    EXPECT_TRUE(areHidden({"Label37", "Label47", "Label18"}));
-    EXPECT_EQ(f.focus(), "Command4");
-    f.press("Command4", Qt::Key_Return);
-    EXPECT_TRUE(f.isShown("Label37"));
-    EXPECT_TRUE(areHidden({"Label47", "Label18"}));
-    EXPECT_EQ(f.focus(), "Command5");
-    f.press("Command5", Qt::Key_Return);
-    EXPECT_TRUE(areShown({"Label37", "Label47", "Label18"}));
-    EXPECT_EQ(f.focus(), "Command2");
-    f.press("Command2", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Picture2"));
-    EXPECT_EQ(f.focus(), "Text1");
+    f.click("help");
+    EXPECT_TRUE(areShown({"helpPanel", "workedFunction", "workedForQuantity"}));
+    EXPECT_TRUE(areHidden({"workedDerivative", "workedDerivativeAtPoint", "workedResult"}));
+    EXPECT_EQ(f.focus(), "showDerivative");
+    f.press("showDerivative", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("workedDerivative"));
+    EXPECT_TRUE(areHidden({"workedDerivativeAtPoint", "workedResult"}));
+    EXPECT_EQ(f.focus(), "showDerivativeAtPoint");
+    f.press("showDerivativeAtPoint", Qt::Key_Return);
+    EXPECT_TRUE(areShown({"workedDerivative", "workedDerivativeAtPoint", "workedResult"}));
+    EXPECT_EQ(f.focus(), "closeHelp");
+    f.press("closeHelp", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("helpPanel"));
+    EXPECT_EQ(f.focus(), "derivative");
 }
 
 TEST_F(DiffForm, ShowsTheFirstStepWithTheSecond) {
     const FormDriver& f = open(kQuadratic);
-    f.click("Command1");
-    f.click("Command5");
-    EXPECT_TRUE(areShown({"Label37", "Label47", "Label18"}));
+    f.click("help");
+    f.click("showDerivativeAtPoint");
+    EXPECT_TRUE(areShown({"workedDerivative", "workedDerivativeAtPoint", "workedResult"}));
 }
 
 TEST_F(DiffForm, KeepsTheShownStepsUntilTheNextExercise) {
     const FormDriver& f = open(kQuadratic);
-    f.click("Command1");
-    f.click("Command5");
-    f.click("Command2");
-    f.click("Command1");
-    EXPECT_TRUE(areShown({"Label37", "Label47", "Label18", "Label6"}));
-    EXPECT_EQ(f.focus(), "Command4");
+    f.click("help");
+    f.click("showDerivativeAtPoint");
+    f.click("closeHelp");
+    f.click("help");
+    EXPECT_TRUE(areShown({"workedDerivative", "workedDerivativeAtPoint", "workedResult", "generalRule"}));
+    EXPECT_EQ(f.focus(), "showDerivative");
     nextExercise(kCubic);
-    EXPECT_TRUE(areHidden({"Picture2", "Label37", "Label47", "Label18"}));
-    EXPECT_TRUE(f.isShown("Label6"));
+    EXPECT_TRUE(areHidden({"helpPanel", "workedDerivative", "workedDerivativeAtPoint", "workedResult"}));
+    EXPECT_TRUE(f.isShown("generalRule"));
 }
 
 TEST_F(DiffForm, LeavesThePanelOpenWhileTheExerciseGoesOn) {
     const FormDriver& f = open(kQuadratic);
-    f.click("Command1");
+    f.click("help");
     answer("1");
-    EXPECT_TRUE(areShown({"Picture2", "Label27"}));
-    f.click("Command14");
-    EXPECT_TRUE(f.isShown("Picture2"));
-    EXPECT_EQ(f.focus(), "Command15");
+    EXPECT_TRUE(areShown({"helpPanel", "wrong"}));
+    f.click("giveAnswer");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_EQ(f.focus(), "newExercise");
 }
 
 TEST_F(DiffForm, HasRoomForTheTextsOfEveryPattern) {
@@ -515,11 +517,11 @@ TEST_F(DiffForm, HasRoomForTheTextsOfEveryPattern) {
         } else {
             nextExercise(drawn);
         }
-        form->click("Command1");
-        form->click("Command5");
-        ASSERT_EQ(test::flawsOf(form->page()), std::vector<std::string>{}) << form->caption("Label5");
-        form->click("Command2");
-        ASSERT_EQ(test::flawsOf(form->page()), std::vector<std::string>{}) << form->caption("Label5");
+        form->click("help");
+        form->click("showDerivativeAtPoint");
+        ASSERT_EQ(test::flawsOf(form->page()), std::vector<std::string>{}) << form->caption("givenFunction");
+        form->click("closeHelp");
+        ASSERT_EQ(test::flawsOf(form->page()), std::vector<std::string>{}) << form->caption("givenFunction");
     }
 }
 
