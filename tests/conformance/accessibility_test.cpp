@@ -171,8 +171,8 @@ TEST(NamesInWords, TellAnIntegralAsAWhole) {
     SeededDraws draws(3);
     const FormDriver form(PageName::Integ, draws);
     EXPECT_TRUE(BlindStudent(form.page())
-                    .hears(QAccessible::StaticText, "integralet fra " + form.caption("Label12") + " til " +
-                                                        form.caption("Label11") + " af p dQ ="));
+                    .hears(QAccessible::StaticText, "integralet fra " + form.caption("lowerLimit") + " til " +
+                                                        form.caption("upperLimit") + " af p dQ ="));
 }
 
 TEST(NamesInWords, TellAFunctionInTwoPiecesAsAWhole) {

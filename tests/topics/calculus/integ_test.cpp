@@ -40,12 +40,26 @@ constexpr IntegDraws kNegativeConstant{1, 2, 3, 3, 1, 12};
 /// 2Q-3 from 1 to 4: 6.
 constexpr IntegDraws kLine{1, 2, 3, 4, 1, 6};
 
-const Names kUpperWithLetters{"Label53", "Label54", "Label55", "Label56", "Label57",
-                              "Label58", "Label59", "Label60", "Label61"};
-const Names kLowerWithLetters{"Label62", "Label63", "Label64", "Label65", "Label66"};
-const Names kUpperWithNumbers{"Label77", "Label78", "Label79", "Label80", "Label81"};
-const Names kLowerWithNumbers{"Label82", "Label83", "Label84", "Label85", "Label86"};
-const Names kPrimitive{"Label94", "Label95", "Label96", "Label97", "Label98"};
+const Names kUpperWithLetters{"emptyBeforeCubicTerm",
+                              "emptyBeforeCube",
+                              "emptyBeforeQuadraticTerm",
+                              "emptyBeforeSquare",
+                              "workedLettersUpperCubicTerm",
+                              "workedLettersUpperCube",
+                              "workedLettersUpperQuadraticTerm",
+                              "workedLettersUpperSquare",
+                              "workedLettersUpperLinearTerm"};
+const Names kLowerWithLetters{"workedLettersLowerCubicTerm", "workedLettersLowerCube",
+                              "workedLettersLowerQuadraticTerm", "workedLettersLowerSquare",
+                              "workedLettersLowerLinearTerm"};
+const Names kUpperWithNumbers{"workedNumbersUpperCubicTerm", "workedNumbersUpperCube",
+                              "workedNumbersUpperQuadraticTerm", "workedNumbersUpperSquare",
+                              "workedNumbersUpperLinearTerm"};
+const Names kLowerWithNumbers{"workedNumbersLowerCubicTerm", "workedNumbersLowerCube",
+                              "workedNumbersLowerQuadraticTerm", "workedNumbersLowerSquare",
+                              "workedNumbersLowerLinearTerm"};
+const Names kPrimitive{"workedPrimitiveCubicTerm", "workedPrimitiveCube", "workedPrimitiveQuadraticTerm",
+                       "workedPrimitiveSquare", "workedPrimitiveLinearTerm"};
 
 Names operator+(Names one, const Names& other) {
     one.insert(one.end(), other.begin(), other.end());
@@ -83,20 +97,20 @@ protected:
 
     void nextExercise(const IntegDraws& drawn) {
         draws.append(drawn.script());
-        form->click("Command8");
+        form->click("newExercise");
     }
 
     void answer(const std::string& typed) const {
-        form->type("Text22", typed);
-        form->click("Command4");
+        form->type("integral", typed);
+        form->click("ok");
     }
 
     void giveAfterAWrongTry() const {
         answer("999");
-        form->click("Command12");
+        form->click("giveAnswer");
     }
 
-    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("graph"); }
 
     [[nodiscard]] std::vector<Stroke> drawnAfterTheAxes() const {
         return test::strokesFrom(graph(), kStrokesOfAxes);
@@ -118,39 +132,41 @@ TEST_F(IntegForm, HidesTheButtonOfTheNextExerciseUntilItIsOnScreen) {
     const FormDriver unshown = FormDriver::unshown(PageName::Integ, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(),
               "Tavrune - Integralregning - Bestemt integrale - Niveau 1");
-    for (const char* hidden : {"Command8", "Command12", "Label10", "Label27", "Picture2"}) {
+    for (const char* hidden : {"newExercise", "giveAnswer", "right", "wrong", "helpPanel"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
-    for (const char* blank : {"Label6", "Label11", "Label12", "Label48", "Label87", "Label1", "Label44"}) {
+    for (const char* blank : {"givenFunction", "upperLimit", "lowerLimit", "workedFunction", "workedResult",
+                              "generalPrimitive", "generalResult"}) {
         EXPECT_EQ(unshown.caption(blank), "") << blank;
     }
 }
 
 TEST_F(IntegForm, AsksForTheIntegralBetweenTheLimits) {
     const FormDriver& f = open(kSquare);
-    const FixedText texts[]{{"Label201", "Beregn det bestemte integrale"},
-                            {"Label202", "p="},
-                            {"Label6", "1Q²+2Q+3"},
-                            {"Label51", "∫"},
-                            {"Label11", "4"},
-                            {"Label12", "1"},
-                            {"Label13", "p  dQ ="}};
+    const FixedText texts[]{{"task", "Beregn det bestemte integrale"},
+                            {"priceEquals", "p="},
+                            {"givenFunction", "1Q²+2Q+3"},
+                            {"integralSign", "∫"},
+                            {"upperLimit", "4"},
+                            {"lowerLimit", "1"},
+                            {"integrandEquals", "p  dQ ="}};
     test::expectTexts(f, texts);
-    for (const char* shown : {"Command4", "Command8", "Command1", "Text22", "Picture3"}) {
+    for (const char* shown : {"ok", "newExercise", "help", "integral", "workedSolutionCover"}) {
         EXPECT_TRUE(f.isShown(shown)) << shown;
     }
-    for (const char* hidden : {"Command12", "Label10", "Label27", "Picture2"}) {
+    for (const char* hidden : {"giveAnswer", "right", "wrong", "helpPanel"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_EQ(f.focus(), "Text22");
-    EXPECT_EQ(f.box("Text22").content(), "");
-    EXPECT_EQ(f.box("Text22").backColour(), kWhite);
+    EXPECT_EQ(f.focus(), "integral");
+    EXPECT_EQ(f.box("integral").content(), "");
+    EXPECT_EQ(f.box("integral").backColour(), kWhite);
 }
 
 TEST_F(IntegForm, HoldsTheLimitsAboveAndBelowEachSign) {
     const FormDriver& f = open(kSquare);
-    const std::array<const char*, 3> signs[]{{"Label51", "Label11", "Label12"},
-                                             {"Label242", "Label46", "Label47"}};
+    const std::array<const char*, 3> signs[]{
+        {"integralSign", "upperLimit", "lowerLimit"},
+        {"workedNumbersIntegralSign", "workedNumbersUpperLimit", "workedNumbersLowerLimit"}};
     for (const auto& [sign, upper, lower] : signs) {
         EXPECT_EQ(f.caption(upper), "4");
         EXPECT_EQ(f.caption(lower), "1");
@@ -161,7 +177,7 @@ TEST_F(IntegForm, HoldsTheLimitsAboveAndBelowEachSign) {
 }
 
 TEST_F(IntegForm, PrintsANegativeConstantAlone) {
-    EXPECT_EQ(open(kNegativeConstant).caption("Label6"), "-3");
+    EXPECT_EQ(open(kNegativeConstant).caption("givenFunction"), "-3");
 }
 
 TEST_F(IntegForm, NamesTheAxesAndTheirTicks) {
@@ -225,49 +241,49 @@ TEST_F(IntegForm, DrawsItsAxesAndCurveOnceHoweverManyTriesAreThrownAway) {
     draws.append(IntegDraws{4, 4, 4, 6, 5, 1}.script());
     const FormDriver& f = open(kLine);
     EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(f.caption("Label6"), "2Q-3");
+    EXPECT_EQ(f.caption("givenFunction"), "2Q-3");
     EXPECT_EQ(graph().strokes().size(), kStrokesOfAxes + 1);
 }
 
 TEST_F(IntegForm, IsSolvedByKeysAlone) {
     const FormDriver& f = open(kThirds);
-    f.type("Text22", "2,33");
-    EXPECT_EQ(f.box("Text22").content(), "2.33");
-    f.press("Text22", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command4");
-    f.press("Command4", Qt::Key_Return);
-    EXPECT_TRUE(f.isShown("Label10"));
-    EXPECT_EQ(f.focus(), "Command8");
+    f.type("integral", "2,33");
+    EXPECT_EQ(f.box("integral").content(), "2.33");
+    f.press("integral", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "ok");
+    f.press("ok", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_EQ(f.focus(), "newExercise");
     draws.append(kSquare.script());
-    f.press("Command8", Qt::Key_Return);
-    EXPECT_EQ(f.caption("Label6"), "1Q²+2Q+3");
-    EXPECT_FALSE(f.isShown("Label10"));
-    EXPECT_TRUE(f.isShown("Command4"));
-    EXPECT_EQ(f.box("Text22").content(), "");
-    EXPECT_EQ(f.focus(), "Text22");
+    f.press("newExercise", Qt::Key_Return);
+    EXPECT_EQ(f.caption("givenFunction"), "1Q²+2Q+3");
+    EXPECT_FALSE(f.isShown("right"));
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_EQ(f.box("integral").content(), "");
+    EXPECT_EQ(f.focus(), "integral");
 }
 
 TEST_F(IntegForm, HatchesTheAreaInBlueAHundredLinesAUnitWhenSolved) {
     const FormDriver& f = open(kSquare);
     answer("1");
     answer("45");
-    EXPECT_TRUE(f.isShown("Label10"));
-    for (const char* hidden : {"Label27", "Command4", "Command12"}) {
+    EXPECT_TRUE(f.isShown("right"));
+    for (const char* hidden : {"wrong", "ok", "giveAnswer"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_TRUE(f.isShown("Command1"));
-    EXPECT_EQ(f.box("Text22").backColour(), kWhite);
-    EXPECT_EQ(f.focus(), "Command8");
+    EXPECT_TRUE(f.isShown("help"));
+    EXPECT_EQ(f.box("integral").backColour(), kWhite);
+    EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_EQ(drawnAfterTheAxes(), curve(1, 2, 3, 2000) + hatchOf(1, 2, 3, 1, 4));
-    f.box("Text22").setFocus();
-    f.press("Text22", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text22");
+    f.box("integral").setFocus();
+    f.press("integral", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "integral");
 }
 
 TEST_F(IntegForm, HatchesAnAreaBelowTheAxisDownwards) {
     const FormDriver& f = open(kNegativeConstant);
     answer("-6");
-    EXPECT_TRUE(f.isShown("Label10"));
+    EXPECT_TRUE(f.isShown("right"));
     const std::vector<Stroke> lines = test::strokesFrom(graph(), kStrokesOfAxes + 1);
     EXPECT_EQ(lines, hatchOf(0, 0, -3, 1, 3));
     EXPECT_EQ(lines.front(), kIn.line(1, 0, 1, -3, kBlue));
@@ -285,10 +301,10 @@ TEST_F(IntegForm, MarksAWrongAnswerAndAsksAgain) {
     for (const char* typed : {"44", "", "abc", "45,0"}) {
         answer(typed);
         const bool isRight = std::string(typed) == "45,0";
-        EXPECT_EQ(f.isShown("Label27"), !isRight) << typed;
-        EXPECT_EQ(f.isShown("Command12"), !isRight) << typed;
-        EXPECT_EQ(f.box("Text22").backColour(), isRight ? kWhite : kRed) << typed;
-        EXPECT_EQ(f.focus(), isRight ? "Command8" : "Text22") << typed;
+        EXPECT_EQ(f.isShown("wrong"), !isRight) << typed;
+        EXPECT_EQ(f.isShown("giveAnswer"), !isRight) << typed;
+        EXPECT_EQ(f.box("integral").backColour(), isRight ? kWhite : kRed) << typed;
+        EXPECT_EQ(f.focus(), isRight ? "newExercise" : "integral") << typed;
     }
 }
 
@@ -297,34 +313,34 @@ TEST_F(IntegForm, DrawsNothingForAWrongAnswerAndWhitensWithTheNextExercise) {
     answer("1");
     EXPECT_EQ(drawnAfterTheAxes().size(), 1U);
     nextExercise(kSquare);
-    EXPECT_EQ(f.box("Text22").backColour(), kWhite);
-    EXPECT_FALSE(f.isShown("Label27"));
-    EXPECT_FALSE(f.isShown("Command12"));
+    EXPECT_EQ(f.box("integral").backColour(), kWhite);
+    EXPECT_FALSE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
 }
 
 TEST_F(IntegForm, TakesTheBandThatIsOpenBelowAndClosedAbove) {
     const FormDriver& f = open(kConstant);
     for (const char* wrong : {"5.99", "5.995", "6.0051"}) {
         answer(wrong);
-        EXPECT_TRUE(f.isShown("Label27")) << wrong;
+        EXPECT_TRUE(f.isShown("wrong")) << wrong;
     }
     answer("6.005");
-    EXPECT_TRUE(f.isShown("Label10"));
+    EXPECT_TRUE(f.isShown("right"));
     nextExercise(kConstant);
     answer("5.9951");
-    EXPECT_TRUE(f.isShown("Label10"));
+    EXPECT_TRUE(f.isShown("right"));
 }
 
 TEST_F(IntegForm, GivesTheAnswerWithTheCurveAnewAndTheArea) {
     const DecimalMark danish(",");
     const FormDriver& f = open(kThirds);
     giveAfterAWrongTry();
-    EXPECT_EQ(f.box("Text22").content(), "2,33");
-    EXPECT_EQ(f.box("Text22").backColour(), kWhite);
-    for (const char* hidden : {"Command4", "Command12", "Label10", "Label27"}) {
+    EXPECT_EQ(f.box("integral").content(), "2,33");
+    EXPECT_EQ(f.box("integral").backColour(), kWhite);
+    for (const char* hidden : {"ok", "giveAnswer", "right", "wrong"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_EQ(f.focus(), "Command8");
+    EXPECT_EQ(f.focus(), "newExercise");
     // The curve drawn anew ends at a lower bound than the one of the task.
     EXPECT_EQ(drawnAfterTheAxes(), curve(1, 0, 0, 2000) + curve(1, 0, 0, 1000) + hatchOf(1, 0, 0, 1, 2));
     nextExercise(kLine);
@@ -342,43 +358,43 @@ TEST_F(IntegForm, TakesAnyTypedText) {
     const FormDriver& f = open(kThirds);
     for (const std::string& typed :
          {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
-        f.box("Text22").setContent(typed);
-        f.click("Command4");
-        EXPECT_TRUE(f.isShown("Label27"));
-        f.click("Command12");
-        EXPECT_EQ(f.box("Text22").content(), "2.33");
+        f.box("integral").setContent(typed);
+        f.click("ok");
+        EXPECT_TRUE(f.isShown("wrong"));
+        f.click("giveAnswer");
+        EXPECT_EQ(f.box("integral").content(), "2.33");
         nextExercise(kThirds);
     }
 }
 
 TEST_F(IntegForm, ExplainsTheGeneralSolution) {
     const FormDriver& f = open(kSquare);
-    f.click("Command1");
+    f.click("help");
     const FixedText texts[]{
-        {"Label221", "Generel løsning"},
-        {"Label1", "p=aQ² + bQ + c   =>   P= (a/3)Q³ + (b/2)Q² + (c/1)Q + k"},
-        {"Label223", "∫"},
-        {"Label224", "w"},
-        {"Label225", "v"},
-        {"Label226", "p  dQ ="},
-        {"Label227", " P(w)-P(v)"},
-        {"Label44", "((a/3)w³ + (b/2)w² +(c/1)w) - ((a/3)v³ + (b/2)v²  +  (c/1)v)"},
-        {"Label231", "Aktuel løsning"},
-        {"Label203", "p="},
-        {"Label204", "   =>   P="},
-        {"Label232", "Det bestemte integrale findes, her udtrykt ved v og w."},
-        {"Label233", "∫"},
-        {"Label234", "w"},
-        {"Label235", "v"},
-        {"Label31", "²"},
-        {"Label33", " dQ ="},
-        {"Label241", "Nu findes det bestemte integrale, hvor øvre og nedre værdi indsættes."},
-        {"Label242", "∫"},
-        {"Label205", " dQ ="},
-        {"Command2", "Vis"},
-        {"Command3", "&Luk"}};
+        {"generalHeading", "Generel løsning"},
+        {"generalPrimitive", "p=aQ² + bQ + c   =>   P= (a/3)Q³ + (b/2)Q² + (c/1)Q + k"},
+        {"generalIntegralSign", "∫"},
+        {"generalUpperLimit", "w"},
+        {"generalLowerLimit", "v"},
+        {"generalIntegrandEquals", "p  dQ ="},
+        {"generalPrimitiveDifference", " P(w)-P(v)"},
+        {"generalResult", "((a/3)w³ + (b/2)w² +(c/1)w) - ((a/3)v³ + (b/2)v²  +  (c/1)v)"},
+        {"workedHeading", "Aktuel løsning"},
+        {"workedPriceEquals", "p="},
+        {"workedPrimitiveEquals", "   =>   P="},
+        {"workedLettersText", "Det bestemte integrale findes, her udtrykt ved v og w."},
+        {"workedLettersIntegralSign", "∫"},
+        {"workedLettersUpperLimit", "w"},
+        {"workedLettersLowerLimit", "v"},
+        {"workedLettersIntegrandSquare", "²"},
+        {"workedLettersDifferentialEquals", " dQ ="},
+        {"workedNumbersText", "Nu findes det bestemte integrale, hvor øvre og nedre værdi indsættes."},
+        {"workedNumbersIntegralSign", "∫"},
+        {"workedNumbersDifferentialEquals", " dQ ="},
+        {"showWorkedSolution", "Vis"},
+        {"closeHelp", "&Luk"}};
     test::expectTexts(f, texts);
-    EXPECT_EQ(f.caption("Label222")
+    EXPECT_EQ(f.caption("generalText")
                   .rfind("Funktionen integreres ledvis ved at dividere ledets koefficient med den "
                          "oprindelige eksponent +1 og lægge 1 til i eksponenten. Herved fås "
                          "det ubestemte integrale.",
@@ -389,112 +405,116 @@ TEST_F(IntegForm, ExplainsTheGeneralSolution) {
 TEST_F(IntegForm, WorksTheSolutionOutWithItsNumbers) {
     const DecimalMark danish(",");
     const FormDriver& f = open({2, 3, 5, 3, 2, 20});
-    f.click("Command1");
-    EXPECT_EQ(f.caption("Label48"), "-2Q²+3Q-5");
+    f.click("help");
+    EXPECT_EQ(f.caption("workedFunction"), "-2Q²+3Q-5");
     EXPECT_EQ(joined(kPrimitive), "(-2/3)·Q³+(3/2)·Q²-5·Q");
-    EXPECT_EQ(joined({"Label30", "Label31", "Label32"}), "(-2Q²+3Q -5)");
+    EXPECT_EQ(
+        joined({"workedLettersIntegrandHead", "workedLettersIntegrandSquare", "workedLettersIntegrandTail"}),
+        "(-2Q²+3Q -5)");
     EXPECT_EQ(joined(kUpperWithLetters), "((-2/3)·w³+(3/2)·w²-5·w)");
     EXPECT_EQ(joined(kLowerWithLetters), "- ((-2/3)·v³+(3/2)·v²-5·v)");
-    EXPECT_EQ(f.caption("Label72"), "(-2Q²+3Q-5)");
+    EXPECT_EQ(f.caption("workedNumbersIntegrand"), "(-2Q²+3Q-5)");
     EXPECT_EQ(joined(kUpperWithNumbers), "((-2/3)·3³+(3/2)·3²-5·3)");
     EXPECT_EQ(joined(kLowerWithNumbers), "- ((-2/3)·2³+(3/2)·2²-5·2)");
-    EXPECT_EQ(f.caption("Label87"), "= -10,17");
-    EXPECT_EQ(f.caption("Label95"), "³");
-    EXPECT_EQ(f.caption("Label97"), "²");
+    EXPECT_EQ(f.caption("workedResult"), "= -10,17");
+    EXPECT_EQ(f.caption("workedPrimitiveCube"), "³");
+    EXPECT_EQ(f.caption("workedPrimitiveSquare"), "²");
 }
 
 TEST_F(IntegForm, PutsAConstantAloneInTheMiddleOfTheDifference) {
     const FormDriver& f = open(kNegativeConstant);
-    f.click("Command1");
+    f.click("help");
     const std::map<std::string, std::string> filled{
-        {"Label98", "-3·Q"},     {"Label61", "((-3)·w)"},   {"Label62", "- ((-3)·v)"},
-        {"Label81", "((-3)·3)"}, {"Label82", "- ((-3)·1)"},
+        {"workedPrimitiveLinearTerm", "-3·Q"},         {"workedLettersUpperLinearTerm", "((-3)·w)"},
+        {"workedLettersLowerCubicTerm", "- ((-3)·v)"}, {"workedNumbersUpperLinearTerm", "((-3)·3)"},
+        {"workedNumbersLowerCubicTerm", "- ((-3)·1)"},
     };
     for (const std::string& name :
          kPrimitive + kUpperWithLetters + kLowerWithLetters + kUpperWithNumbers + kLowerWithNumbers) {
         EXPECT_EQ(f.caption(name), filled.contains(name) ? filled.at(name) : "") << name;
     }
     nextExercise(kConstant);
-    EXPECT_EQ(f.caption("Label61"), "(3·w)");
-    EXPECT_EQ(f.caption("Label62"), "-(3·v)");
-    EXPECT_EQ(f.caption("Label81"), "(3·3)");
-    EXPECT_EQ(f.caption("Label82"), "-(3·1)");
-    EXPECT_EQ(f.caption("Label98"), "3·Q");
+    EXPECT_EQ(f.caption("workedLettersUpperLinearTerm"), "(3·w)");
+    EXPECT_EQ(f.caption("workedLettersLowerCubicTerm"), "-(3·v)");
+    EXPECT_EQ(f.caption("workedNumbersUpperLinearTerm"), "(3·3)");
+    EXPECT_EQ(f.caption("workedNumbersLowerCubicTerm"), "-(3·1)");
+    EXPECT_EQ(f.caption("workedPrimitiveLinearTerm"), "3·Q");
 }
 
 TEST_F(IntegForm, ShowsARaisedTwoInTheIntegrandForASquareOnly) {
     const FormDriver& f = open(kLine);
-    f.click("Command1");
-    EXPECT_EQ(f.caption("Label30"), "(2Q -3)");
-    EXPECT_FALSE(f.isShown("Label31"));
-    EXPECT_FALSE(f.isShown("Label32"));
+    f.click("help");
+    EXPECT_EQ(f.caption("workedLettersIntegrandHead"), "(2Q -3)");
+    EXPECT_FALSE(f.isShown("workedLettersIntegrandSquare"));
+    EXPECT_FALSE(f.isShown("workedLettersIntegrandTail"));
     nextExercise(kThirds);
-    f.click("Command1");
-    EXPECT_EQ(f.caption("Label30"), "(1Q");
-    EXPECT_TRUE(f.isShown("Label31"));
-    EXPECT_TRUE(f.isShown("Label32"));
-    EXPECT_EQ(f.caption("Label32"), ")");
+    f.click("help");
+    EXPECT_EQ(f.caption("workedLettersIntegrandHead"), "(1Q");
+    EXPECT_TRUE(f.isShown("workedLettersIntegrandSquare"));
+    EXPECT_TRUE(f.isShown("workedLettersIntegrandTail"));
+    EXPECT_EQ(f.caption("workedLettersIntegrandTail"), ")");
 }
 
 TEST_F(IntegForm, BuildsTheFirstIntegrandAndTheGeneralFormulasWhenHelpOpens) {
     const FormDriver& f = open(kLine);
-    EXPECT_EQ(f.caption("Label1"), "");
-    EXPECT_EQ(f.caption("Label44"), "");
-    EXPECT_EQ(f.caption("Label30"), "");
-    f.click("Command1");
+    EXPECT_EQ(f.caption("generalPrimitive"), "");
+    EXPECT_EQ(f.caption("generalResult"), "");
+    EXPECT_EQ(f.caption("workedLettersIntegrandHead"), "");
+    f.click("help");
     nextExercise(kSquare);
-    EXPECT_EQ(f.caption("Label30"), "(2Q -3)");
-    EXPECT_EQ(f.caption("Label48"), "1Q²+2Q+3");
-    f.click("Command1");
-    EXPECT_EQ(f.caption("Label30"), "(1Q");
+    EXPECT_EQ(f.caption("workedLettersIntegrandHead"), "(2Q -3)");
+    EXPECT_EQ(f.caption("workedFunction"), "1Q²+2Q+3");
+    f.click("help");
+    EXPECT_EQ(f.caption("workedLettersIntegrandHead"), "(1Q");
 }
 
 TEST_F(IntegForm, OpensItsHelpCoveredUncoversItAndCoversItAgain) {
     const FormDriver& f = open(kSquare);
-    f.click("Command1");
-    EXPECT_TRUE(f.isShown("Picture2"));
-    EXPECT_TRUE(f.isShown("Picture3"));
-    EXPECT_EQ(f.focus(), "Command2");
-    f.press("Command2", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Picture3"));
-    EXPECT_EQ(f.focus(), "Command3");
-    f.press("Command3", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Picture2"));
-    EXPECT_TRUE(f.isShown("Picture3"));
+    f.click("help");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_TRUE(f.isShown("workedSolutionCover"));
+    EXPECT_EQ(f.focus(), "showWorkedSolution");
+    f.press("showWorkedSolution", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("workedSolutionCover"));
+    EXPECT_EQ(f.focus(), "closeHelp");
+    f.press("closeHelp", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("helpPanel"));
+    EXPECT_TRUE(f.isShown("workedSolutionCover"));
 }
 
 TEST_F(IntegForm, CoversItsHelpAgainWithTheNextExercise) {
     const FormDriver& f = open(kSquare);
-    f.click("Command1");
-    f.click("Command2");
+    f.click("help");
+    f.click("showWorkedSolution");
     nextExercise(kLine);
-    EXPECT_FALSE(f.isShown("Picture2"));
-    EXPECT_TRUE(f.isShown("Picture3"));
+    EXPECT_FALSE(f.isShown("helpPanel"));
+    EXPECT_TRUE(f.isShown("workedSolutionCover"));
 }
 
 TEST_F(IntegForm, LeavesThePanelOpenWhileTheExerciseGoesOn) {
     const FormDriver& f = open(kSquare);
-    f.click("Command1");
+    f.click("help");
     giveAfterAWrongTry();
-    EXPECT_TRUE(f.isShown("Picture2"));
-    EXPECT_EQ(f.box("Text22").content(), "45");
-    f.click("Command3");
-    f.click("Command1");
-    EXPECT_TRUE(f.isShown("Picture2"));
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_EQ(f.box("integral").content(), "45");
+    f.click("closeHelp");
+    f.click("help");
+    EXPECT_TRUE(f.isShown("helpPanel"));
 }
 
 TEST_F(IntegForm, SetsEachRowOfItsHelpSideBySide) {
     const FormDriver& f = open(kSquare);
     const Names rows[]{
-        Names{"Label203", "Label48", "Label204"} + kPrimitive,
-        {"Label30", "Label31", "Label32", "Label33"},
+        Names{"workedPriceEquals", "workedFunction", "workedPrimitiveEquals"} + kPrimitive,
+        {"workedLettersIntegrandHead", "workedLettersIntegrandSquare", "workedLettersIntegrandTail",
+         "workedLettersDifferentialEquals"},
         kUpperWithLetters + kLowerWithLetters,
-        {"Label72", "Label205"},
+        {"workedNumbersIntegrand", "workedNumbersDifferentialEquals"},
         kUpperWithNumbers + kLowerWithNumbers,
     };
     for (int shape = 1; shape <= 26; ++shape) {
         nextExercise({2, 3, 4, 5, 2, shape});
-        f.click("Command1");
+        f.click("help");
         for (const Names& row : rows) {
             double next = f.label(row.front()).place().left();
             const double top = f.label(row.front()).place().top();
@@ -511,16 +531,21 @@ TEST_F(IntegForm, SetsEachRowOfItsHelpSideBySide) {
 
 TEST_F(IntegForm, CoversTheRowsWithTheNumbersOfTheLimitsAndNothingElse) {
     const FormDriver& f = open({2, 4, 5, 7, 4, 26});
-    const Names covered =
-        Names{"Label241", "Label242", "Label46", "Label47", "Label72", "Label205", "Label87"} +
-        kUpperWithNumbers + kLowerWithNumbers;
+    const Names covered = Names{"workedNumbersText",
+                                "workedNumbersIntegralSign",
+                                "workedNumbersUpperLimit",
+                                "workedNumbersLowerLimit",
+                                "workedNumbersIntegrand",
+                                "workedNumbersDifferentialEquals",
+                                "workedResult"} +
+                          kUpperWithNumbers + kLowerWithNumbers;
     const std::set<std::string> solution(covered.begin(), covered.end());
-    const auto& cover = f.find<Panel>("Picture3");
+    const auto& cover = f.find<Panel>("workedSolutionCover");
     EXPECT_EQ(cover.backColour(), kWhite);
     const QObjectList& siblings = cover.parent()->children();
-    f.click("Command1");
+    f.click("help");
     std::size_t found = 0;
-    for (const QWidget* widget : f.find("Picture2").findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    for (const QWidget* widget : f.find("helpPanel").findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
         const std::string name = widget->objectName().toStdString();
         if (solution.contains(name)) {
             ++found;
@@ -539,8 +564,8 @@ TEST_F(IntegForm, HasRoomForTheLongestNumbersOfEveryShape) {
     for (int shape = 1; shape <= 26; ++shape) {
         // Where all signs are alike p is beyond 60 sooner.
         nextExercise({shape == 2 || shape == 23 ? 3 : 2, 4, 5, 7, 4, shape});
-        f.click("Command1");
-        f.click("Command2");
+        f.click("help");
+        f.click("showWorkedSolution");
         ASSERT_EQ(test::flawsOf(f.page()), std::vector<std::string>{}) << shape;
     }
 }
