@@ -180,14 +180,18 @@ TEST(NamesInWords, TellAFunctionInTwoPiecesAsAWhole) {
     const FormDriver form(PageName::Integ2, draws);
     const BlindStudent student(form.page());
     const auto text = [&form](const char* label) { return form.caption(label); };
-    EXPECT_TRUE(student.hears(QAccessible::StaticText, "P1 = " + text("Label2") + "Q + " + text("Label5") +
-                                                           " for 0 < Q < " + text("Label18")));
-    EXPECT_TRUE(student.hears(QAccessible::StaticText, "P2 = " + text("Label7") + "Q + " + text("Label10") +
-                                                           " for " + text("Label20") + " < Q < 10"));
-    EXPECT_TRUE(student.hears(QAccessible::StaticText,
-                              "integralet fra " + text("Label13") + " til " + text("Label12") + " af P1 dQ"));
-    EXPECT_TRUE(student.hears(QAccessible::StaticText, "plus integralet fra " + text("Label29") + " til " +
-                                                           text("Label28") + " af P2 dQ ="));
+    EXPECT_TRUE(student.hears(QAccessible::StaticText, "P1 = " + text("segment1Slope") + "Q + " +
+                                                           text("segment1Intercept") + " for 0 < Q < " +
+                                                           text("segment1End")));
+    EXPECT_TRUE(student.hears(QAccessible::StaticText, "P2 = " + text("segment2Slope") + "Q + " +
+                                                           text("segment2Intercept") + " for " +
+                                                           text("segment2Start") + " < Q < 10"));
+    EXPECT_TRUE(student.hears(
+        QAccessible::StaticText,
+        "integralet fra " + text("segment1LowerLimit") + " til " + text("segment1UpperLimit") + " af P1 dQ"));
+    EXPECT_TRUE(student.hears(QAccessible::StaticText, "plus integralet fra " + text("segment2LowerLimit") +
+                                                           " til " + text("segment2UpperLimit") +
+                                                           " af P2 dQ ="));
 }
 
 TEST(NamesInWords, TellTheGivenFunctionsOfAnAdditionAsAWhole) {

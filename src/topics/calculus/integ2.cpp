@@ -61,86 +61,89 @@ double layOutTerm(Label* label, double left) {
 
 Integ2::Integ2(Draws& draws) : ExerciseForm(PageName::Integ2, draws), ui_(std::make_unique<Ui::Integ2>()) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command3,
-             .ok = ui_->Command1,
-             .giveAnswer = ui_->Command2,
-             .help = ui_->Command4});
-    verdict(TwoLabels{.right = ui_->Label15, .wrong = ui_->Label16});
-    enterChain({ui_->Text1}, LastBox::OkOrStay);
-    onClick(ui_->Command6, &Integ2::uncover);
-    onClick(ui_->Command5, &Integ2::closeHelp);
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
+    enterChain({ui_->integral}, LastBox::OkOrStay);
+    onClick(ui_->showWorkedSolution, &Integ2::uncover);
+    onClick(ui_->closeHelp, &Integ2::closeHelp);
 }
 
 Integ2::~Integ2() = default;
 
 void Integ2::newExercise() {
     closeHelp();
-    drawAxes(*ui_->Picture1);
-    drawAxes(*ui_->Picture3);
-    clearBoxes({ui_->Text1});
+    drawAxes(*ui_->graph);
+    drawAxes(*ui_->helpGraph);
+    clearBoxes({ui_->integral});
     showAsking();
 
     tavrune::newExercise(state_, draws());
 
     showTask();
     fillHelp();
-    plotPieces(*ui_->Picture1);
+    plotPieces(*ui_->graph);
     // Kept: where the pieces leave the graph upwards, the focus stays where it is.
-    if (plotPieces(*ui_->Picture3)) {
-        focusOn(ui_->Text1);
+    if (plotPieces(*ui_->helpGraph)) {
+        focusOn(ui_->integral);
     }
 }
 
 void Integ2::showTask() {
-    ui_->Label2->setCaption(NumberText(state_.a1));
-    ui_->Label5->setCaption(NumberText(state_.b1));
-    ui_->Label7->setCaption(NumberText(state_.a2));
-    ui_->Label10->setCaption(NumberText(state_.b2));
-    ui_->Label13->setCaption(NumberText(state_.v));
-    ui_->Label28->setCaption(NumberText(state_.w));
-    for (Label* kink : {ui_->Label18, ui_->Label20, ui_->Label12, ui_->Label29}) {
+    ui_->segment1Slope->setCaption(NumberText(state_.a1));
+    ui_->segment1Intercept->setCaption(NumberText(state_.b1));
+    ui_->segment2Slope->setCaption(NumberText(state_.a2));
+    ui_->segment2Intercept->setCaption(NumberText(state_.b2));
+    ui_->segment1LowerLimit->setCaption(NumberText(state_.v));
+    ui_->segment2UpperLimit->setCaption(NumberText(state_.w));
+    for (Label* kink :
+         {ui_->segment1End, ui_->segment2Start, ui_->segment1UpperLimit, ui_->segment2LowerLimit}) {
         kink->setCaption(NumberText(state_.k));
     }
     nameTask();
-    layOutRow({ui_->Label202, ui_->Label2, ui_->Label203, ui_->Label204, ui_->Label5},
-              ui_->Label202->place().left());
-    layOutRow({ui_->Label205, ui_->Label18}, ui_->Label205->place().left());
-    layOutRow({ui_->Label206, ui_->Label7, ui_->Label207, ui_->Label208, ui_->Label10},
-              ui_->Label206->place().left());
-    const double afterFor = layOutRow({ui_->Label209}, ui_->Label209->place().left());
-    layOutRow({ui_->Label20, ui_->Label210}, afterFor + kGap);
+    layOutRow({ui_->segment1PriceEquals, ui_->segment1Slope, ui_->segment1TimesQuantity, ui_->segment1Plus,
+               ui_->segment1Intercept},
+              ui_->segment1PriceEquals->place().left());
+    layOutRow({ui_->segment1ZeroLessThanQuantity, ui_->segment1End},
+              ui_->segment1ZeroLessThanQuantity->place().left());
+    layOutRow({ui_->segment2PriceEquals, ui_->segment2Slope, ui_->segment2TimesQuantity, ui_->segment2Plus,
+               ui_->segment2Intercept},
+              ui_->segment2PriceEquals->place().left());
+    const double afterFor = layOutRow({ui_->segment2ValidFor}, ui_->segment2ValidFor->place().left());
+    layOutRow({ui_->segment2Start, ui_->segment2QuantityBelowTen}, afterFor + kGap);
 }
 
 void Integ2::nameTask() {
     const auto text = [](auto x) { return fromUtf8(NumberText(x)); };
     const QString k = text(state_.k);
-    ui_->Label202->setAccessibleName(
+    ui_->segment1PriceEquals->setAccessibleName(
         QString("P1 = %1Q + %2 for 0 < Q < %3").arg(text(state_.a1), text(state_.b1), k));
-    ui_->Label206->setAccessibleName(
+    ui_->segment2PriceEquals->setAccessibleName(
         QString("P2 = %1Q + %2 for %3 < Q < 10").arg(text(state_.a2), text(state_.b2), k));
-    ui_->Label211->setAccessibleName(QString("integralet fra %1 til %2 af P1 dQ").arg(text(state_.v), k));
-    ui_->Label213->setAccessibleName(
+    ui_->segment1IntegralSign->setAccessibleName(
+        QString("integralet fra %1 til %2 af P1 dQ").arg(text(state_.v), k));
+    ui_->segment2IntegralSign->setAccessibleName(
         QString("plus integralet fra %1 til %2 af P2 dQ =").arg(k, text(state_.w)));
 }
 
 void Integ2::fillHelp() {
-    ui_->Label258->setCaption(NumberText(state_.k));
-    ui_->Label259->setCaption(NumberText(state_.v));
+    ui_->workedSegment1UpperLimit->setCaption(NumberText(state_.k));
+    ui_->workedSegment1LowerLimit->setCaption(NumberText(state_.v));
     const Integ2Worked red = workedFirst(state_);
-    ui_->Label71->setCaption(red.integrand);
-    ui_->Label260->setCaption(red.upperSquared);
-    ui_->Label262->setCaption(red.upperLinear);
-    ui_->Label263->setCaption(red.lowerSquared);
-    ui_->Label265->setCaption(red.lowerLinear);
+    ui_->workedSegment1Integrand->setCaption(red.integrand);
+    ui_->workedSegment1UpperQuadraticTerm->setCaption(red.upperSquared);
+    ui_->workedSegment1UpperLinearTerm->setCaption(red.upperLinear);
+    ui_->workedSegment1LowerQuadraticTerm->setCaption(red.lowerSquared);
+    ui_->workedSegment1LowerLinearTerm->setCaption(red.lowerLinear);
 
-    ui_->Label269->setCaption(NumberText(state_.w));
-    ui_->Label270->setCaption(NumberText(state_.k));
+    ui_->workedSegment2UpperLimit->setCaption(NumberText(state_.w));
+    ui_->workedSegment2LowerLimit->setCaption(NumberText(state_.k));
     const Integ2Worked green = workedSecond(state_);
-    ui_->Label83->setCaption(green.integrand);
-    ui_->Label271->setCaption(green.upperSquared);
-    ui_->Label273->setCaption(green.upperLinear);
-    ui_->Label274->setCaption(green.lowerSquared);
-    ui_->Label276->setCaption(green.lowerLinear);
+    ui_->workedSegment2Integrand->setCaption(green.integrand);
+    ui_->workedSegment2UpperQuadraticTerm->setCaption(green.upperSquared);
+    ui_->workedSegment2UpperLinearTerm->setCaption(green.upperLinear);
+    ui_->workedSegment2LowerQuadraticTerm->setCaption(green.lowerSquared);
+    ui_->workedSegment2LowerLinearTerm->setCaption(green.lowerLinear);
 }
 
 bool Integ2::plotPieces(GraphBox& graph) const {
@@ -162,60 +165,64 @@ void Integ2::hatchPieces(GraphBox& graph, const QColor& first, const QColor& sec
 
 void Integ2::judge() {
     hideVerdict();
-    const bool right = isRight(state_, ui_->Text1->value());
-    ui_->Text1->mark(!right);
+    const bool right = isRight(state_, ui_->integral->value());
+    ui_->integral->mark(!right);
     if (right) {
         solved();
-        hatchPieces(*ui_->Picture1, kBlue, kBlue);
+        hatchPieces(*ui_->graph, kBlue, kBlue);
         return;
     }
     failed();
-    focusOn(ui_->Text1);
+    focusOn(ui_->integral);
 }
 
 void Integ2::giveAnswer() {
-    ui_->Text1->setContent(answerText(state_));
-    whiten({ui_->Text1});
+    ui_->integral->setContent(answerText(state_));
+    whiten({ui_->integral});
     given();
-    hatchPieces(*ui_->Picture1, kBlue, kBlue);
+    hatchPieces(*ui_->graph, kBlue, kBlue);
 }
 
 void Integ2::help() {
-    ui_->Label96->setCaption(" = " + NumberText(state_.first));
-    ui_->Label101->setCaption(" = " + NumberText(state_.second));
-    ui_->Label103->setCaption(" = " + NumberText(state_.total));
+    ui_->workedSegment1Result->setCaption(" = " + NumberText(state_.first));
+    ui_->workedSegment2Result->setCaption(" = " + NumberText(state_.second));
+    ui_->workedResult->setCaption(" = " + NumberText(state_.total));
     // Kept: an integral that is not above 0 never shows; what stood there gets one more pair of brackets at
     // each opening, over all exercises.
-    ui_->Label93->setCaption(summandText(state_.first, ui_->Label93->caption()));
-    ui_->Label98->setCaption(summandText(state_.second, ui_->Label98->caption()));
+    ui_->workedSumSegment1->setCaption(summandText(state_.first, ui_->workedSumSegment1->caption()));
+    ui_->workedSumSegment2->setCaption(summandText(state_.second, ui_->workedSumSegment2->caption()));
     layOutHelp();
-    openPanel(ui_->Picture2, ui_->Command6);
+    openPanel(ui_->helpPanel, ui_->showWorkedSolution);
 }
 
 void Integ2::layOutHelp() {
-    layOutRow({ui_->Label71, ui_->Label74}, kIntegrandLeft, kAfterIntegrand);
-    layOutRow({ui_->Label260, ui_->Label261, ui_->Label262, ui_->Label263, ui_->Label264, ui_->Label265,
-               ui_->Label96},
-              ui_->Label260->place().left());
-    layOutRow({ui_->Label83, ui_->Label104}, kIntegrandLeft, kAfterIntegrand);
-    layOutRow({ui_->Label271, ui_->Label272, ui_->Label273, ui_->Label274, ui_->Label275, ui_->Label276,
-               ui_->Label101},
-              ui_->Label271->place().left());
+    layOutRow({ui_->workedSegment1Integrand, ui_->workedSegment1DifferentialEquals}, kIntegrandLeft,
+              kAfterIntegrand);
+    layOutRow({ui_->workedSegment1UpperQuadraticTerm, ui_->workedSegment1UpperSquare,
+               ui_->workedSegment1UpperLinearTerm, ui_->workedSegment1LowerQuadraticTerm,
+               ui_->workedSegment1LowerSquare, ui_->workedSegment1LowerLinearTerm, ui_->workedSegment1Result},
+              ui_->workedSegment1UpperQuadraticTerm->place().left());
+    layOutRow({ui_->workedSegment2Integrand, ui_->workedSegment2DifferentialEquals}, kIntegrandLeft,
+              kAfterIntegrand);
+    layOutRow({ui_->workedSegment2UpperQuadraticTerm, ui_->workedSegment2UpperSquare,
+               ui_->workedSegment2UpperLinearTerm, ui_->workedSegment2LowerQuadraticTerm,
+               ui_->workedSegment2LowerSquare, ui_->workedSegment2LowerLinearTerm, ui_->workedSegment2Result},
+              ui_->workedSegment2UpperQuadraticTerm->place().left());
 
-    const double afterFirst = layOutTerm(ui_->Label93, ui_->Label93->place().left());
-    const double afterPlus = layOutRow({ui_->Label278}, afterFirst);
-    layOutRow({ui_->Label103}, layOutTerm(ui_->Label98, afterPlus));
+    const double afterFirst = layOutTerm(ui_->workedSumSegment1, ui_->workedSumSegment1->place().left());
+    const double afterPlus = layOutRow({ui_->workedSumPlus}, afterFirst);
+    layOutRow({ui_->workedResult}, layOutTerm(ui_->workedSumSegment2, afterPlus));
 }
 
 void Integ2::uncover() {
-    ui_->Picture4->hide();
-    focusOn(ui_->Command5);
-    hatchPieces(*ui_->Picture3, kRed, kGreen);
+    ui_->workedSolutionCover->hide();
+    focusOn(ui_->closeHelp);
+    hatchPieces(*ui_->helpGraph, kRed, kGreen);
 }
 
 void Integ2::closeHelp() {
-    ui_->Picture4->show();
-    ui_->Picture2->hide();
+    ui_->workedSolutionCover->show();
+    ui_->helpPanel->hide();
 }
 
 }  // namespace tavrune

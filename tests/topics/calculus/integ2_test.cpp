@@ -90,17 +90,17 @@ protected:
 
     void nextExercise(Family family, const Numbers& n) {
         script(family, n);
-        form->click("Command3");
+        form->click("newExercise");
     }
 
     void answer(const std::string& typed) const {
-        form->type("Text1", typed);
-        form->click("Command1");
+        form->type("integral", typed);
+        form->click("ok");
     }
 
     void openHelp(int times = 1) const {
         for (int i = 0; i < times; ++i) {
-            form->click("Command4");
+            form->click("help");
         }
     }
 
@@ -112,8 +112,8 @@ protected:
 
     /// What the last row of the worked solution reads.
     [[nodiscard]] std::string lastRow() const {
-        return form->caption("Label93") + form->caption("Label278") + form->caption("Label98") +
-               form->caption("Label103");
+        return form->caption("workedSumSegment1") + form->caption("workedSumPlus") +
+               form->caption("workedSumSegment2") + form->caption("workedResult");
     }
 
     [[nodiscard]] std::string row(std::initializer_list<const char*> labels) const {
@@ -132,64 +132,66 @@ TEST_F(Integ2Form, StandsCoveredAndEmptyUntilItIsOnScreen) {
     const FormDriver unshown = FormDriver::unshown(PageName::Integ2, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(),
               "Tavrune - Integralregning - Bestemt integrale - Niveau 2");
-    for (const char* hidden : {"Command2", "Label15", "Label16", "Picture2"}) {
+    for (const char* hidden : {"giveAnswer", "right", "wrong", "helpPanel"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
-    EXPECT_TRUE(unshown.isShown("Command3"));
-    for (const char* blank : {"Label2", "Label5", "Label18", "Label7", "Label10", "Label20", "Label13",
-                              "Label12", "Label29", "Label28", "Label96", "Label101", "Label103"}) {
+    EXPECT_TRUE(unshown.isShown("newExercise"));
+    for (const char* blank :
+         {"segment1Slope", "segment1Intercept", "segment1End", "segment2Slope", "segment2Intercept",
+          "segment2Start", "segment1LowerLimit", "segment1UpperLimit", "segment2LowerLimit",
+          "segment2UpperLimit", "workedSegment1Result", "workedSegment2Result", "workedResult"}) {
         EXPECT_EQ(unshown.caption(blank), "") << blank;
     }
 }
 
 TEST_F(Integ2Form, HasItsFixedTextsToTheLetter) {
     constexpr FixedText kTexts[]{
-        {"Label201", "Beregn det bestemte integrale"},
-        {"Label202", "P1="},
-        {"Label203", "Q"},
-        {"Label204", "+"},
-        {"Label205", "for 0<Q<"},
-        {"Label206", "P2="},
-        {"Label207", "Q"},
-        {"Label208", "+"},
-        {"Label209", "for"},
-        {"Label210", "<Q<10"},
-        {"Label211", "∫"},
-        {"Label212", "P1  dQ+"},
-        {"Label213", "∫"},
-        {"Label214", "P2  dQ ="},
-        {"Label215", "Y"},
-        {"Label216", "X"},
-        {"Label217", "Generel løsning"},
-        {"Label218",
+        {"task", "Beregn det bestemte integrale"},
+        {"segment1PriceEquals", "P1="},
+        {"segment1TimesQuantity", "Q"},
+        {"segment1Plus", "+"},
+        {"segment1ZeroLessThanQuantity", "for 0<Q<"},
+        {"segment2PriceEquals", "P2="},
+        {"segment2TimesQuantity", "Q"},
+        {"segment2Plus", "+"},
+        {"segment2ValidFor", "for"},
+        {"segment2QuantityBelowTen", "<Q<10"},
+        {"segment1IntegralSign", "∫"},
+        {"segment1IntegrandPlus", "P1  dQ+"},
+        {"segment2IntegralSign", "∫"},
+        {"segment2IntegrandEquals", "P2  dQ ="},
+        {"yAxisName", "Y"},
+        {"xAxisName", "X"},
+        {"generalHeading", "Generel løsning"},
+        {"generalText",
          "Denne opgave er du nødt til at dele op i to dele. Først skal du beregne det bestemte integrale fra "
          "Q=v til Q=k med P1=aQ+b som funktion. Dernæst skal du beregne det bestemte integrale fra Q=k til "
          "Q=w , med  P2=    Q+    som funktion. Til sidst lægger du disse to integraler sammen. "},
-        {"Label224", "(aQ + b) dQ"},
-        {"Label229", "Q+    dQ"},
-        {"Label234", "(aQ+b) dQ +"},
-        {"Label239", "Q+    dQ"},
-        {"Label243", " ( (a/2)·k  + b·k ) - ( (a/2)·v  + b·v ) )+  "},
-        {"Label246", "( ( (   /2)·w  +   ·w ) - ( (   /2) ·k  +    ·k)"},
-        {"Label254", "Aktuel løsning"},
-        {"Label255", "Først beregner du det med rødt markerede integrale."},
-        {"Label256", "Rødt integrale:"},
-        {"Label74", "dQ ="},
-        {"Label266", "Dernæst beregner du det med grønt markerede integrale."},
-        {"Label267", "Grønt integrale:"},
-        {"Label104", "dQ ="},
-        {"Label277", "Til sidst lægger du de to integraler sammen."},
-        {"Label278", "+"},
-        {"Label15", "RIGTIGT"},
-        {"Label16", "FORKERT"},
-        {"Command6", "Vis"},
-        {"Command5", "&Luk"},
+        {"generalSegment1Integrand", "(aQ + b) dQ"},
+        {"generalSegment2Integrand", "Q+    dQ"},
+        {"generalSumSegment1IntegrandPlus", "(aQ+b) dQ +"},
+        {"generalSumSegment2Integrand", "Q+    dQ"},
+        {"generalSegment1Terms", " ( (a/2)·k  + b·k ) - ( (a/2)·v  + b·v ) )+  "},
+        {"generalSegment2Terms", "( ( (   /2)·w  +   ·w ) - ( (   /2) ·k  +    ·k)"},
+        {"workedHeading", "Aktuel løsning"},
+        {"workedSegment1Text", "Først beregner du det med rødt markerede integrale."},
+        {"workedSegment1Heading", "Rødt integrale:"},
+        {"workedSegment1DifferentialEquals", "dQ ="},
+        {"workedSegment2Text", "Dernæst beregner du det med grønt markerede integrale."},
+        {"workedSegment2Heading", "Grønt integrale:"},
+        {"workedSegment2DifferentialEquals", "dQ ="},
+        {"workedSumText", "Til sidst lægger du de to integraler sammen."},
+        {"workedSumPlus", "+"},
+        {"right", "RIGTIGT"},
+        {"wrong", "FORKERT"},
+        {"showWorkedSolution", "Vis"},
+        {"closeHelp", "&Luk"},
     };
     test::expectTexts(openPlain(), kTexts);
-    for (const char* red : {"Label255", "Label256"}) {
+    for (const char* red : {"workedSegment1Text", "workedSegment1Heading"}) {
         EXPECT_EQ(form->label(red).textColour(), kRed);
     }
-    for (const char* green : {"Label266", "Label267"}) {
+    for (const char* green : {"workedSegment2Text", "workedSegment2Heading"}) {
         EXPECT_EQ(form->label(green).textColour(), kGreen);
     }
 }
@@ -197,19 +199,22 @@ TEST_F(Integ2Form, HasItsFixedTextsToTheLetter) {
 TEST_F(Integ2Form, AsksForTheSumOfTwoIntegrals) {
     const DecimalMark danish(",");
     const FormDriver& f = open(kRise, kHalves);
-    EXPECT_EQ(row({"Label202", "Label2", "Label203", "Label204", "Label5", "Label205", "Label18"}),
+    EXPECT_EQ(row({"segment1PriceEquals", "segment1Slope", "segment1TimesQuantity", "segment1Plus",
+                   "segment1Intercept", "segment1ZeroLessThanQuantity", "segment1End"}),
               "P1=1,5Q+2for 0<Q<5");
-    EXPECT_EQ(
-        row({"Label206", "Label7", "Label207", "Label208", "Label10", "Label209", "Label20", "Label210"}),
-        "P2=-1,5Q+7for5<Q<10");
-    EXPECT_EQ(row({"Label13", "Label12", "Label29", "Label28"}), "2558");
-    for (const char* hidden : {"Command2", "Label15", "Label16", "Picture2"}) {
+    EXPECT_EQ(row({"segment2PriceEquals", "segment2Slope", "segment2TimesQuantity", "segment2Plus",
+                   "segment2Intercept", "segment2ValidFor", "segment2Start", "segment2QuantityBelowTen"}),
+              "P2=-1,5Q+7for5<Q<10");
+    EXPECT_EQ(row({"segment1LowerLimit", "segment1UpperLimit", "segment2LowerLimit", "segment2UpperLimit"}),
+              "2558");
+    for (const char* hidden : {"giveAnswer", "right", "wrong", "helpPanel"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    for (const char* shown : {"Command1", "Command3", "Command4", "Picture4", "Label2", "Label28"}) {
+    for (const char* shown :
+         {"ok", "newExercise", "help", "workedSolutionCover", "segment1Slope", "segment2UpperLimit"}) {
         EXPECT_TRUE(f.isShown(shown)) << shown;
     }
-    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_EQ(f.focus(), "integral");
 }
 
 TEST_F(Integ2Form, DrawsAxesAndTicksOnBothBoxesFirst) {
@@ -224,7 +229,7 @@ TEST_F(Integ2Form, DrawsAxesAndTicksOnBothBoxesFirst) {
         expected.push_back(kIn.point(0.1, y));
     }
     ASSERT_EQ(expected.size(), kStrokesOfAxes);
-    for (const char* box : {"Picture1", "Picture3"}) {
+    for (const char* box : {"graph", "helpGraph"}) {
         const std::vector<Stroke>& strokes = graph(box).strokes();
         ASSERT_GT(strokes.size(), kStrokesOfAxes) << box;
         EXPECT_EQ(std::vector<Stroke>(strokes.begin(), strokes.begin() + kStrokesOfAxes), expected) << box;
@@ -247,11 +252,11 @@ TEST_P(Integ2Plot, DotsBothPiecesToTheRightEndOnBothBoxes) {
     const PlotRow& row = GetParam();
     open(row.family, row.numbers);
     const int k = row.numbers.k;
-    for (const char* box : {"Picture1", "Picture3"}) {
+    for (const char* box : {"graph", "helpGraph"}) {
         EXPECT_EQ(plotOf(box).size(), 1000U);
         EXPECT_EQ(plotOf(box), dots(row.first, 0, k) + dots(row.second, k, 10)) << box;
     }
-    EXPECT_EQ(form->focus(), "Text1");
+    EXPECT_EQ(form->focus(), "integral");
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, Integ2Plot,
@@ -281,7 +286,7 @@ TEST_P(Integ2Steep, EndsItsPlotWithTheFirstDotAboveTwenty) {
     ASSERT_GT(row.second.at(lastX), 20 + 1e-9);
     std::vector<Stroke> second = dots(row.second, k, 10);
     second.resize(static_cast<std::size_t>(row.lastDot) + 1);
-    for (const char* box : {"Picture1", "Picture3"}) {
+    for (const char* box : {"graph", "helpGraph"}) {
         EXPECT_EQ(plotOf(box), dots({-static_cast<double>(row.numbers.a1), 6}, 0, k) + second) << box;
         EXPECT_FLOAT_EQ(plotOf(box).back().x1, static_cast<float>(lastX));
     }
@@ -299,94 +304,94 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(Integ2Form, LeavesTheFocusWhereItWasIfThePlotLeavesTheGraph) {
     openPlain();
     nextExercise(kFall, kSteep);
-    EXPECT_EQ(form->focus(), "Command3");
+    EXPECT_EQ(form->focus(), "newExercise");
     script(kFall, kPlain);
-    form->press("Command3", Qt::Key_Return);
-    EXPECT_EQ(form->focus(), "Text1");
+    form->press("newExercise", Qt::Key_Return);
+    EXPECT_EQ(form->focus(), "integral");
     nextExercise(kTwoFalls, kBelow);
-    EXPECT_EQ(form->focus(), "Text1");
+    EXPECT_EQ(form->focus(), "integral");
 }
 
 TEST_F(Integ2Form, LeavesTheFocusWhereItWasAtTheFirstTickToo) {
     script(kFall, kSteep);
     FormDriver f = FormDriver::unshown(PageName::Integ2, draws);
-    f.button("Command4").setFocus();
+    f.button("help").setFocus();
     f.show();
-    ASSERT_EQ(f.caption("Label5"), "6");
-    EXPECT_EQ(f.focus(), "Command4");
+    ASSERT_EQ(f.caption("segment1Intercept"), "6");
+    EXPECT_EQ(f.focus(), "help");
 }
 
 TEST_F(Integ2Form, TakesTheFocusAtTheFirstTickIfThePlotStaysOnTheGraph) {
     script(kFall, kPlain);
     FormDriver f = FormDriver::unshown(PageName::Integ2, draws);
-    f.button("Command4").setFocus();
+    f.button("help").setFocus();
     f.show();
-    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_EQ(f.focus(), "integral");
 }
 
 TEST_F(Integ2Form, ShowsPiecesApartAtTheKinkAndWantsTheirSumAllTheSame) {
     openPlain();
-    const std::vector<Stroke> plot = plotOf("Picture1");
+    const std::vector<Stroke> plot = plotOf("graph");
     ASSERT_EQ(plot.size(), 1000U);
     EXPECT_NEAR(plot[299].x1, 2.99, 1e-5);
     EXPECT_NEAR(plot[299].y1, 3.01, 1e-5);
     EXPECT_EQ(plot[300].x1, 3);
     EXPECT_EQ(plot[300].y1, 5);
     answer("33");
-    EXPECT_TRUE(form->isShown("Label15"));
+    EXPECT_TRUE(form->isShown("right"));
 }
 
 TEST_F(Integ2Form, ClearsBothBoxesWithEachExercise) {
     openPlain();
     answer("33");
     openHelp();
-    form->click("Command6");
-    EXPECT_EQ(plotOf("Picture1").size(), 1600U);
-    EXPECT_EQ(plotOf("Picture3").size(), 1600U);
+    form->click("showWorkedSolution");
+    EXPECT_EQ(plotOf("graph").size(), 1600U);
+    EXPECT_EQ(plotOf("helpGraph").size(), 1600U);
     nextExercise(kTwoFalls, kBelow);
-    for (const char* box : {"Picture1", "Picture3"}) {
+    for (const char* box : {"graph", "helpGraph"}) {
         EXPECT_EQ(plotOf(box), dots({-1, 1}, 0, 6) + dots({-0.5, 1}, 6, 10)) << box;
     }
 }
 
 TEST_F(Integ2Form, IsSolvedByKeysAlone) {
     const FormDriver& f = open(kRise, kHalves);
-    f.type("Text1", "13,5");
-    EXPECT_EQ(f.box("Text1").content(), "13.5");
-    f.press("Text1", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command1");
-    f.press("Command1", Qt::Key_Return);
-    EXPECT_TRUE(f.isShown("Label15"));
-    EXPECT_EQ(f.focus(), "Command3");
+    f.type("integral", "13,5");
+    EXPECT_EQ(f.box("integral").content(), "13.5");
+    f.press("integral", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "ok");
+    f.press("ok", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_EQ(f.focus(), "newExercise");
     script(kFall, kPlain);
-    f.press("Command3", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Label15"));
-    EXPECT_TRUE(f.isShown("Command1"));
-    EXPECT_EQ(f.box("Text1").content(), "");
-    EXPECT_EQ(f.focus(), "Text1");
+    f.press("newExercise", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("right"));
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_EQ(f.box("integral").content(), "");
+    EXPECT_EQ(f.focus(), "integral");
 }
 
 TEST_F(Integ2Form, HatchesBothPiecesInBlueWhenSolved) {
     const FormDriver& f = open(kRise, kHalves);
     answer("1");
     answer("13.5");
-    EXPECT_TRUE(f.isShown("Label15"));
-    for (const char* hidden : {"Label16", "Command1", "Command2"}) {
+    EXPECT_TRUE(f.isShown("right"));
+    for (const char* hidden : {"wrong", "ok", "giveAnswer"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
-    EXPECT_EQ(f.box("Text1").content(), "13.5");
-    EXPECT_EQ(f.focus(), "Command3");
+    EXPECT_EQ(f.box("integral").backColour(), kWhite);
+    EXPECT_EQ(f.box("integral").content(), "13.5");
+    EXPECT_EQ(f.focus(), "newExercise");
     const std::vector<Stroke> plot = dots({1.5, 2}, 0, 5) + dots({-1.5, 7}, 5, 10);
-    EXPECT_EQ(plotOf("Picture1"), plot + hatched({1.5, 2}, 2, 5, kBlue) + hatched({-1.5, 7}, 5, 8, kBlue));
-    EXPECT_EQ(plotOf("Picture3"), plot);
+    EXPECT_EQ(plotOf("graph"), plot + hatched({1.5, 2}, 2, 5, kBlue) + hatched({-1.5, 7}, 5, 8, kBlue));
+    EXPECT_EQ(plotOf("helpGraph"), plot);
 }
 
 TEST_F(Integ2Form, HatchesDownwardBelowTheAxis) {
     openPlain();
     nextExercise(kTwoFalls, kBelow);
     answer("-12.75");
-    const std::vector<Stroke> hatch = test::strokesFrom(graph("Picture1"), kStrokesOfAxes + 1000);
+    const std::vector<Stroke> hatch = test::strokesFrom(graph("graph"), kStrokesOfAxes + 1000);
     EXPECT_EQ(hatch, hatched({-1, 1}, 5, 6, kBlue) + hatched({-0.5, 1}, 6, 9, kBlue));
     EXPECT_TRUE(std::all_of(hatch.begin(), hatch.end(), [](const Stroke& s) { return s.y2 < 0; }));
 }
@@ -395,27 +400,27 @@ TEST_F(Integ2Form, MarksAWrongAnswerAndLetsTheStudentGoOn) {
     const FormDriver& f = openPlain();
     for (const char* wrong : {"1", "", "-33"}) {
         answer(wrong);
-        EXPECT_TRUE(f.isShown("Label16"));
-        EXPECT_FALSE(f.isShown("Label15"));
-        EXPECT_TRUE(f.isShown("Command1"));
-        EXPECT_TRUE(f.isShown("Command2"));
-        EXPECT_EQ(f.box("Text1").backColour(), kRed);
-        EXPECT_EQ(f.box("Text1").content(), wrong);
-        EXPECT_EQ(f.focus(), "Text1");
+        EXPECT_TRUE(f.isShown("wrong"));
+        EXPECT_FALSE(f.isShown("right"));
+        EXPECT_TRUE(f.isShown("ok"));
+        EXPECT_TRUE(f.isShown("giveAnswer"));
+        EXPECT_EQ(f.box("integral").backColour(), kRed);
+        EXPECT_EQ(f.box("integral").content(), wrong);
+        EXPECT_EQ(f.focus(), "integral");
     }
-    EXPECT_EQ(plotOf("Picture1").size(), 1000U);
+    EXPECT_EQ(plotOf("graph").size(), 1000U);
 }
 
 TEST_F(Integ2Form, TakesABandThatIsOpenBelowAndClosedAbove) {
     openPlain();
     for (const char* wrong : {"32.995", "32.99", "33.0051"}) {
         answer(wrong);
-        EXPECT_TRUE(form->isShown("Label16")) << wrong;
+        EXPECT_TRUE(form->isShown("wrong")) << wrong;
     }
     for (const char* right : {"33.005", "32.9951"}) {
         nextExercise(kFall, kPlain);
         answer(right);
-        EXPECT_TRUE(form->isShown("Label15")) << right;
+        EXPECT_TRUE(form->isShown("right")) << right;
     }
 }
 
@@ -423,42 +428,42 @@ TEST_F(Integ2Form, GivesTheAnswerWithTheHatchAndWithoutAVerdict) {
     const DecimalMark danish(",");
     const FormDriver& f = open(kFall, kSteep);
     answer("1");
-    f.click("Command2");
-    EXPECT_EQ(f.box("Text1").content(), "54,5");
-    EXPECT_EQ(f.box("Text1").backColour(), kWhite);
-    for (const char* hidden : {"Command1", "Command2", "Label15", "Label16"}) {
+    f.click("giveAnswer");
+    EXPECT_EQ(f.box("integral").content(), "54,5");
+    EXPECT_EQ(f.box("integral").backColour(), kWhite);
+    for (const char* hidden : {"ok", "giveAnswer", "right", "wrong"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_EQ(f.focus(), "Command3");
+    EXPECT_EQ(f.focus(), "newExercise");
     // 400 and 202 dots before it.
-    EXPECT_EQ(test::strokesFrom(graph("Picture1"), kStrokesOfAxes + 602),
+    EXPECT_EQ(test::strokesFrom(graph("graph"), kStrokesOfAxes + 602),
               hatched({-2, 6}, 3, 4, kBlue) + hatched({3, 2}, 4, 7, kBlue));
-    EXPECT_EQ(plotOf("Picture3").size(), 602U);
-    f.box("Text1").setFocus();
-    f.press("Text1", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text1") << "Enter goes nowhere while OK is hidden";
+    EXPECT_EQ(plotOf("helpGraph").size(), 602U);
+    f.box("integral").setFocus();
+    f.press("integral", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "integral") << "Enter goes nowhere while OK is hidden";
 }
 
 TEST_F(Integ2Form, HatchesFromTheAxisToTheLastWholeNumber) {
     openPlain();
     answer("33");
-    EXPECT_EQ(test::strokesFrom(graph("Picture1"), kStrokesOfAxes + 1000),
+    EXPECT_EQ(test::strokesFrom(graph("graph"), kStrokesOfAxes + 1000),
               hatched({-1, 6}, 0, 3, kBlue) + hatched({1, 2}, 3, 6, kBlue));
     nextExercise(kTwoFalls, kBelow);
     answer("-12.75");
-    EXPECT_NEAR(graph("Picture1").strokes().back().x1, 8.99, 1e-5);
+    EXPECT_NEAR(graph("graph").strokes().back().x1, 8.99, 1e-5);
 }
 
 TEST_F(Integ2Form, TakesAnyTypedText) {
     openPlain();
     for (const std::string& typed :
          {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
-        form->box("Text1").setContent(typed);
-        form->click("Command1");
-        EXPECT_TRUE(form->isShown("Label16"));
-        form->click("Command2");
+        form->box("integral").setContent(typed);
+        form->click("ok");
+        EXPECT_TRUE(form->isShown("wrong"));
+        form->click("giveAnswer");
         EXPECT_FALSE(form->page().grab().isNull());
-        EXPECT_EQ(form->box("Text1").content(), "33");
+        EXPECT_EQ(form->box("integral").content(), "33");
         nextExercise(kFall, kPlain);
     }
 }
@@ -467,15 +472,19 @@ TEST_F(Integ2Form, WorksTheRedAndTheGreenIntegralOut) {
     const DecimalMark danish(",");
     open(kRise, kHalves);
     openHelp();
-    EXPECT_EQ(row({"Label258", "Label259"}), "52");
-    EXPECT_EQ(row({"Label71", "Label74"}), "(1,5Q+2)dQ =");
-    EXPECT_EQ(row({"Label260", "Label261", "Label262", "Label263", "Label264", "Label265", "Label96"}),
+    EXPECT_EQ(row({"workedSegment1UpperLimit", "workedSegment1LowerLimit"}), "52");
+    EXPECT_EQ(row({"workedSegment1Integrand", "workedSegment1DifferentialEquals"}), "(1,5Q+2)dQ =");
+    EXPECT_EQ(row({"workedSegment1UpperQuadraticTerm", "workedSegment1UpperSquare",
+                   "workedSegment1UpperLinearTerm", "workedSegment1LowerQuadraticTerm",
+                   "workedSegment1LowerSquare", "workedSegment1LowerLinearTerm", "workedSegment1Result"}),
               "((1,5/2)*5²+2*5)-((1,5/2)*2²+2*2) = 21,75");
-    EXPECT_EQ(row({"Label269", "Label270"}), "85");
-    EXPECT_EQ(row({"Label83", "Label104"}), "(-1,5Q+7)dQ =");
-    EXPECT_EQ(row({"Label271", "Label272", "Label273", "Label274", "Label275", "Label276", "Label101"}),
+    EXPECT_EQ(row({"workedSegment2UpperLimit", "workedSegment2LowerLimit"}), "85");
+    EXPECT_EQ(row({"workedSegment2Integrand", "workedSegment2DifferentialEquals"}), "(-1,5Q+7)dQ =");
+    EXPECT_EQ(row({"workedSegment2UpperQuadraticTerm", "workedSegment2UpperSquare",
+                   "workedSegment2UpperLinearTerm", "workedSegment2LowerQuadraticTerm",
+                   "workedSegment2LowerSquare", "workedSegment2LowerLinearTerm", "workedSegment2Result"}),
               "((-1,5/2)*8²+7*8)-((-1,5/2)*5²+7*5) = -8,25");
-    EXPECT_EQ(form->caption("Label103"), " = 13,5");
+    EXPECT_EQ(form->caption("workedResult"), " = 13,5");
 }
 
 TEST_F(Integ2Form, ShowsBothIntegralsAndTheirSumForAllPairsOfFalls) {
@@ -489,11 +498,11 @@ TEST_F(Integ2Form, ShowsBothIntegralsAndTheirSumForAllPairsOfFalls) {
         SCOPED_TRACE(testing::PrintToString(p));
         // Without letting the page be painted in between: that is most of the time.
         script(p.family, p.n);
-        form->button("Command3").click();
-        form->button("Command4").click();
-        ASSERT_EQ(form->caption("Label96"), " = " + NumberText(p.first() / 4.0));
-        ASSERT_EQ(form->caption("Label101"), " = " + NumberText(p.second() / 4.0));
-        ASSERT_EQ(form->caption("Label103"), " = " + NumberText((p.first() + p.second()) / 4.0));
+        form->button("newExercise").click();
+        form->button("help").click();
+        ASSERT_EQ(form->caption("workedSegment1Result"), " = " + NumberText(p.first() / 4.0));
+        ASSERT_EQ(form->caption("workedSegment2Result"), " = " + NumberText(p.second() / 4.0));
+        ASSERT_EQ(form->caption("workedResult"), " = " + NumberText((p.first() + p.second()) / 4.0));
         ++exercises;
     });
     EXPECT_EQ(exercises, 1512);
@@ -501,13 +510,13 @@ TEST_F(Integ2Form, ShowsBothIntegralsAndTheirSumForAllPairsOfFalls) {
 
 TEST_F(Integ2Form, ComposesItsRowsWithTheExerciseButItsResultsOnlyWhenHelpIsOpened) {
     openPlain();
-    EXPECT_EQ(form->caption("Label260"), "((-1/2)*3");
-    EXPECT_EQ(row({"Label96", "Label101", "Label103"}), "");
+    EXPECT_EQ(form->caption("workedSegment1UpperQuadraticTerm"), "((-1/2)*3");
+    EXPECT_EQ(row({"workedSegment1Result", "workedSegment2Result", "workedResult"}), "");
     openHelp();
-    EXPECT_EQ(row({"Label96", "Label101", "Label103"}), " = 13.5 = 19.5 = 33");
+    EXPECT_EQ(row({"workedSegment1Result", "workedSegment2Result", "workedResult"}), " = 13.5 = 19.5 = 33");
     nextExercise(kTwoFalls, kBelow);
-    EXPECT_EQ(form->caption("Label260"), "((-1/2)*6");
-    EXPECT_EQ(row({"Label96", "Label101", "Label103"}), " = 13.5 = 19.5 = 33");
+    EXPECT_EQ(form->caption("workedSegment1UpperQuadraticTerm"), "((-1/2)*6");
+    EXPECT_EQ(row({"workedSegment1Result", "workedSegment2Result", "workedResult"}), " = 13.5 = 19.5 = 33");
     EXPECT_EQ(lastRow(), "13.5+19.5 = 33");
 }
 
@@ -541,79 +550,80 @@ TEST_F(Integ2Form, BracketsTheOldTermForAnIntegralOfZero) {
     open(kFall, {.a1 = 2, .b1 = 6, .a2 = 1, .b2 = 1, .k = 4, .back = 2, .forth = 1});
     openHelp();
     EXPECT_EQ(lastRow(), "(rødt integrale)+5.5 = 5.5");
-    EXPECT_EQ(form->caption("Label96"), " = 0");
+    EXPECT_EQ(form->caption("workedSegment1Result"), " = 0");
 }
 
 TEST_F(Integ2Form, OpensItsHelpCoveredAndUncoversItWithARedAndAGreenHatch) {
     const FormDriver& f = open(kRise, kHalves);
     openHelp();
-    EXPECT_TRUE(f.isShown("Picture2"));
-    EXPECT_TRUE(f.isShown("Picture4"));
-    EXPECT_EQ(f.focus(), "Command6");
-    const std::vector<Stroke> plot = plotOf("Picture3");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_TRUE(f.isShown("workedSolutionCover"));
+    EXPECT_EQ(f.focus(), "showWorkedSolution");
+    const std::vector<Stroke> plot = plotOf("helpGraph");
     EXPECT_EQ(plot.size(), 1000U);
-    f.press("Command6", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Picture4"));
-    EXPECT_EQ(f.focus(), "Command5");
+    f.press("showWorkedSolution", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("workedSolutionCover"));
+    EXPECT_EQ(f.focus(), "closeHelp");
     const std::vector<Stroke> hatch =
         hatched({1.5, 2}, 2, 5, kRed) + hatched({-1.5, 7}, 5, 8, rgb(0, 130, 0));
-    EXPECT_EQ(plotOf("Picture3"), plot + hatch);
-    EXPECT_EQ(plotOf("Picture1"), plot);
-    f.click("Command6");
-    EXPECT_EQ(plotOf("Picture3"), plot + hatch + hatch) << "each Vis hatches once more";
-    f.press("Command5", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Picture2"));
-    EXPECT_TRUE(f.isShown("Picture4"));
-    EXPECT_NE(f.focus(), "Command5");
+    EXPECT_EQ(plotOf("helpGraph"), plot + hatch);
+    EXPECT_EQ(plotOf("graph"), plot);
+    f.click("showWorkedSolution");
+    EXPECT_EQ(plotOf("helpGraph"), plot + hatch + hatch) << "each Vis hatches once more";
+    f.press("closeHelp", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("helpPanel"));
+    EXPECT_TRUE(f.isShown("workedSolutionCover"));
+    EXPECT_NE(f.focus(), "closeHelp");
 }
 
 TEST_F(Integ2Form, IsCoveredAgainWheneverItsHelpIsOpened) {
     openPlain();
     openHelp();
-    form->click("Command6");
-    form->click("Command5");
+    form->click("showWorkedSolution");
+    form->click("closeHelp");
     openHelp();
-    EXPECT_TRUE(form->isShown("Picture4"));
-    form->click("Command6");
+    EXPECT_TRUE(form->isShown("workedSolutionCover"));
+    form->click("showWorkedSolution");
     nextExercise(kTwoFalls, kBelow);
-    EXPECT_FALSE(form->isShown("Picture2"));
-    EXPECT_TRUE(form->isShown("Picture4"));
+    EXPECT_FALSE(form->isShown("helpPanel"));
+    EXPECT_TRUE(form->isShown("workedSolutionCover"));
 }
 
 TEST_F(Integ2Form, LeavesThePanelOpenWhileTheExerciseGoesOn) {
     openPlain();
     openHelp();
-    form->click("Command6");
+    form->click("showWorkedSolution");
     answer("1");
-    form->click("Command2");
-    EXPECT_TRUE(form->isShown("Picture2"));
-    EXPECT_FALSE(form->isShown("Picture4"));
-    EXPECT_EQ(plotOf("Picture1").size(), 1600U);
+    form->click("giveAnswer");
+    EXPECT_TRUE(form->isShown("helpPanel"));
+    EXPECT_FALSE(form->isShown("workedSolutionCover"));
+    EXPECT_EQ(plotOf("graph").size(), 1600U);
 }
 
 TEST_F(Integ2Form, LeavesTheTaskAndItsBoxInSightOfTheHelp) {
     openPlain();
     openHelp();
-    const QRectF panel = form->find<Panel>("Picture2").place();
-    for (const char* name : {"Label202", "Label206", "Label13", "Label29", "Label214"}) {
+    const QRectF panel = form->find<Panel>("helpPanel").place();
+    for (const char* name : {"segment1PriceEquals", "segment2PriceEquals", "segment1LowerLimit",
+                             "segment2LowerLimit", "segment2IntegrandEquals"}) {
         EXPECT_FALSE(panel.intersects(form->label(name).place())) << name;
     }
-    EXPECT_FALSE(panel.intersects(form->box("Text1").place()));
+    EXPECT_FALSE(panel.intersects(form->box("integral").place()));
 }
 
 TEST_F(Integ2Form, CoversTheWholeOfTheActualColumnButNotItsGraph) {
     SeededDraws seeded(7);
     const FormDriver f(PageName::Integ2, seeded);
-    const Panel& cover = f.find<Panel>("Picture4");
+    const Panel& cover = f.find<Panel>("workedSolutionCover");
     EXPECT_EQ(cover.backColour(), kWhite);
-    const auto& siblings = f.find("Picture2").children();
-    const qsizetype first = siblings.indexOf(&f.label("Label255"));
-    const qsizetype last = siblings.indexOf(&f.label("Label103"));
+    const auto& siblings = f.find("helpPanel").children();
+    const qsizetype first = siblings.indexOf(&f.label("workedSegment1Text"));
+    const qsizetype last = siblings.indexOf(&f.label("workedResult"));
     ASSERT_LT(first, last);
     ASSERT_LT(last, siblings.indexOf(&cover));
-    ASSERT_GT(siblings.indexOf(&f.find("Picture3")), siblings.indexOf(&cover));
+    ASSERT_GT(siblings.indexOf(&f.find("helpGraph")), siblings.indexOf(&cover));
     for (int exercise = 0; exercise < 60; ++exercise) {
-        f.button("Command4").click();
+        f.button("help").click();
         for (qsizetype i = 0; i <= last; ++i) {
             const auto* const label = qobject_cast<Label*>(siblings[i]);
             if (label == nullptr) {
@@ -623,7 +633,7 @@ TEST_F(Integ2Form, CoversTheWholeOfTheActualColumnButNotItsGraph) {
             ASSERT_EQ(cover.place().intersects(label->place()), isCovered) << label->caption();
             ASSERT_EQ(cover.place().contains(label->place()), isCovered) << label->caption();
         }
-        f.button("Command3").click();
+        f.button("newExercise").click();
     }
 }
 
@@ -633,17 +643,25 @@ TEST_F(Integ2Form, SetsItsRowsSideBySide) {
     const auto rightOf = [this](const char* name) { return form->label(name).place().right(); };
     const auto leftOf = [this](const char* name) { return form->label(name).place().left(); };
     // 4200 and 20 twips.
-    EXPECT_EQ(leftOf("Label71"), 280);
-    EXPECT_DOUBLE_EQ(leftOf("Label74"), form->label("Label71").place().width() + 4220 / 15.0);
-    EXPECT_DOUBLE_EQ(leftOf("Label104"), form->label("Label83").place().width() + 4220 / 15.0);
+    EXPECT_EQ(leftOf("workedSegment1Integrand"), 280);
+    EXPECT_DOUBLE_EQ(leftOf("workedSegment1DifferentialEquals"),
+                     form->label("workedSegment1Integrand").place().width() + 4220 / 15.0);
+    EXPECT_DOUBLE_EQ(leftOf("workedSegment2DifferentialEquals"),
+                     form->label("workedSegment2Integrand").place().width() + 4220 / 15.0);
     const std::vector<std::vector<const char*>> rows{
-        {"Label202", "Label2", "Label203", "Label204", "Label5"},
-        {"Label205", "Label18"},
-        {"Label206", "Label7", "Label207", "Label208", "Label10"},
-        {"Label20", "Label210"},
-        {"Label260", "Label261", "Label262", "Label263", "Label264", "Label265", "Label96"},
-        {"Label271", "Label272", "Label273", "Label274", "Label275", "Label276", "Label101"},
-        {"Label93", "Label278", "Label98", "Label103"}};
+        {"segment1PriceEquals", "segment1Slope", "segment1TimesQuantity", "segment1Plus",
+         "segment1Intercept"},
+        {"segment1ZeroLessThanQuantity", "segment1End"},
+        {"segment2PriceEquals", "segment2Slope", "segment2TimesQuantity", "segment2Plus",
+         "segment2Intercept"},
+        {"segment2Start", "segment2QuantityBelowTen"},
+        {"workedSegment1UpperQuadraticTerm", "workedSegment1UpperSquare", "workedSegment1UpperLinearTerm",
+         "workedSegment1LowerQuadraticTerm", "workedSegment1LowerSquare", "workedSegment1LowerLinearTerm",
+         "workedSegment1Result"},
+        {"workedSegment2UpperQuadraticTerm", "workedSegment2UpperSquare", "workedSegment2UpperLinearTerm",
+         "workedSegment2LowerQuadraticTerm", "workedSegment2LowerSquare", "workedSegment2LowerLinearTerm",
+         "workedSegment2Result"},
+        {"workedSumSegment1", "workedSumPlus", "workedSumSegment2", "workedResult"}};
     for (const std::vector<const char*>& row : rows) {
         for (std::size_t i = 1; i < row.size(); ++i) {
             EXPECT_DOUBLE_EQ(leftOf(row[i]), rightOf(row[i - 1])) << row[i];
@@ -711,18 +729,22 @@ TEST_P(Integ2Gaps, HoldTheirLetters) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, Integ2Gaps,
-    testing::Values(GapRow{"SlopeOfP2", "Label218", "P2=", 4, "Label219", "α"},
-                    GapRow{"ConstantOfP2", "Label218", "P2=    Q+", 4, "Label220", "β"},
-                    GapRow{"SecondIntegral", "Label229", "Q+", 4, "Label230", "β)"},
-                    GapRow{"SecondTermOfTheSum", "Label239", "Q+", 4, "Label240", "β)"},
-                    GapRow{"SquareOfK", "Label243", " ( (a/2)·k", 2, "Label244", "²"},
-                    GapRow{"SquareOfV", "Label243", " ( (a/2)·k  + b·k ) - ( (a/2)·v", 2, "Label245", "²"},
-                    GapRow{"SlopeAtW", "Label246", "( ( (", 3, "Label247", "α"},
-                    GapRow{"SquareOfW", "Label246", "( ( (   /2)·w", 2, "Label248", "²"},
-                    GapRow{"ConstantAtW", "Label246", "( ( (   /2)·w  +", 3, "Label249", "β"},
-                    GapRow{"SlopeAtK", "Label246", "·w ) - ( (", 3, "Label250", "α"},
-                    GapRow{"SecondSquareOfK", "Label246", "/2) ·k", 2, "Label251", "²"},
-                    GapRow{"ConstantAtK", "Label246", "/2) ·k  +", 4, "Label252", "β"}),
+    testing::Values(
+        GapRow{"SlopeOfP2", "generalText", "P2=", 4, "generalTextSlope", "α"},
+        GapRow{"ConstantOfP2", "generalText", "P2=    Q+", 4, "generalTextIntercept", "β"},
+        GapRow{"SecondIntegral", "generalSegment2Integrand", "Q+", 4, "generalSegment2Intercept", "β)"},
+        GapRow{"SecondTermOfTheSum", "generalSumSegment2Integrand", "Q+", 4, "generalSumSegment2Intercept",
+               "β)"},
+        GapRow{"SquareOfK", "generalSegment1Terms", " ( (a/2)·k", 2, "generalSegment1UpperSquare", "²"},
+        GapRow{"SquareOfV", "generalSegment1Terms", " ( (a/2)·k  + b·k ) - ( (a/2)·v", 2,
+               "generalSegment1LowerSquare", "²"},
+        GapRow{"SlopeAtW", "generalSegment2Terms", "( ( (", 3, "generalSegment2UpperSlope", "α"},
+        GapRow{"SquareOfW", "generalSegment2Terms", "( ( (   /2)·w", 2, "generalSegment2UpperSquare", "²"},
+        GapRow{"ConstantAtW", "generalSegment2Terms", "( ( (   /2)·w  +", 3, "generalSegment2UpperIntercept",
+               "β"},
+        GapRow{"SlopeAtK", "generalSegment2Terms", "·w ) - ( (", 3, "generalSegment2LowerSlope", "α"},
+        GapRow{"SecondSquareOfK", "generalSegment2Terms", "/2) ·k", 2, "generalSegment2LowerSquare", "²"},
+        GapRow{"ConstantAtK", "generalSegment2Terms", "/2) ·k  +", 4, "generalSegment2LowerIntercept", "β"}),
     [](const auto& row) { return row.param.name; });
 
 TEST_F(Integ2Form, HasRoomForTheLongestNumbers) {
@@ -733,7 +755,7 @@ TEST_F(Integ2Form, HasRoomForTheLongestNumbers) {
         open(family, numbers);
         EXPECT_EQ(test::flawsOf(form->page()), std::vector<std::string>{});
         openHelp(8);
-        form->click("Command6");
+        form->click("showWorkedSolution");
         EXPECT_EQ(test::flawsOf(form->page()), std::vector<std::string>{});
     }
 }
@@ -741,16 +763,16 @@ TEST_F(Integ2Form, HasRoomForTheLongestNumbers) {
 TEST_F(Integ2Form, KeepsItsSumInSightHoweverOftenTheHelpWasOpened) {
     open(kTwoFalls, kBelow);
     openHelp(300);
-    form->click("Command6");
+    form->click("showWorkedSolution");
     const std::string brackets(300, '(');
-    EXPECT_EQ(form->caption("Label93").rfind(brackets + "rødt", 0), 0U);
-    const QRectF first = form->label("Label93").place();
-    const QRectF second = form->label("Label98").place();
-    const QRectF sum = form->label("Label103").place();
-    EXPECT_LE(first.right(), form->label("Label278").place().left());
-    EXPECT_LE(form->label("Label278").place().right(), second.left());
+    EXPECT_EQ(form->caption("workedSumSegment1").rfind(brackets + "rødt", 0), 0U);
+    const QRectF first = form->label("workedSumSegment1").place();
+    const QRectF second = form->label("workedSumSegment2").place();
+    const QRectF sum = form->label("workedResult").place();
+    EXPECT_LE(first.right(), form->label("workedSumPlus").place().left());
+    EXPECT_LE(form->label("workedSumPlus").place().right(), second.left());
     EXPECT_LE(second.right(), sum.left());
-    EXPECT_LT(sum.right(), form->find<Panel>("Picture2").place().width());
+    EXPECT_LT(sum.right(), form->find<Panel>("helpPanel").place().width());
 }
 
 }  // namespace
