@@ -21,12 +21,10 @@ constexpr double kGap = 6;
 
 Afsaet::Afsaet(Draws& draws) : ExerciseForm(PageName::Afsaet, draws), ui_(std::make_unique<Ui::Afsaet>()) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command1,
-             .ok = ui_->Command2,
-             .giveAnswer = ui_->Command3,
-             .help = ui_->Command4});
-    verdict(OneLabel{ui_->Labelr});
-    enterChain({ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text4}, LastBox::OkOrStay);
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(OneLabel{ui_->verdict});
+    enterChain({ui_->slope, ui_->intercept, ui_->rangeStart, ui_->rangeEnd}, LastBox::OkOrStay);
     helps_ = helpPanels();
     for (const HelpPanel& help : helps_) {
         for (std::size_t number = 0; number < help.steps.size(); ++number) {
@@ -43,83 +41,96 @@ std::array<Afsaet::HelpPanel, kAfsaetHelps> Afsaet::helpPanels() const {
     const Ui::Afsaet& ui = *ui_;
     return {{
         {AfsaetHelp::TwoPoints,
-         ui.Picture2,
-         ui.Command7,
-         {{ui.Command5, ui.Label212, ui.Picture3, ui.Label210, ui.Line201, ui.Label211},
-          {ui.Command6, ui.Label213}},
-         ui.Label214,
-         ui.Label215},
+         ui.twoPointsHelpPanel,
+         ui.closeTwoPointsHelp,
+         {{ui.showTwoPointsSlope, ui.twoPointsWorkedSlopeResult, ui.twoPointsSlopeStep,
+           ui.twoPointsWorkedSlopeNumerator, ui.twoPointsWorkedSlopeBar, ui.twoPointsWorkedSlopeDenominator},
+          {ui.showTwoPointsIntercept, ui.twoPointsWorkedIntercept}},
+         ui.twoPointsWorkedResultHeading,
+         ui.twoPointsWorkedResult},
         {AfsaetHelp::ElasticityAtPointPrice,
-         ui.Picture4,
-         ui.Command10,
-         {{ui.Command8, ui.Label232, ui.Picture5, ui.Label230, ui.Line221, ui.Label231},
-          {ui.Command9, ui.Label233}},
-         ui.Label234,
-         ui.Label235},
+         ui.epAtPointPriceHelpPanel,
+         ui.closeEpAtPointPriceHelp,
+         {{ui.showEpAtPointPriceSlope, ui.epAtPointPriceWorkedSlopeResult, ui.epAtPointPriceSlopeStep,
+           ui.epAtPointPriceWorkedSlopeNumerator, ui.epAtPointPriceWorkedSlopeBar,
+           ui.epAtPointPriceWorkedSlopeDenominator},
+          {ui.showEpAtPointPriceIntercept, ui.epAtPointPriceWorkedIntercept}},
+         ui.epAtPointPriceWorkedResultHeading,
+         ui.epAtPointPriceWorkedResult},
         {AfsaetHelp::ElasticityAtOtherPrice,
-         ui.Picture6,
-         ui.Command13,
-         {{ui.Command11, ui.Label264, ui.Picture7, ui.Label262, ui.Line243, ui.Label263},
-          {ui.Command12, ui.Label265}},
-         ui.Label266,
-         ui.Label267},
+         ui.epAtOtherPriceHelpPanel,
+         ui.closeEpAtOtherPriceHelp,
+         {{ui.showEpAtOtherPriceSlope, ui.epAtOtherPriceWorkedSlopeResult, ui.epAtOtherPriceSlopeStep,
+           ui.epAtOtherPriceWorkedSlopeNumerator, ui.epAtOtherPriceWorkedSlopeBar,
+           ui.epAtOtherPriceWorkedSlopeDenominator},
+          {ui.showEpAtOtherPriceIntercept, ui.epAtOtherPriceWorkedIntercept}},
+         ui.epAtOtherPriceWorkedResultHeading,
+         ui.epAtOtherPriceWorkedResult},
         {AfsaetHelp::ElasticityAtPointQuantity,
-         ui.Picture8,
-         ui.Command16,
-         {{ui.Command14, ui.Label292, ui.Picture9, ui.Label290, ui.Line281, ui.Label291},
-          {ui.Command15, ui.Label293}},
-         ui.Label294,
-         ui.Label295},
+         ui.epAtPointQuantityHelpPanel,
+         ui.closeEpAtPointQuantityHelp,
+         {{ui.showEpAtPointQuantitySlope, ui.epAtPointQuantityWorkedSlopeResult,
+           ui.epAtPointQuantitySlopeStep, ui.epAtPointQuantityWorkedSlopeNumerator,
+           ui.epAtPointQuantityWorkedSlopeBar, ui.epAtPointQuantityWorkedSlopeDenominator},
+          {ui.showEpAtPointQuantityIntercept, ui.epAtPointQuantityWorkedIntercept}},
+         ui.epAtPointQuantityWorkedResultHeading,
+         ui.epAtPointQuantityWorkedResult},
         {AfsaetHelp::ElasticityAtOtherQuantity,
-         ui.Picture10,
-         ui.Command19,
-         {{ui.Command17, ui.Label323, ui.Picture11, ui.Label321, ui.Line303, ui.Label322},
-          {ui.Command18, ui.Label324}},
-         ui.Label325,
-         ui.Label326},
+         ui.epAtOtherQuantityHelpPanel,
+         ui.closeEpAtOtherQuantityHelp,
+         {{ui.showEpAtOtherQuantitySlope, ui.epAtOtherQuantityWorkedSlopeResult,
+           ui.epAtOtherQuantitySlopeStep, ui.epAtOtherQuantityWorkedSlopeNumerator,
+           ui.epAtOtherQuantityWorkedSlopeBar, ui.epAtOtherQuantityWorkedSlopeDenominator},
+          {ui.showEpAtOtherQuantityIntercept, ui.epAtOtherQuantityWorkedIntercept}},
+         ui.epAtOtherQuantityWorkedResultHeading,
+         ui.epAtOtherQuantityWorkedResult},
         {AfsaetHelp::PointAndSlope,
-         ui.Picture12,
-         ui.Command21,
-         {{ui.Command20, ui.Label345}},
-         ui.Label346,
-         ui.Label347},
+         ui.pointAndSlopeHelpPanel,
+         ui.closePointAndSlopeHelp,
+         {{ui.showPointAndSlopeIntercept, ui.pointAndSlopeWorkedIntercept}},
+         ui.pointAndSlopeWorkedResultHeading,
+         ui.pointAndSlopeWorkedResult},
         {AfsaetHelp::TwoElasticities,
-         ui.Picture13,
-         ui.Command25,
-         {{ui.Command22, ui.Label373}, {ui.Command23, ui.Label374}, {ui.Command24, ui.Label375}},
-         ui.Label376,
-         ui.Label377},
+         ui.twoElasticitiesHelpPanel,
+         ui.closeTwoElasticitiesHelp,
+         {{ui.showTwoElasticitiesMaxPrice, ui.twoElasticitiesWorkedMaxPrice},
+          {ui.showTwoElasticitiesMaxQuantity, ui.twoElasticitiesWorkedMaxQuantity},
+          {ui.showTwoElasticitiesSlope, ui.twoElasticitiesWorkedSlope}},
+         ui.twoElasticitiesWorkedResultHeading,
+         ui.twoElasticitiesWorkedResult},
         {AfsaetHelp::ElasticityAtPriceAndSlope,
-         ui.Picture14,
-         ui.Command28,
-         {{ui.Command26, ui.Label388}, {ui.Command27, ui.Label389}},
-         ui.Label390,
-         ui.Label391},
+         ui.epAtPriceAndSlopeHelpPanel,
+         ui.closeEpAtPriceAndSlopeHelp,
+         {{ui.showEpAtPriceAndSlopeQuantity, ui.epAtPriceAndSlopeWorkedQuantity},
+          {ui.showEpAtPriceAndSlopeIntercept, ui.epAtPriceAndSlopeWorkedIntercept}},
+         ui.epAtPriceAndSlopeWorkedResultHeading,
+         ui.epAtPriceAndSlopeWorkedResult},
         {AfsaetHelp::ElasticityAtQuantityAndSlope,
-         ui.Picture15,
-         ui.Command31,
-         {{ui.Command29, ui.Label408}, {ui.Command30, ui.Label409}},
-         ui.Label410,
-         ui.Label411},
+         ui.epAtQuantityAndSlopeHelpPanel,
+         ui.closeEpAtQuantityAndSlopeHelp,
+         {{ui.showEpAtQuantityAndSlopePrice, ui.epAtQuantityAndSlopeWorkedPrice},
+          {ui.showEpAtQuantityAndSlopeIntercept, ui.epAtQuantityAndSlopeWorkedIntercept}},
+         ui.epAtQuantityAndSlopeWorkedResultHeading,
+         ui.epAtQuantityAndSlopeWorkedResult},
     }};
 }
 
 std::array<AnswerBox*, 4> Afsaet::answerBoxes() const {
-    return {ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text4};
+    return {ui_->slope, ui_->intercept, ui_->rangeStart, ui_->rangeEnd};
 }
 
 void Afsaet::newExercise() {
-    clearBoxes({ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text4});
-    ui_->Picture1->Cls();
+    clearBoxes({ui_->slope, ui_->intercept, ui_->rangeStart, ui_->rangeEnd});
+    ui_->graph->Cls();
     showAsking();
 
     tavrune::newExercise(state_, draws());
 
     const AfsaetTask task = taskTexts(state_);
-    ui_->Label1->setCaption(task.sentence);
-    ui_->Label4->setCaption(task.firstFact);
-    ui_->Label5->setCaption(task.secondFact);
-    ui_->Label104->setCaption(task.range);
+    ui_->task->setCaption(task.sentence);
+    ui_->firstFact->setCaption(task.firstFact);
+    ui_->secondFact->setCaption(task.secondFact);
+    ui_->givenRange->setCaption(task.range);
     for (const HelpPanel& help : helps_) {
         closeHelp(help);
     }
@@ -127,7 +138,7 @@ void Afsaet::newExercise() {
 
 void Afsaet::drawLine(const AfsaetAnswer& line, const QColor& colour) {
     const auto& [a, b, Qlo, Qhi] = line;
-    ui_->Picture1->Line(Qlo, kTop - (a * Qlo + b), Qhi, kTop - (a * Qhi + b), colour);
+    ui_->graph->Line(Qlo, kTop - (a * Qlo + b), Qhi, kTop - (a * Qhi + b), colour);
 }
 
 void Afsaet::judge() {
@@ -147,7 +158,7 @@ void Afsaet::judge() {
     } else {
         failed();
         drawLine(typed, kRed);
-        focusOn(ui_->Text1);
+        focusOn(ui_->slope);
     }
 }
 
@@ -195,7 +206,7 @@ void Afsaet::closeHelp(const HelpPanel& help) {
         }
     }
     hideAll({help.heading, help.equation});
-    focusOn(ui_->Text1);
+    focusOn(ui_->slope);
 }
 
 }  // namespace tavrune

@@ -26,9 +26,11 @@ using Names = std::vector<std::string>;
 constexpr test::StrokesIn kGraph{{0, 0, 10, 10}};
 const QColor kLightGreen(0, 190, 0);
 
-constexpr std::array kBoxes{"Text1", "Text2", "Text3", "Text4"};
-constexpr std::array kPanels{"Picture2",  "Picture4",  "Picture6",  "Picture8", "Picture10",
-                             "Picture12", "Picture13", "Picture14", "Picture15"};
+constexpr std::array kBoxes{"slope", "intercept", "rangeStart", "rangeEnd"};
+constexpr std::array kPanels{
+    "twoPointsHelpPanel",         "epAtPointPriceHelpPanel",    "epAtOtherPriceHelpPanel",
+    "epAtPointQuantityHelpPanel", "epAtOtherQuantityHelpPanel", "pointAndSlopeHelpPanel",
+    "twoElasticitiesHelpPanel",   "epAtPriceAndSlopeHelpPanel", "epAtQuantityAndSlopeHelpPanel"};
 
 /// The line P = a * Q + b between two quantities, P upwards.
 Stroke lineOf(double a, double b, double Qlo, double Qhi, const QColor& colour) {
@@ -47,14 +49,14 @@ protected:
 
     void next(std::string_view name) {
         draws.append(sample(name).script());
-        form->click("Command1");
+        form->click("newExercise");
     }
 
     void answer(const std::array<std::string, 4>& typed) const {
         for (std::size_t i = 0; i < typed.size(); ++i) {
             form->type(kBoxes[i], typed[i]);
         }
-        form->click("Command2");
+        form->click("ok");
     }
 
     void answerRight() const {
@@ -79,9 +81,7 @@ protected:
         return found;
     }
 
-    [[nodiscard]] const std::vector<Stroke>& drawn() const {
-        return form->find<GraphBox>("Picture1").strokes();
-    }
+    [[nodiscard]] const std::vector<Stroke>& drawn() const { return form->find<GraphBox>("graph").strokes(); }
 
     [[nodiscard]] Names shownPanels() const {
         Names shown;
@@ -103,29 +103,32 @@ const std::vector<QColor> kAllRed(4, kRed);
 TEST_F(AfsaetForm, IsBlankUntilItsFirstTick) {
     const FormDriver unshown = FormDriver::unshown(PageName::Afsaet, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Afsætningsfunktioner");
-    for (const char* empty : {"Label1", "Label4", "Label5", "Label104"}) {
+    for (const char* empty : {"task", "firstFact", "secondFact", "givenRange"}) {
         EXPECT_EQ(unshown.caption(empty), "") << empty;
     }
-    for (const char* hidden : {"Command3", "Labelr"}) {
+    for (const char* hidden : {"giveAnswer", "verdict"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
     for (const char* hidden : kPanels) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
-    EXPECT_TRUE(unshown.find<GraphBox>("Picture1").strokes().empty());
+    EXPECT_TRUE(unshown.find<GraphBox>("graph").strokes().empty());
 }
 
 TEST_F(AfsaetForm, AsksInTheFrameOfTheAnswer) {
     const FormDriver& f = open("ElasticityAtOtherPriceInPrices");
-    EXPECT_EQ(f.caption("Label1"),
+    EXPECT_EQ(f.caption("task"),
               "Du kender et punkt på en lineær afsætningsfunktion og priselasticiteten til en bestemt pris "
               "på samme funktion. Bestem afsætningsfunktionens forskrift.");
-    EXPECT_EQ(f.caption("Label4"), "(P1; Q1) = (8;1) ");
-    EXPECT_EQ(f.caption("Label5"), "Ep. = -3   P2 = 7");
-    EXPECT_EQ(f.caption("Label104"), "Funktionen gælder i intervallet 4<P<9");
-    constexpr FixedText kFrame[]{{"Label2", "P="}, {"Label3", "Q +"}, {"Label6", "for"}, {"Label7", "< Q <"}};
+    EXPECT_EQ(f.caption("firstFact"), "(P1; Q1) = (8;1) ");
+    EXPECT_EQ(f.caption("secondFact"), "Ep. = -3   P2 = 7");
+    EXPECT_EQ(f.caption("givenRange"), "Funktionen gælder i intervallet 4<P<9");
+    constexpr FixedText kFrame[]{{"priceEquals", "P="},
+                                 {"timesQuantityPlus", "Q +"},
+                                 {"validFor", "for"},
+                                 {"quantityBetween", "< Q <"}};
     test::expectTexts(f, kFrame);
-    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_EQ(f.focus(), "slope");
     EXPECT_EQ(contents(), Names(4));
     EXPECT_EQ(colours(), kAllWhite);
     EXPECT_EQ(shownPanels(), Names{});
@@ -135,20 +138,20 @@ TEST_F(AfsaetForm, ReplacesTheWholeTaskWithTheNextExercise) {
     const FormDriver& f = open("ElasticityAtOtherPriceInPrices");
     answer({"1", "2", "3", "4"});
     next("PointAndSlopeInQuantities");
-    EXPECT_EQ(f.caption("Label4"), "(P; Q) = (4;2) ");
-    EXPECT_EQ(f.caption("Label5"), "Hældningskoefficienten(a) = -3");
-    EXPECT_EQ(f.caption("Label104"), "I intervallet 1<Q<3 er funktionen retlinet.");
+    EXPECT_EQ(f.caption("firstFact"), "(P; Q) = (4;2) ");
+    EXPECT_EQ(f.caption("secondFact"), "Hældningskoefficienten(a) = -3");
+    EXPECT_EQ(f.caption("givenRange"), "I intervallet 1<Q<3 er funktionen retlinet.");
     EXPECT_EQ(contents(), Names(4));
     EXPECT_EQ(colours(), kAllWhite);
     EXPECT_EQ(drawn(), std::vector<Stroke>{});
-    EXPECT_FALSE(f.isShown("Labelr"));
-    EXPECT_FALSE(f.isShown("Command3"));
-    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_FALSE(f.isShown("verdict"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
+    EXPECT_EQ(f.focus(), "slope");
 }
 
 TEST_F(AfsaetForm, HasAGraphOfTenByTenUnitsThatIsNeverRescaled) {
     const FormDriver& f = open("TwoPointsInPrices");
-    auto& graph = f.find<GraphBox>("Picture1");
+    auto& graph = f.find<GraphBox>("graph");
     EXPECT_EQ(graph.scale(), kGraph.scale);
     EXPECT_EQ(graph.Control::place().size(), QSizeF(239, 239)) << "3585 twips";
     EXPECT_EQ(graph.strokes(), std::vector<Stroke>{});
@@ -159,20 +162,21 @@ TEST_F(AfsaetForm, HasAGraphOfTenByTenUnitsThatIsNeverRescaled) {
 
 TEST_F(AfsaetForm, NumbersTheGridFromZeroToTen) {
     const FormDriver& f = open("TwoPointsInPrices");
-    const QRectF graph = f.find<GraphBox>("Picture1").Control::place();
+    const QRectF graph = f.find<GraphBox>("graph").Control::place();
     int price = 0;
-    for (const char* mark : {"Label10", "Label11", "Label12", "Label13", "Label14", "Label15", "Label16",
-                             "Label17", "Label18", "Label19", "Label20"}) {
+    for (const char* mark :
+         {"priceMark0", "priceMark1", "priceMark2", "priceMark3", "priceMark4", "priceMark5", "priceMark6",
+          "priceMark7", "priceMark8", "priceMark9", "priceMark10"}) {
         const Label& label = f.label(mark);
         EXPECT_EQ(label.caption(), std::to_string(price));
         EXPECT_NEAR(label.place().center().y(), graph.bottom() - price * graph.height() / 10, 1.5) << price;
         ++price;
     }
-    EXPECT_EQ(f.caption("Label21"), "P");
-    EXPECT_EQ(f.caption("Label23"), "Q");
+    EXPECT_EQ(f.caption("priceAxisName"), "P");
+    EXPECT_EQ(f.caption("quantityAxisName"), "Q");
 
     // All quantities stand in one caption, each below its tick.
-    const Label& quantities = f.label("Label22");
+    const Label& quantities = f.label("quantityMarks");
     const QString caption = quantities.text();
     const QFontMetricsF metrics(quantities.font());
     int from = 0;
@@ -198,19 +202,19 @@ TEST_F(AfsaetForm, IsSolvedByKeysAlone) {
         f.press(kBoxes[i], Qt::Key_Return);
     }
     EXPECT_EQ(contents(), (Names{"-1.33", "9.33", ".25", "4"}));
-    EXPECT_EQ(f.focus(), "Command2");
-    f.press("Command2", Qt::Key_Return);
-    EXPECT_EQ(f.caption("Labelr"), "RIGTIGT");
-    EXPECT_EQ(f.label("Labelr").backColour(), kGreen);
-    EXPECT_TRUE(f.isShown("Labelr"));
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_FALSE(f.isShown("Command3"));
+    EXPECT_EQ(f.focus(), "ok");
+    f.press("ok", Qt::Key_Return);
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
+    EXPECT_EQ(f.label("verdict").backColour(), kGreen);
+    EXPECT_TRUE(f.isShown("verdict"));
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
     EXPECT_EQ(colours(), kAllWhite);
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_EQ(drawn(), std::vector{lineOf(-1.33, 9.33, 0.25, 4, kLightGreen)});
     draws.append(sample("TwoPointsInPrices").script());
-    f.press("Command1", Qt::Key_Return);
-    EXPECT_EQ(f.caption("Label4"), "(P1; Q1) = (8;1)");
+    f.press("newExercise", Qt::Key_Return);
+    EXPECT_EQ(f.caption("firstFact"), "(P1; Q1) = (8;1)");
     EXPECT_EQ(drawn(), std::vector<Stroke>{});
 }
 
@@ -224,12 +228,12 @@ TEST_F(AfsaetForm, MarksEachWrongBoxAlone) {
         std::vector<QColor> expected = kAllWhite;
         expected[i] = kRed;
         EXPECT_EQ(colours(), expected) << i;
-        EXPECT_EQ(f.caption("Labelr"), "FORKERT");
-        EXPECT_EQ(f.label("Labelr").backColour(), kRed);
-        EXPECT_TRUE(f.isShown("Labelr"));
-        EXPECT_TRUE(f.isShown("Command2"));
-        EXPECT_TRUE(f.isShown("Command3"));
-        EXPECT_EQ(f.focus(), "Text1");
+        EXPECT_EQ(f.caption("verdict"), "FORKERT");
+        EXPECT_EQ(f.label("verdict").backColour(), kRed);
+        EXPECT_TRUE(f.isShown("verdict"));
+        EXPECT_TRUE(f.isShown("ok"));
+        EXPECT_TRUE(f.isShown("giveAnswer"));
+        EXPECT_EQ(f.focus(), "slope");
     }
 }
 
@@ -242,7 +246,7 @@ TEST_F(AfsaetForm, PlotsEveryLineOfTheStudentUntilTheNextExercise) {
     EXPECT_EQ(colours(), kAllWhite);
     EXPECT_EQ(drawn(), (std::vector{lineOf(-2, 8.5, 1, 4, kRed), lineOf(0, 0, 2, 10, kRed),
                                     lineOf(-1, 9, 1, 7, kLightGreen)}));
-    EXPECT_EQ(f.caption("Labelr"), "RIGTIGT");
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
     next("TwoPointsInQuantities");
     EXPECT_EQ(drawn(), std::vector<Stroke>{});
 }
@@ -256,11 +260,11 @@ TEST_F(AfsaetForm, PutsAPriceAtTenAtTheTopOfTheGraph) {
 TEST_F(AfsaetForm, TakesMinusTwoThirdsWithTwoDecimalsOnly) {
     const FormDriver& f = open("TwoElasticitiesOfALongPmax");
     answer({"-0.666", "9.33", "0", "8"});
-    EXPECT_EQ(f.caption("Labelr"), "FORKERT");
+    EXPECT_EQ(f.caption("verdict"), "FORKERT");
     EXPECT_EQ(colours(), (std::vector<QColor>{kRed, kWhite, kWhite, kWhite}));
     answer({"-0,67", "9,33", "", "8"});
-    EXPECT_EQ(f.box("Text1").content(), "-0.67");
-    EXPECT_EQ(f.caption("Labelr"), "RIGTIGT");
+    EXPECT_EQ(f.box("slope").content(), "-0.67");
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
 }
 
 TEST_F(AfsaetForm, WantsTheQuantitiesOfAnIntervalInPricesWithTwoDecimals) {
@@ -270,7 +274,7 @@ TEST_F(AfsaetForm, WantsTheQuantitiesOfAnIntervalInPricesWithTwoDecimals) {
     answer({"-1.5", "9.5", "0.333", "5.667"});
     EXPECT_EQ(colours(), (std::vector<QColor>{kWhite, kWhite, kRed, kRed}));
     answer({"-1.50", "+9.5", "0,33", "5,67"});
-    EXPECT_EQ(f.caption("Labelr"), "RIGTIGT");
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
 }
 
 TEST_F(AfsaetForm, GivesTheStoredNumbersAndTheirLine) {
@@ -278,31 +282,31 @@ TEST_F(AfsaetForm, GivesTheStoredNumbersAndTheirLine) {
     const FormDriver& f = open("ElasticityAtOtherPriceInPrices");
     answer({"1", "1", "1", "2"});
     EXPECT_EQ(colours(), kAllRed);
-    f.click("Command3");
+    f.click("giveAnswer");
     EXPECT_EQ(contents(), (Names{"-1,33", "9,33", "0,25", "4"}));
     EXPECT_EQ(colours(), kAllWhite);
     EXPECT_EQ(drawn(), (std::vector{lineOf(1, 1, 1, 2, kRed), lineOf(-1.33, 9.33, 0.25, 4, kLightGreen)}));
-    for (const char* hidden : {"Command2", "Command3", "Labelr"}) {
+    for (const char* hidden : {"ok", "giveAnswer", "verdict"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(f.focus(), "newExercise");
 }
 
 TEST_F(AfsaetForm, EnterInTheLastBoxDoesNothingOnceSolved) {
     const FormDriver& f = open("TwoPointsInPrices");
     answerRight();
-    f.box("Text4").setFocus();
-    f.press("Text4", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text4");
-    f.press("Text3", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text4");
+    f.box("rangeEnd").setFocus();
+    f.press("rangeEnd", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "rangeEnd");
+    f.press("rangeStart", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "rangeEnd");
 }
 
 TEST_F(AfsaetForm, TellsAnEmptyIntervalAndTakesIt) {
     const FormDriver& f = open("ElasticityAtPriceAndSlopeUpsideDown");
-    EXPECT_EQ(f.caption("Label104"), "Funktionen gælder i intervallet 1<Q<0");
+    EXPECT_EQ(f.caption("givenRange"), "Funktionen gælder i intervallet 1<Q<0");
     answer({"-6", "4.5", "1", "0"});
-    EXPECT_EQ(f.caption("Labelr"), "RIGTIGT");
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
     EXPECT_EQ(drawn(), std::vector{lineOf(-6, 4.5, 1, 0, kLightGreen)});
 }
 
@@ -319,20 +323,20 @@ TEST_F(AfsaetForm, JudgesAHundredHostileRowsWithOneStrokeEach) {
             for (std::size_t i = 0; i < typed.size(); ++i) {
                 f.box(kBoxes[i]).setContent(typed[i]);
             }
-            f.click("Command2");
-            ASSERT_EQ(f.caption("Labelr"), "FORKERT");
+            f.click("ok");
+            ASSERT_EQ(f.caption("verdict"), "FORKERT");
             ASSERT_EQ(drawn().size(), ++rows);
         }
     }
     EXPECT_EQ(rows, 100U);
     EXPECT_FALSE(f.page().grab().isNull());
-    f.box("Text1").setContent(huge);
-    f.box("Text4").setContent("-" + huge);
-    f.click("Command2");
+    f.box("slope").setContent(huge);
+    f.box("rangeEnd").setContent("-" + huge);
+    f.click("ok");
     EXPECT_EQ(colours(), (std::vector<QColor>(4, kRed)));
     EXPECT_FALSE(f.page().grab().isNull());
     answerRight();
-    EXPECT_EQ(f.caption("Labelr"), "RIGTIGT");
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
 }
 
 /// A help panel with all that belongs to it.
@@ -354,87 +358,98 @@ void PrintTo(const PanelRow& row, std::ostream* out) { *out << row.panel; }
 
 const std::vector<PanelRow>& panelRows() {
     static const std::vector<PanelRow> rows{
-        {"Picture2",
+        {"twoPointsHelpPanel",
          "TwoPointsInPrices",
-         {{"Label210", "Label211", "Label212"}, {"Label213"}},
-         {"Command5", "Command6"},
-         "Command7",
-         "Picture3",
-         "Label214",
-         "Label215",
+         {{"twoPointsWorkedSlopeNumerator", "twoPointsWorkedSlopeDenominator", "twoPointsWorkedSlopeResult"},
+          {"twoPointsWorkedIntercept"}},
+         {"showTwoPointsSlope", "showTwoPointsIntercept"},
+         "closeTwoPointsHelp",
+         "twoPointsSlopeStep",
+         "twoPointsWorkedResultHeading",
+         "twoPointsWorkedResult",
          {"8 - 2", "1 - 5", "= -1.5", "b = 8 - (-1.5)*1 = 9.5", "P = -1.5Q + 9.5"}},
-        {"Picture4",
+        {"epAtPointPriceHelpPanel",
          "ElasticityAtPointPriceInPrices",
-         {{"Label230", "Label231", "Label232"}, {"Label233"}},
-         {"Command8", "Command9"},
-         "Command10",
-         "Picture5",
-         "Label234",
-         "Label235",
+         {{"epAtPointPriceWorkedSlopeNumerator", "epAtPointPriceWorkedSlopeDenominator",
+           "epAtPointPriceWorkedSlopeResult"},
+          {"epAtPointPriceWorkedIntercept"}},
+         {"showEpAtPointPriceSlope", "showEpAtPointPriceIntercept"},
+         "closeEpAtPointPriceHelp",
+         "epAtPointPriceSlopeStep",
+         "epAtPointPriceWorkedResultHeading",
+         "epAtPointPriceWorkedResult",
          {"3", "-2*1", "= 3/-2 = -1.5", "b = 3 - (3/-2)*1 = 4.5", "P = -1.5Q + 4.5"}},
-        {"Picture6",
+        {"epAtOtherPriceHelpPanel",
          "ElasticityAtOtherPriceInPrices",
-         {{"Label262", "Label263", "Label264"}, {"Label265"}},
-         {"Command11", "Command12"},
-         "Command13",
-         "Picture7",
-         "Label266",
-         "Label267",
+         {{"epAtOtherPriceWorkedSlopeNumerator", "epAtOtherPriceWorkedSlopeDenominator",
+           "epAtOtherPriceWorkedSlopeResult"},
+          {"epAtOtherPriceWorkedIntercept"}},
+         {"showEpAtOtherPriceSlope", "showEpAtOtherPriceIntercept"},
+         "closeEpAtOtherPriceHelp",
+         "epAtOtherPriceSlopeStep",
+         "epAtOtherPriceWorkedResultHeading",
+         "epAtOtherPriceWorkedResult",
          {"8 - 7", "1 - 1.75", "= 1/-0.75 = -1.33", "b = 8 - (1/-0.75)*1 = 9.33", "P = -1.33Q + 9.33"}},
-        {"Picture8",
+        {"epAtPointQuantityHelpPanel",
          "ElasticityAtPointQuantity",
-         {{"Label290", "Label291", "Label292"}, {"Label293"}},
-         {"Command14", "Command15"},
-         "Command16",
-         "Picture9",
-         "Label294",
-         "Label295",
+         {{"epAtPointQuantityWorkedSlopeNumerator", "epAtPointQuantityWorkedSlopeDenominator",
+           "epAtPointQuantityWorkedSlopeResult"},
+          {"epAtPointQuantityWorkedIntercept"}},
+         {"showEpAtPointQuantitySlope", "showEpAtPointQuantityIntercept"},
+         "closeEpAtPointQuantityHelp",
+         "epAtPointQuantitySlopeStep",
+         "epAtPointQuantityWorkedResultHeading",
+         "epAtPointQuantityWorkedResult",
          {"7", "-3*1", "= 7/-3 = -2.33", "b = 7 - (7/-3)*1 = 9.33", "P = -2.33Q + 9.33"}},
-        {"Picture10",
+        {"epAtOtherQuantityHelpPanel",
          "ElasticityAtOtherQuantity",
-         {{"Label321", "Label322", "Label323"}, {"Label324"}},
-         {"Command17", "Command18"},
-         "Command19",
-         "Picture11",
-         "Label325",
-         "Label326",
+         {{"epAtOtherQuantityWorkedSlopeNumerator", "epAtOtherQuantityWorkedSlopeDenominator",
+           "epAtOtherQuantityWorkedSlopeResult"},
+          {"epAtOtherQuantityWorkedIntercept"}},
+         {"showEpAtOtherQuantitySlope", "showEpAtOtherQuantityIntercept"},
+         "closeEpAtOtherQuantityHelp",
+         "epAtOtherQuantitySlopeStep",
+         "epAtOtherQuantityWorkedResultHeading",
+         "epAtOtherQuantityWorkedResult",
          {"6 - 4.8", "1 - 2", "= 1.2/-1 = -1.2", "b = 6 - (1.2/-1)*1 = 7.2", "P = -1.2Q + 7.2"}},
-        {"Picture12",
+        {"pointAndSlopeHelpPanel",
          "PointAndSlopeInPrices",
-         {{"Label345"}},
-         {"Command20"},
-         "Command21",
+         {{"pointAndSlopeWorkedIntercept"}},
+         {"showPointAndSlopeIntercept"},
+         "closePointAndSlopeHelp",
          "",
-         "Label346",
-         "Label347",
+         "pointAndSlopeWorkedResultHeading",
+         "pointAndSlopeWorkedResult",
          {"b = 4 - (-3)*2 = 10", "P = -3Q + 10"}},
-        {"Picture13",
+        {"twoElasticitiesHelpPanel",
          "TwoElasticitiesOfALongPmax",
-         {{"Label373"}, {"Label374"}, {"Label375"}},
-         {"Command22", "Command23", "Command24"},
-         "Command25",
+         {{"twoElasticitiesWorkedMaxPrice"},
+          {"twoElasticitiesWorkedMaxQuantity"},
+          {"twoElasticitiesWorkedSlope"}},
+         {"showTwoElasticitiesMaxPrice", "showTwoElasticitiesMaxQuantity", "showTwoElasticitiesSlope"},
+         "closeTwoElasticitiesHelp",
          "",
-         "Label376",
-         "Label377",
+         "twoElasticitiesWorkedResultHeading",
+         "twoElasticitiesWorkedResult",
          {"Pmax = 7 - 7/-3 = -28/-3 = 9.33", "Qmax = 2 - 2*-6 = 14", "a = -(-28/-3)/14 = -0.67",
           "P = -0.67Q + 9.33"}},
-        {"Picture14",
+        {"epAtPriceAndSlopeHelpPanel",
          "ElasticityAtPriceAndSlopeOfALongQ",
-         {{"Label388"}, {"Label389"}},
-         {"Command26", "Command27"},
-         "Command28",
+         {{"epAtPriceAndSlopeWorkedQuantity"}, {"epAtPriceAndSlopeWorkedIntercept"}},
+         {"showEpAtPriceAndSlopeQuantity", "showEpAtPriceAndSlopeIntercept"},
+         "closeEpAtPriceAndSlopeHelp",
          "",
-         "Label390",
-         "Label391",
+         "epAtPriceAndSlopeWorkedResultHeading",
+         "epAtPriceAndSlopeWorkedResult",
          {"Q = 7/(-4*-4) = 7/16 = 0.44", "b = 7 - (-4*(7/16)) = 8.75", "P = -4Q + 8.75"}},
-        {"Picture15",
+        {"epAtQuantityAndSlopeHelpPanel",
          "ElasticityAtQuantityAndSlopeInPrices",
-         {{"Label408"}, {"Label409"}},
-         {"Command29", "Command30"},
-         "Command31",
+         {{"epAtQuantityAndSlopeWorkedPrice"}, {"epAtQuantityAndSlopeWorkedIntercept"}},
+         {"showEpAtQuantityAndSlopePrice", "showEpAtQuantityAndSlopeIntercept"},
+         "closeEpAtQuantityAndSlopeHelp",
          "",
-         "Label410",
-         "Label411",
+         "epAtQuantityAndSlopeWorkedResultHeading",
+         "epAtQuantityAndSlopeWorkedResult",
          {"P = -2*(-3)*1 = 6", "b = 6 - (-2)*1 = 8", "P = -2Q + 8"}},
     };
     return rows;
@@ -444,7 +459,7 @@ class AfsaetPanels : public AfsaetForm, public testing::WithParamInterface<Panel
 protected:
     FormDriver& openHelp() {
         open(GetParam().sample);
-        form->click("Command4");
+        form->click("help");
         return *form;
     }
 
@@ -522,15 +537,15 @@ TEST_P(AfsaetPanels, RevealTheirLastStepAlsoFirst) {
 TEST_P(AfsaetPanels, CloseWholeAndLeaveTheExerciseAlone) {
     const PanelRow& row = GetParam();
     const FormDriver& f = openHelp();
-    f.type("Text2", "12");
+    f.type("intercept", "12");
     showEveryStep();
     f.click(row.close);
     EXPECT_EQ(shownPanels(), Names{});
     expectShown(0);
-    EXPECT_EQ(f.focus(), "Text1");
-    EXPECT_EQ(f.box("Text2").content(), "12");
+    EXPECT_EQ(f.focus(), "slope");
+    EXPECT_EQ(f.box("intercept").content(), "12");
     EXPECT_EQ(drawn(), std::vector<Stroke>{});
-    f.click("Command4");
+    f.click("help");
     EXPECT_EQ(shownPanels(), Names{row.panel});
     expectShown(0);
 }
@@ -541,23 +556,23 @@ TEST_P(AfsaetPanels, StayThroughJudgingAndTheAnswerAndGoWithTheNextExercise) {
     showEveryStep();
     answer({"987", "1", "1", "2"});
     EXPECT_EQ(shownPanels(), Names{row.panel});
-    f.click("Command3");
+    f.click("giveAnswer");
     EXPECT_EQ(shownPanels(), Names{row.panel});
     expectShown(row.vis.size());
     next("TwoPointsInPrices");
     EXPECT_EQ(shownPanels(), Names{});
     expectShown(0);
-    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_EQ(f.focus(), "slope");
 }
 
 TEST_P(AfsaetPanels, OpenOnceSolvedToo) {
     const PanelRow& row = GetParam();
     const FormDriver& f = open(row.sample);
     answerRight();
-    ASSERT_EQ(f.caption("Labelr"), "RIGTIGT");
-    f.click("Command4");
+    ASSERT_EQ(f.caption("verdict"), "RIGTIGT");
+    f.click("help");
     EXPECT_EQ(shownPanels(), Names{row.panel});
-    EXPECT_TRUE(f.isShown("Labelr"));
+    EXPECT_TRUE(f.isShown("verdict"));
     EXPECT_EQ(drawn().size(), 1U);
 }
 
@@ -565,11 +580,12 @@ TEST_P(AfsaetPanels, LeaveTheTaskTheAnswerAndTheButtonsInReach) {
     const PanelRow& row = GetParam();
     const FormDriver& f = open(row.sample);
     const QRectF panel = f.find<Panel>(row.panel).place();
-    for (const char* name : {"Label1", "Label4", "Label5", "Label104", "Text1", "Text2", "Text3", "Text4",
-                             "Command1", "Command2", "Command3", "Command4", "Labelr"}) {
+    for (const char* name :
+         {"task", "firstFact", "secondFact", "givenRange", "slope", "intercept", "rangeStart", "rangeEnd",
+          "newExercise", "ok", "giveAnswer", "help", "verdict"}) {
         EXPECT_FALSE(panel.intersects(QRectF(f.find(name).geometry()))) << name;
     }
-    EXPECT_TRUE(panel.contains(f.find<GraphBox>("Picture1").Control::place()));
+    EXPECT_TRUE(panel.contains(f.find<GraphBox>("graph").Control::place()));
     EXPECT_EQ(f.find<Panel>(row.panel).backColour(), kWhite);
 }
 
@@ -587,17 +603,17 @@ INSTANTIATE_TEST_SUITE_P(Rows, AfsaetPanels, testing::ValuesIn(panelRows()),
 
 TEST_F(AfsaetForm, RebuildsTheStepsForTheNextExercise) {
     const FormDriver& f = open("TwoPointsInPrices");
-    f.click("Command4");
-    f.click("Command5");
-    f.click("Command6");
-    EXPECT_EQ(f.caption("Label213"), "b = 8 - (-1.5)*1 = 9.5");
+    f.click("help");
+    f.click("showTwoPointsSlope");
+    f.click("showTwoPointsIntercept");
+    EXPECT_EQ(f.caption("twoPointsWorkedIntercept"), "b = 8 - (-1.5)*1 = 9.5");
     next("TwoPointsInQuantities");
-    f.click("Command4");
-    f.click("Command6");
-    EXPECT_EQ(f.caption("Label213"), "b = 6 - (-1)*3 = 9");
-    EXPECT_EQ(f.caption("Label215"), "P = -1Q + 9");
-    f.click("Command5");
-    EXPECT_EQ(f.caption("Label212"), "= -1");
+    f.click("help");
+    f.click("showTwoPointsIntercept");
+    EXPECT_EQ(f.caption("twoPointsWorkedIntercept"), "b = 6 - (-1)*3 = 9");
+    EXPECT_EQ(f.caption("twoPointsWorkedResult"), "P = -1Q + 9");
+    f.click("showTwoPointsSlope");
+    EXPECT_EQ(f.caption("twoPointsWorkedSlopeResult"), "= -1");
 }
 
 TEST_F(AfsaetForm, WorksEveryWayOutWithTheNumbersOfAnyExercise) {
@@ -610,8 +626,11 @@ TEST_F(AfsaetForm, WorksEveryWayOutWithTheNumbersOfAnyExercise) {
             }
         }
         const std::string equation = equationText(dynamic_cast<const Afsaet&>(any.page()).state());
-        for (const char* label : {"Label215", "Label235", "Label267", "Label295", "Label326", "Label347",
-                                  "Label377", "Label391", "Label411"}) {
+        for (const char* label :
+             {"twoPointsWorkedResult", "epAtPointPriceWorkedResult", "epAtOtherPriceWorkedResult",
+              "epAtPointQuantityWorkedResult", "epAtOtherQuantityWorkedResult", "pointAndSlopeWorkedResult",
+              "twoElasticitiesWorkedResult", "epAtPriceAndSlopeWorkedResult",
+              "epAtQuantityAndSlopeWorkedResult"}) {
             EXPECT_EQ(any.caption(label), equation) << label;
         }
     }
@@ -620,15 +639,15 @@ TEST_F(AfsaetForm, WorksEveryWayOutWithTheNumbersOfAnyExercise) {
 TEST_F(AfsaetForm, ExplainsEveryWayToTheLetter) {
     const FormDriver& f = open("TwoPointsInPrices");
     for (const auto& [panel, texts] : std::vector<std::pair<const char*, Names>>{
-             {"Picture2",
+             {"twoPointsHelpPanel",
               {"Generel løsning", "Aktuel løsning", "Du kender to punkter : (P1, Q1) og (P2, Q2). Bestem a. ",
                "a =", "P1 - P2", "Q1 - Q2", "Bestem b ved at indsætte P1, Q1 og a i ligningen",
                "P1 = a*Q1 + b    =>", "b = P1 - a*Q1", "Afsætningsfunktionens ligning er:"}},
-             {"Picture4",
+             {"epAtPointPriceHelpPanel",
               {"Generel løsning", "Aktuel løsning", "I dette tilfælde er P1 = P2 og a findes nemt:", "a =",
                "P1", "Ep*Q1", "Herefter bestemes b ved at indsætte P1, Q1 og a i ligningen",
                "P1 = a*Q1 + b   =>", "b = P1 - a*Q1", "Afsætningsfunktionens ligning er:"}},
-             {"Picture6",
+             {"epAtOtherPriceHelpPanel",
               {"Generel løsning",
                "Aktuel løsning",
                "Her er P1 forskellig fra P2, og må vi udnytte, at a kan findes på forskellige måder:",
@@ -651,11 +670,11 @@ TEST_F(AfsaetForm, ExplainsEveryWayToTheLetter) {
                "P1 = a*Q1 + b  =>",
                "b = P1 - a*Q1",
                "Afsætningsfunktionens ligning er:"}},
-             {"Picture8",
+             {"epAtPointQuantityHelpPanel",
               {"Generel løsning", "Aktuel løsning", "I dette tilfælde er Q1 = Q2 og a findes således:", "a =",
                "P1", "Ep*Q1", "Herefter finder du b ved at indsætte P1, Q1 og a i ligningen",
                "P1 = a*Q1 + b   =>", "b = P1 - a*Q1", "Afsætningsfunktionens ligning er:"}},
-             {"Picture10",
+             {"epAtOtherQuantityHelpPanel",
               {"Generel løsning",
                "Aktuel løsning",
                "Her er Q1 forskellig fra Q2, og vi må udnytte, at a kan findes på forskellige måder:",
@@ -677,23 +696,23 @@ TEST_F(AfsaetForm, ExplainsEveryWayToTheLetter) {
                "P1 = a*Q1 + b  =>",
                "b = P1 - a*Q1",
                "Afsætningsfunktionens ligning er:"}},
-             {"Picture12",
+             {"pointAndSlopeHelpPanel",
               {"Generel løsning", "Aktuel løsning", "Find b ved at indsætte P, Q og a i ligningen",
                "P = a*Q + b   =>", "b = P - a*Q", "Afsætningsfunktionens ligning er:"}},
-             {"Picture13",
+             {"twoElasticitiesHelpPanel",
               {"Generel løsning", "Aktuel løsning", "Find først Pmax:", "Ep = P/(P - Pmax)  => ",
                "Pmax =  P - P/Ep", "Find derefter Qmax:", "Ep = (Q - Qmax)/Q  =>", "Qmax  = Q - Q*Ep",
                "Pmax svarer til b, da den også angiver skæringen med P-aksen. Nu mangler du altså bare at "
                "finde a. Det er enkelt når du kender de to punkter (Pmax, 0) og (0, Qmax)  ",
                "a =", "Pmax - 0", "0 - Qmax", "=  - Pmax/Qmax", "Afsætningsfunktionens ligning er:"}},
-             {"Picture14",
+             {"epAtPriceAndSlopeHelpPanel",
               {"Generel løsning", "Aktuel løsning",
                "Find mængden til den opgivne pris ved at indsætte a, P og Ep i ligningen ",
                "a = P/(Ep*Q)   =>", "Q = P/(Ep*a)",
                "Du kender nu et punkt (P,Q) og hældningskoefficienten, a.  Bestem b ved at indsætte P, Q og "
                "a i ligningen",
                "P = a*Q + b   => ", "b = P - a*Q", "Afsætningsfunktionens ligning er:"}},
-             {"Picture15",
+             {"epAtQuantityAndSlopeHelpPanel",
               {"Generel løsning", "Aktuel løsning", "Find P ved at indsætte a, Q og Ep i ligningen",
                "a = P/(Ep*Q)   =>", "P = a*Ep*Q",
                "Du kender nu et punkt (P,Q) og hældningskoefficienten, a. Bestem b ved at indsætte P, Q og a "
