@@ -23,25 +23,28 @@ const Colours& coloursOf(GtmFunction function) {
 
 Gtm::Gtm(Draws& draws) : ExerciseForm(PageName::Gtm, draws), ui_(std::make_unique<Ui::Gtm>()) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command1,
-             .ok = ui_->Command2,
-             .giveAnswer = ui_->Command3,
-             .help = ui_->Hjaelp});
-    verdict(OneLabel{ui_->Labelt});
-    boxes_ = {{{ui_->Text1, ui_->Text2, ui_->Text3},
-               {ui_->Text4, ui_->Text5, ui_->Text6},
-               {ui_->Text7, ui_->Text8, ui_->Text9}}};
-    enterChain({ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text4, ui_->Text5, ui_->Text6, ui_->Text7,
-                ui_->Text8, ui_->Text9},
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(OneLabel{ui_->verdict});
+    boxes_ = {{{ui_->avcQuadraticCoefficient, ui_->avcLinearCoefficient, ui_->avcConstant},
+               {ui_->tvcCubicCoefficient, ui_->tvcQuadraticCoefficient, ui_->tvcLinearCoefficient},
+               {ui_->mcQuadraticCoefficient, ui_->mcLinearCoefficient, ui_->mcConstant}}};
+    enterChain({ui_->avcQuadraticCoefficient, ui_->avcLinearCoefficient, ui_->avcConstant,
+                ui_->tvcCubicCoefficient, ui_->tvcQuadraticCoefficient, ui_->tvcLinearCoefficient,
+                ui_->mcQuadraticCoefficient, ui_->mcLinearCoefficient, ui_->mcConstant},
                LastBox::OkOrStay);
-    integrate_ = {ui_->Line1_0, ui_->Line1_1, ui_->Line1_2, ui_->Line1_3};
-    differentiate_ = {ui_->Line2_0, ui_->Line2_1, ui_->Line2_2, ui_->Line2_3};
-    divide_ = {ui_->Line3_0, ui_->Line3_1, ui_->Line3_2, ui_->Line3_3};
-    multiply_ = {ui_->Line4_0, ui_->Line4_1, ui_->Line4_2, ui_->Line4_3};
+    integrate_ = {ui_->wayFromMarginalToTotalStartLeg, ui_->wayFromMarginalToTotalEndLeg,
+                  ui_->wayFromMarginalToTotalUpperBarb, ui_->wayFromMarginalToTotalLowerBarb};
+    differentiate_ = {ui_->wayFromTotalToMarginalStartLeg, ui_->wayFromTotalToMarginalEndLeg,
+                      ui_->wayFromTotalToMarginalUpperBarb, ui_->wayFromTotalToMarginalLowerBarb};
+    divide_ = {ui_->wayFromTotalToAverageStartLeg, ui_->wayFromTotalToAverageEndLeg,
+               ui_->wayFromTotalToAverageLeftBarb, ui_->wayFromTotalToAverageRightBarb};
+    multiply_ = {ui_->wayFromAverageToTotalStartLeg, ui_->wayFromAverageToTotalEndLeg,
+                 ui_->wayFromAverageToTotalLeftBarb, ui_->wayFromAverageToTotalRightBarb};
     bindSteps();
-    onClick(ui_->Command6, &Gtm::closeHelp);
-    onClick(ui_->Command9, &Gtm::closeHelp);
-    onClick(ui_->Command12, &Gtm::closeHelpAndBlackenNames);
+    onClick(ui_->closeAvcGivenHelp, &Gtm::closeHelp);
+    onClick(ui_->closeTvcGivenHelp, &Gtm::closeHelp);
+    onClick(ui_->closeMcGivenHelp, &Gtm::closeHelpAndBlackenNames);
 }
 
 Gtm::~Gtm() = default;
@@ -57,12 +60,12 @@ void Gtm::bindSteps() {
     const std::vector<double> twoRows{8, 30};
     const std::vector<double> derivative{8, 52, 72};
     const std::vector<double> integral{8, 32, 60};
-    const Step steps[]{{ui_->Command4, ui_->Picture2, workedProduct, twoRows},
-                       {ui_->Command5, ui_->Picture9, workedDerivative, derivative},
-                       {ui_->Command7, ui_->Picture4, workedQuotient, twoRows},
-                       {ui_->Command8, ui_->Picture5, workedDerivative, derivative},
-                       {ui_->Command10, ui_->Picture7, workedIntegral, integral},
-                       {ui_->Command11, ui_->Picture8, workedQuotientOfIntegral, twoRows}};
+    const Step steps[]{{ui_->showAvcGivenTvc, ui_->avcGivenTvcStep, workedProduct, twoRows},
+                       {ui_->showAvcGivenMc, ui_->avcGivenMcStep, workedDerivative, derivative},
+                       {ui_->showTvcGivenAvc, ui_->tvcGivenAvcStep, workedQuotient, twoRows},
+                       {ui_->showTvcGivenMc, ui_->tvcGivenMcStep, workedDerivative, derivative},
+                       {ui_->showMcGivenTvc, ui_->mcGivenTvcStep, workedIntegral, integral},
+                       {ui_->showMcGivenAvc, ui_->mcGivenAvcStep, workedQuotientOfIntegral, twoRows}};
     for (const Step& step : steps) {
         onClick(step.vis, [this, step] {
             // The box comes last: labels are made faster where nothing is seen.
@@ -77,7 +80,7 @@ const Gtm::Boxes& Gtm::boxesOf(GtmFunction function) const {
 }
 
 void Gtm::firstTick() {
-    ui_->Picture1->Scale(0, 20, 10, 0);
+    ui_->graph->Scale(0, 20, 10, 0);
     prepare();
     firstExercise(state_, draws());
     showTask(GtmReach::FirstTick);
@@ -86,13 +89,13 @@ void Gtm::firstTick() {
 void Gtm::newExercise() {
     prepare();
     hideSteps();
-    ui_->Picture1->Cls();
+    ui_->graph->Cls();
     tavrune::newExercise(state_, draws());
     showTask(GtmReach::Later);
 }
 
 void Gtm::prepare() {
-    focusOn(ui_->Text1);
+    focusOn(ui_->avcQuadraticCoefficient);
     showAsking();
     for (const auto& [a, b, c] : boxes_) {
         clearBoxes({a, b, c});
@@ -110,7 +113,7 @@ void Gtm::showTask(GtmReach reach) {
 
 void Gtm::draw(const GtmCurve& curve, const QColor& colour) {
     for (std::size_t i = 1; i < curve.size(); ++i) {
-        ui_->Picture1->Line(curve[i - 1].q, curve[i - 1].y, curve[i].q, curve[i].y, colour);
+        ui_->graph->Line(curve[i - 1].q, curve[i - 1].y, curve[i].q, curve[i].y, colour);
     }
 }
 
@@ -132,7 +135,7 @@ void Gtm::judge() {
         return;
     }
     failed();
-    focusOn(ui_->Text1);
+    focusOn(ui_->avcQuadraticCoefficient);
 }
 
 void Gtm::giveAnswer() {
@@ -152,13 +155,17 @@ void Gtm::giveAnswer() {
 Gtm::Guide Gtm::guide() const {
     switch (state_.given) {
         case GtmFunction::Average:
-            return {ui_->Label27, {&multiply_, &differentiate_}, ui_->PictureHlpGen, ui_->Command4};
+            return {ui_->diagramAverage,
+                    {&multiply_, &differentiate_},
+                    ui_->avcGivenHelpPanel,
+                    ui_->showAvcGivenTvc};
         case GtmFunction::Total:
-            return {ui_->Label26, {&differentiate_, &divide_}, ui_->Picture3, ui_->Command7};
+            return {
+                ui_->diagramTotal, {&differentiate_, &divide_}, ui_->tvcGivenHelpPanel, ui_->showTvcGivenAvc};
         case GtmFunction::Marginal:
             break;
     }
-    return {ui_->Label25, {&divide_, &integrate_}, ui_->Picture6, ui_->Command10};
+    return {ui_->diagramMarginal, {&divide_, &integrate_}, ui_->mcGivenHelpPanel, ui_->showMcGivenTvc};
 }
 
 void Gtm::help() {
@@ -171,15 +178,16 @@ void Gtm::help() {
         }
     }
     const GtmMethod& method = methodFor(state_.given);
-    ui_->Labelhlp_0->setCaption(method.first);
-    ui_->Labelhlp_1->setCaption(method.second);
-    ui_->Picturehlp->show();
+    ui_->diagramStep1Text->setCaption(method.first);
+    ui_->diagramStep2Text->setCaption(method.second);
+    ui_->diagramHelpPanel->show();
     openPanel(guide.panel, guide.firstVis);
 }
 
 void Gtm::hideSteps() {
-    hideAll({ui_->Picturehlp, ui_->PictureHlpGen, ui_->Picture3, ui_->Picture6, ui_->Picture2, ui_->Picture9,
-             ui_->Picture4, ui_->Picture5, ui_->Picture7, ui_->Picture8});
+    hideAll({ui_->diagramHelpPanel, ui_->avcGivenHelpPanel, ui_->tvcGivenHelpPanel, ui_->mcGivenHelpPanel,
+             ui_->avcGivenTvcStep, ui_->avcGivenMcStep, ui_->tvcGivenAvcStep, ui_->tvcGivenMcStep,
+             ui_->mcGivenTvcStep, ui_->mcGivenAvcStep});
 }
 
 // Kept: the name of the given function stays red where AVC or TVC is given.
@@ -194,7 +202,7 @@ void Gtm::closeHelp() {
 
 void Gtm::closeHelpAndBlackenNames() {
     closeHelp();
-    for (Label* name : {ui_->Label25, ui_->Label26, ui_->Label27}) {
+    for (Label* name : {ui_->diagramMarginal, ui_->diagramTotal, ui_->diagramAverage}) {
         name->setTextColour(kBlack);
     }
 }

@@ -79,14 +79,20 @@ void expectAlike(const Strokes& drawn, const Strokes& expected) {
     }
 }
 
-constexpr std::array kBoxes{"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8", "Text9"};
+constexpr std::array kBoxes{"avcQuadraticCoefficient", "avcLinearCoefficient",    "avcConstant",
+                            "tvcCubicCoefficient",     "tvcQuadraticCoefficient", "tvcLinearCoefficient",
+                            "mcQuadraticCoefficient",  "mcLinearCoefficient",     "mcConstant"};
 
 /// The lines of the four ways of the diagram.
 constexpr std::array<std::array<const char*, 4>, 4> kWays{{
-    {"Line1_0", "Line1_1", "Line1_2", "Line1_3"},
-    {"Line2_0", "Line2_1", "Line2_2", "Line2_3"},
-    {"Line3_0", "Line3_1", "Line3_2", "Line3_3"},
-    {"Line4_0", "Line4_1", "Line4_2", "Line4_3"},
+    {"wayFromMarginalToTotalStartLeg", "wayFromMarginalToTotalEndLeg", "wayFromMarginalToTotalUpperBarb",
+     "wayFromMarginalToTotalLowerBarb"},
+    {"wayFromTotalToMarginalStartLeg", "wayFromTotalToMarginalEndLeg", "wayFromTotalToMarginalUpperBarb",
+     "wayFromTotalToMarginalLowerBarb"},
+    {"wayFromTotalToAverageStartLeg", "wayFromTotalToAverageEndLeg", "wayFromTotalToAverageLeftBarb",
+     "wayFromTotalToAverageRightBarb"},
+    {"wayFromAverageToTotalStartLeg", "wayFromAverageToTotalEndLeg", "wayFromAverageToTotalLeftBarb",
+     "wayFromAverageToTotalRightBarb"},
 }};
 
 class GtmForm : public testing::Test {
@@ -99,7 +105,7 @@ protected:
 
     void next(const Numbers& k, Kind kind) {
         draws.append(test::gtm::script(k, kind));
-        form->click("Command1");
+        form->click("newExercise");
     }
 
     /// AVC = Q² - 2Q + 4.
@@ -113,7 +119,7 @@ protected:
 
     void answer(const Nine& typed) const {
         fill(typed);
-        form->click("Command2");
+        form->click("ok");
     }
 
     [[nodiscard]] std::vector<std::string> contents() const {
@@ -137,7 +143,7 @@ protected:
         return red;
     }
 
-    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("Picture1"); }
+    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("graph"); }
 
     [[nodiscard]] Strokes drawnAfter(std::size_t strokes) const {
         return test::strokesFrom(graph(), strokes);
@@ -165,7 +171,7 @@ protected:
 
     [[nodiscard]] std::set<std::string> redNames() const {
         std::set<std::string> red;
-        for (const char* name : {"Label25", "Label26", "Label27"}) {
+        for (const char* name : {"diagramMarginal", "diagramTotal", "diagramAverage"}) {
             const QColor colour = form->label(name).textColour();
             EXPECT_TRUE(colour == kRed || colour == kBlack);
             if (colour == kRed) {
@@ -186,11 +192,12 @@ protected:
     }
 
     [[nodiscard]] std::set<std::string> shownPanels() const {
-        return shownOf({"Picturehlp", "PictureHlpGen", "Picture3", "Picture6"});
+        return shownOf({"diagramHelpPanel", "avcGivenHelpPanel", "tvcGivenHelpPanel", "mcGivenHelpPanel"});
     }
 
     [[nodiscard]] std::set<std::string> shownSteps() const {
-        return shownOf({"Picture2", "Picture9", "Picture4", "Picture5", "Picture7", "Picture8"});
+        return shownOf({"avcGivenTvcStep", "avcGivenMcStep", "tvcGivenAvcStep", "tvcGivenMcStep",
+                        "mcGivenTvcStep", "mcGivenAvcStep"});
     }
 
     ScriptedDraws draws;
@@ -203,11 +210,12 @@ TEST_F(GtmForm, StartsEmptyWithItsTitle) {
     for (const char* box : kBoxes) {
         EXPECT_EQ(f.box(box).content(), "");
     }
-    for (const char* hidden : {"Command3", "Labelt", "Picturehlp", "PictureHlpGen", "Picture3", "Picture6",
-                               "Picture2", "Picture9", "Picture4", "Picture5", "Picture7", "Picture8"}) {
+    for (const char* hidden : {"giveAnswer", "verdict", "diagramHelpPanel", "avcGivenHelpPanel",
+                               "tvcGivenHelpPanel", "mcGivenHelpPanel", "avcGivenTvcStep", "avcGivenMcStep",
+                               "tvcGivenAvcStep", "tvcGivenMcStep", "mcGivenTvcStep", "mcGivenAvcStep"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_TRUE(f.find<GraphBox>("Picture1").strokes().empty());
+    EXPECT_TRUE(f.find<GraphBox>("graph").strokes().empty());
 }
 
 /// All captions within a control, blanks and all.
@@ -254,14 +262,14 @@ TEST_P(GtmTasks, FillTheBoxesOfTheGivenFunctionOnly) {
     const ShownRow& row = GetParam();
     const FormDriver& f = open(row.drawn, row.kind);
     EXPECT_EQ(contents(), row.contents);
-    EXPECT_EQ(f.focus(), "Text1");
-    EXPECT_TRUE(f.isShown("Command2"));
-    EXPECT_FALSE(f.isShown("Command3"));
+    EXPECT_EQ(f.focus(), "avcQuadraticCoefficient");
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
     answer({"1", "2", "3", "4", "5", "6", "7", "8", "9"});
     EXPECT_FALSE(redBoxes().empty());
     next(row.drawn, row.kind);
     EXPECT_EQ(contents(), row.contents);
-    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_EQ(f.focus(), "avcQuadraticCoefficient");
     EXPECT_EQ(redBoxes(), std::set<int>{});
 }
 
@@ -306,7 +314,7 @@ TEST_F(GtmForm, PlotsAGivenCubicUpToFourHundredEachTime) {
 }
 
 TEST_F(GtmForm, KeepsTheScaleOfTheFirstTick) {
-    EXPECT_NE(FormDriver::unshown(PageName::Gtm, draws).find<GraphBox>("Picture1").scale(), kGraph.scale);
+    EXPECT_NE(FormDriver::unshown(PageName::Gtm, draws).find<GraphBox>("graph").scale(), kGraph.scale);
     openPlain();
     EXPECT_EQ(graph().scale(), kGraph.scale);
     next({1, -2, 4}, Avc);
@@ -326,12 +334,12 @@ TEST_F(GtmForm, DrawsAvcThenTvcThenMcInTheColoursOfARightAnswer) {
             chain(total, -3, kTvcRight, [&](double q, double) { return std::abs(total(q + 0.1)) <= 400; }) +
             chain([&](double q) { return parabola(mc, q); }, -3, kMcRight,
                   [](double q, double y) { return q <= 15 && y <= 210; }));
-    EXPECT_TRUE(f.isShown("Labelt"));
-    EXPECT_EQ(f.caption("Labelt"), "RIGTIGT");
-    EXPECT_EQ(f.label("Labelt").backColour(), QColor(0, 130, 0));
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_FALSE(f.isShown("Command3"));
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_TRUE(f.isShown("verdict"));
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
+    EXPECT_EQ(f.label("verdict").backColour(), QColor(0, 130, 0));
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
+    EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_EQ(redBoxes(), std::set<int>{});
 }
 
@@ -373,12 +381,12 @@ TEST_P(GtmMarks, ReddenEachWrongBoxAndColourTheCurveOfItsFunction) {
     answer(row.typed);
     EXPECT_EQ(redBoxes(), row.red);
     EXPECT_EQ(coloursOf(drawnAfter(171)), row.colours);
-    EXPECT_TRUE(f.isShown("Labelt"));
-    EXPECT_EQ(f.caption("Labelt"), "FORKERT");
-    EXPECT_EQ(f.label("Labelt").backColour(), kRed);
-    EXPECT_TRUE(f.isShown("Command2"));
-    EXPECT_TRUE(f.isShown("Command3"));
-    EXPECT_EQ(f.focus(), "Text1");
+    EXPECT_TRUE(f.isShown("verdict"));
+    EXPECT_EQ(f.caption("verdict"), "FORKERT");
+    EXPECT_EQ(f.label("verdict").backColour(), kRed);
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_TRUE(f.isShown("giveAnswer"));
+    EXPECT_EQ(f.focus(), "avcQuadraticCoefficient");
     EXPECT_EQ(contents(), std::vector<std::string>(row.typed.begin(), row.typed.end()));
 }
 
@@ -412,26 +420,26 @@ INSTANTIATE_TEST_SUITE_P(Rows, GtmMarks,
 TEST_F(GtmForm, TakesAnAlteredBoxOfTheGivenFunctionForWrong) {
     const FormDriver& f = openPlain();
     answer({"2", "-2", "4", "1", "-2", "4", "3", "-4", "4"});
-    EXPECT_EQ(f.caption("Labelt"), "FORKERT");
+    EXPECT_EQ(f.caption("verdict"), "FORKERT");
     EXPECT_EQ(redBoxes(), std::set<int>{1});
     answer({"1", "-2", "4", "1", "-2", "4", "3", "-4", "4"});
-    EXPECT_EQ(f.caption("Labelt"), "RIGTIGT");
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
     EXPECT_EQ(redBoxes(), std::set<int>{});
 }
 
 TEST_F(GtmForm, WantsSeventeenHundredthsForTheThirdOfAHalf) {
     const FormDriver& f = open({0.5, -4, 9}, Mc);
-    EXPECT_EQ(f.box("Text7").content(), "0.5");
+    EXPECT_EQ(f.box("mcQuadraticCoefficient").content(), "0.5");
     answer({"0.1667", "-2", "9", "0.17", "-2", "9", "0.5", "-4", "9"});
     EXPECT_EQ(redBoxes(), std::set<int>{1});
-    f.type("Text1", "0,17");
-    f.click("Command2");
-    EXPECT_EQ(f.caption("Labelt"), "RIGTIGT");
+    f.type("avcQuadraticCoefficient", "0,17");
+    f.click("ok");
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
 }
 
 TEST_F(GtmForm, IsSolvedByKeysAlone) {
     const FormDriver& f = openPlain();
-    for (const char* given : {"Text1", "Text2", "Text3"}) {
+    for (const char* given : {"avcQuadraticCoefficient", "avcLinearCoefficient", "avcConstant"}) {
         f.press(given, Qt::Key_Return);
     }
     const std::array<const char*, 6> typed{"1", "-2", "4", "3,0", "-4", "4"};
@@ -441,12 +449,12 @@ TEST_F(GtmForm, IsSolvedByKeysAlone) {
         f.type(box, typed.at(i));
         f.press(box, Qt::Key_Return);
     }
-    EXPECT_EQ(f.box("Text7").content(), "3.0");
-    EXPECT_EQ(f.focus(), "Command2");
-    f.press("Command2", Qt::Key_Return);
-    EXPECT_EQ(f.caption("Labelt"), "RIGTIGT");
-    f.press("Text9", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(f.box("mcQuadraticCoefficient").content(), "3.0");
+    EXPECT_EQ(f.focus(), "ok");
+    f.press("ok", Qt::Key_Return);
+    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
+    f.press("mcConstant", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "newExercise");
 }
 
 TEST_F(GtmForm, PilesUpTriesAndAnswerUntilTheNextExercise) {
@@ -457,7 +465,7 @@ TEST_F(GtmForm, PilesUpTriesAndAnswerUntilTheNextExercise) {
         EXPECT_GT(graph().strokes().size(), before);
         before = graph().strokes().size();
     }
-    f.click("Command3");
+    f.click("giveAnswer");
     EXPECT_GT(graph().strokes().size(), before);
     next({1, -2, 4}, Avc);
     EXPECT_EQ(graph().strokes().size(), 131U);
@@ -468,14 +476,14 @@ TEST_F(GtmForm, GivesTheCoefficientsAndDrawsAvcThenMcThenTvc) {
     const FormDriver& f = open({0.5, -3, 9}, Mc);
     answer({"", "", "", "", "", "", "", "", ""});
     const std::size_t before = graph().strokes().size();
-    f.click("Command3");
+    f.click("giveAnswer");
     EXPECT_EQ(contents(),
               (std::vector<std::string>{"0,17", "-1,5", "9", "0,17", "-1,5", "9", "0,5", "-3", "9"}));
     EXPECT_EQ(redBoxes(), std::set<int>{});
-    for (const char* hidden : {"Command2", "Command3", "Labelt"}) {
+    for (const char* hidden : {"ok", "giveAnswer", "verdict"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(f.focus(), "newExercise");
     const auto avc = [](double q) { return 0.17 * q * q - 1.5 * q + 9; };
     const auto mc = [](double q) { return 0.5 * q * q - 3 * q + 9; };
     const auto tvc = [&](double q) { return q * avc(q); };
@@ -512,8 +520,8 @@ TEST_F(GtmForm, JudgesAHundredHostileRowsWithBoundedCurves) {
             fill({"1", "-2", "4", "1", "-2", "4", "3", "-4", "4"});
             f.box(box).setContent(typed);
             const std::size_t before = graph().strokes().size();
-            f.click("Command2");
-            EXPECT_EQ(f.caption("Labelt"), "FORKERT");
+            f.click("ok");
+            EXPECT_EQ(f.caption("verdict"), "FORKERT");
             EXPECT_LE(graph().strokes().size() - before, 181U + 230U + 181U);
         }
     }
@@ -548,19 +556,19 @@ INSTANTIATE_TEST_SUITE_P(
     Rows, GtmGuides,
     testing::Values(
         GuideRow{
-            "Average", Avc, "Label27", "24", "PictureHlpGen", "Command4", "Command5", "Command6", "Picture2",
-            "Picture9",
+            "Average", Avc, "diagramAverage", "24", "avcGivenHelpPanel", "showAvcGivenTvc", "showAvcGivenMc",
+            "closeAvcGivenHelp", "avcGivenTvcStep", "avcGivenMcStep",
             " Du kender her AVC-funktionen. Du skal nu først finde TVC-funktionen og derefter MC-funktionen. "
             "Metoden er vist i diagrammet ovenfor. Først skal du gange AVC med mængden(Q).Derved får du TVC.",
             kDifferentiate},
-        GuideRow{"Total", Tvc, "Label26", "23", "Picture3", "Command7", "Command8", "Command9", "Picture4",
-                 "Picture5",
+        GuideRow{"Total", Tvc, "diagramTotal", "23", "tvcGivenHelpPanel", "showTvcGivenAvc", "showTvcGivenMc",
+                 "closeTvcGivenHelp", "tvcGivenAvcStep", "tvcGivenMcStep",
                  " Du kender her TVC-funktionen og skal finde AVC-funktionen samt MC-funktonen. Som det "
                  "fremgår af "
                  "diagrammet ovenfor findes AVC-funktionen ved at dividere TVC-funktionen med antallet(Q).",
                  kDifferentiate},
-        GuideRow{"Marginal", Mc, "Label25", "13", "Picture6", "Command10", "Command11", "Command12",
-                 "Picture7", "Picture8",
+        GuideRow{"Marginal", Mc, "diagramMarginal", "13", "mcGivenHelpPanel", "showMcGivenTvc",
+                 "showMcGivenAvc", "closeMcGivenHelp", "mcGivenTvcStep", "mcGivenAvcStep",
                  " Du kender MC-funktionen og skal, som det fremgår af diagrammet ovenfor, først finde "
                  "TVC-funktionen og derefter AVC-funktionen. TVC-funktionen finder du ved at integrere "
                  "MC-funktionen (se evt. integralregning).",
@@ -572,20 +580,20 @@ TEST_P(GtmGuides, LightUpTheWayOfTheExerciseAndOpenItsPanel) {
     const FormDriver& f = open({1, -2, 4}, row.kind);
     EXPECT_EQ(redWays(), "");
     EXPECT_EQ(redNames(), std::set<std::string>{});
-    f.click("Hjaelp");
+    f.click("help");
     EXPECT_EQ(redWays(), row.ways);
     EXPECT_EQ(redNames(), std::set<std::string>{row.given});
-    EXPECT_EQ(shownPanels(), (std::set<std::string>{"Picturehlp", row.panel}));
+    EXPECT_EQ(shownPanels(), (std::set<std::string>{"diagramHelpPanel", row.panel}));
     EXPECT_EQ(shownSteps(), std::set<std::string>{});
-    EXPECT_EQ(f.caption("Labelhlp_0"), row.firstText);
-    EXPECT_EQ(f.caption("Labelhlp_1"), row.secondText);
+    EXPECT_EQ(f.caption("diagramStep1Text"), row.firstText);
+    EXPECT_EQ(f.caption("diagramStep2Text"), row.secondText);
     EXPECT_EQ(f.focus(), row.firstVis);
 }
 
 TEST_P(GtmGuides, RevealTheirTwoStepsAndHideThemWithThePanel) {
     const GuideRow& row = GetParam();
     const FormDriver& f = open({1, -2, 4}, row.kind);
-    f.click("Hjaelp");
+    f.click("help");
     f.press(row.firstVis, Qt::Key_Return);
     EXPECT_EQ(shownSteps(), std::set<std::string>{row.firstStep});
     f.press(row.secondVis, Qt::Key_Return);
@@ -594,14 +602,14 @@ TEST_P(GtmGuides, RevealTheirTwoStepsAndHideThemWithThePanel) {
     EXPECT_EQ(shownSteps(), std::set<std::string>{});
     EXPECT_EQ(shownPanels(), std::set<std::string>{});
     EXPECT_EQ(redWays(), "");
-    f.click("Hjaelp");
+    f.click("help");
     EXPECT_EQ(shownSteps(), std::set<std::string>{});
 }
 
 TEST_P(GtmGuides, BlackenTheNamesOnlyWhereMcIsGiven) {
     const GuideRow& row = GetParam();
     const FormDriver& f = open({1, -2, 4}, row.kind);
-    f.click("Hjaelp");
+    f.click("help");
     f.click(row.close);
     EXPECT_EQ(redNames(), row.kind == Mc ? std::set<std::string>{} : std::set<std::string>{row.given});
 }
@@ -609,7 +617,7 @@ TEST_P(GtmGuides, BlackenTheNamesOnlyWhereMcIsGiven) {
 TEST_P(GtmGuides, CloseWithTheNextExerciseAndStayRed) {
     const GuideRow& row = GetParam();
     const FormDriver& f = open({1, -2, 4}, row.kind);
-    f.click("Hjaelp");
+    f.click("help");
     f.click(row.firstVis);
     f.click(row.secondVis);
     next({1, -2, 4}, row.kind);
@@ -621,31 +629,31 @@ TEST_P(GtmGuides, CloseWithTheNextExerciseAndStayRed) {
 
 TEST_F(GtmForm, LetsTheRedOfEarlierHelpStandUntilALuk) {
     const FormDriver& f = open({1, -2, 4}, Avc);
-    f.click("Hjaelp");
+    f.click("help");
     next({1, -2, 4}, Tvc);
-    f.click("Hjaelp");
+    f.click("help");
     EXPECT_EQ(redWays(), "234");
-    EXPECT_EQ(redNames(), (std::set<std::string>{"Label26", "Label27"}));
+    EXPECT_EQ(redNames(), (std::set<std::string>{"diagramTotal", "diagramAverage"}));
     next({1, -2, 4}, Mc);
-    f.click("Hjaelp");
+    f.click("help");
     EXPECT_EQ(redWays(), "1234");
-    EXPECT_EQ(redNames(), (std::set<std::string>{"Label25", "Label26", "Label27"}));
-    f.click("Command12");
+    EXPECT_EQ(redNames(), (std::set<std::string>{"diagramMarginal", "diagramTotal", "diagramAverage"}));
+    f.click("closeMcGivenHelp");
     EXPECT_EQ(redWays(), "");
     EXPECT_EQ(redNames(), std::set<std::string>{});
 }
 
 TEST_F(GtmForm, LeavesPanelsAndBoxesAsTheyAreWhileTheHelpIsOpen) {
     const FormDriver& f = openPlain();
-    f.click("Hjaelp");
-    f.click("Command4");
+    f.click("help");
+    f.click("showAvcGivenTvc");
     answer({"1", "-2", "4", "1", "-2", "4", "3", "-4", "1"});
-    EXPECT_EQ(shownPanels(), (std::set<std::string>{"Picturehlp", "PictureHlpGen"}));
-    EXPECT_EQ(shownSteps(), std::set<std::string>{"Picture2"});
-    f.click("Command3");
-    EXPECT_EQ(shownPanels(), (std::set<std::string>{"Picturehlp", "PictureHlpGen"}));
-    f.click("Hjaelp");
-    EXPECT_EQ(shownSteps(), std::set<std::string>{"Picture2"});
+    EXPECT_EQ(shownPanels(), (std::set<std::string>{"diagramHelpPanel", "avcGivenHelpPanel"}));
+    EXPECT_EQ(shownSteps(), std::set<std::string>{"avcGivenTvcStep"});
+    f.click("giveAnswer");
+    EXPECT_EQ(shownPanels(), (std::set<std::string>{"diagramHelpPanel", "avcGivenHelpPanel"}));
+    f.click("help");
+    EXPECT_EQ(shownSteps(), std::set<std::string>{"avcGivenTvcStep"});
 }
 
 TEST_F(GtmForm, KeepsTheTryItsVerdictAndItsCurvesWhenTheHelpIsClosed) {
@@ -653,43 +661,44 @@ TEST_F(GtmForm, KeepsTheTryItsVerdictAndItsCurvesWhenTheHelpIsClosed) {
     const Nine typed{"1", "-2", "4", "1", "-2", "4", "3", "-4", "1"};
     answer(typed);
     const Strokes strokes = graph().strokes();
-    f.click("Hjaelp");
-    f.click("Command4");
-    f.click("Command6");
+    f.click("help");
+    f.click("showAvcGivenTvc");
+    f.click("closeAvcGivenHelp");
     EXPECT_EQ(contents(), std::vector<std::string>(typed.begin(), typed.end()));
     EXPECT_EQ(redBoxes(), std::set<int>{9});
-    EXPECT_TRUE(f.isShown("Labelt"));
-    EXPECT_EQ(f.caption("Labelt"), "FORKERT");
+    EXPECT_TRUE(f.isShown("verdict"));
+    EXPECT_EQ(f.caption("verdict"), "FORKERT");
     EXPECT_EQ(graph().strokes(), strokes);
 }
 
 TEST_F(GtmForm, NamesTheFunctionsAndTheWaysOfItsDiagram) {
     const FormDriver& f = openPlain();
-    test::expectTexts(f, std::array{test::FixedText{"Label25", "Marginal    (MC)"},
-                                    test::FixedText{"Label26", "Total (TVC)"},
-                                    test::FixedText{"Label27", "Gennem- snit (AVC)"}});
-    expectCaptions(f.find("Picturehlp"), {"d(TVC)", "dQ", "dQ", "∫", "(MC)", "TVC", "Q", "AVC*Q"});
+    test::expectTexts(f, std::array{test::FixedText{"diagramMarginal", "Marginal    (MC)"},
+                                    test::FixedText{"diagramTotal", "Total (TVC)"},
+                                    test::FixedText{"diagramAverage", "Gennem- snit (AVC)"}});
+    expectCaptions(f.find("diagramHelpPanel"), {"d(TVC)", "dQ", "dQ", "∫", "(MC)", "TVC", "Q", "AVC*Q"});
 }
 
 TEST_F(GtmForm, ExplainsTheGeneralSolutions) {
     const FormDriver& f = openPlain();
-    expectCaptions(f.find("PictureHlpGen"),
+    expectCaptions(f.find("avcGivenHelpPanel"),
                    {"Generel løsning", "Aktuel løsning", "Gang AVC-funktionen med Q", "TVC = Q*(aQ + bQ +c)",
                     "=   aQ + bQ +cQ ", "Differentiér TVC-funktionen", "TVC = aQ + bQ +cQ",
                     "MC = d(TVC)/dQ =", "3*aQ + 2*bQ + c", "2", "2", "2", "2", "3", "3"});
     expectCaptions(
-        f.find("Picture3"),
+        f.find("tvcGivenHelpPanel"),
         {"Generel løsning", "Aktuel løsning", "Divider TVC-fuktionen med Q", "AVC = (aQ + bQ + cQ)/Q ",
          "= aQ + bQ + c", "Differentiér TVC-funktionen", "TVC = aQ + bQ + cQ",
          "MC = d(TVC)/dQ = ", "3*aQ + 2*bQ + c", "3", "3", "2", "2", "2", "2"});
-    expectCaptions(f.find("Picture6"),
+    expectCaptions(f.find("mcGivenHelpPanel"),
                    {"Generel løsning", "Aktuel løsning", "Integrér MC-funktionen", "TVC = ", "∫",
                     "(aQ + bQ + c)", "aQ + ", "bQ + cQ", "= aQ + bQ + c", "= aQ + bQ + c",
                     "Dividér TVC-funktionen med Q", "AVC = (aQ + bQ +cQ)/Q", "1", "1", "Q"});
-    for (const char* vis : {"Command4", "Command5", "Command7", "Command8", "Command10", "Command11"}) {
+    for (const char* vis : {"showAvcGivenTvc", "showAvcGivenMc", "showTvcGivenAvc", "showTvcGivenMc",
+                            "showMcGivenTvc", "showMcGivenAvc"}) {
         EXPECT_EQ(f.button(vis).caption(), "Vis") << vis;
     }
-    for (const char* close : {"Command6", "Command9", "Command12"}) {
+    for (const char* close : {"closeAvcGivenHelp", "closeTvcGivenHelp", "closeMcGivenHelp"}) {
         EXPECT_EQ(f.button(close).caption(), "&Luk") << close;
     }
 }
@@ -734,13 +743,13 @@ using Texts = std::vector<std::string>;
 TEST_F(GtmForm, SetsEachPieceWhereTheOneBeforeItEnds) {
     const DecimalMark danish(",");
     const FormDriver& f = open({1.5, -3, 8}, Avc);
-    f.click("Hjaelp");
-    f.click("Command4");
-    f.click("Command5");
-    const StepText product(f.find("Picture2"));
+    f.click("help");
+    f.click("showAvcGivenTvc");
+    f.click("showAvcGivenMc");
+    const StepText product(f.find("avcGivenTvcStep"));
     EXPECT_EQ(product.texts(), (Texts{"TVC = Q*(1,5Q -3Q +8)", "= 1,5Q -3Q +8Q"}));
     EXPECT_EQ(product.exponents.size(), 3U);
-    const StepText derivative(f.find("Picture9"));
+    const StepText derivative(f.find("avcGivenMcStep"));
     EXPECT_EQ(derivative.texts(), (Texts{"TVC = 1,5Q -3Q +8Q", "3 * 1,5Q + 2 * -3Q +8", "= 4,5Q -6Q +8"}));
     EXPECT_EQ(derivative.exponents.size(), 4U);
     for (const auto& row : product.rows) {
@@ -774,24 +783,24 @@ std::vector<double> exponentOffsets(const StepText& step) {
 
 TEST_F(GtmForm, RaisesExponentsBehindTheirQ) {
     const FormDriver& f = open({1.5, -3, 8}, Mc);
-    f.click("Hjaelp");
-    f.click("Command10");
-    f.click("Command11");
-    const StepText integral(f.find("Picture7"));
+    f.click("help");
+    f.click("showMcGivenTvc");
+    f.click("showMcGivenAvc");
+    const StepText integral(f.find("mcGivenTvcStep"));
     EXPECT_EQ(integral.exponents.size(), 5U);
     EXPECT_EQ(exponentOffsets(integral), (std::vector<double>{120, 100, 100, 120, 120}));
-    EXPECT_EQ(exponentOffsets(StepText(f.find("Picture8"))), (std::vector<double>{100, 100, 120}));
+    EXPECT_EQ(exponentOffsets(StepText(f.find("mcGivenAvcStep"))), (std::vector<double>{100, 100, 120}));
     next({1.5, -3, 8}, Tvc);
-    f.click("Hjaelp");
-    f.click("Command7");
-    EXPECT_EQ(exponentOffsets(StepText(f.find("Picture4"))), (std::vector<double>{120, 120, 120}));
+    f.click("help");
+    f.click("showTvcGivenAvc");
+    EXPECT_EQ(exponentOffsets(StepText(f.find("tvcGivenAvcStep"))), (std::vector<double>{120, 120, 120}));
 }
 
 TEST_F(GtmForm, SetsItsFractionsWithBarsIntoTheRow) {
     const FormDriver& f = open({1.5, -3, 8}, Mc);
-    f.click("Hjaelp");
-    f.click("Command10");
-    const QWidget& box = f.find("Picture7");
+    f.click("help");
+    f.click("showMcGivenTvc");
+    const QWidget& box = f.find("mcGivenTvcStep");
     const auto bars = box.findChildren<LineControl*>();
     ASSERT_EQ(bars.size(), 2);
     for (const LineControl* bar : bars) {
@@ -811,16 +820,17 @@ TEST_F(GtmForm, SetsItsFractionsWithBarsIntoTheRow) {
 
 TEST_F(GtmForm, RewritesAStepWithTheNumbersOfTheNextExercise) {
     const FormDriver& f = open({1.5, -3, 8}, Tvc);
-    f.click("Hjaelp");
-    f.click("Command7");
-    f.click("Command7");
-    EXPECT_EQ(StepText(f.find("Picture4")).texts(), (Texts{"AVC = (1.5Q -3Q +8Q)/Q", "= 1.5Q -3Q +8"}));
+    f.click("help");
+    f.click("showTvcGivenAvc");
+    f.click("showTvcGivenAvc");
+    EXPECT_EQ(StepText(f.find("tvcGivenAvcStep")).texts(),
+              (Texts{"AVC = (1.5Q -3Q +8Q)/Q", "= 1.5Q -3Q +8"}));
     next({2, 0, 5}, Tvc);
-    f.click("Hjaelp");
-    f.click("Command7");
-    f.click("Command8");
-    EXPECT_EQ(StepText(f.find("Picture4")).texts(), (Texts{"AVC = (2Q +0Q +5Q)/Q", "= 2Q +0Q +5"}));
-    EXPECT_EQ(StepText(f.find("Picture5")).texts(),
+    f.click("help");
+    f.click("showTvcGivenAvc");
+    f.click("showTvcGivenMc");
+    EXPECT_EQ(StepText(f.find("tvcGivenAvcStep")).texts(), (Texts{"AVC = (2Q +0Q +5Q)/Q", "= 2Q +0Q +5"}));
+    EXPECT_EQ(StepText(f.find("tvcGivenMcStep")).texts(),
               (Texts{"TVC = 2Q +0Q +5Q", "3 * 2Q + 2 * 0Q +5", "= 6Q +0Q +5"}));
 }
 
@@ -831,7 +841,7 @@ TEST_F(GtmForm, HasRoomForTheLongestNumbers) {
         {{4.5, -7, 9}, Avc}, {{4.5, -7, 9}, Tvc}, {{3.5, -9, 9}, Mc}};
     for (const auto& [numbers, kind] : longest) {
         next(numbers, kind);
-        f.click("Hjaelp");
+        f.click("help");
         for (const Button* button : f.page().findChildren<Button*>()) {
             if (button->caption() == "Vis" && button->isVisible()) {
                 f.click(button->objectName().toStdString());
