@@ -206,7 +206,8 @@ TEST(NamesInWords, TellTheGivenFunctionsOfAnAdditionAsAWhole) {
     for (const auto& [page, slope, intercept, kink, before, after] :
          {Row{PageName::Vaddi1, "Label2", "Label3", "", "Q ≥ 0, P ≥ 0", ""},
           {PageName::Vaddi2, "Label2", "Label3", "", "Q ≥ 0, P ≥ 0", ""},
-          {PageName::Laddi2, "Label2", "Label3", "Label4", "0 ≤ Q ≤ ", ""},
+          {PageName::Laddi2, "function1Part1Slope", "function1Part1Intercept", "function1Part1End",
+           "0 ≤ Q ≤ ", ""},
           {PageName::Vaddi3, "Label31", "Label32", "Label33", "", " < Q, P > 0"},
           {PageName::Vaddi3, "Label35", "Label36", "", "Q > 0, P > 0", ""}}) {
         SeededDraws draws(3);

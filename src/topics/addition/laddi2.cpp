@@ -45,45 +45,44 @@ void markEnds(GraphBox& box, const KinkedFunction& f) {
 
 Laddi2::Laddi2(Draws& draws) : VerticalForm(PageName::Laddi2, draws), ui_(std::make_unique<Ui::Laddi2>()) {
     setUp(*ui_);
-    graphs({.function1 = {ui_->Picture2, ui_->Picture3},
-            .function2 = {ui_->Picture1, ui_->Picture4},
-            .sum = {ui_->Picture5, ui_->Picture6}});
-    answerRows({{ui_->Text1, ui_->Text2, nullptr, ui_->Text3},
-                {ui_->Text4, ui_->Text5, ui_->Text6, ui_->Text7},
-                {ui_->Text8, ui_->Text9, ui_->Text10, ui_->Text11},
-                {ui_->Text12, ui_->Text13, ui_->Text14, ui_->Text15}});
-    helpPanel(ui_->Picture7, ui_->Vis1);
-    buttons({.newExercise = ui_->Command1,
-             .ok = ui_->Command2,
-             .giveAnswer = ui_->Command4,
-             .help = ui_->Command3});
-    verdict(TwoLabels{.right = ui_->Label40, .wrong = ui_->Label39, .darkUntilFirstTick = true});
-    enterChain({ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text4, ui_->Text5, ui_->Text6},
+    graphs({.function1 = {ui_->function1GraphFrame, ui_->function1Graph},
+            .function2 = {ui_->function2GraphFrame, ui_->function2Graph},
+            .sum = {ui_->resultGraphFrame, ui_->resultGraph}});
+    answerRows({{ui_->segment1Slope, ui_->segment1Intercept, nullptr, ui_->segment1End},
+                {ui_->segment2Slope, ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End},
+                {ui_->segment3Slope, ui_->segment3Intercept, ui_->segment3Start, ui_->segment3End},
+                {ui_->segment4Slope, ui_->segment4Intercept, ui_->segment4Start, ui_->segment4End}});
+    helpPanel(ui_->helpPanel, ui_->showIntervals);
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong, .darkUntilFirstTick = true});
+    enterChain({ui_->segment1Slope, ui_->segment1Intercept, ui_->segment1End, ui_->segment2Slope,
+                ui_->segment2Intercept, ui_->segment2Start},
                LastBox::OkOrNewExercise);
-    enterGoes(ui_->Text6, {ui_->Text7, ui_->Command2, ui_->Command1});
-    enterGoes(ui_->Text7, {ui_->Text8, ui_->Command2, ui_->Command1});
-    enterChain({ui_->Text8, ui_->Text9, ui_->Text10}, LastBox::OkOrNewExercise);
-    enterGoes(ui_->Text10, {ui_->Text11, ui_->Command2, ui_->Command1});
-    enterGoes(ui_->Text11, {ui_->Text12, ui_->Command2, ui_->Command1});
-    enterChain({ui_->Text12, ui_->Text13, ui_->Text14}, LastBox::OkOrNewExercise);
-    enterGoes(ui_->Text14, {ui_->Text15, ui_->Command2, ui_->Command1});
-    enterGoes(ui_->Text15, {ui_->Command2, ui_->Command1});
-    onClick(ui_->Vis1, &Laddi2::showIntervals);
-    onClick(ui_->Vis2, &Laddi2::showSum);
-    onClick(ui_->Luk, &Laddi2::closeHelp);
+    enterGoes(ui_->segment2Start, {ui_->segment2End, ui_->ok, ui_->newExercise});
+    enterGoes(ui_->segment2End, {ui_->segment3Slope, ui_->ok, ui_->newExercise});
+    enterChain({ui_->segment3Slope, ui_->segment3Intercept, ui_->segment3Start}, LastBox::OkOrNewExercise);
+    enterGoes(ui_->segment3Start, {ui_->segment3End, ui_->ok, ui_->newExercise});
+    enterGoes(ui_->segment3End, {ui_->segment4Slope, ui_->ok, ui_->newExercise});
+    enterChain({ui_->segment4Slope, ui_->segment4Intercept, ui_->segment4Start}, LastBox::OkOrNewExercise);
+    enterGoes(ui_->segment4Start, {ui_->segment4End, ui_->ok, ui_->newExercise});
+    enterGoes(ui_->segment4End, {ui_->ok, ui_->newExercise});
+    onClick(ui_->showIntervals, &Laddi2::showIntervals);
+    onClick(ui_->showFunctions, &Laddi2::showSum);
+    onClick(ui_->closeHelp, &Laddi2::closeHelp);
 }
 
 Laddi2::~Laddi2() = default;
 
 void Laddi2::firstTick() {
     VerticalForm::firstTick();
-    ui_->Label83->hide();
+    ui_->openingBlank->hide();
 }
 
 void Laddi2::newExercise() {
-    ui_->Picture7->hide();
-    for (Label* text :
-         {ui_->Label70, ui_->Label71, ui_->Label72, ui_->Label73, ui_->Label74, ui_->Label75, ui_->Label76}) {
+    ui_->helpPanel->hide();
+    for (Label* text : {ui_->intervalsHeading, ui_->intervalsResult, ui_->intervalsResultRest,
+                        ui_->segment1Result, ui_->segment2Result, ui_->segment3Result, ui_->segment4Result}) {
         text->setCaption("");
     }
     tavrune::newExercise(state_, draws());
@@ -95,35 +94,45 @@ void Laddi2::newExercise() {
 void Laddi2::showTask() {
     const KinkedFunction& function1 = state_.function1;
     const KinkedFunction& function2 = state_.function2;
-    fill({ui_->Label2, ui_->Label3, ui_->Label4}, function1.before, function1.kink);
-    fill({ui_->Label6, ui_->Label41, ui_->Label42}, function1.after, function1.kink);
-    fill({ui_->Label44, ui_->Label45, ui_->Label46}, function2.before, function2.kink);
-    fill({ui_->Label48, ui_->Label49, ui_->Label50}, function2.after, function2.kink);
+    fill({ui_->function1Part1Slope, ui_->function1Part1Intercept, ui_->function1Part1End}, function1.before,
+         function1.kink);
+    fill({ui_->function1Part2Slope, ui_->function1Part2Intercept, ui_->function1Part2Start}, function1.after,
+         function1.kink);
+    fill({ui_->function2Part1Slope, ui_->function2Part1Intercept, ui_->function2Part1End}, function2.before,
+         function2.kink);
+    fill({ui_->function2Part2Slope, ui_->function2Part2Intercept, ui_->function2Part2Start}, function2.after,
+         function2.kink);
     for (const auto& [before, after, f] :
-         {std::tuple{ui_->Label1, ui_->Label5, function1}, {ui_->Label43, ui_->Label47, function2}}) {
+         {std::tuple{ui_->function1Part1Text, ui_->function1Part2Text, function1},
+          {ui_->function2Part1Text, ui_->function2Part2Text, function2}}) {
         tellWhole(before, f.before, "0 ≤ Q ≤ " + NumberText(f.kink));
         tellWhole(after, f.after, NumberText(f.kink) + " < Q, P > 0");
     }
-    ui_->Label5->setCaption(secondPieceText(function1.after));
-    ui_->Label47->setCaption(secondPieceText(function2.after));
+    ui_->function1Part2Text->setCaption(secondPieceText(function1.after));
+    ui_->function2Part2Text->setCaption(secondPieceText(function2.after));
     clearGraphs();
-    drawFunction(*ui_->Picture3, function1);
-    drawFunction(*ui_->Picture4, function2);
+    drawFunction(*ui_->function1Graph, function1);
+    drawFunction(*ui_->function2Graph, function2);
 }
 
 void Laddi2::showRows() {
-    showRow(0, {ui_->Text1, ui_->Text2, ui_->Label301, ui_->Label302, ui_->Label303, ui_->Label304},
-            {ui_->Text3, ui_->Label305});
-    showRow(1,
-            {ui_->Text4, ui_->Text5, ui_->Text6, ui_->Label311, ui_->Label312, ui_->Label313, ui_->Label314},
-            {ui_->Text7, ui_->Label315});
-    showRow(2,
-            {ui_->Text8, ui_->Text9, ui_->Text10, ui_->Label321, ui_->Label322, ui_->Label323, ui_->Label324},
-            {ui_->Text11, ui_->Label325});
     showRow(
-        3,
-        {ui_->Text12, ui_->Text13, ui_->Text14, ui_->Label331, ui_->Label332, ui_->Label333, ui_->Label334},
-        {ui_->Text15, ui_->Label335});
+        0,
+        {ui_->segment1Slope, ui_->segment1Intercept, ui_->segment1PriceEquals, ui_->segment1TimesQuantityPlus,
+         ui_->segment1ZeroLessThanQuantity, ui_->segment1StartLessOrEqual},
+        {ui_->segment1End, ui_->segment1EndLessOrEqual});
+    showRow(1,
+            {ui_->segment2Slope, ui_->segment2Intercept, ui_->segment2Start, ui_->segment2PriceEquals,
+             ui_->segment2TimesQuantityPlus, ui_->segment2ValidFor, ui_->segment2LessThanQuantity},
+            {ui_->segment2End, ui_->segment2EndLessOrEqual});
+    showRow(2,
+            {ui_->segment3Slope, ui_->segment3Intercept, ui_->segment3Start, ui_->segment3PriceEquals,
+             ui_->segment3TimesQuantityPlus, ui_->segment3ValidFor, ui_->segment3LessThanQuantity},
+            {ui_->segment3End, ui_->segment3EndLessOrEqual});
+    showRow(3,
+            {ui_->segment4Slope, ui_->segment4Intercept, ui_->segment4Start, ui_->segment4PriceEquals,
+             ui_->segment4TimesQuantityPlus, ui_->segment4ValidFor, ui_->segment4LessThanQuantity},
+            {ui_->segment4End, ui_->segment4EndLessOrEqual});
 }
 
 /// A row is shown if it holds a segment; its end if the segment gives way to another, or its end is asked
@@ -137,33 +146,33 @@ void Laddi2::showRow(int row, std::initializer_list<QWidget*> controls, std::ini
 }
 
 void Laddi2::showIntervals() {
-    focusOn(ui_->Vis2);
-    markEnds(*ui_->Picture3, state_.function1);
-    markEnds(*ui_->Picture4, state_.function2);
+    focusOn(ui_->showFunctions);
+    markEnds(*ui_->function1Graph, state_.function1);
+    markEnds(*ui_->function2Graph, state_.function2);
     // The one at which a function never ends falls beside the box.
     std::vector<double> ends = state_.breakPoints;
     if (state_.sum.upperEndAsked) {
         ends.push_back(state_.sum.upperEnd);
     }
-    drawUprights(*ui_->Picture3, ends);
-    drawUprights(*ui_->Picture4, ends);
-    ui_->Label70->setCaption(intervalsHeading(state_.sum));
+    drawUprights(*ui_->function1Graph, ends);
+    drawUprights(*ui_->function2Graph, ends);
+    ui_->intervalsHeading->setCaption(intervalsHeading(state_.sum));
     const auto [first, second] = intervalsTexts(state_.sum);
-    ui_->Label71->setCaption(first);
-    ui_->Label72->setCaption(second);
+    ui_->intervalsResult->setCaption(first);
+    ui_->intervalsResultRest->setCaption(second);
 }
 
 void Laddi2::showSum() {
     showIntervals();
-    focusOn(ui_->Luk);
-    Label* const lines[]{ui_->Label73, ui_->Label74, ui_->Label75, ui_->Label76};
+    focusOn(ui_->closeHelp);
+    Label* const lines[]{ui_->segment1Result, ui_->segment2Result, ui_->segment3Result, ui_->segment4Result};
     for (std::size_t segment = 0; segment <= state_.sum.last(); ++segment) {
         lines[segment]->setCaption(segmentText(state_, segment));
     }
 }
 
 void Laddi2::closeHelp() {
-    ui_->Picture7->hide();
+    ui_->helpPanel->hide();
     focusOnFirstRow();
 }
 

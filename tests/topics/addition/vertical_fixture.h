@@ -55,14 +55,14 @@ protected:
 
     void nextExercise(const Function& function1, const Function& function2) {
         draws.append(scriptOf(function1, function2));
-        form->click("Command1");
+        form->click("newExercise");
     }
 
     void fill(const Typed& typed) const { form->fill(typed); }
 
     void answer(const Typed& typed) const {
         fill(typed);
-        form->click("Command2");
+        form->click("ok");
     }
 
     [[nodiscard]] const Strokes& strokes(const std::string& box) const {
