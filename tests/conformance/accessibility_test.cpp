@@ -204,7 +204,7 @@ TEST(NamesInWords, TellTheGivenFunctionsOfAnAdditionAsAWhole) {
         const char* after;
     };
     for (const auto& [page, slope, intercept, kink, before, after] :
-         {Row{PageName::Vaddi1, "Label2", "Label3", "", "Q ≥ 0, P ≥ 0", ""},
+         {Row{PageName::Vaddi1, "function1Slope", "function1Intercept", "", "Q ≥ 0, P ≥ 0", ""},
           {PageName::Vaddi2, "Label2", "Label3", "", "Q ≥ 0, P ≥ 0", ""},
           {PageName::Laddi2, "function1Part1Slope", "function1Part1Intercept", "function1Part1End",
            "0 ≤ Q ≤ ", ""},

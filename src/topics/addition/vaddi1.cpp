@@ -20,57 +20,59 @@ constexpr double kLastSumQ = 20;
 Vaddi1::Vaddi1(Draws& draws)
     : ExerciseForm(PageName::Vaddi1, draws), ui_(std::make_unique<Ui::Vaddi1>()), rows_({}) {
     setUp(*ui_);
-    rows_ = AnswerRows(
-        {{ui_->Text4, ui_->Text5, nullptr, ui_->Text6}, {ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text20}});
-    columnP_ = {ui_->Text7, ui_->Text8, ui_->Text9};
-    columnQ1_ = {ui_->Text10, ui_->Text11, ui_->Text12};
-    columnQ2_ = {ui_->Text13, ui_->Text14, ui_->Text15};
-    columnQtotal_ = {ui_->Text16, ui_->Text17, ui_->Text18};
-    ui_->Label40->standOver({ui_->Text7, ui_->Text10, ui_->Text13, ui_->Text16});
-    buttons({.newExercise = ui_->Command1,
-             .ok = ui_->Command2,
-             .giveAnswer = ui_->Command4,
-             .help = ui_->Command3});
-    verdict(TwoLabels{.right = ui_->Label42, .wrong = ui_->Label41, .darkUntilFirstTick = true});
-    enterChain({ui_->Text7, ui_->Text10, ui_->Text13, ui_->Text16, ui_->Text8, ui_->Text11, ui_->Text14,
-                ui_->Text17, ui_->Text9, ui_->Text12, ui_->Text15, ui_->Text18},
+    rows_ = AnswerRows({{ui_->segment1Slope, ui_->segment1Intercept, nullptr, ui_->segment1End},
+                        {ui_->segment2Slope, ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End}});
+    columnP_ = {ui_->price1, ui_->price2, ui_->price3};
+    columnQ1_ = {ui_->function1Quantity1, ui_->function1Quantity2, ui_->function1Quantity3};
+    columnQ2_ = {ui_->function2Quantity1, ui_->function2Quantity2, ui_->function2Quantity3};
+    columnQtotal_ = {ui_->totalQuantity1, ui_->totalQuantity2, ui_->totalQuantity3};
+    ui_->tableHead->standOver(
+        {ui_->price1, ui_->function1Quantity1, ui_->function2Quantity1, ui_->totalQuantity1});
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong, .darkUntilFirstTick = true});
+    enterChain({ui_->price1, ui_->function1Quantity1, ui_->function2Quantity1, ui_->totalQuantity1,
+                ui_->price2, ui_->function1Quantity2, ui_->function2Quantity2, ui_->totalQuantity2,
+                ui_->price3, ui_->function1Quantity3, ui_->function2Quantity3, ui_->totalQuantity3},
                LastBox::OkOrStay);
-    enterGoes(ui_->Text18, {ui_->Text4, ui_->Text1});
-    enterChain({ui_->Text4, ui_->Text5, ui_->Text6, ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text20},
+    enterGoes(ui_->totalQuantity3, {ui_->segment1Slope, ui_->segment2Slope});
+    enterChain({ui_->segment1Slope, ui_->segment1Intercept, ui_->segment1End, ui_->segment2Slope,
+                ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End},
                LastBox::OkOrNewExercise);
-    enterGoes(ui_->Text3, {ui_->Text20, ui_->Command2, ui_->Command1});
-    onClick(ui_->Vis1, &Vaddi1::showPrices);
-    onClick(ui_->Vis2, &Vaddi1::showQuantities);
-    onClick(ui_->Vis3, &Vaddi1::showSum);
-    onClick(ui_->Command5, &Vaddi1::closeHelp);
+    enterGoes(ui_->segment2Start, {ui_->segment2End, ui_->ok, ui_->newExercise});
+    onClick(ui_->showPrices, &Vaddi1::showPrices);
+    onClick(ui_->showQuantities, &Vaddi1::showQuantities);
+    onClick(ui_->showSum, &Vaddi1::showSum);
+    onClick(ui_->closeHelp, &Vaddi1::closeHelp);
 }
 
 Vaddi1::~Vaddi1() = default;
 
 void Vaddi1::firstTick() {
     newExercise();
-    ui_->Label30->hide();
+    ui_->openingBlank->hide();
     giveFinalWrongColour();
 }
 
 void Vaddi1::newExercise() {
-    ui_->Label23->setCaption("");
-    ui_->Picture3->hide();
+    ui_->quantitiesResult->setCaption("");
+    ui_->helpPanel->hide();
     drawTask(state_, draws());
     showRows();
     showTask();
     drawGraphs();
-    focusOn(ui_->Text7);
+    focusOn(ui_->price1);
     solve(state_);
 }
 
 void Vaddi1::showRows() {
     const bool isOne = isOneSegment(state_);
-    setShown(!isOne, {ui_->Label35, ui_->Label36, ui_->Label37, ui_->Label9_0, ui_->Text4, ui_->Text5,
-                      ui_->Text6, ui_->Label11});
+    setShown(!isOne, {ui_->segment1PriceEquals, ui_->segment1TimesQuantityPlus,
+                      ui_->segment1ZeroLessThanQuantity, ui_->segment1EndLessOrEqual, ui_->segment1Slope,
+                      ui_->segment1Intercept, ui_->segment1End, ui_->segment1StartLessOrEqual});
     // A lone segment begins at its start, a second one after it.
-    ui_->Label13->setVisible(isOne);
-    setShown(hasUpperEnd(state_), {ui_->Text20, ui_->Label9_1});
+    ui_->segment2StartLessOrEqual->setVisible(isOne);
+    setShown(hasUpperEnd(state_), {ui_->segment2End, ui_->segment2EndLessOrEqual});
     rows_.nameShownBoxes();
 }
 
@@ -80,25 +82,26 @@ void Vaddi1::showTask() {
         blankColumn(column);
     }
     showAsking();
-    ui_->Label2->setCaption(NumberText(state_.slope1));
-    ui_->Label3->setCaption(NumberText(state_.intercept1));
-    ui_->Label5->setCaption(NumberText(state_.slope2));
-    ui_->Label6->setCaption(NumberText(state_.intercept2));
+    ui_->function1Slope->setCaption(NumberText(state_.slope1));
+    ui_->function1Intercept->setCaption(NumberText(state_.intercept1));
+    ui_->function2Slope->setCaption(NumberText(state_.slope2));
+    ui_->function2Intercept->setCaption(NumberText(state_.intercept2));
     for (const auto& [whole, slope, intercept] :
-         {std::array{ui_->Label1, ui_->Label2, ui_->Label3}, {ui_->Label4, ui_->Label5, ui_->Label6}}) {
+         {std::array{ui_->function1Text, ui_->function1Slope, ui_->function1Intercept},
+          {ui_->function2Text, ui_->function2Slope, ui_->function2Intercept}}) {
         whole->setAccessibleName(wholeFunction(slope->caption(), intercept->caption(), "Q ≥ 0, P ≥ 0"));
     }
 }
 
 void Vaddi1::drawGraphs() {
-    for (GraphBox* box : {ui_->Picture5, ui_->Picture4, ui_->Picture7}) {
+    for (GraphBox* box : {ui_->function2Graph, ui_->function1Graph, ui_->resultGraph}) {
         box->Cls();
     }
-    drawFrameTicks(*ui_->Picture1);
-    drawFrameTicks(*ui_->Picture2);
-    drawWideFrameTicks(*ui_->Picture6);
-    drawPiece(*ui_->Picture4, kTop, state_.function1(), 0, kLastQ);
-    drawPiece(*ui_->Picture5, kTop, state_.function2(), 0, kLastQ);
+    drawFrameTicks(*ui_->function1GraphFrame);
+    drawFrameTicks(*ui_->function2GraphFrame);
+    drawWideFrameTicks(*ui_->resultGraphFrame);
+    drawPiece(*ui_->function1Graph, kTop, state_.function1(), 0, kLastQ);
+    drawPiece(*ui_->function2Graph, kTop, state_.function2(), 0, kLastQ);
 }
 
 void Vaddi1::judge() {
@@ -112,11 +115,11 @@ void Vaddi1::judge() {
     }
     failed();
     rows_.mark(fields);
-    focusOn(ui_->Text4->isShown() ? ui_->Text4 : ui_->Text1);
+    focusOn(ui_->segment1Slope->isShown() ? ui_->segment1Slope : ui_->segment2Slope);
 }
 
 void Vaddi1::drawSum() {
-    GraphBox& box = *ui_->Picture7;
+    GraphBox& box = *ui_->resultGraph;
     if (state_.segmentCount == 2) {
         drawPiece(box, kTop, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
         drawPiece(box, kTop, state_.secondSegment(), state_.kinkQuantity, kLastSumQ, kSumGreen);
@@ -126,7 +129,7 @@ void Vaddi1::drawSum() {
 }
 
 void Vaddi1::giveAnswer() {
-    ui_->Picture3->hide();
+    ui_->helpPanel->hide();
     drawTypedSum();
     for (const auto& [column, cells] : {std::pair{columnP_, state_.tableP},
                                         {columnQ1_, state_.tableQ1},
@@ -139,7 +142,7 @@ void Vaddi1::giveAnswer() {
 }
 
 void Vaddi1::drawTypedSum() {
-    GraphBox& box = *ui_->Picture7;
+    GraphBox& box = *ui_->resultGraph;
     // Kept: with one segment too, from what stands in the hidden row.
     drawPiece(box, kTop, rows_.typedSegment(0), 0, rows_.typed(0, Slot::End), kRed);
     const double end = state_.upperEndAsked ? rows_.typed(1, Slot::End) : kLastSumQ;
@@ -158,17 +161,17 @@ void Vaddi1::fillAnswer() {
     rows_.write(1, Slot::End, state_.upperEnd);
     rows_.whiten();
     // Kept: always as two segments, of which the first collapses to a dot with one.
-    drawPiece(*ui_->Picture7, kTop, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
-    drawPiece(*ui_->Picture7, kTop, state_.secondSegment(), state_.kinkQuantity, kLastSumQ, kSumGreen);
+    drawPiece(*ui_->resultGraph, kTop, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
+    drawPiece(*ui_->resultGraph, kTop, state_.secondSegment(), state_.kinkQuantity, kLastSumQ, kSumGreen);
 }
 
-void Vaddi1::help() { openPanel(ui_->Picture3, ui_->Vis1); }
+void Vaddi1::help() { openPanel(ui_->helpPanel, ui_->showPrices); }
 
 void Vaddi1::showPrices() {
     writeColumn(columnP_, state_.tableP);
-    markEnds(*ui_->Picture4, state_.tableQ1);
-    markEnds(*ui_->Picture5, state_.tableQ2);
-    focusOn(ui_->Vis2);
+    markEnds(*ui_->function1Graph, state_.tableQ1);
+    markEnds(*ui_->function2Graph, state_.tableQ2);
+    focusOn(ui_->showQuantities);
 }
 
 void Vaddi1::markEnds(GraphBox& box, const Vaddi1State::Column& quantities) {
@@ -186,24 +189,25 @@ void Vaddi1::showQuantities() {
     showPrices();
     for (const std::size_t row : {std::size_t{1}, std::size_t{2}}) {
         if (state_.tableQ1[row].isNumeric()) {
-            drawBand(*ui_->Picture4, 0, state_.tableQ1[row].number(), state_.tableP[row].number(), kBlue);
+            drawBand(*ui_->function1Graph, 0, state_.tableQ1[row].number(), state_.tableP[row].number(),
+                     kBlue);
         }
         if (state_.tableQ2[row].isNumeric()) {
-            drawBand(*ui_->Picture5, 0, state_.tableQ2[row].number(), state_.tableP[row].number(),
+            drawBand(*ui_->function2Graph, 0, state_.tableQ2[row].number(), state_.tableP[row].number(),
                      kBandGreen);
         }
     }
     writeColumn(columnQ1_, state_.tableQ1);
     writeColumn(columnQ2_, state_.tableQ2);
     writeColumn(columnQtotal_, state_.tableQtotal);
-    ui_->Label23->setCaption(pathText(state_));
-    focusOn(ui_->Vis3);
+    ui_->quantitiesResult->setCaption(pathText(state_));
+    focusOn(ui_->showSum);
 }
 
 void Vaddi1::showSum() {
     showQuantities();
-    ui_->Command2->hide();
-    focusOn(ui_->Command5);
+    ui_->ok->hide();
+    focusOn(ui_->closeHelp);
     drawStack(1);
     // Kept: a blank price is not 10 either, and fails.
     if (state_.tableP[2] != TableCell(kTop)) {
@@ -213,7 +217,7 @@ void Vaddi1::showSum() {
 }
 
 void Vaddi1::drawStack(std::size_t row) {
-    GraphBox& box = *ui_->Picture7;
+    GraphBox& box = *ui_->resultGraph;
     const double price = state_.tableP[row].number();
     const TableCell& first = state_.tableQ1[row];
     const TableCell& second = state_.tableQ2[row];
@@ -229,8 +233,8 @@ void Vaddi1::drawStack(std::size_t row) {
 }
 
 void Vaddi1::closeHelp() {
-    ui_->Picture3->hide();
-    focusOn(ui_->Text7);
+    ui_->helpPanel->hide();
+    focusOn(ui_->price1);
 }
 
 }  // namespace tavrune

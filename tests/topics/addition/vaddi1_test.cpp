@@ -45,14 +45,18 @@ const QColor kSum(0, 190, 0);
 const QColor kFirstBand(0, 0, 255);
 const QColor kSecondBand(0, 255, 0);
 
-const std::vector<std::string> kTableBoxes{"Text7",  "Text10", "Text13", "Text16", "Text8",  "Text11",
-                                           "Text14", "Text17", "Text9",  "Text12", "Text15", "Text18"};
+const std::vector<std::string> kTableBoxes{
+    "price1", "function1Quantity1", "function2Quantity1", "totalQuantity1",
+    "price2", "function1Quantity2", "function2Quantity2", "totalQuantity2",
+    "price3", "function1Quantity3", "function2Quantity3", "totalQuantity3"};
 using Column = std::array<const char*, 3>;
-constexpr Column kPrices{"Text7", "Text8", "Text9"};
-constexpr Column kQuantities1{"Text10", "Text11", "Text12"};
-constexpr Column kQuantities2{"Text13", "Text14", "Text15"};
-constexpr Column kTotals{"Text16", "Text17", "Text18"};
-const std::vector<std::string> kAnswerBoxes{"Text4", "Text5", "Text6", "Text1", "Text2", "Text3", "Text20"};
+constexpr Column kPrices{"price1", "price2", "price3"};
+constexpr Column kQuantities1{"function1Quantity1", "function1Quantity2", "function1Quantity3"};
+constexpr Column kQuantities2{"function2Quantity1", "function2Quantity2", "function2Quantity3"};
+constexpr Column kTotals{"totalQuantity1", "totalQuantity2", "totalQuantity3"};
+const std::vector<std::string> kAnswerBoxes{"segment1Slope", "segment1Intercept", "segment1End",
+                                            "segment2Slope", "segment2Intercept", "segment2Start",
+                                            "segment2End"};
 
 /// `count` upright strokes from `left` on.
 Strokes mark(double left, double price, int count) {
@@ -96,7 +100,7 @@ protected:
 
     void next(const Task& task) {
         draws.append(scriptOf(task));
-        form->click("Command1");
+        form->click("newExercise");
     }
 
     [[nodiscard]] const GraphBox& box(const std::string& name) const { return form->find<GraphBox>(name); }
@@ -104,7 +108,7 @@ protected:
     /// What stands on the box of a function after the function itself.
     [[nodiscard]] Strokes later(const std::string& name) const { return test::strokesFrom(box(name), 1); }
 
-    [[nodiscard]] const Strokes& result() const { return box("Picture7").strokes(); }
+    [[nodiscard]] const Strokes& result() const { return box("resultGraph").strokes(); }
 
     [[nodiscard]] std::string textOf(const std::string& name) const { return form->box(name).content(); }
 
@@ -125,7 +129,7 @@ protected:
 
     void answer(const std::vector<std::string>& texts) const {
         type(texts);
-        form->click("Command2");
+        form->click("ok");
     }
 
     /// Types the form's own answer, key by key, into the boxes that are shown.
@@ -161,55 +165,56 @@ const Strokes kRisingSum{kResult.line(0, 9, 2.5, 4, kSum),
 TEST_F(Vaddi1Form, StartsWithoutAnswerAndWithItsEmptyLabels) {
     const FormDriver unshown = FormDriver::unshown(PageName::Vaddi1, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Vandret addition - Niveau 1");
-    for (const char* hidden : {"Command4", "Label41", "Label42", "Picture3"}) {
+    for (const char* hidden : {"giveAnswer", "wrong", "right", "helpPanel"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
-    for (const char* empty : {"Label2", "Label3", "Label5", "Label6", "Label23", "Label30", "Label43"}) {
+    for (const char* empty : {"function1Slope", "function1Intercept", "function2Slope", "function2Intercept",
+                              "quantitiesResult", "openingBlank", "spareBlank"}) {
         EXPECT_EQ(unshown.caption(empty), "") << empty;
     }
-    EXPECT_TRUE(unshown.isShown("Label30"));
-    EXPECT_EQ(unshown.label("Label41").backColour(), QColor(192, 0, 0));
+    EXPECT_TRUE(unshown.isShown("openingBlank"));
+    EXPECT_EQ(unshown.label("wrong").backColour(), QColor(192, 0, 0));
 }
 
 TEST_F(Vaddi1Form, HidesTheOneEmptyLabelAndFinishesTheRedOfForkertAtItsFirstTick) {
     const FormDriver& f = open(kFalling);
-    EXPECT_FALSE(f.isShown("Label30"));
-    EXPECT_TRUE(f.isShown("Label43"));
-    EXPECT_EQ(f.label("Label41").backColour(), kRed);
-    EXPECT_EQ(f.label("Label42").backColour(), QColor(0, 128, 0));
+    EXPECT_FALSE(f.isShown("openingBlank"));
+    EXPECT_TRUE(f.isShown("spareBlank"));
+    EXPECT_EQ(f.label("wrong").backColour(), kRed);
+    EXPECT_EQ(f.label("right").backColour(), QColor(0, 128, 0));
 }
 
 TEST_F(Vaddi1Form, BearsItsFixedTexts) {
     const FormDriver& f = open(kFalling);
     constexpr test::FixedText kTexts[]{
-        {"Label1", "P=    Q +     for Q  0, P  0"},
-        {"Label4", "P=    Q +     for Q  0, P  0"},
-        {"Label9_0", "<"},
-        {"Label9_1", "<"},
-        {"Label9_2", ">"},
-        {"Label9_3", ">"},
-        {"Label9_4", ">"},
-        {"Label9_5", ">"},
-        {"Label11", "<"},
-        {"Label13", "<"},
-        {"Label40", "   P             Q1           Q2         Qtotal"},
-        {"Label39",
+        {"function1Text", "P=    Q +     for Q  0, P  0"},
+        {"function2Text", "P=    Q +     for Q  0, P  0"},
+        {"segment1EndLessOrEqual", "<"},
+        {"segment2EndLessOrEqual", "<"},
+        {"function1QuantityAtLeast", ">"},
+        {"function1PriceAtLeast", ">"},
+        {"function2QuantityAtLeast", ">"},
+        {"function2PriceAtLeast", ">"},
+        {"segment1StartLessOrEqual", "<"},
+        {"segment2StartLessOrEqual", "<"},
+        {"tableHead", "   P             Q1           Q2         Qtotal"},
+        {"task",
          "Adder de ovenstående linier vandret og indtast de nye forskrifter i felterne nederst. Brug evt. "
          "hjælpeskemaet øverst til højre."},
-        {"Label35", "P="},
-        {"Label36", "Q +"},
-        {"Label37", "for         0<Q"},
-        {"Label31", "P="},
-        {"Label32", "Q +"},
-        {"Label33", "for"},
-        {"Label34", "<Q"},
-        {"Label27", "1)"},
-        {"Label26", "2)"},
-        {"Label29", "3)"},
-        {"Vis1", "Vis"},
-        {"Vis2", "Vis"},
-        {"Vis3", "Vis"},
-        {"Command5", "&Luk"},
+        {"segment1PriceEquals", "P="},
+        {"segment1TimesQuantityPlus", "Q +"},
+        {"segment1ZeroLessThanQuantity", "for         0<Q"},
+        {"segment2PriceEquals", "P="},
+        {"segment2TimesQuantityPlus", "Q +"},
+        {"segment2ValidFor", "for"},
+        {"segment2LessThanQuantity", "<Q"},
+        {"pricesStepNumber", "1)"},
+        {"quantitiesStepNumber", "2)"},
+        {"sumStepNumber", "3)"},
+        {"showPrices", "Vis"},
+        {"showQuantities", "Vis"},
+        {"showSum", "Vis"},
+        {"closeHelp", "&Luk"},
     };
     test::expectTexts(f, kTexts);
 }
@@ -217,61 +222,63 @@ TEST_F(Vaddi1Form, BearsItsFixedTexts) {
 TEST_F(Vaddi1Form, TellsTheMethodInThreeSteps) {
     const FormDriver& f = open(kFalling);
     const auto sentences = [&f](const char* name) { return f.label(name).text().simplified().toStdString(); };
-    EXPECT_EQ(sentences("Label24"),
+    EXPECT_EQ(sentences("pricesStepText"),
               "Bestem P-værdierne til de opgivne funktioners endepunkter vha. definitionsmængderne og indsæt "
               "dem i hjælpeskemaet efter størrelse. Hvis funktionerne er voksende, indsættes for nemheds "
               "skyld 10 som nederste værdi i hjælpeskemaet, ellers indsættes 0. Hvis der er en vandret linie "
               "indsættes dennes P-værdi to gange.");
-    EXPECT_EQ(sentences("Label25"),
+    EXPECT_EQ(sentences("quantitiesStepText"),
               "Bestem for hver P-værdi de tilsvarende Q-værdier for hver funktion, indsæt dem i "
               "hjælpeskemaet under \"Q1\" og \"Q2\" og addér dem i \"Qtotal\". Hvis der er en vandret linie, "
               "indsættes 0 som første Q-værdi og uendeligt (oo) som anden.");
-    EXPECT_EQ(sentences("Label28"),
+    EXPECT_EQ(sentences("sumStepText"),
               "Beregn den eller de resulterende funktioner ved at beregne forskrifterne for linierne mellem "
               "de samhørende Qtotal- og P-værdier.");
 }
 
 TEST_F(Vaddi1Form, BeginsEachSentenceOfItsStepsOnALineOfItsOwn) {
     const FormDriver& f = open(kFalling);
-    for (const auto& [step, sentence] : {std::pair{"Label24", "Bestem P-værdierne"},
-                                         {"Label24", "Hvis funktionerne er voksende"},
-                                         {"Label24", "Hvis der er en vandret linie"},
-                                         {"Label25", "Bestem for hver P-værdi"},
-                                         {"Label25", "Hvis der er en vandret linie"},
-                                         {"Label28", "Beregn den eller de"}}) {
+    for (const auto& [step, sentence] : {std::pair{"pricesStepText", "Bestem P-værdierne"},
+                                         {"pricesStepText", "Hvis funktionerne er voksende"},
+                                         {"pricesStepText", "Hvis der er en vandret linie"},
+                                         {"quantitiesStepText", "Bestem for hver P-værdi"},
+                                         {"quantitiesStepText", "Hvis der er en vandret linie"},
+                                         {"sumStepText", "Beregn den eller de"}}) {
         EXPECT_TRUE(test::hasALineThatBegins(f.label(step), sentence)) << sentence;
     }
 }
 
 TEST_F(Vaddi1Form, StandsAtItsPlacesToTheUnit) {
     const FormDriver& f = open(kFalling);
-    for (const char* ofTheGivenFunctions : {"Label1", "Label2", "Label3", "Label4", "Label5", "Label6",
-                                            "Label9_2", "Label9_3", "Label9_4", "Label9_5"}) {
+    for (const char* ofTheGivenFunctions :
+         {"function1Text", "function1Slope", "function1Intercept", "function2Text", "function2Slope",
+          "function2Intercept", "function1QuantityAtLeast", "function1PriceAtLeast",
+          "function2QuantityAtLeast", "function2PriceAtLeast"}) {
         EXPECT_EQ(f.label(ofTheGivenFunctions).place().top(), 176) << ofTheGivenFunctions;
     }
-    EXPECT_EQ(f.label("Label1").place().left(), 29);
-    EXPECT_EQ(f.label("Label4").place().left(), 227);
-    for (const auto& [box, left, top] : {std::tuple{"Text4", 24, 272},
-                                         {"Text5", 80, 272},
-                                         {"Text6", 184, 272},
-                                         {"Text1", 24, 296},
-                                         {"Text2", 80, 296},
-                                         {"Text3", 128, 296},
-                                         {"Text20", 184, 296}}) {
+    EXPECT_EQ(f.label("function1Text").place().left(), 29);
+    EXPECT_EQ(f.label("function2Text").place().left(), 227);
+    for (const auto& [box, left, top] : {std::tuple{"segment1Slope", 24, 272},
+                                         {"segment1Intercept", 80, 272},
+                                         {"segment1End", 184, 272},
+                                         {"segment2Slope", 24, 296},
+                                         {"segment2Intercept", 80, 296},
+                                         {"segment2Start", 128, 296},
+                                         {"segment2End", 184, 296}}) {
         EXPECT_EQ(f.box(box).place().topLeft(), QPointF(left, top)) << box;
     }
-    const auto& panel = f.find<Panel>("Picture3");
+    const auto& panel = f.find<Panel>("helpPanel");
     EXPECT_EQ(panel.Control::place(), QRectF(224, 192, 409, 217));
-    EXPECT_EQ(f.label("Label23").place().topLeft(), QPointF(16, 184));
+    EXPECT_EQ(f.label("quantitiesResult").place().topLeft(), QPointF(16, 184));
 }
 
 TEST_F(Vaddi1Form, NumbersTheAxesInSteps) {
     const FormDriver& f = open(kFalling);
     const std::multiset<std::string> given{"0", "2", "4", "6", "8",  "10", "0",
                                            "2", "4", "6", "8", "10", "P",  "Q"};
-    EXPECT_EQ(test::axisTexts(f, "Picture1"), given);
-    EXPECT_EQ(test::axisTexts(f, "Picture2"), given);
-    EXPECT_EQ(test::axisTexts(f, "Picture6"),
+    EXPECT_EQ(test::axisTexts(f, "function1GraphFrame"), given);
+    EXPECT_EQ(test::axisTexts(f, "function2GraphFrame"), given);
+    EXPECT_EQ(test::axisTexts(f, "resultGraphFrame"),
               (std::multiset<std::string>{"0", "2",  "4",  "6",  "8",  "10", "0",  "2", "4", "6",
                                           "8", "10", "12", "14", "16", "18", "20", "P", "Q", "Resultat"}));
 }
@@ -291,33 +298,33 @@ TEST_F(Vaddi1Form, LaysItsAxesOverTheTicksOfItsFrames) {
         EXPECT_NEAR(a.right(), b.right(), 0.05);
         EXPECT_NEAR(a.bottom(), b.bottom(), 0.05);
     };
-    expectNear(corners("Picture1", "Picture4"), QRectF(1, 0.2, 8, 8));
-    expectNear(corners("Picture2", "Picture5"), QRectF(1, 0.2, 8, 8));
-    expectNear(corners("Picture6", "Picture7"), QRectF(1, 1, 18, 8));
+    expectNear(corners("function1GraphFrame", "function1Graph"), QRectF(1, 0.2, 8, 8));
+    expectNear(corners("function2GraphFrame", "function2Graph"), QRectF(1, 0.2, 8, 8));
+    expectNear(corners("resultGraphFrame", "resultGraph"), QRectF(1, 1, 18, 8));
 }
 
 TEST_F(Vaddi1Form, AsksWithBlankWhiteBoxesAndTheFocusInTheTable) {
     const DecimalMark danish(",");
     const FormDriver& f = open(kFalling);
-    EXPECT_EQ(f.caption("Label2"), "-4");
-    EXPECT_EQ(f.caption("Label3"), "8");
-    EXPECT_EQ(f.caption("Label5"), "-3");
-    EXPECT_EQ(f.caption("Label6"), "10");
+    EXPECT_EQ(f.caption("function1Slope"), "-4");
+    EXPECT_EQ(f.caption("function1Intercept"), "8");
+    EXPECT_EQ(f.caption("function2Slope"), "-3");
+    EXPECT_EQ(f.caption("function2Intercept"), "10");
     for (const AnswerBox* each : f.page().findChildren<AnswerBox*>()) {
         EXPECT_EQ(each->content(), " ");
         EXPECT_EQ(each->backColour(), kWhite);
     }
-    EXPECT_EQ(f.focus(), "Text7");
+    EXPECT_EQ(f.focus(), "price1");
     next(kFirstThenLevel);
-    EXPECT_EQ(f.caption("Label2"), "4");
-    EXPECT_EQ(f.caption("Label3"), "0");
-    EXPECT_EQ(f.caption("Label5"), "0");
-    EXPECT_EQ(f.caption("Label6"), "7");
+    EXPECT_EQ(f.caption("function1Slope"), "4");
+    EXPECT_EQ(f.caption("function1Intercept"), "0");
+    EXPECT_EQ(f.caption("function2Slope"), "0");
+    EXPECT_EQ(f.caption("function2Intercept"), "7");
 }
 
 TEST_F(Vaddi1Form, WritesALevelFallingLineWithoutAMinus) {
     const FormDriver& f = open(kLevelFirst);
-    EXPECT_EQ(f.caption("Label2"), "0");
+    EXPECT_EQ(f.caption("function1Slope"), "0");
 }
 
 struct RowsRow {
@@ -333,14 +340,17 @@ TEST_P(Vaddi1Rows, AreShownByTheSegmentsAndTheDirection) {
     const RowsRow& row = GetParam();
     const FormDriver& f = open(row.hasFirstRow ? kLevelSecond : kFalling);
     next(row.task);
-    for (const char* name :
-         {"Label35", "Label36", "Label37", "Label9_0", "Text4", "Text5", "Text6", "Label11"}) {
+    for (const char* name : {"segment1PriceEquals", "segment1TimesQuantityPlus",
+                             "segment1ZeroLessThanQuantity", "segment1EndLessOrEqual", "segment1Slope",
+                             "segment1Intercept", "segment1End", "segment1StartLessOrEqual"}) {
         EXPECT_EQ(f.isShown(name), row.hasFirstRow) << name;
     }
-    EXPECT_EQ(f.isShown("Label13"), !row.hasFirstRow);
-    EXPECT_EQ(f.isShown("Text20"), row.hasUpperEnd);
-    EXPECT_EQ(f.isShown("Label9_1"), row.hasUpperEnd);
-    for (const char* name : {"Label31", "Label32", "Label33", "Label34", "Text1", "Text2", "Text3"}) {
+    EXPECT_EQ(f.isShown("segment2StartLessOrEqual"), !row.hasFirstRow);
+    EXPECT_EQ(f.isShown("segment2End"), row.hasUpperEnd);
+    EXPECT_EQ(f.isShown("segment2EndLessOrEqual"), row.hasUpperEnd);
+    for (const char* name :
+         {"segment2PriceEquals", "segment2TimesQuantityPlus", "segment2ValidFor", "segment2LessThanQuantity",
+          "segment2Slope", "segment2Intercept", "segment2Start"}) {
         EXPECT_TRUE(f.isShown(name)) << name;
     }
 }
@@ -373,7 +383,7 @@ TEST_F(Vaddi1Form, TicksItsFramesOnceHoweverManyExercisesThereAre) {
         }
         return ticks;
     };
-    const test::StrokesIn wide{box("Picture6").scale()};
+    const test::StrokesIn wide{box("resultGraphFrame").scale()};
     Strokes result;
     for (int i = 0; i <= 10; ++i) {
         result.push_back(wide.line(0.8, 1 + 0.8 * i, 1, 1 + 0.8 * i));
@@ -382,31 +392,31 @@ TEST_F(Vaddi1Form, TicksItsFramesOnceHoweverManyExercisesThereAre) {
         result.push_back(wide.line(1 + 0.9 * i, 9, 1 + 0.9 * i, 9.2));
     }
     for (int exercise = 0; exercise < 50; ++exercise) {
-        ASSERT_EQ(box("Picture1").strokes(), given("Picture1"));
-        ASSERT_EQ(box("Picture2").strokes(), given("Picture2"));
-        ASSERT_EQ(result, box("Picture6").strokes());
+        ASSERT_EQ(box("function1GraphFrame").strokes(), given("function1GraphFrame"));
+        ASSERT_EQ(box("function2GraphFrame").strokes(), given("function2GraphFrame"));
+        ASSERT_EQ(result, box("resultGraphFrame").strokes());
         draws.append(scriptOf(kRising));
-        form->button("Command1").click();
+        form->button("newExercise").click();
     }
 }
 
 TEST_F(Vaddi1Form, DrawsEachFunctionInItsBoxAndNoResult) {
     open(kFalling);
-    EXPECT_EQ(box("Picture4").strokes(), (Strokes{kGiven.line(0, 2, 10, 42)}));
-    EXPECT_EQ(box("Picture5").strokes(), (Strokes{kGiven.line(0, 0, 10, 30)}));
+    EXPECT_EQ(box("function1Graph").strokes(), (Strokes{kGiven.line(0, 2, 10, 42)}));
+    EXPECT_EQ(box("function2Graph").strokes(), (Strokes{kGiven.line(0, 0, 10, 30)}));
     EXPECT_TRUE(result().empty());
     next(kFirstThenLevel);
-    EXPECT_EQ(box("Picture4").strokes(), (Strokes{kGiven.line(0, 10, 10, -30)}));
-    EXPECT_EQ(box("Picture5").strokes(), (Strokes{kGiven.line(0, 3, 10, 3)}));
+    EXPECT_EQ(box("function1Graph").strokes(), (Strokes{kGiven.line(0, 10, 10, -30)}));
+    EXPECT_EQ(box("function2Graph").strokes(), (Strokes{kGiven.line(0, 3, 10, 3)}));
 }
 
 TEST_F(Vaddi1Form, ClearsTheThreeGraphsForTheNextExercise) {
     const FormDriver& f = open(kFalling);
-    f.click("Command3");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showSum");
     next(kRising);
-    EXPECT_EQ(box("Picture4").strokes().size(), 1U);
-    EXPECT_EQ(box("Picture5").strokes().size(), 1U);
+    EXPECT_EQ(box("function1Graph").strokes().size(), 1U);
+    EXPECT_EQ(box("function2Graph").strokes().size(), 1U);
     EXPECT_TRUE(result().empty());
 }
 
@@ -416,7 +426,7 @@ TEST_F(Vaddi1Form, WalksThroughTheTableRowByRowAndThenTheAnswer) {
     const FormDriver& f = open(kFalling);
     std::vector<std::string> chain = kTableBoxes;
     chain.insert(chain.end(), kAnswerBoxes.begin(), kAnswerBoxes.end());
-    chain.emplace_back("Command2");
+    chain.emplace_back("ok");
     for (std::size_t i = 0; i + 1 < chain.size(); ++i) {
         f.press(chain[i], Qt::Key_Return);
         EXPECT_EQ(f.focus(), chain[i + 1]) << "from " << chain[i];
@@ -425,45 +435,45 @@ TEST_F(Vaddi1Form, WalksThroughTheTableRowByRowAndThenTheAnswer) {
 
 TEST_F(Vaddi1Form, PassesTheRowsOverThatAreNotShown) {
     const FormDriver& f = open(kLevelFirst);
-    f.press("Text18", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text1");
-    f.press("Text3", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command2");
+    f.press("totalQuantity3", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "segment2Slope");
+    f.press("segment2Start", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "ok");
     next(kSameStart);
-    f.press("Text18", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text1");
-    f.press("Text3", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text20");
+    f.press("totalQuantity3", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "segment2Slope");
+    f.press("segment2Start", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "segment2End");
 }
 
 TEST_F(Vaddi1Form, WalksOnToTheNextExerciseWhereOkIsGone) {
     const FormDriver& f = open(kFalling);
     answer(kFallingAnswer);
-    f.press("Text3", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text20");
-    f.press("Text20", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command1");
-    f.press("Text18", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Text4");
+    f.press("segment2Start", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "segment2End");
+    f.press("segment2End", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "newExercise");
+    f.press("totalQuantity3", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "segment1Slope");
     form = nullptr;
     const FormDriver& rising = open(kRising);
     answer(kRisingAnswer);
-    ASSERT_TRUE(rising.isShown("Label42"));
-    rising.press("Text3", Qt::Key_Return);
-    EXPECT_EQ(rising.focus(), "Command1");
+    ASSERT_TRUE(rising.isShown("right"));
+    rising.press("segment2Start", Qt::Key_Return);
+    EXPECT_EQ(rising.focus(), "newExercise");
 }
 
 TEST_F(Vaddi1Form, GoesStraightFromTheTableToTheAnswer) {
     const FormDriver& f = open(kFalling);
-    f.box("Text18").setFocus();
+    f.box("totalQuantity3").setFocus();
     std::vector<std::string> visited;
     QObject::connect(qApp, &QApplication::focusChanged, &f.page(), [&visited](QWidget*, QWidget* now) {
         if (now != nullptr) {
             visited.push_back(now->objectName().toStdString());
         }
     });
-    f.press("Text18", Qt::Key_Return);
-    EXPECT_EQ(visited, std::vector<std::string>{"Text4"});
+    f.press("totalQuantity3", Qt::Key_Return);
+    EXPECT_EQ(visited, std::vector<std::string>{"segment1Slope"});
 }
 
 // The verdict.
@@ -471,11 +481,11 @@ TEST_F(Vaddi1Form, GoesStraightFromTheTableToTheAnswer) {
 TEST_F(Vaddi1Form, JudgesTwoSegmentsRightAndDrawsThemGreen) {
     const FormDriver& f = open(kFalling);
     answer(kFallingAnswer);
-    EXPECT_TRUE(f.isShown("Label42"));
-    EXPECT_FALSE(f.isShown("Label41"));
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_FALSE(f.isShown("Command4"));
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_FALSE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
+    EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_TRUE(redBoxes().empty());
     EXPECT_EQ(result(), kFallingSum);
 }
@@ -483,19 +493,19 @@ TEST_F(Vaddi1Form, JudgesTwoSegmentsRightAndDrawsThemGreen) {
 TEST_F(Vaddi1Form, JudgesTwoRisingSegmentsRight) {
     open(kRising);
     answer(kRisingAnswer);
-    EXPECT_TRUE(form->isShown("Label42"));
+    EXPECT_TRUE(form->isShown("right"));
     EXPECT_EQ(result(), kRisingSum);
 }
 
 TEST_F(Vaddi1Form, DrawsALoneSegmentFromZeroToTwenty) {
     open(kSameStart);
     answer(kSameStartAnswer);
-    EXPECT_TRUE(form->isShown("Label42"));
+    EXPECT_TRUE(form->isShown("right"));
     EXPECT_EQ(result(), (Strokes{kResult.line(0, 3, 20, 10 - (-1.5 * 20 + 7), kSum)}));
     form = nullptr;
     open(kLevelFirst);
     answer(kLevelAnswer);
-    EXPECT_TRUE(form->isShown("Label42"));
+    EXPECT_TRUE(form->isShown("right"));
     EXPECT_EQ(result(), (Strokes{kResult.line(0, 2, 20, 2, kSum)}));
 }
 
@@ -504,8 +514,8 @@ TEST_F(Vaddi1Form, TakesABlankStartForZero) {
     std::vector<std::string> typed = kSameStartAnswer;
     typed[5] = "";
     answer(typed);
-    EXPECT_EQ(textOf("Text3"), " ");
-    EXPECT_TRUE(form->isShown("Label42"));
+    EXPECT_EQ(textOf("segment2Start"), " ");
+    EXPECT_TRUE(form->isShown("right"));
 }
 
 TEST_F(Vaddi1Form, PaysNoHeedToTheTable) {
@@ -514,23 +524,23 @@ TEST_F(Vaddi1Form, PaysNoHeedToTheTable) {
         f.type(name, "99");
     }
     answer(kFallingAnswer);
-    EXPECT_TRUE(f.isShown("Label42"));
-    EXPECT_EQ(textOf("Text7"), "99");
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_EQ(textOf("price1"), "99");
 }
 
 TEST_F(Vaddi1Form, LeavesForkertBehindRigtigt) {
     const FormDriver& f = open(kFalling);
-    f.click("Command2");
-    EXPECT_TRUE(f.isShown("Label41"));
+    f.click("ok");
+    EXPECT_TRUE(f.isShown("wrong"));
     answer(kFallingAnswer);
-    EXPECT_TRUE(f.isShown("Label41"));
-    EXPECT_TRUE(f.isShown("Label42"));
-    const QObjectList& siblings = f.label("Label42").parent()->children();
-    EXPECT_GT(siblings.indexOf(&f.label("Label42")), siblings.indexOf(&f.label("Label41")));
-    EXPECT_EQ(f.label("Label41").place(), f.label("Label42").place());
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_TRUE(f.isShown("right"));
+    const QObjectList& siblings = f.label("right").parent()->children();
+    EXPECT_GT(siblings.indexOf(&f.label("right")), siblings.indexOf(&f.label("wrong")));
+    EXPECT_EQ(f.label("wrong").place(), f.label("right").place());
     next(kRising);
-    EXPECT_FALSE(f.isShown("Label41"));
-    EXPECT_FALSE(f.isShown("Label42"));
+    EXPECT_FALSE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("right"));
 }
 
 struct NudgeRow {
@@ -548,11 +558,11 @@ TEST_P(Vaddi1Nudge, IsWrong) {
     std::vector<std::string> typed = kFallingAnswer;
     typed[row.field] = row.typed;
     answer(typed);
-    EXPECT_TRUE(f.isShown("Label41"));
-    EXPECT_FALSE(f.isShown("Label42"));
-    EXPECT_TRUE(f.isShown("Command4"));
-    EXPECT_TRUE(f.isShown("Command2"));
-    EXPECT_EQ(f.focus(), "Text4");
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("right"));
+    EXPECT_TRUE(f.isShown("giveAnswer"));
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_EQ(f.focus(), "segment1Slope");
     const std::set<std::string> marked{kAnswerBoxes[row.field]};
     EXPECT_EQ(redBoxes(), row.isRed ? marked : std::set<std::string>{});
     EXPECT_TRUE(result().empty());
@@ -577,32 +587,34 @@ TEST_F(Vaddi1Form, TakesTheUpperEndOfTheBand) {
     typed[2] = "0.675";
     typed[5] = "0.66501";
     answer(typed);
-    EXPECT_TRUE(form->isShown("Label42"));
+    EXPECT_TRUE(form->isShown("right"));
 }
 
 TEST_F(Vaddi1Form, WantsTheSegmentsInTheirOrder) {
     open(kRising);
     answer({"1.43", "2.43", "2.5", "2", "1", "2.5", ""});
-    EXPECT_TRUE(form->isShown("Label41"));
-    EXPECT_EQ(redBoxes(), (std::set<std::string>{"Text4", "Text5", "Text1", "Text2"}));
+    EXPECT_TRUE(form->isShown("wrong"));
+    EXPECT_EQ(redBoxes(), (std::set<std::string>{"segment1Slope", "segment1Intercept", "segment2Slope",
+                                                 "segment2Intercept"}));
 }
 
 TEST_F(Vaddi1Form, SendsTheFocusToTheFirstRowThatIsShown) {
     const FormDriver& f = open(kLevelFirst);
-    f.click("Command2");
-    EXPECT_EQ(f.focus(), "Text1");
-    EXPECT_EQ(redBoxes(), std::set<std::string>{"Text2"});
+    f.click("ok");
+    EXPECT_EQ(f.focus(), "segment2Slope");
+    EXPECT_EQ(redBoxes(), std::set<std::string>{"segment2Intercept"});
     next(kRising);
-    f.click("Command2");
-    EXPECT_EQ(f.focus(), "Text4");
+    f.click("ok");
+    EXPECT_EQ(f.focus(), "segment1Slope");
 }
 
 TEST_F(Vaddi1Form, WhitensTheBoxesAtEachJudgingAndInTheNextExercise) {
     const FormDriver& f = open(kRising);
-    f.click("Command2");
-    EXPECT_EQ(redBoxes(), (std::set<std::string>{"Text4", "Text5", "Text6", "Text1", "Text2", "Text3"}));
+    f.click("ok");
+    EXPECT_EQ(redBoxes(), (std::set<std::string>{"segment1Slope", "segment1Intercept", "segment1End",
+                                                 "segment2Slope", "segment2Intercept", "segment2Start"}));
     answer({"2", "1", "2.5", "9", "2.43", "2.5", ""});
-    EXPECT_EQ(redBoxes(), std::set<std::string>{"Text1"});
+    EXPECT_EQ(redBoxes(), std::set<std::string>{"segment2Slope"});
     next(kRising);
     EXPECT_TRUE(redBoxes().empty());
 }
@@ -616,8 +628,8 @@ TEST_F(Vaddi1Form, IsSolvedByItsOwnAnswerKeyByKey) {
         }
         const FormDriver& f = open(t);
         typeOwnAnswer();
-        f.click("Command2");
-        ASSERT_TRUE(f.isShown("Label42")) << nameOf(t);
+        f.click("ok");
+        ASSERT_TRUE(f.isShown("right")) << nameOf(t);
         ASSERT_TRUE(redBoxes().empty()) << nameOf(t);
         form = nullptr;
     });
@@ -630,16 +642,16 @@ TEST_F(Vaddi1Form, CannotBeSolvedWithoutAnUpperEndAfterOneWasAskedFor) {
     const FormDriver& f = open(kFalling);
     for (const Task& t : {kRising, kLevelFirst, kSecondThenLevel, kLevelSecond, kFirstThenLevel}) {
         next(t);
-        EXPECT_FALSE(f.isShown("Text20"));
-        EXPECT_EQ(textOf("Text20"), " ");
+        EXPECT_FALSE(f.isShown("segment2End"));
+        EXPECT_EQ(textOf("segment2End"), " ");
         typeOwnAnswer();
-        f.click("Command2");
-        EXPECT_TRUE(f.isShown("Label41")) << nameOf(t);
-        EXPECT_FALSE(f.isShown("Label42")) << nameOf(t);
-        EXPECT_EQ(redBoxes(), std::set<std::string>{"Text20"}) << nameOf(t);
-        f.click("Command4");
-        EXPECT_EQ(textOf("Text20"), "5.33") << nameOf(t);
-        EXPECT_FALSE(f.isShown("Text20"));
+        f.click("ok");
+        EXPECT_TRUE(f.isShown("wrong")) << nameOf(t);
+        EXPECT_FALSE(f.isShown("right")) << nameOf(t);
+        EXPECT_EQ(redBoxes(), std::set<std::string>{"segment2End"}) << nameOf(t);
+        f.click("giveAnswer");
+        EXPECT_EQ(textOf("segment2End"), "5.33") << nameOf(t);
+        EXPECT_FALSE(f.isShown("segment2End"));
         EXPECT_TRUE(redBoxes().empty());
     }
 }
@@ -649,7 +661,7 @@ TEST_F(Vaddi1Form, CanBeSolvedAgainWithTheNextUpperEnd) {
     next(kRising);
     next(kSameStart);
     answer(kSameStartAnswer);
-    EXPECT_TRUE(form->isShown("Label42"));
+    EXPECT_TRUE(form->isShown("right"));
 }
 
 TEST_F(Vaddi1Form, ForgetsTheUpperEndWhenItIsOpenedAnew) {
@@ -657,14 +669,14 @@ TEST_F(Vaddi1Form, ForgetsTheUpperEndWhenItIsOpenedAnew) {
     form = nullptr;
     open(kRising);
     answer(kRisingAnswer);
-    EXPECT_TRUE(form->isShown("Label42"));
+    EXPECT_TRUE(form->isShown("right"));
 }
 
 TEST_F(Vaddi1Form, EndsTheTypedLineAtTheHiddenUpperEndAfterOneWasAskedFor) {
     const FormDriver& f = open(kFalling);
     next(kRising);
     answer({"1", "2", "3", "0.5", "4", "6", ""});
-    f.click("Command4");
+    f.click("giveAnswer");
     const Strokes typed{kResult.line(0, 8, 3, 5, kRed), kResult.line(6, 3, 0, 6, kRed)};
     EXPECT_EQ(result(), typed + kRisingSum);
 }
@@ -675,12 +687,12 @@ TEST_F(Vaddi1Form, GivesTheWholeAnswerOverTheTypedLines) {
     const DecimalMark danish(",");
     const FormDriver& f = open(kFalling);
     answer({"-1", "9", "2", "-2", "8", "1", "4"});
-    f.click("Command3");
-    f.click("Command4");
-    for (const char* hidden : {"Picture3", "Command2", "Command4", "Label41", "Label42"}) {
+    f.click("help");
+    f.click("giveAnswer");
+    for (const char* hidden : {"helpPanel", "ok", "giveAnswer", "wrong", "right"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_EQ(column(kPrices), "10|8|0");
     EXPECT_EQ(column(kQuantities1), " |0|2");
     EXPECT_EQ(column(kQuantities2), "0|0,67|3,33");
@@ -697,7 +709,7 @@ TEST_F(Vaddi1Form, GivesTheWholeAnswerOverTheTypedLines) {
 TEST_F(Vaddi1Form, RunsTheTypedLineToTwentyWhereNoUpperEndIsAskedFor) {
     const FormDriver& f = open(kRising);
     answer({"1", "2", "3", "0.5", "4", "6", ""});
-    f.click("Command4");
+    f.click("giveAnswer");
     const Strokes typed{kResult.line(0, 8, 3, 5, kRed), kResult.line(6, 3, 20, -4, kRed)};
     EXPECT_EQ(result(), typed + kRisingSum);
 }
@@ -705,7 +717,7 @@ TEST_F(Vaddi1Form, RunsTheTypedLineToTwentyWhereNoUpperEndIsAskedFor) {
 TEST_F(Vaddi1Form, DrawsTheHiddenRowToOfALoneSegment) {
     const FormDriver& f = open(kSameStart);
     answer({"", "", "", "-1", "6", "", "6"});
-    f.click("Command4");
+    f.click("giveAnswer");
     const Strokes strokes{
         kResult.line(0, 10, 0, 10, kRed),
         kResult.line(0, 4, 6, 10, kRed),
@@ -714,29 +726,29 @@ TEST_F(Vaddi1Form, DrawsTheHiddenRowToOfALoneSegment) {
         kResult.line(0, 3, 20, 10 - (-1.5 * 20 + 7), kSum),
     };
     EXPECT_EQ(result(), strokes);
-    EXPECT_EQ(textOf("Text4"), "-3");
-    EXPECT_EQ(textOf("Text5"), "7");
-    EXPECT_EQ(textOf("Text6"), "0");
-    EXPECT_EQ(textOf("Text3"), "0");
+    EXPECT_EQ(textOf("segment1Slope"), "-3");
+    EXPECT_EQ(textOf("segment1Intercept"), "7");
+    EXPECT_EQ(textOf("segment1End"), "0");
+    EXPECT_EQ(textOf("segment2Start"), "0");
     EXPECT_EQ(column(kPrices), "7|0| ");
     EXPECT_EQ(column(kTotals), "0|4.67| ");
 }
 
 TEST_F(Vaddi1Form, GivesWhatNoExerciseHasSetAsZeroOrNothing) {
     const FormDriver& f = open(kLevelSecond);
-    f.click("Command2");
-    f.click("Command4");
+    f.click("ok");
+    f.click("giveAnswer");
     EXPECT_EQ(column(kPrices), "8|8| ");
     EXPECT_EQ(column(kQuantities1), " | | ");
     EXPECT_EQ(column(kQuantities2), "0|oo| ");
     EXPECT_EQ(column(kTotals), "0|| ");
-    EXPECT_EQ(textOf("Text4"), "0");
-    EXPECT_EQ(textOf("Text5"), "0");
-    EXPECT_EQ(textOf("Text6"), "0");
-    EXPECT_EQ(textOf("Text1"), "0");
-    EXPECT_EQ(textOf("Text2"), "8");
-    EXPECT_EQ(textOf("Text3"), "0");
-    EXPECT_EQ(textOf("Text20"), "");
+    EXPECT_EQ(textOf("segment1Slope"), "0");
+    EXPECT_EQ(textOf("segment1Intercept"), "0");
+    EXPECT_EQ(textOf("segment1End"), "0");
+    EXPECT_EQ(textOf("segment2Slope"), "0");
+    EXPECT_EQ(textOf("segment2Intercept"), "8");
+    EXPECT_EQ(textOf("segment2Start"), "0");
+    EXPECT_EQ(textOf("segment2End"), "");
     const Strokes strokes{kResult.line(0, 10, 0, 10, kRed), kResult.line(0, 10, 20, 10, kRed),
                           kResult.line(0, 10, 0, 10, kSum), kResult.line(0, 2, 20, 2, kSum)};
     EXPECT_EQ(result(), strokes);
@@ -747,8 +759,8 @@ TEST_F(Vaddi1Form, ShowsTheThirdTotalOfTheExerciseBeforeForALevelSecondFunction)
     for (const auto& [before, total] : {std::pair{kRising, "0|5.3| "}, {kLevelFirst, "0|oo| "}}) {
         next(before);
         next(kLevelSecond);
-        f.click("Command2");
-        f.click("Command4");
+        f.click("ok");
+        f.click("giveAnswer");
         EXPECT_EQ(column(kTotals), total);
     }
 }
@@ -760,10 +772,10 @@ TEST_F(Vaddi1Form, GivesTheAnswerWhateverIsTyped) {
         for (const std::string& name : kAnswerBoxes) {
             f.box(name).setContent(typed);
         }
-        f.click("Command2");
-        f.click("Command4");
+        f.click("ok");
+        f.click("giveAnswer");
         EXPECT_FALSE(f.page().grab().isNull());
-        EXPECT_EQ(textOf("Text1"), "-1.72");
+        EXPECT_EQ(textOf("segment2Slope"), "-1.72");
         EXPECT_EQ(result().size(), 4U);
         next(kFalling);
     }
@@ -773,21 +785,21 @@ TEST_F(Vaddi1Form, GivesTheAnswerWhateverIsTyped) {
 
 TEST_F(Vaddi1Form, OpensItsHelpAtTheFirstStepAndClosesItToTheTable) {
     const FormDriver& f = open(kFalling);
-    f.click("Command3");
-    EXPECT_TRUE(f.isShown("Picture3"));
-    EXPECT_EQ(f.focus(), "Vis1");
-    f.press("Vis1", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Vis2");
-    f.press("Vis2", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Vis3");
-    f.press("Vis3", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command5");
-    f.press("Command5", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Picture3"));
-    EXPECT_EQ(f.focus(), "Text7");
-    f.click("Command3");
+    f.click("help");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_EQ(f.focus(), "showPrices");
+    f.press("showPrices", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "showQuantities");
+    f.press("showQuantities", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "showSum");
+    f.press("showSum", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "closeHelp");
+    f.press("closeHelp", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("helpPanel"));
+    EXPECT_EQ(f.focus(), "price1");
+    f.click("help");
     next(kRising);
-    EXPECT_FALSE(f.isShown("Picture3"));
+    EXPECT_FALSE(f.isShown("helpPanel"));
 }
 
 struct StepsRow {
@@ -808,16 +820,16 @@ class Vaddi1Steps : public Vaddi1Form, public testing::WithParamInterface<StepsR
 TEST_P(Vaddi1Steps, MarkTheEndsAndThenTheQuantities) {
     const StepsRow& row = GetParam();
     const FormDriver& f = open(row.task);
-    f.click("Command3");
-    f.click("Vis1");
-    EXPECT_EQ(later("Picture4"), row.marks1);
-    EXPECT_EQ(later("Picture5"), row.marks2);
+    f.click("help");
+    f.click("showPrices");
+    EXPECT_EQ(later("function1Graph"), row.marks1);
+    EXPECT_EQ(later("function2Graph"), row.marks2);
     EXPECT_EQ(column(kQuantities1), " | | ");
-    EXPECT_EQ(f.caption("Label23"), "");
-    f.click("Vis2");
-    EXPECT_EQ(later("Picture4"), row.marks1 + row.marks1 + row.bands1);
-    EXPECT_EQ(later("Picture5"), row.marks2 + row.marks2 + row.bands2);
-    EXPECT_EQ(f.caption("Label23"), row.text);
+    EXPECT_EQ(f.caption("quantitiesResult"), "");
+    f.click("showQuantities");
+    EXPECT_EQ(later("function1Graph"), row.marks1 + row.marks1 + row.bands1);
+    EXPECT_EQ(later("function2Graph"), row.marks2 + row.marks2 + row.bands2);
+    EXPECT_EQ(f.caption("quantitiesResult"), row.text);
     EXPECT_TRUE(result().empty());
 }
 
@@ -876,12 +888,12 @@ class Vaddi1Stack : public Vaddi1Form, public testing::WithParamInterface<StackR
 TEST_P(Vaddi1Stack, PutsTheSecondQuantityOnTheFirst) {
     const StackRow& row = GetParam();
     const FormDriver& f = open(row.task);
-    f.click("Command3");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showSum");
     EXPECT_EQ(result(), row.stack + row.sum);
-    EXPECT_EQ(f.focus(), "Command5");
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_TRUE(f.isShown("Picture3"));
+    EXPECT_EQ(f.focus(), "closeHelp");
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_TRUE(f.isShown("helpPanel"));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -907,66 +919,66 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(Vaddi1Form, WritesItsPricesAtTheFirstStepAndTheRestAtTheSecond) {
     const DecimalMark danish(",");
     const FormDriver& f = open(kFalling);
-    f.click("Command3");
-    f.click("Vis1");
+    f.click("help");
+    f.click("showPrices");
     EXPECT_EQ(column(kPrices), "10|8|0");
     for (const Column& blank : {kQuantities1, kQuantities2, kTotals}) {
         EXPECT_EQ(column(blank), " | | ") << blank.front();
     }
-    f.click("Vis2");
+    f.click("showQuantities");
     EXPECT_EQ(column(kQuantities1), " |0|2");
     EXPECT_EQ(column(kQuantities2), "0|0,67|3,33");
     EXPECT_EQ(column(kTotals), "0|0,67|5,33");
-    EXPECT_EQ(f.caption("Label23"),
+    EXPECT_EQ(f.caption("quantitiesResult"),
               "Her fra ( 0 ; 10 ) til ( 0,67 ; 8 ) og fra ( 0,67 ; 8 ) til ( 5,33 ; 0 ).");
-    EXPECT_EQ(textOf("Text1"), " ");
-    EXPECT_TRUE(f.isShown("Command2"));
+    EXPECT_EQ(textOf("segment2Slope"), " ");
+    EXPECT_TRUE(f.isShown("ok"));
     next(kRising);
-    EXPECT_EQ(f.caption("Label23"), "");
+    EXPECT_EQ(f.caption("quantitiesResult"), "");
     EXPECT_EQ(column(kPrices), " | | ");
 }
 
 TEST_F(Vaddi1Form, RunsTheStepsBeforeWhicheverIsPressedFirst) {
     const FormDriver& f = open(kFalling);
-    f.click("Command3");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showSum");
     EXPECT_EQ(column(kPrices), "10|8|0");
     EXPECT_EQ(column(kQuantities2), "0|0.67|3.33");
-    EXPECT_NE(f.caption("Label23"), "");
-    const Strokes once = later("Picture4");
+    EXPECT_NE(f.caption("quantitiesResult"), "");
+    const Strokes once = later("function1Graph");
     EXPECT_EQ(once.size(), 7U + 6U + 7U + 4U + 5U);
-    f.click("Vis2");
-    EXPECT_EQ(later("Picture4"), once + once);
-    EXPECT_EQ(f.focus(), "Vis3");
-    f.click("Vis1");
-    EXPECT_EQ(f.focus(), "Vis2");
-    EXPECT_EQ(later("Picture4").size(), 2 * once.size() + 7U + 6U + 7U);
-    f.click("Vis3");
+    f.click("showQuantities");
+    EXPECT_EQ(later("function1Graph"), once + once);
+    EXPECT_EQ(f.focus(), "showSum");
+    f.click("showPrices");
+    EXPECT_EQ(f.focus(), "showQuantities");
+    EXPECT_EQ(later("function1Graph").size(), 2 * once.size() + 7U + 6U + 7U);
+    f.click("showSum");
     EXPECT_EQ(result().size(), 2 * (4U + 4U + 5U + 5U + 2U));
 }
 
 TEST_F(Vaddi1Form, FillsTheAnswerAtTheThirdStepAndLeavesTheVerdictAlone) {
     const FormDriver& f = open(kFalling);
-    f.click("Command3");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showSum");
     for (std::size_t i = 0; i < kAnswerBoxes.size(); ++i) {
         EXPECT_EQ(textOf(kAnswerBoxes[i]), kFallingAnswer[i]) << kAnswerBoxes[i];
     }
-    EXPECT_FALSE(f.isShown("Command4"));
-    EXPECT_FALSE(f.isShown("Label41"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
+    EXPECT_FALSE(f.isShown("wrong"));
 
     next(kFalling);
-    f.click("Command2");
+    f.click("ok");
     EXPECT_FALSE(redBoxes().empty());
-    f.click("Command3");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showSum");
     EXPECT_TRUE(redBoxes().empty());
-    EXPECT_TRUE(f.isShown("Command4"));
-    EXPECT_TRUE(f.isShown("Label41"));
-    EXPECT_FALSE(f.isShown("Command2"));
+    EXPECT_TRUE(f.isShown("giveAnswer"));
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("ok"));
     // What was filled in is drawn as if it had been typed.
     const std::size_t before = result().size();
-    f.click("Command4");
+    f.click("giveAnswer");
     EXPECT_EQ(result().size(), before + 4);
     EXPECT_EQ(result()[before], kResult.line(0, 0, 0.67, 10 - (0.67 * -3 + 10), kRed));
     EXPECT_EQ(result()[before + 1],
@@ -975,13 +987,13 @@ TEST_F(Vaddi1Form, FillsTheAnswerAtTheThirdStepAndLeavesTheVerdictAlone) {
 
 TEST_F(Vaddi1Form, LeavesWhatIsDrawnUntilTheNextExercise) {
     const FormDriver& f = open(kRising);
-    f.click("Command3");
-    f.click("Vis2");
-    const Strokes drawn = box("Picture4").strokes();
-    f.click("Command5");
+    f.click("help");
+    f.click("showQuantities");
+    const Strokes drawn = box("function1Graph").strokes();
+    f.click("closeHelp");
     answer(kRisingAnswer);
-    EXPECT_EQ(box("Picture4").strokes(), drawn);
-    EXPECT_TRUE(f.isShown("Label42"));
+    EXPECT_EQ(box("function1Graph").strokes(), drawn);
+    EXPECT_TRUE(f.isShown("right"));
 }
 
 // The two failures that end the program.
@@ -997,31 +1009,31 @@ const std::string kTooLarge = messageFor(ArithmeticFailure::Kind::Overflow);
 
 TEST_F(Vaddi1Form, FailsAtTheThirdStepOnABlankPriceAfterItHasStackedTheSecondRow) {
     const FormDriver& f = open(kSameStart);
-    f.click("Command2");
-    f.click("Command3");
-    EXPECT_EQ(failureOf(f.button("Vis3")), kTypeMismatch);
+    f.click("ok");
+    f.click("help");
+    EXPECT_EQ(failureOf(f.button("showSum")), kTypeMismatch);
     EXPECT_EQ(column(kPrices), "7|0| ");
     EXPECT_EQ(column(kQuantities1), "0|2.33| ");
     EXPECT_EQ(column(kQuantities2), "0|2.33| ");
     EXPECT_EQ(column(kTotals), "0|4.67| ");
-    EXPECT_EQ(f.caption("Label23"), "Her fra ( 0 ; 7 ) til ( 4.67 ; 0 ).");
-    EXPECT_EQ(later("Picture4"), markAt(0, 7, 6) + markAt(2.33, 0, 7) + markOff(-5) + first(2.33, 0));
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_TRUE(f.isShown("Command4"));
-    EXPECT_TRUE(f.isShown("Label41"));
-    EXPECT_EQ(f.focus(), "Command5");
+    EXPECT_EQ(f.caption("quantitiesResult"), "Her fra ( 0 ; 7 ) til ( 4.67 ; 0 ).");
+    EXPECT_EQ(later("function1Graph"), markAt(0, 7, 6) + markAt(2.33, 0, 7) + markOff(-5) + first(2.33, 0));
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_TRUE(f.isShown("giveAnswer"));
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_EQ(f.focus(), "closeHelp");
     EXPECT_EQ(result(), blue(2.33, 0) + green(2.33, 2.33 + 2.33, 0));
-    EXPECT_EQ(textOf("Text1"), " ");
-    EXPECT_EQ(redBoxes(), (std::set<std::string>{"Text1", "Text2", "Text20"}));
+    EXPECT_EQ(textOf("segment2Slope"), " ");
+    EXPECT_EQ(redBoxes(), (std::set<std::string>{"segment2Slope", "segment2Intercept", "segment2End"}));
 }
 
 TEST_F(Vaddi1Form, FailsAtTheThirdStepInEveryExerciseWithOneSegment) {
     const FormDriver& f = open(kFalling);
     for (const Task& t : {kLevelFirst, kLevelSecond, kSameStart, Task{1, 1, 5, 5, 5}}) {
         next(t);
-        f.click("Command3");
-        EXPECT_EQ(failureOf(f.button("Vis3")), kTypeMismatch) << nameOf(t);
-        EXPECT_FALSE(f.isShown("Command2")) << nameOf(t);
+        f.click("help");
+        EXPECT_EQ(failureOf(f.button("showSum")), kTypeMismatch) << nameOf(t);
+        EXPECT_FALSE(f.isShown("ok")) << nameOf(t);
         if (!t.isSloping()) {
             EXPECT_TRUE(result().empty()) << nameOf(t);
         }
@@ -1030,35 +1042,36 @@ TEST_F(Vaddi1Form, FailsAtTheThirdStepInEveryExerciseWithOneSegment) {
 
 TEST_F(Vaddi1Form, OverflowsAfterTheTaskIsShownDrawnAndHasTheFocus) {
     const FormDriver& f = open(kFalling);
-    f.click("Command2");
-    f.click("Command3");
-    f.click("Vis2");
+    f.click("ok");
+    f.click("help");
+    f.click("showQuantities");
     draws.append(scriptOf(kOverflow));
-    EXPECT_EQ(failureOf(f.button("Command1")), kTooLarge);
-    EXPECT_EQ(f.caption("Label2"), "5");
-    EXPECT_EQ(f.caption("Label3"), "3");
-    EXPECT_EQ(f.caption("Label5"), "2");
-    EXPECT_EQ(f.caption("Label6"), "10");
-    EXPECT_EQ(f.caption("Label23"), "");
+    EXPECT_EQ(failureOf(f.button("newExercise")), kTooLarge);
+    EXPECT_EQ(f.caption("function1Slope"), "5");
+    EXPECT_EQ(f.caption("function1Intercept"), "3");
+    EXPECT_EQ(f.caption("function2Slope"), "2");
+    EXPECT_EQ(f.caption("function2Intercept"), "10");
+    EXPECT_EQ(f.caption("quantitiesResult"), "");
     for (const AnswerBox* each : f.page().findChildren<AnswerBox*>()) {
         EXPECT_EQ(each->content(), " ");
     }
     EXPECT_TRUE(redBoxes().empty());
-    for (const char* hidden : {"Picture3", "Label41", "Label42", "Command4", "Text20", "Label9_1"}) {
+    for (const char* hidden :
+         {"helpPanel", "wrong", "right", "giveAnswer", "segment2End", "segment2EndLessOrEqual"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_TRUE(f.isShown("Text4"));
-    EXPECT_TRUE(f.isShown("Command2"));
-    EXPECT_EQ(box("Picture4").strokes(), (Strokes{kGiven.line(0, 7, 10, -43)}));
-    EXPECT_EQ(box("Picture5").strokes(), (Strokes{kGiven.line(0, 0, 10, -20)}));
+    EXPECT_TRUE(f.isShown("segment1Slope"));
+    EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_EQ(box("function1Graph").strokes(), (Strokes{kGiven.line(0, 7, 10, -43)}));
+    EXPECT_EQ(box("function2Graph").strokes(), (Strokes{kGiven.line(0, 0, 10, -20)}));
     EXPECT_TRUE(result().empty());
-    EXPECT_EQ(f.focus(), "Text7");
+    EXPECT_EQ(f.focus(), "price1");
 }
 
 TEST_F(Vaddi1Form, TellsOfABlankPriceAndEndsTheProgramWithStatusOne) {
     const FormDriver& f = open(kLevelFirst);
-    f.click("Command3");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showSum");
     const test::ProgramEnd end = test::readFailure();
     EXPECT_EQ(end.message,
               "Der blev regnet med et felt, som ikke er et tal. Tavrune kan ikke fortsætte og lukker nu.");
@@ -1068,20 +1081,20 @@ TEST_F(Vaddi1Form, TellsOfABlankPriceAndEndsTheProgramWithStatusOne) {
 TEST_F(Vaddi1Form, TellsOfTheOverflowAndEndsTheProgramWithStatusOne) {
     const FormDriver& f = open(kFalling);
     draws.append(scriptOf(kOverflow));
-    f.press("Command1", Qt::Key_Return);
+    f.press("newExercise", Qt::Key_Return);
     const test::ProgramEnd end = test::readFailure();
     EXPECT_EQ(end.message,
               "Et tal blev for stort til at regne med. Tavrune kan ikke fortsætte og lukker nu.");
     EXPECT_EQ(end.status, 1);
-    EXPECT_EQ(f.focus(), "Text7");
+    EXPECT_EQ(f.focus(), "price1");
 }
 
 TEST_F(Vaddi1Form, MayOverflowAtItsFirstTickBeforeTheRestOfIt) {
     const FormDriver& f = open(kOverflow);
-    EXPECT_EQ(f.caption("Label6"), "10");
-    EXPECT_EQ(f.focus(), "Text7");
-    EXPECT_TRUE(f.isShown("Label30"));
-    EXPECT_EQ(f.label("Label41").backColour(), QColor(192, 0, 0));
+    EXPECT_EQ(f.caption("function2Intercept"), "10");
+    EXPECT_EQ(f.focus(), "price1");
+    EXPECT_TRUE(f.isShown("openingBlank"));
+    EXPECT_EQ(f.label("wrong").backColour(), QColor(192, 0, 0));
     const test::ProgramEnd end = test::readFailure();
     EXPECT_EQ(end.message, messageFor(ArithmeticFailure::Kind::Overflow));
     EXPECT_EQ(end.status, 1);

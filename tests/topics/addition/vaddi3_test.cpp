@@ -730,14 +730,14 @@ TEST_F(Vaddi3Form, TellsItsStepsInTheWordsOfTheFirstLevelWhereTheyAreTrueOfIt) {
     const auto sentences = [](const FormDriver& of, const char* label) {
         return of.label(label).text().simplified().toStdString();
     };
-    const std::string prices = sentences(first, "Label24");
+    const std::string prices = sentences(first, "pricesStepText");
     // Of a level function the price stands but once here.
     EXPECT_EQ(sentences(f, "Label252"), prices.substr(0, prices.find("Hvis der er en vandret")) +
                                             "Ens P-værdier indsættes kun én gang.");
-    const std::string quantities = sentences(first, "Label25");
+    const std::string quantities = sentences(first, "quantitiesStepText");
     EXPECT_TRUE(sentences(f, "Label5")
                     .starts_with(quantities.substr(0, quantities.find(" Hvis der er en vandret linie"))));
-    EXPECT_EQ(sentences(f, "Label255"), sentences(first, "Label28"));
+    EXPECT_EQ(sentences(f, "Label255"), sentences(first, "sumStepText"));
     for (const auto& [step, beginning] : {std::pair{"Label252", "Hvis funktionerne er voksende"},
                                           {"Label252", "Ens P-værdier"},
                                           {"Label42", "Hvis der er en vandret linie"},
