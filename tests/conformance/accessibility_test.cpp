@@ -205,7 +205,7 @@ TEST(NamesInWords, TellTheGivenFunctionsOfAnAdditionAsAWhole) {
     };
     for (const auto& [page, slope, intercept, kink, before, after] :
          {Row{PageName::Vaddi1, "function1Slope", "function1Intercept", "", "Q ≥ 0, P ≥ 0", ""},
-          {PageName::Vaddi2, "Label2", "Label3", "", "Q ≥ 0, P ≥ 0", ""},
+          {PageName::Vaddi2, "function1Slope", "function1Intercept", "", "Q ≥ 0, P ≥ 0", ""},
           {PageName::Laddi2, "function1Part1Slope", "function1Part1Intercept", "function1Part1End",
            "0 ≤ Q ≤ ", ""},
           {PageName::Vaddi3, "Label31", "Label32", "Label33", "", " < Q, P > 0"},

@@ -29,43 +29,45 @@ void drawBar(GraphBox& box, double from, double to, double price, const QColor& 
 Vaddi2::Vaddi2(Draws& draws)
     : ExerciseForm(PageName::Vaddi2, draws), ui_(std::make_unique<Ui::Vaddi2>()), rows_({}) {
     setUp(*ui_);
-    rows_ = AnswerRows({{ui_->Text21, ui_->Text22, nullptr, ui_->Text23},
-                        {ui_->Text24, ui_->Text25, ui_->Text26, ui_->Text27},
-                        {ui_->Text28, ui_->Text29, ui_->Text30, ui_->Text31}});
-    columnP_ = {ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text4};
-    given_ = {{{ui_->Label1,
-                ui_->Label2,
-                ui_->Label3,
-                ui_->Picture1,
-                ui_->Picture4,
-                {ui_->Text5, ui_->Text6, ui_->Text7, ui_->Text8},
+    rows_ = AnswerRows({{ui_->segment1Slope, ui_->segment1Intercept, nullptr, ui_->segment1End},
+                        {ui_->segment2Slope, ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End},
+                        {ui_->segment3Slope, ui_->segment3Intercept, ui_->segment3Start, ui_->segment3End}});
+    columnP_ = {ui_->price1, ui_->price2, ui_->price3, ui_->price4};
+    given_ = {{{ui_->function1Text,
+                ui_->function1Slope,
+                ui_->function1Intercept,
+                ui_->function1GraphFrame,
+                ui_->function1Graph,
+                {ui_->function1Quantity1, ui_->function1Quantity2, ui_->function1Quantity3,
+                 ui_->function1Quantity4},
                 kBlue},
-               {ui_->Label4,
-                ui_->Label5,
-                ui_->Label6,
-                ui_->Picture2,
-                ui_->Picture5,
-                {ui_->Text9, ui_->Text10, ui_->Text11, ui_->Text12},
+               {ui_->function2Text,
+                ui_->function2Slope,
+                ui_->function2Intercept,
+                ui_->function2GraphFrame,
+                ui_->function2Graph,
+                {ui_->function2Quantity1, ui_->function2Quantity2, ui_->function2Quantity3,
+                 ui_->function2Quantity4},
                 kBandGreen},
-               {ui_->Label31,
-                ui_->Label32,
-                ui_->Label33,
-                ui_->Picture6,
-                ui_->Picture7,
-                {ui_->Text13, ui_->Text14, ui_->Text15, ui_->Text16},
+               {ui_->function3Text,
+                ui_->function3Slope,
+                ui_->function3Intercept,
+                ui_->function3GraphFrame,
+                ui_->function3Graph,
+                {ui_->function3Quantity1, ui_->function3Quantity2, ui_->function3Quantity3,
+                 ui_->function3Quantity4},
                 kBlack}}};
-    columnQtotal_ = {ui_->Text17, ui_->Text18, ui_->Text19, ui_->Text20};
-    ui_->Label62->standOver({ui_->Text1, ui_->Text5, ui_->Text9, ui_->Text13, ui_->Text17});
-    buttons({.newExercise = ui_->Command1,
-             .ok = ui_->Command2,
-             .giveAnswer = ui_->Command4,
-             .help = ui_->Command3});
-    verdict(TwoLabels{.right = ui_->Label75, .wrong = ui_->Label74, .darkUntilFirstTick = true});
+    columnQtotal_ = {ui_->totalQuantity1, ui_->totalQuantity2, ui_->totalQuantity3, ui_->totalQuantity4};
+    ui_->tableHead->standOver({ui_->price1, ui_->function1Quantity1, ui_->function2Quantity1,
+                               ui_->function3Quantity1, ui_->totalQuantity1});
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong, .darkUntilFirstTick = true});
     chainBoxes();
-    onClick(ui_->Vis1, &Vaddi2::showPrices);
-    onClick(ui_->Vis2, &Vaddi2::showQuantities);
-    onClick(ui_->Vis3, &Vaddi2::showSum);
-    onClick(ui_->Command7, &Vaddi2::closeHelp);
+    onClick(ui_->showPrices, &Vaddi2::showPrices);
+    onClick(ui_->showQuantities, &Vaddi2::showQuantities);
+    onClick(ui_->showSum, &Vaddi2::showSum);
+    onClick(ui_->closeHelp, &Vaddi2::closeHelp);
 }
 
 Vaddi2::~Vaddi2() = default;
@@ -82,22 +84,23 @@ void Vaddi2::chainBoxes() {
     for (std::size_t i = 0; i + 1 < table.size(); ++i) {
         enterGoes(table[i], {table[i + 1]});
     }
-    enterGoes(table.back(), {ui_->Text21, ui_->Text24});
-    enterChainWhileShown({ui_->Text21, ui_->Text22, ui_->Text23, ui_->Text24, ui_->Text25, ui_->Text26,
-                          ui_->Text27, ui_->Text28, ui_->Text29, ui_->Text30, ui_->Text31},
+    enterGoes(table.back(), {ui_->segment1Slope, ui_->segment2Slope});
+    enterChainWhileShown({ui_->segment1Slope, ui_->segment1Intercept, ui_->segment1End, ui_->segment2Slope,
+                          ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End, ui_->segment3Slope,
+                          ui_->segment3Intercept, ui_->segment3Start, ui_->segment3End},
                          LastBox::OkOrNewExercise);
 }
 
 void Vaddi2::firstTick() {
     ExerciseForm::firstTick();
-    ui_->Label49->hide();
+    ui_->openingBlank->hide();
 }
 
 void Vaddi2::newExercise() {
     closePanel();
-    ui_->Label25->setCaption("");
-    ui_->Label27->setCaption("");
-    focusOn(ui_->Text1);
+    ui_->quantitiesResult->setCaption("");
+    ui_->quantitiesResultRest->setCaption("");
+    focusOn(ui_->price1);
     tavrune::newExercise(state_, draws());
     showRows();
     showTask();
@@ -107,14 +110,16 @@ void Vaddi2::newExercise() {
 void Vaddi2::showRows() {
     const int count = state_.segmentCount;
     const bool isEndAsked = state_.upperEndAsked();
-    setShown(count > 1, {ui_->Label63, ui_->Text21, ui_->Label64, ui_->Text22, ui_->Label65, ui_->Label9,
-                         ui_->Label13, ui_->Text23});
+    setShown(count > 1, {ui_->segment1PriceEquals, ui_->segment1Slope, ui_->segment1TimesQuantityPlus,
+                         ui_->segment1Intercept, ui_->segment1ZeroLessThanQuantity,
+                         ui_->segment1StartLessOrEqual, ui_->segment1EndLessOrEqual, ui_->segment1End});
     // A lone segment begins at its start, a second one after it.
-    ui_->Label23->setVisible(count == 1);
-    setShown(count == 3 || isEndAsked, {ui_->Label11, ui_->Text27});
-    setShown(count == 3,
-             {ui_->Label70, ui_->Text28, ui_->Label71, ui_->Text29, ui_->Label72, ui_->Text30, ui_->Label73});
-    setShown(count == 3 && isEndAsked, {ui_->Label44, ui_->Text31});
+    ui_->segment2StartLessOrEqual->setVisible(count == 1);
+    setShown(count == 3 || isEndAsked, {ui_->segment2EndLessOrEqual, ui_->segment2End});
+    setShown(count == 3, {ui_->segment3PriceEquals, ui_->segment3Slope, ui_->segment3TimesQuantityPlus,
+                          ui_->segment3Intercept, ui_->segment3ValidFor, ui_->segment3Start,
+                          ui_->segment3LessThanQuantity});
+    setShown(count == 3 && isEndAsked, {ui_->segment3EndLessOrEqual, ui_->segment3End});
     rows_.nameShownBoxes();
 }
 
@@ -133,8 +138,8 @@ void Vaddi2::showTask() {
 }
 
 void Vaddi2::drawGraphs() {
-    ui_->Picture9->Cls();
-    drawWideFrameTicks(*ui_->Picture8);
+    ui_->resultGraph->Cls();
+    drawWideFrameTicks(*ui_->resultGraphFrame);
     for (std::size_t f = 0; f < given_.size(); ++f) {
         given_[f].graph->Cls();
         drawFrameTicks(*given_[f].frame);
@@ -153,14 +158,14 @@ void Vaddi2::judge() {
     }
     failed();
     rows_.mark(fields);
-    focusOn(state_.segmentCount == 1 ? ui_->Text24 : ui_->Text21);
+    focusOn(state_.segmentCount == 1 ? ui_->segment2Slope : ui_->segment1Slope);
 }
 
 void Vaddi2::drawSum(double lastQ) {
     const int last = state_.segmentCount - 1;
     for (int s = 0; s <= last; ++s) {
         const double to = s == last ? lastQ : state_.endOf(s).number();
-        drawPiece(*ui_->Picture9, kTop, state_.segment(s), state_.startOf(s).number(), to, kSumGreen);
+        drawPiece(*ui_->resultGraph, kTop, state_.segment(s), state_.startOf(s).number(), to, kSumGreen);
     }
 }
 
@@ -174,7 +179,7 @@ void Vaddi2::giveAnswer() {
 }
 
 void Vaddi2::drawTypedSum() {
-    GraphBox& box = *ui_->Picture9;
+    GraphBox& box = *ui_->resultGraph;
     const auto typedEnd = [this](int row, bool isLast) {
         return isLast && !state_.upperEndAsked() ? kBeyondQ : rows_.typed(row, Slot::End);
     };
@@ -211,17 +216,17 @@ void Vaddi2::fillAnswer() {
 
 void Vaddi2::help() {
     // It stands half beside the panel.
-    ui_->Label251->hide();
-    openPanel(ui_->Picture10, ui_->Vis1);
+    ui_->resultQuantityAxisName->hide();
+    openPanel(ui_->helpPanel, ui_->showPrices);
 }
 
 void Vaddi2::closePanel() {
-    ui_->Picture10->hide();
-    ui_->Label251->show();
+    ui_->helpPanel->hide();
+    ui_->resultQuantityAxisName->show();
 }
 
 void Vaddi2::showPrices() {
-    focusOn(ui_->Vis2);
+    focusOn(ui_->showQuantities);
     writeColumn(columnP_, state_.tableP);
     const double edge = state_.direction == 1 ? kTop : 0;
     for (std::size_t f = 0; f < given_.size(); ++f) {
@@ -248,10 +253,10 @@ void Vaddi2::showPrices() {
 
 void Vaddi2::showQuantities() {
     showPrices();
-    focusOn(ui_->Vis3);
+    focusOn(ui_->showSum);
     const std::array<std::string, 2> lines = pathLines(state_);
-    ui_->Label25->setCaption(lines[0]);
-    ui_->Label27->setCaption(lines[1]);
+    ui_->quantitiesResult->setCaption(lines[0]);
+    ui_->quantitiesResultRest->setCaption(lines[1]);
     for (std::size_t f = 0; f < given_.size(); ++f) {
         for (std::size_t row = 0; row < state_.tableP.size(); ++row) {
             if (const TableCell& quantity = state_.tableQ[f][row]; quantity.isNumeric()) {
@@ -264,8 +269,8 @@ void Vaddi2::showQuantities() {
 
 void Vaddi2::showSum() {
     showQuantities();
-    ui_->Command2->hide();
-    focusOn(ui_->Command7);
+    ui_->ok->hide();
+    focusOn(ui_->closeHelp);
     for (std::size_t row = 1; row < state_.tableP.size(); ++row) {
         drawStack(row);
     }
@@ -279,7 +284,7 @@ void Vaddi2::drawStack(std::size_t row) {
         const TableCell& quantity = state_.tableQ[f][row];
         if (quantity.isNumeric()) {
             const double to = from + quantity.number();
-            drawBar(*ui_->Picture9, from, to, state_.tableP[row].number(), given_[f].band);
+            drawBar(*ui_->resultGraph, from, to, state_.tableP[row].number(), given_[f].band);
             from = to;
         }
     }
@@ -287,7 +292,7 @@ void Vaddi2::drawStack(std::size_t row) {
 
 void Vaddi2::closeHelp() {
     closePanel();
-    focusOn(ui_->Text1);
+    focusOn(ui_->price1);
 }
 
 }  // namespace tavrune

@@ -30,11 +30,30 @@ using test::ScriptedDraws;
 using Strokes = std::vector<Stroke>;
 
 /// The help table, column by column, and the fields of the answer.
-const std::vector<std::string> kTable{"Text1",  "Text2",  "Text3",  "Text4",  "Text5",  "Text6",  "Text7",
-                                      "Text8",  "Text9",  "Text10", "Text11", "Text12", "Text13", "Text14",
-                                      "Text15", "Text16", "Text17", "Text18", "Text19", "Text20"};
-const std::vector<std::string> kAnswer{"Text21", "Text22", "Text23", "Text24", "Text25", "Text26",
-                                       "Text27", "Text28", "Text29", "Text30", "Text31"};
+const std::vector<std::string> kTable{"price1",
+                                      "price2",
+                                      "price3",
+                                      "price4",
+                                      "function1Quantity1",
+                                      "function1Quantity2",
+                                      "function1Quantity3",
+                                      "function1Quantity4",
+                                      "function2Quantity1",
+                                      "function2Quantity2",
+                                      "function2Quantity3",
+                                      "function2Quantity4",
+                                      "function3Quantity1",
+                                      "function3Quantity2",
+                                      "function3Quantity3",
+                                      "function3Quantity4",
+                                      "totalQuantity1",
+                                      "totalQuantity2",
+                                      "totalQuantity3",
+                                      "totalQuantity4"};
+const std::vector<std::string> kAnswer{"segment1Slope", "segment1Intercept", "segment1End",
+                                       "segment2Slope", "segment2Intercept", "segment2Start",
+                                       "segment2End",   "segment3Slope",     "segment3Intercept",
+                                       "segment3Start", "segment3End"};
 
 struct Exercise {
     const char* name;
@@ -132,7 +151,7 @@ protected:
 
     void next(const Exercise& exercise) {
         draws.append(scriptOf(exercise));
-        form->click("Command1");
+        form->click("newExercise");
     }
 
     void type(const std::map<std::string, std::string>& texts) const {
@@ -143,11 +162,11 @@ protected:
 
     void answer(const std::map<std::string, std::string>& texts) const {
         type(texts);
-        form->click("Command2");
+        form->click("ok");
     }
 
     [[nodiscard]] const GraphBox& graph(const std::string& name) const { return form->find<GraphBox>(name); }
-    [[nodiscard]] const Strokes& sum() const { return graph("Picture9").strokes(); }
+    [[nodiscard]] const Strokes& sum() const { return graph("resultGraph").strokes(); }
 
     /// What stands on the graph of a function besides the function.
     [[nodiscard]] Strokes drawnOn(const std::string& name) const { return test::strokesFrom(graph(name), 1); }
@@ -182,52 +201,55 @@ protected:
 };
 
 const std::map<std::string, std::string> kRightOfThree{
-    {"Text21", "-1"},   {"Text22", "9"}, {"Text23", "2"},   {"Text24", "-0.67"},
-    {"Text25", "8.33"}, {"Text26", "2"}, {"Text27", "5"},   {"Text28", "-0.4"},
-    {"Text29", "7"},    {"Text30", "5"}, {"Text31", "17.5"}};
-const std::map<std::string, std::string> kRightOfTwo{{"Text21", "-0.67"}, {"Text22", "9"},   {"Text23", "6"},
-                                                     {"Text24", "-0.4"},  {"Text25", "7.4"}, {"Text26", "6"},
-                                                     {"Text27", "18.5"}};
-const std::map<std::string, std::string> kRightOfOne{{"Text24", "-0.57"}, {"Text25", "8"}, {"Text27", "14"}};
+    {"segment1Slope", "-1"},    {"segment1Intercept", "9"},    {"segment1End", "2"},
+    {"segment2Slope", "-0.67"}, {"segment2Intercept", "8.33"}, {"segment2Start", "2"},
+    {"segment2End", "5"},       {"segment3Slope", "-0.4"},     {"segment3Intercept", "7"},
+    {"segment3Start", "5"},     {"segment3End", "17.5"}};
+const std::map<std::string, std::string> kRightOfTwo{{"segment1Slope", "-0.67"},   {"segment1Intercept", "9"},
+                                                     {"segment1End", "6"},         {"segment2Slope", "-0.4"},
+                                                     {"segment2Intercept", "7.4"}, {"segment2Start", "6"},
+                                                     {"segment2End", "18.5"}};
+const std::map<std::string, std::string> kRightOfOne{
+    {"segment2Slope", "-0.57"}, {"segment2Intercept", "8"}, {"segment2End", "14"}};
 
 TEST_F(Vaddi2Form, HasTheTextsOfItsDesign) {
     const FormDriver unshown = FormDriver::unshown(PageName::Vaddi2, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Vandret addition - Niveau 2");
     const test::FixedText texts[]{
-        {"Label1", "P=    Q +    for Q>0, P>0"},
-        {"Label4", "P=    Q +    for Q>0, P>0"},
-        {"Label31", "P=    Q +    for Q>0, P>0"},
-        {"Label62", "    P             Q1         Q2         Q3        Qtotal"},
-        {"Label63", "P="},
-        {"Label64", "Q +"},
-        {"Label65", " for          0<Q"},
-        {"Label9", "<"},
-        {"Label13", "<"},
-        {"Label66", "P="},
-        {"Label67", "Q +"},
-        {"Label68", " for"},
-        {"Label69", "<Q"},
-        {"Label23", "<"},
-        {"Label11", "<"},
-        {"Label70", "P="},
-        {"Label71", "Q +"},
-        {"Label72", " for"},
-        {"Label73", "<Q"},
-        {"Label44", "<"},
-        {"Label38", "1)"},
-        {"Label40", "2)"},
-        {"Label42", "3)"},
-        {"Label25", ""},
-        {"Label27", ""},
-        {"Label49", ""},
-        {"Vis1", "Vis"},
-        {"Vis2", "Vis"},
-        {"Vis3", "Vis"},
-        {"Command7", "&Luk"},
+        {"function1Text", "P=    Q +    for Q>0, P>0"},
+        {"function2Text", "P=    Q +    for Q>0, P>0"},
+        {"function3Text", "P=    Q +    for Q>0, P>0"},
+        {"tableHead", "    P             Q1         Q2         Q3        Qtotal"},
+        {"segment1PriceEquals", "P="},
+        {"segment1TimesQuantityPlus", "Q +"},
+        {"segment1ZeroLessThanQuantity", " for          0<Q"},
+        {"segment1StartLessOrEqual", "<"},
+        {"segment1EndLessOrEqual", "<"},
+        {"segment2PriceEquals", "P="},
+        {"segment2TimesQuantityPlus", "Q +"},
+        {"segment2ValidFor", " for"},
+        {"segment2LessThanQuantity", "<Q"},
+        {"segment2StartLessOrEqual", "<"},
+        {"segment2EndLessOrEqual", "<"},
+        {"segment3PriceEquals", "P="},
+        {"segment3TimesQuantityPlus", "Q +"},
+        {"segment3ValidFor", " for"},
+        {"segment3LessThanQuantity", "<Q"},
+        {"segment3EndLessOrEqual", "<"},
+        {"pricesStepNumber", "1)"},
+        {"quantitiesStepNumber", "2)"},
+        {"sumStepNumber", "3)"},
+        {"quantitiesResult", ""},
+        {"quantitiesResultRest", ""},
+        {"openingBlank", ""},
+        {"showPrices", "Vis"},
+        {"showQuantities", "Vis"},
+        {"showSum", "Vis"},
+        {"closeHelp", "&Luk"},
     };
     test::expectTexts(unshown, texts);
-    EXPECT_FALSE(unshown.isShown("Picture10"));
-    EXPECT_TRUE(unshown.isShown("Label49"));
+    EXPECT_FALSE(unshown.isShown("helpPanel"));
+    EXPECT_TRUE(unshown.isShown("openingBlank"));
 }
 
 TEST_F(Vaddi2Form, TellsTheMethodInItsHelp) {
@@ -235,28 +257,28 @@ TEST_F(Vaddi2Form, TellsTheMethodInItsHelp) {
     const auto sentences = [&f](const char* label) {
         return f.label(label).text().simplified().toStdString();
     };
-    EXPECT_EQ(sentences("Label15"),
+    EXPECT_EQ(sentences("pricesStepText"),
               "Bestem P-værdierne til de opgivne funktioners endepunkter vha. definitionsmængderne og indsæt "
               "dem i hjælpeskemaet efter størrelse. Hvis funktionerne er voksende, indsættes for nemheds "
               "skyld 10 som nederste værdi i hjælpeskemaet, ellers indsættes 0. Hvis der er en vandret linie "
               "indsættes dennes P-værdi to gange.");
-    EXPECT_EQ(sentences("Label29"),
+    EXPECT_EQ(sentences("quantitiesStepText"),
               "Bestem for hver P-værdi de tilsvarende Q-værdier for hver funktion, indsæt dem i "
               "hjælpeskemaet under \"Q1\" og \"Q2\" og addér dem i \"Qtotal\". Hvis der er en vandret "
               "linie, indsættes 0 som første Q-værdi og uendeligt (oo) som anden.");
-    EXPECT_EQ(sentences("Label36"),
+    EXPECT_EQ(sentences("sumStepText"),
               "Beregn den eller de resulterende funktioner ved at beregne forskrifterne for linierne mellem "
               "de samhørende Qtotal- og P-værdier.");
 }
 
 TEST_F(Vaddi2Form, BeginsEachSentenceOfItsStepsOnALineOfItsOwn) {
     const FormDriver& f = open(kThree);
-    for (const auto& [step, sentence] : {std::pair{"Label15", "Bestem P-værdierne"},
-                                         {"Label15", "Hvis funktionerne er voksende"},
-                                         {"Label15", "Hvis der er en vandret linie"},
-                                         {"Label29", "Bestem for hver P-værdi"},
-                                         {"Label29", "Hvis der er en vandret linie"},
-                                         {"Label36", "Beregn den eller de"}}) {
+    for (const auto& [step, sentence] : {std::pair{"pricesStepText", "Bestem P-værdierne"},
+                                         {"pricesStepText", "Hvis funktionerne er voksende"},
+                                         {"pricesStepText", "Hvis der er en vandret linie"},
+                                         {"quantitiesStepText", "Bestem for hver P-værdi"},
+                                         {"quantitiesStepText", "Hvis der er en vandret linie"},
+                                         {"sumStepText", "Beregn den eller de"}}) {
         EXPECT_TRUE(test::hasALineThatBegins(f.label(step), sentence)) << sentence;
     }
 }
@@ -264,72 +286,77 @@ TEST_F(Vaddi2Form, BeginsEachSentenceOfItsStepsOnALineOfItsOwn) {
 TEST_F(Vaddi2Form, StandsAtItsPlacesToTheUnit) {
     const FormDriver& f = open(kThree);
     for (const char* ofTheGivenFunctions :
-         {"Label1", "Label2", "Label3", "Label4", "Label5", "Label6", "Label31", "Label32", "Label33",
-          "Label47_0", "Label47_1", "Label47_2", "Label47_3", "Label47_4", "Label47_5"}) {
+         {"function1Text", "function1Slope", "function1Intercept", "function2Text", "function2Slope",
+          "function2Intercept", "function3Text", "function3Slope", "function3Intercept",
+          "function1QuantityAtLeast", "function1PriceAtLeast", "function2QuantityAtLeast",
+          "function2PriceAtLeast", "function3QuantityAtLeast", "function3PriceAtLeast"}) {
         EXPECT_EQ(f.label(ofTheGivenFunctions).place().top(), 176) << ofTheGivenFunctions;
     }
-    for (const auto& [box, left, top] : {std::tuple{"Text23", 184, 312},
-                                         {"Text26", 128, 336},
-                                         {"Text27", 184, 336},
-                                         {"Text30", 128, 360},
-                                         {"Text31", 184, 360}}) {
+    for (const auto& [box, left, top] : {std::tuple{"segment1End", 184, 312},
+                                         {"segment2Start", 128, 336},
+                                         {"segment2End", 184, 336},
+                                         {"segment3Start", 128, 360},
+                                         {"segment3End", 184, 360}}) {
         EXPECT_EQ(f.box(box).place().topLeft(), QPointF(left, top)) << box;
     }
-    EXPECT_EQ(f.find<GraphBox>("Picture8").Control::place().topLeft(), QPointF(328, 192));
+    EXPECT_EQ(f.find<GraphBox>("resultGraphFrame").Control::place().topLeft(), QPointF(328, 192));
     // Eight units lower it would lie over the standing buttons.
-    EXPECT_EQ(f.find<Panel>("Picture10").Control::place(), QRectF(224, 192, 409, 217));
+    EXPECT_EQ(f.find<Panel>("helpPanel").Control::place(), QRectF(224, 192, 409, 217));
 }
 
 TEST_F(Vaddi2Form, HidesTheNameOfTheAxisThatWouldStandHalfBesideItsPanel) {
     SeededDraws seeded{1};
     const FormDriver f(PageName::Vaddi2, seeded);
-    EXPECT_TRUE(f.isShown("Label251"));
-    f.click("Command3");
-    EXPECT_FALSE(f.isShown("Label251"));
-    f.click("Command7");
-    EXPECT_TRUE(f.isShown("Label251"));
-    f.click("Command3");
-    f.click("Command1");
-    EXPECT_TRUE(f.isShown("Label251"));
+    EXPECT_TRUE(f.isShown("resultQuantityAxisName"));
+    f.click("help");
+    EXPECT_FALSE(f.isShown("resultQuantityAxisName"));
+    f.click("closeHelp");
+    EXPECT_TRUE(f.isShown("resultQuantityAxisName"));
+    f.click("help");
+    f.click("newExercise");
+    EXPECT_TRUE(f.isShown("resultQuantityAxisName"));
 }
 
 TEST_F(Vaddi2Form, UnderlinesTheSignsOfAtLeast) {
     const FormDriver& f = open(kThree);
-    for (const char* name : {"Label47_0", "Label47_1", "Label47_2", "Label47_3", "Label47_4", "Label47_5"}) {
+    for (const char* name : {"function1QuantityAtLeast", "function1PriceAtLeast", "function2QuantityAtLeast",
+                             "function2PriceAtLeast", "function3QuantityAtLeast", "function3PriceAtLeast"}) {
         EXPECT_EQ(f.caption(name), ">") << name;
         EXPECT_TRUE(f.label(name).font().underline()) << name;
     }
-    for (const char* name : {"Label9", "Label13", "Label23", "Label11", "Label44"}) {
+    for (const char* name : {"segment1StartLessOrEqual", "segment1EndLessOrEqual", "segment2StartLessOrEqual",
+                             "segment2EndLessOrEqual", "segment3EndLessOrEqual"}) {
         EXPECT_TRUE(f.label(name).font().underline()) << name;
     }
 }
 
 TEST_F(Vaddi2Form, HidesTheBlankLabelAtItsFirstTick) {
     const FormDriver& f = open(kThree);
-    EXPECT_FALSE(f.isShown("Label49"));
+    EXPECT_FALSE(f.isShown("openingBlank"));
 }
 
 TEST_F(Vaddi2Form, TellsTheThreeFunctions) {
     const FormDriver& f = open(kThreeLevel);
-    const test::FixedText texts[]{{"Label2", "-1"}, {"Label3", "9"},  {"Label5", "-2"},
-                                  {"Label6", "7"},  {"Label32", "0"}, {"Label33", "5"}};
+    const test::FixedText texts[]{{"function1Slope", "-1"}, {"function1Intercept", "9"},
+                                  {"function2Slope", "-2"}, {"function2Intercept", "7"},
+                                  {"function3Slope", "0"},  {"function3Intercept", "5"}};
     test::expectTexts(f, texts);
 }
 
 TEST_F(Vaddi2Form, StartsEveryExerciseBlankAndWhite) {
     const FormDriver& f = open(kThree);
-    f.click("Command3");
-    f.click("Vis3");
-    f.click("Command7");
-    f.type("Text21", "5");
+    f.click("help");
+    f.click("showSum");
+    f.click("closeHelp");
+    f.type("segment1Slope", "5");
     next(kOne);
     EXPECT_EQ(contents(kTable), std::vector<std::string>(20, " "));
     EXPECT_EQ(contents(kAnswer), std::vector<std::string>(11, " "));
     EXPECT_EQ(redBoxes(), std::set<std::string>{});
-    EXPECT_EQ(f.caption("Label25"), "");
-    EXPECT_EQ(f.caption("Label27"), "");
-    EXPECT_EQ(f.focus(), "Text1");
-    EXPECT_TRUE(f.isShown("Command2"));
+    EXPECT_EQ(f.caption("quantitiesResult"), "");
+    EXPECT_EQ(f.caption("quantitiesResultRest"), "");
+    EXPECT_EQ(f.focus(), "price1");
+    EXPECT_TRUE(f.isShown("ok"));
     EXPECT_EQ(draws.randomized(), 2);
     EXPECT_TRUE(draws.isUsedUp());
 }
@@ -341,15 +368,19 @@ INSTANTIATE_TEST_SUITE_P(Exercises, Vaddi2Rows, testing::ValuesIn(kAll),
                          [](const testing::TestParamInfo<Exercise>& row) { return row.param.name; });
 
 TEST_P(Vaddi2Rows, ShowWhatTheExerciseAsksFor) {
-    const std::set<std::string> firstRow{"Label63", "Text21", "Label64", "Text22",
-                                         "Label65", "Label9", "Label13", "Text23"};
-    const std::set<std::string> secondRow{"Label66", "Text24", "Label67", "Text25",
-                                          "Label68", "Text26", "Label69"};
-    const std::set<std::string> secondEnd{"Label11", "Text27"};
-    const std::set<std::string> loneStart{"Label23"};
-    const std::set<std::string> thirdRow{"Label70", "Text28", "Label71", "Text29",
-                                         "Label72", "Text30", "Label73"};
-    const std::set<std::string> thirdEnd{"Label44", "Text31"};
+    const std::set<std::string> firstRow{"segment1PriceEquals",          "segment1Slope",
+                                         "segment1TimesQuantityPlus",    "segment1Intercept",
+                                         "segment1ZeroLessThanQuantity", "segment1StartLessOrEqual",
+                                         "segment1EndLessOrEqual",       "segment1End"};
+    const std::set<std::string> secondRow{
+        "segment2PriceEquals", "segment2Slope", "segment2TimesQuantityPlus", "segment2Intercept",
+        "segment2ValidFor",    "segment2Start", "segment2LessThanQuantity"};
+    const std::set<std::string> secondEnd{"segment2EndLessOrEqual", "segment2End"};
+    const std::set<std::string> loneStart{"segment2StartLessOrEqual"};
+    const std::set<std::string> thirdRow{
+        "segment3PriceEquals", "segment3Slope", "segment3TimesQuantityPlus", "segment3Intercept",
+        "segment3ValidFor",    "segment3Start", "segment3LessThanQuantity"};
+    const std::set<std::string> thirdEnd{"segment3EndLessOrEqual", "segment3End"};
     std::set<std::string> every;
     std::set<std::string> expected;
     const auto add = [&](const std::set<std::string>& names, bool isShown) {
@@ -392,27 +423,27 @@ TEST_P(Vaddi2Rows, AreWalkedByEnterAfterTheTable) {
         f.press(f.focus(), Qt::Key_Return);
     }
     EXPECT_EQ(walked, expected);
-    EXPECT_EQ(f.focus(), "Command2");
+    EXPECT_EQ(f.focus(), "ok");
 }
 
 TEST_P(Vaddi2Rows, LeadToTheNextExerciseWithoutOk) {
     const FormDriver& f = open(GetParam());
     const auto& [name, direction, functions, segments, isEndAsked] = GetParam();
-    f.click("Command3");
-    f.click("Vis3");
-    f.click("Command7");
-    const std::string last = segments == 3 ? (isEndAsked ? "Text31" : "Text30")
-                             : isEndAsked  ? "Text27"
-                                           : "Text26";
+    f.click("help");
+    f.click("showSum");
+    f.click("closeHelp");
+    const std::string last = segments == 3 ? (isEndAsked ? "segment3End" : "segment3Start")
+                             : isEndAsked  ? "segment2End"
+                                           : "segment2Start";
     f.box(last).setFocus();
     f.press(last, Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(f.focus(), "newExercise");
 }
 
 TEST_P(Vaddi2Rows, TakeTheAnswerThatTheyAreGiven) {
     const FormDriver& f = open(GetParam());
-    f.click("Command2");
-    f.click("Command4");
+    f.click("ok");
+    f.click("giveAnswer");
     std::map<std::string, std::string> given;
     for (const std::string& name : kAnswer) {
         if (f.isShown(name)) {
@@ -424,7 +455,7 @@ TEST_P(Vaddi2Rows, TakeTheAnswerThatTheyAreGiven) {
     }
     next(GetParam());
     answer(given);
-    EXPECT_TRUE(f.isShown("Label75"));
+    EXPECT_TRUE(f.isShown("right"));
     EXPECT_EQ(redBoxes(), std::set<std::string>{});
 }
 
@@ -436,19 +467,19 @@ TEST_P(Vaddi2Rows, HaveRoomInEveryState) {
             f.type(box->objectName().toStdString(), "-99.75");
         }
     }
-    f.click("Command2");
+    f.click("ok");
     EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
-    f.click("Command4");
+    f.click("giveAnswer");
     EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
-    f.click("Command3");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showSum");
     EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
 }
 
 TEST_F(Vaddi2Form, DrawsTheTicksOfItsFramesOnce) {
     open(kThree);
     next(kOne);
-    for (const char* name : {"Picture1", "Picture2", "Picture6"}) {
+    for (const char* name : {"function1GraphFrame", "function2GraphFrame", "function3GraphFrame"}) {
         const test::StrokesIn in{graph(name).scale()};
         Strokes expected;
         for (double t = 0.2; t <= 8.5; t += 0.8) {
@@ -458,7 +489,7 @@ TEST_F(Vaddi2Form, DrawsTheTicksOfItsFramesOnce) {
         ASSERT_EQ(expected.size(), 22U);
         EXPECT_EQ(graph(name).strokes(), expected) << name;
     }
-    const test::StrokesIn in{graph("Picture8").scale()};
+    const test::StrokesIn in{graph("resultGraphFrame").scale()};
     Strokes expected;
     for (double t = 0.2; t <= 8.5; t += 0.8) {
         expected.push_back(in.line(0.8, t + 0.8, 1, t + 0.8));
@@ -467,14 +498,15 @@ TEST_F(Vaddi2Form, DrawsTheTicksOfItsFramesOnce) {
         expected.push_back(in.line(t, 9, t, 9.2));
     }
     ASSERT_EQ(expected.size(), 32U);
-    EXPECT_EQ(graph("Picture8").strokes(), expected);
+    EXPECT_EQ(graph("resultGraphFrame").strokes(), expected);
 }
 
 TEST_F(Vaddi2Form, NumbersTheQuantitiesOfTheSumInOneLabelUnderTheirTicks) {
     const FormDriver& f = open(kThree);
-    const Label& numbers = f.label("Label55");
-    EXPECT_EQ(f.label("Label55").text().simplified().toStdString(), "0 2 4 6 8 10 12 14 16 18 20");
-    const GraphBox& frame = graph("Picture8");
+    const Label& numbers = f.label("resultQuantityMarks");
+    EXPECT_EQ(f.label("resultQuantityMarks").text().simplified().toStdString(),
+              "0 2 4 6 8 10 12 14 16 18 20");
+    const GraphBox& frame = graph("resultGraphFrame");
     const QString text = numbers.text();
     const QFontMetricsF metrics(numbers.font());
     qsizetype at = 0;
@@ -492,19 +524,19 @@ TEST_F(Vaddi2Form, NumbersTheQuantitiesOfTheSumInOneLabelUnderTheirTicks) {
 
 TEST_F(Vaddi2Form, DrawsTheFunctionsAndClearsWhatWasDrawn) {
     const FormDriver& f = open(kThree);
-    f.click("Command3");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showSum");
     next(kThreeRising);
-    EXPECT_EQ(graph("Picture4").strokes(), Strokes{piece(kScale, 2, 1, 0, 10)});
-    EXPECT_EQ(graph("Picture5").strokes(), Strokes{piece(kScale, 1, 3, 0, 10)});
-    EXPECT_EQ(graph("Picture7").strokes(), Strokes{piece(kScale, 4, 4, 0, 10)});
+    EXPECT_EQ(graph("function1Graph").strokes(), Strokes{piece(kScale, 2, 1, 0, 10)});
+    EXPECT_EQ(graph("function2Graph").strokes(), Strokes{piece(kScale, 1, 3, 0, 10)});
+    EXPECT_EQ(graph("function3Graph").strokes(), Strokes{piece(kScale, 4, 4, 0, 10)});
     EXPECT_EQ(sum(), Strokes{});
-    EXPECT_EQ(graph("Picture9").scale(), kSumScale);
+    EXPECT_EQ(graph("resultGraph").scale(), kSumScale);
 }
 
 TEST_F(Vaddi2Form, IsSolvedByKeysAlone) {
     const FormDriver& f = open(kTwo);
-    while (f.focus() != "Text21") {
+    while (f.focus() != "segment1Slope") {
         f.press(f.focus(), Qt::Key_Return);
     }
     for (const char* keys : {"-0,67", "9", "6", "-0,4", "7,4", "6", "18,5"}) {
@@ -512,19 +544,19 @@ TEST_F(Vaddi2Form, IsSolvedByKeysAlone) {
         f.type(box, keys);
         f.press(box, Qt::Key_Return);
     }
-    EXPECT_EQ(f.focus(), "Command2");
-    f.press("Command2", Qt::Key_Return);
-    EXPECT_TRUE(f.isShown("Label75"));
-    EXPECT_FALSE(f.isShown("Label74"));
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_FALSE(f.isShown("Command4"));
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(f.focus(), "ok");
+    f.press("ok", Qt::Key_Return);
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_FALSE(f.isShown("wrong"));
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
+    EXPECT_EQ(f.focus(), "newExercise");
 }
 
 TEST_F(Vaddi2Form, DrawsThreeRightSegmentsToTheEdgeOfTheGraph) {
     open(kThree);
     answer(kRightOfThree);
-    EXPECT_TRUE(form->isShown("Label75"));
+    EXPECT_TRUE(form->isShown("right"));
     EXPECT_EQ(sum(), (Strokes{green(-1, 9, 0, 2), green(-0.67, 8.33, 2, 5), green(-0.4, 7, 5, 20)}));
 }
 
@@ -533,14 +565,18 @@ TEST_F(Vaddi2Form, DrawsTwoRightSegmentsToTheEdgeOfTheGraph) {
     answer(kRightOfTwo);
     EXPECT_EQ(sum(), (Strokes{green(-0.67, 9, 0, 6), green(-0.4, 7.4, 6, 20)}));
     next(kTwoLevel);
-    answer({{"Text21", "-1"}, {"Text22", "9"}, {"Text23", "2"}, {"Text25", "7"}, {"Text26", "2"}});
+    answer({{"segment1Slope", "-1"},
+            {"segment1Intercept", "9"},
+            {"segment1End", "2"},
+            {"segment2Intercept", "7"},
+            {"segment2Start", "2"}});
     EXPECT_EQ(sum(), (Strokes{green(-1, 9, 0, 2), green(0, 7, 2, 20)}));
 }
 
 TEST_F(Vaddi2Form, DrawsOneRightSegmentToTheEdgeOfTheGraph) {
     open(kOne);
     answer(kRightOfOne);
-    EXPECT_TRUE(form->isShown("Label75"));
+    EXPECT_TRUE(form->isShown("right"));
     EXPECT_EQ(sum(), Strokes{green(-0.57, 8, 0, 20)});
 }
 
@@ -550,7 +586,7 @@ TEST_F(Vaddi2Form, DoesNotReadItsTable) {
         form->type(box, "99");
     }
     answer(kRightOfThree);
-    EXPECT_TRUE(form->isShown("Label75"));
+    EXPECT_TRUE(form->isShown("right"));
     EXPECT_EQ(contents(kTable), std::vector<std::string>(20, "99"));
 }
 
@@ -563,9 +599,9 @@ TEST_F(Vaddi2Form, MarksEachFieldThatIsOffAndNoOther) {
             typed[box] = text + "9";
             answer(typed);
             EXPECT_EQ(redBoxes(), std::set<std::string>{box}) << exercise.name;
-            EXPECT_TRUE(form->isShown("Label74"));
-            EXPECT_TRUE(form->isShown("Command4"));
-            EXPECT_TRUE(form->isShown("Command2"));
+            EXPECT_TRUE(form->isShown("wrong"));
+            EXPECT_TRUE(form->isShown("giveAnswer"));
+            EXPECT_TRUE(form->isShown("ok"));
         }
     };
     // A 9 after 7.4 or 0.4 is off by 0.09, after 8.33 by 0.009.
@@ -577,69 +613,69 @@ TEST_F(Vaddi2Form, MarksEachFieldThatIsOffAndNoOther) {
 TEST_F(Vaddi2Form, GivesTheFocusToTheFirstFieldAfterAWrongTry) {
     for (const Exercise& exercise : kAll) {
         const FormDriver& f = open(exercise);
-        f.click("Command2");
-        EXPECT_EQ(f.focus(), exercise.segments == 1 ? "Text24" : "Text21") << exercise.name;
+        f.click("ok");
+        EXPECT_EQ(f.focus(), exercise.segments == 1 ? "segment2Slope" : "segment1Slope") << exercise.name;
     }
 }
 
 TEST_F(Vaddi2Form, LeavesTheLowerEndOfTheToleranceWrongAndWhite) {
     open(kThree);
     std::map<std::string, std::string> typed = kRightOfThree;
-    typed["Text31"] = "17.495";
+    typed["segment3End"] = "17.495";
     answer(typed);
-    EXPECT_TRUE(form->isShown("Label74"));
+    EXPECT_TRUE(form->isShown("wrong"));
     EXPECT_EQ(redBoxes(), std::set<std::string>{});
-    answer({{"Text31", "17.505"}});
-    EXPECT_TRUE(form->isShown("Label75"));
+    answer({{"segment3End", "17.505"}});
+    EXPECT_TRUE(form->isShown("right"));
 }
 
 TEST_F(Vaddi2Form, WantsALoneSegmentToStartAtZeroExactly) {
     open(kOne);
     std::map<std::string, std::string> typed = kRightOfOne;
     for (const char* start : {"0.004", "-0.001"}) {
-        typed["Text26"] = start;
+        typed["segment2Start"] = start;
         answer(typed);
-        EXPECT_TRUE(form->isShown("Label74")) << start;
-        EXPECT_EQ(redBoxes(), std::set<std::string>{"Text26"}) << start;
+        EXPECT_TRUE(form->isShown("wrong")) << start;
+        EXPECT_EQ(redBoxes(), std::set<std::string>{"segment2Start"}) << start;
     }
-    form->box("Text26").setContent("");
-    form->click("Command2");
-    EXPECT_TRUE(form->isShown("Label75"));
+    form->box("segment2Start").setContent("");
+    form->click("ok");
+    EXPECT_TRUE(form->isShown("right"));
 }
 
 TEST_F(Vaddi2Form, FitsABlankStartOfThreeEqualIntercepts) {
     open(kOne);
-    EXPECT_EQ(form->box("Text26").content(), " ");
+    EXPECT_EQ(form->box("segment2Start").content(), " ");
     answer(kRightOfOne);
-    EXPECT_EQ(form->box("Text26").content(), " ");
-    EXPECT_TRUE(form->isShown("Label75"));
+    EXPECT_EQ(form->box("segment2Start").content(), " ");
+    EXPECT_TRUE(form->isShown("right"));
 }
 
 TEST_F(Vaddi2Form, LeavesTheWrongVerdictUnderTheRightOne) {
     const FormDriver& f = open(kOne);
-    f.click("Command2");
+    f.click("ok");
     answer(kRightOfOne);
-    EXPECT_TRUE(f.isShown("Label74"));
-    EXPECT_TRUE(f.isShown("Label75"));
-    EXPECT_FALSE(f.isShown("Command4"));
-    const QObjectList& siblings = f.label("Label75").parent()->children();
-    EXPECT_GT(siblings.indexOf(&f.label("Label75")), siblings.indexOf(&f.label("Label74")));
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_FALSE(f.isShown("giveAnswer"));
+    const QObjectList& siblings = f.label("right").parent()->children();
+    EXPECT_GT(siblings.indexOf(&f.label("right")), siblings.indexOf(&f.label("wrong")));
 }
 
 TEST_F(Vaddi2Form, DoesNotAskForAnEndAgainAfterOneThatHadIt) {
     open(kOne);
     answer(kRightOfOne);
     next(kOneLevel);
-    answer({{"Text25", "1"}});
-    EXPECT_TRUE(form->isShown("Label75"));
+    answer({{"segment2Intercept", "1"}});
+    EXPECT_TRUE(form->isShown("right"));
     EXPECT_EQ(sum(), Strokes{green(0, 1, 0, 20)});
 }
 
 TEST_F(Vaddi2Form, GivesTheAnswerInAllItsFields) {
     const FormDriver& f = open(kThree);
-    f.click("Command3");
-    f.click("Command2");
-    f.click("Command4");
+    f.click("help");
+    f.click("ok");
+    f.click("giveAnswer");
     EXPECT_EQ(contents(kTable), (std::vector<std::string>{"9", "7", "5", "0",    //
                                                           "0", "2", "4", "9",    //
                                                           " ", "0", "1", "3.5",  //
@@ -648,16 +684,16 @@ TEST_F(Vaddi2Form, GivesTheAnswerInAllItsFields) {
     EXPECT_EQ(contents(kAnswer), (std::vector<std::string>{"-1", "9", "2", "-0.67", "8.33", "2", "5", "-0.4",
                                                            "7", "5", "17.5"}));
     EXPECT_EQ(redBoxes(), std::set<std::string>{});
-    for (const char* hidden : {"Picture10", "Command2", "Command4", "Label74", "Label75"}) {
+    for (const char* hidden : {"helpPanel", "ok", "giveAnswer", "wrong", "right"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
-    EXPECT_EQ(f.focus(), "Command1");
+    EXPECT_EQ(f.focus(), "newExercise");
 }
 
 TEST_F(Vaddi2Form, BlanksTheThirdRowOfTheTableForALevelFunctionInTheMiddle) {
     const FormDriver& f = open(kTwoLevel);
-    f.click("Command2");
-    f.click("Command4");
+    f.click("ok");
+    f.click("giveAnswer");
     EXPECT_EQ(contents(kTable), (std::vector<std::string>{"9", "7", "5",  " ",  //
                                                           "0", "2", "2",  " ",  //
                                                           " ", "0", "oo", " ",  //
@@ -669,249 +705,256 @@ TEST_F(Vaddi2Form, BlanksTheThirdRowOfTheTableForALevelFunctionInTheMiddle) {
 
 TEST_F(Vaddi2Form, GivesZeroForTheStartOfALoneSegment) {
     const FormDriver& f = open(kOne);
-    answer({{"Text26", "3"}});
-    f.click("Command4");
+    answer({{"segment2Start", "3"}});
+    f.click("giveAnswer");
     EXPECT_EQ(contents(kAnswer),
               (std::vector<std::string>{" ", " ", " ", "-0.57", "8", "0", "14", " ", " ", " ", " "}));
 }
 
 TEST_F(Vaddi2Form, DrawsThreeTypedSegmentsInRedBeforeTheRightOnes) {
     const FormDriver& f = open(kThree);
-    answer({{"Text21", "-2"},
-            {"Text22", "8"},
-            {"Text23", "3"},
-            {"Text24", "-0.5"},
-            {"Text25", "7"},
-            {"Text26", "3.5"},
-            {"Text27", "6"},
-            {"Text28", "-0.25"},
-            {"Text29", "6"},
-            {"Text30", "6.5"},
-            {"Text31", "16"}});
+    answer({{"segment1Slope", "-2"},
+            {"segment1Intercept", "8"},
+            {"segment1End", "3"},
+            {"segment2Slope", "-0.5"},
+            {"segment2Intercept", "7"},
+            {"segment2Start", "3.5"},
+            {"segment2End", "6"},
+            {"segment3Slope", "-0.25"},
+            {"segment3Intercept", "6"},
+            {"segment3Start", "6.5"},
+            {"segment3End", "16"}});
     EXPECT_EQ(sum(), Strokes{});
-    f.click("Command4");
+    f.click("giveAnswer");
     EXPECT_EQ(sum(), (Strokes{red(-2, 8, 0, 3), red(-0.5, 7, 3.5, 6), red(-0.25, 6, 6.5, 16),
                               green(-1, 9, 0, 2), green(-0.67, 8.33, 2, 5), green(-0.4, 7, 5, 17.5)}));
 }
 
 TEST_F(Vaddi2Form, DrawsThreeSegmentsWithoutAnEndPastTheGraph) {
     const FormDriver& f = open(kThreeRising);
-    answer({{"Text21", "1"},
-            {"Text22", "2"},
-            {"Text23", "3"},
-            {"Text24", "0.5"},
-            {"Text25", "1"},
-            {"Text26", "4"},
-            {"Text27", "5"},
-            {"Text28", "0.25"},
-            {"Text29", "2"},
-            {"Text30", "6"}});
-    f.click("Command4");
+    answer({{"segment1Slope", "1"},
+            {"segment1Intercept", "2"},
+            {"segment1End", "3"},
+            {"segment2Slope", "0.5"},
+            {"segment2Intercept", "1"},
+            {"segment2Start", "4"},
+            {"segment2End", "5"},
+            {"segment3Slope", "0.25"},
+            {"segment3Intercept", "2"},
+            {"segment3Start", "6"}});
+    f.click("giveAnswer");
     EXPECT_EQ(sum(), (Strokes{red(1, 2, 0, 3), red(0.5, 1, 4, 5), red(0.25, 2, 6, 50), green(2, 1, 0, 1),
                               green(0.67, 2.33, 1, 2.5), green(0.57, 2.57, 2.5, 50)}));
 }
 
 TEST_F(Vaddi2Form, DrawsTwoTypedSegmentsToTheTypedEndOrPastTheGraph) {
     const FormDriver& f = open(kTwo);
-    const std::map<std::string, std::string> typed{{"Text21", "-2"}, {"Text22", "8"},  {"Text23", "3"},
-                                                   {"Text24", "-1"}, {"Text25", "12"}, {"Text26", "4"}};
+    const std::map<std::string, std::string> typed{{"segment1Slope", "-2"},     {"segment1Intercept", "8"},
+                                                   {"segment1End", "3"},        {"segment2Slope", "-1"},
+                                                   {"segment2Intercept", "12"}, {"segment2Start", "4"}};
     type(typed);
-    answer({{"Text27", "15"}});
-    f.click("Command4");
+    answer({{"segment2End", "15"}});
+    f.click("giveAnswer");
     EXPECT_EQ(sum(), (Strokes{red(-2, 8, 0, 3), red(-1, 12, 4, 15), green(-0.67, 9, 0, 6),
                               green(-0.4, 7.4, 6, 18.5)}));
     next(kTwoLevel);
     answer(typed);
-    f.click("Command4");
+    f.click("giveAnswer");
     EXPECT_EQ(sum(), (Strokes{red(-2, 8, 0, 3), red(-1, 12, 4, 50), green(-1, 9, 0, 2), green(0, 7, 2, 50)}));
 }
 
 TEST_F(Vaddi2Form, DrawsALoneTypedSegmentAsIfItsFarEndHadNoIntercept) {
     const FormDriver& f = open(kOne);
     const test::StrokesIn in{kSumScale};
-    answer({{"Text24", "-0.5"}, {"Text25", "6"}, {"Text26", "2"}, {"Text27", "12"}});
-    f.click("Command4");
+    answer({{"segment2Slope", "-0.5"},
+            {"segment2Intercept", "6"},
+            {"segment2Start", "2"},
+            {"segment2End", "12"}});
+    f.click("giveAnswer");
     // From 5 at the typed start to -6 at the typed end.
     EXPECT_EQ(sum(), (Strokes{in.line(2, 5, 12, 16, kRed), green(-0.57, 8, 0, 14)}));
     next(kOneLevel);
-    answer({{"Text24", "0.5"}, {"Text25", "6"}, {"Text26", "2"}});
-    f.click("Command4");
+    answer({{"segment2Slope", "0.5"}, {"segment2Intercept", "6"}, {"segment2Start", "2"}});
+    f.click("giveAnswer");
     EXPECT_EQ(sum(), (Strokes{in.line(2, 3, 50, -15, kRed), green(0, 1, 0, 50)}));
 }
 
 TEST_F(Vaddi2Form, OpensAndClosesItsHelp) {
     const FormDriver& f = open(kThree);
-    f.click("Command3");
-    EXPECT_TRUE(f.isShown("Picture10"));
-    EXPECT_EQ(f.focus(), "Vis1");
-    f.press("Vis1", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Vis2");
-    f.press("Vis2", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Vis3");
-    f.press("Vis3", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "Command7");
-    f.press("Command7", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("Picture10"));
-    EXPECT_EQ(f.focus(), "Text1");
+    f.click("help");
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_EQ(f.focus(), "showPrices");
+    f.press("showPrices", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "showQuantities");
+    f.press("showQuantities", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "showSum");
+    f.press("showSum", Qt::Key_Return);
+    EXPECT_EQ(f.focus(), "closeHelp");
+    f.press("closeHelp", Qt::Key_Return);
+    EXPECT_FALSE(f.isShown("helpPanel"));
+    EXPECT_EQ(f.focus(), "price1");
 }
 
 TEST_F(Vaddi2Form, WritesThePricesAndMarksTheEndsOfSlopingFunctions) {
     const FormDriver& f = open(kThree);
-    f.click("Command3");
-    f.click("Vis1");
+    f.click("help");
+    f.click("showPrices");
     EXPECT_EQ(contents(column(0)), (std::vector<std::string>{"9", "7", "5", "0"}));
     EXPECT_EQ(contents(std::span(kTable).subspan(4)), std::vector<std::string>(16, " "));
     EXPECT_EQ(contents(kAnswer), std::vector<std::string>(11, " "));
-    EXPECT_EQ(drawnOn("Picture4"), startMark(9) + startMark(0));
-    EXPECT_EQ(drawnOn("Picture5"), startMark(7) + startMark(0));
-    EXPECT_EQ(drawnOn("Picture7"), startMark(5) + startMark(0));
+    EXPECT_EQ(drawnOn("function1Graph"), startMark(9) + startMark(0));
+    EXPECT_EQ(drawnOn("function2Graph"), startMark(7) + startMark(0));
+    EXPECT_EQ(drawnOn("function3Graph"), startMark(5) + startMark(0));
     EXPECT_EQ(sum(), Strokes{});
-    EXPECT_EQ(f.caption("Label25"), "");
+    EXPECT_EQ(f.caption("quantitiesResult"), "");
 }
 
 TEST_F(Vaddi2Form, MarksTheUpperEdgeForRisingFunctions) {
     const FormDriver& f = open(kThreeRising);
-    f.click("Command3");
-    f.click("Vis1");
-    EXPECT_EQ(drawnOn("Picture4"), startMark(1) + startMark(10));
-    EXPECT_EQ(drawnOn("Picture5"), startMark(3) + startMark(10));
-    EXPECT_EQ(drawnOn("Picture7"), startMark(4) + startMark(10));
+    f.click("help");
+    f.click("showPrices");
+    EXPECT_EQ(drawnOn("function1Graph"), startMark(1) + startMark(10));
+    EXPECT_EQ(drawnOn("function2Graph"), startMark(3) + startMark(10));
+    EXPECT_EQ(drawnOn("function3Graph"), startMark(4) + startMark(10));
 }
 
 TEST_F(Vaddi2Form, MarksALevelFunctionAtBothSidesAndNoEdge) {
     const FormDriver& f = open(kThreeLevel);
-    f.click("Command3");
-    f.click("Vis1");
-    EXPECT_EQ(drawnOn("Picture4"), startMark(9));
-    EXPECT_EQ(drawnOn("Picture5"), startMark(7));
-    EXPECT_EQ(drawnOn("Picture7"), startMark(5) + rightMark(5));
+    f.click("help");
+    f.click("showPrices");
+    EXPECT_EQ(drawnOn("function1Graph"), startMark(9));
+    EXPECT_EQ(drawnOn("function2Graph"), startMark(7));
+    EXPECT_EQ(drawnOn("function3Graph"), startMark(5) + rightMark(5));
 }
 
 TEST_F(Vaddi2Form, DoesNotMarkAFunctionThatTheSumDoesNotReach) {
     const FormDriver& f = open(kTwoLevel);
-    f.click("Command3");
-    f.click("Vis1");
-    EXPECT_EQ(drawnOn("Picture4"), startMark(9));
-    EXPECT_EQ(drawnOn("Picture5"), startMark(7) + rightMark(7));
-    EXPECT_EQ(drawnOn("Picture7"), Strokes{});
+    f.click("help");
+    f.click("showPrices");
+    EXPECT_EQ(drawnOn("function1Graph"), startMark(9));
+    EXPECT_EQ(drawnOn("function2Graph"), startMark(7) + rightMark(7));
+    EXPECT_EQ(drawnOn("function3Graph"), Strokes{});
     next(kOneLevel);
-    f.click("Vis1");
-    EXPECT_EQ(drawnOn("Picture4"), Strokes{});
-    EXPECT_EQ(drawnOn("Picture5"), startMark(1) + rightMark(1));
-    EXPECT_EQ(drawnOn("Picture7"), Strokes{});
+    f.click("showPrices");
+    EXPECT_EQ(drawnOn("function1Graph"), Strokes{});
+    EXPECT_EQ(drawnOn("function2Graph"), startMark(1) + rightMark(1));
+    EXPECT_EQ(drawnOn("function3Graph"), Strokes{});
 }
 
 TEST_F(Vaddi2Form, DrawsABandForEachQuantityAndTellsThePath) {
     const FormDriver& f = open(kThree);
-    f.click("Command3");
-    f.click("Vis2");
-    EXPECT_EQ(f.focus(), "Vis3");
-    EXPECT_EQ(drawnOn("Picture4"),
+    f.click("help");
+    f.click("showQuantities");
+    EXPECT_EQ(f.focus(), "showSum");
+    EXPECT_EQ(drawnOn("function1Graph"),
               startMark(9) + startMark(0) + band1(0, 9) + band1(2, 7) + band1(4, 5) + band1(9, 0));
-    EXPECT_EQ(drawnOn("Picture5"), startMark(7) + startMark(0) + band2(0, 7) + band2(1, 5) + band2(3.5, 0));
-    EXPECT_EQ(drawnOn("Picture7"), startMark(5) + startMark(0) + band3(0, 5) + band3(5, 0));
+    EXPECT_EQ(drawnOn("function2Graph"),
+              startMark(7) + startMark(0) + band2(0, 7) + band2(1, 5) + band2(3.5, 0));
+    EXPECT_EQ(drawnOn("function3Graph"), startMark(5) + startMark(0) + band3(0, 5) + band3(5, 0));
     EXPECT_EQ(sum(), Strokes{});
-    EXPECT_EQ(f.caption("Label25"), "Her fra ( 0 ; 9 ) til ( 2 ; 7 ), fra ( 2 ; 7 ) til ( 5 ; 5 ) og fra ");
-    EXPECT_EQ(f.caption("Label27"), "( 5 ; 5 ) til ( 17.5 ; 0 ).");
+    EXPECT_EQ(f.caption("quantitiesResult"),
+              "Her fra ( 0 ; 9 ) til ( 2 ; 7 ), fra ( 2 ; 7 ) til ( 5 ; 5 ) og fra ");
+    EXPECT_EQ(f.caption("quantitiesResultRest"), "( 5 ; 5 ) til ( 17.5 ; 0 ).");
     EXPECT_EQ(contents(column(4)), (std::vector<std::string>{"0", "2", "5", "17.5"}));
     EXPECT_EQ(contents(kAnswer), std::vector<std::string>(11, " "));
-    EXPECT_TRUE(f.isShown("Command2"));
+    EXPECT_TRUE(f.isShown("ok"));
 }
 
 TEST_F(Vaddi2Form, DrawsNoBandForAnUnboundedQuantity) {
     const FormDriver& f = open(kTwoLevel);
-    f.click("Command3");
-    f.click("Vis2");
-    EXPECT_EQ(drawnOn("Picture4"), startMark(9) + band1(0, 9) + band1(2, 7) + band1(2, 5));
-    EXPECT_EQ(drawnOn("Picture5"), startMark(7) + rightMark(7) + band2(0, 7));
-    EXPECT_EQ(drawnOn("Picture7"), Strokes{});
-    EXPECT_EQ(f.caption("Label25"), "Her fra ( 0 ; 9 ) til ( 2 ; 7 ) og fra ( 2 ; 7 ) til ( oo ; 5 ).");
-    EXPECT_EQ(f.caption("Label27"), "");
+    f.click("help");
+    f.click("showQuantities");
+    EXPECT_EQ(drawnOn("function1Graph"), startMark(9) + band1(0, 9) + band1(2, 7) + band1(2, 5));
+    EXPECT_EQ(drawnOn("function2Graph"), startMark(7) + rightMark(7) + band2(0, 7));
+    EXPECT_EQ(drawnOn("function3Graph"), Strokes{});
+    EXPECT_EQ(f.caption("quantitiesResult"),
+              "Her fra ( 0 ; 9 ) til ( 2 ; 7 ) og fra ( 2 ; 7 ) til ( oo ; 5 ).");
+    EXPECT_EQ(f.caption("quantitiesResultRest"), "");
 }
 
 TEST_F(Vaddi2Form, StacksTheQuantitiesAndDrawsTheSum) {
     const FormDriver& f = open(kThree);
-    f.click("Command3");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showSum");
     EXPECT_EQ(sum(), (stack(0, 2, 7, kBand1) + stack(2, 2, 7, kBand2) +                           //
                       stack(0, 4, 5, kBand1) + stack(4, 5, 5, kBand2) + stack(5, 5, 5, kBlack) +  //
                       stack(0, 9, 0, kBand1) + stack(9, 12.5, 0, kBand2) + stack(12.5, 17.5, 0, kBlack) +
                       Strokes{green(-1, 9, 0, 2), green(-0.67, 8.33, 2, 5), green(-0.4, 7, 5, 50)}));
     EXPECT_EQ(contents(kAnswer), (std::vector<std::string>{"-1", "9", "2", "-0.67", "8.33", "2", "5", "-0.4",
                                                            "7", "5", "17.5"}));
-    EXPECT_FALSE(f.isShown("Command2"));
-    EXPECT_EQ(f.focus(), "Command7");
+    EXPECT_FALSE(f.isShown("ok"));
+    EXPECT_EQ(f.focus(), "closeHelp");
 }
 
 TEST_F(Vaddi2Form, StacksOnlyNumbers) {
     const FormDriver& f = open(kOneLevel);
-    f.click("Command3");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showSum");
     EXPECT_EQ(sum(), Strokes{green(0, 1, 0, 50)});
-    EXPECT_EQ(f.box("Text26").content(), "0");
+    EXPECT_EQ(f.box("segment2Start").content(), "0");
     next(kThreeLevel);
-    f.click("Vis3");
+    f.click("showSum");
     EXPECT_EQ(sum(), (stack(0, 2, 7, kBand1) + stack(2, 2, 7, kBand2) +                           //
                       stack(0, 4, 5, kBand1) + stack(4, 5, 5, kBand2) + stack(5, 5, 5, kBlack) +  //
                       stack(0, 4, 0, kBand1) + stack(4, 5, 0, kBand2) +
                       Strokes{green(-1, 9, 0, 2), green(-0.67, 8.33, 2, 5), green(0, 5, 5, 50)}));
     next(kOne);
-    f.click("Vis3");
+    f.click("showSum");
     EXPECT_EQ(sum(), (stack(0, 8, 0, kBand1) + stack(8, 12, 0, kBand2) + stack(12, 14, 0, kBlack) +
                       Strokes{green(-0.57, 8, 0, 50)}));
-    EXPECT_EQ(f.box("Text26").content(), "0");
+    EXPECT_EQ(f.box("segment2Start").content(), "0");
 }
 
 TEST_F(Vaddi2Form, DrawsTheStepsOnTopOfOneAnother) {
     const FormDriver& f = open(kTwo);
-    f.click("Command3");
-    f.click("Vis1");
-    f.click("Vis2");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showPrices");
+    f.click("showQuantities");
+    f.click("showSum");
     const Strokes marks = startMark(9) + startMark(0);
     const Strokes bands = band1(0, 9) + band1(4, 5) + band1(9, 0);
-    EXPECT_EQ(drawnOn("Picture4"), marks + marks + bands + marks + bands);
+    EXPECT_EQ(drawnOn("function1Graph"), marks + marks + bands + marks + bands);
     const std::size_t once = sum().size();
-    f.click("Vis3");
+    f.click("showSum");
     EXPECT_EQ(sum().size(), 2 * once);
 }
 
 TEST_F(Vaddi2Form, KeepsTheOfferOfTheAnswerAfterItsLastStep) {
     const FormDriver& f = open(kThree);
-    f.click("Command2");
+    f.click("ok");
     EXPECT_FALSE(redBoxes().empty());
-    f.click("Command3");
-    f.click("Vis3");
+    f.click("help");
+    f.click("showSum");
     EXPECT_EQ(redBoxes(), std::set<std::string>{});
-    EXPECT_TRUE(f.isShown("Label74"));
-    EXPECT_TRUE(f.isShown("Command4"));
-    EXPECT_FALSE(f.isShown("Command2"));
+    EXPECT_TRUE(f.isShown("wrong"));
+    EXPECT_TRUE(f.isShown("giveAnswer"));
+    EXPECT_FALSE(f.isShown("ok"));
     // What stands in the boxes by now is the right answer.
-    f.click("Command4");
-    EXPECT_EQ(test::strokesFrom(graph("Picture9"), sum().size() - 6),
+    f.click("giveAnswer");
+    EXPECT_EQ(test::strokesFrom(graph("resultGraph"), sum().size() - 6),
               (Strokes{red(-1, 9, 0, 2), red(-0.67, 8.33, 2, 5), red(-0.4, 7, 5, 17.5), green(-1, 9, 0, 2),
                        green(-0.67, 8.33, 2, 5), green(-0.4, 7, 5, 17.5)}));
 }
 
 TEST_F(Vaddi2Form, KeepsThePanelOpenWhileTheExerciseGoesOn) {
     const FormDriver& f = open(kOne);
-    f.click("Command3");
+    f.click("help");
     answer(kRightOfOne);
-    EXPECT_TRUE(f.isShown("Label75"));
-    EXPECT_TRUE(f.isShown("Picture10"));
-    f.click("Vis3");
-    EXPECT_TRUE(f.isShown("Label75"));
+    EXPECT_TRUE(f.isShown("right"));
+    EXPECT_TRUE(f.isShown("helpPanel"));
+    f.click("showSum");
+    EXPECT_TRUE(f.isShown("right"));
 }
 
 TEST_F(Vaddi2Form, TakesAnyTypedNumber) {
     const FormDriver& f = open(kOne);
     for (const char* text : {"1e308", "-1e308", "abc", "", "1e999"}) {
-        for (const char* box : {"Text24", "Text25", "Text26", "Text27"}) {
+        for (const char* box : {"segment2Slope", "segment2Intercept", "segment2Start", "segment2End"}) {
             f.box(box).setContent(text);
         }
-        f.click("Command2");
-        EXPECT_TRUE(f.isShown("Label74")) << text;
-        f.click("Command4");
+        f.click("ok");
+        EXPECT_TRUE(f.isShown("wrong")) << text;
+        f.click("giveAnswer");
         EXPECT_EQ(sum().size(), 2U) << text;
         next(kOne);
     }
@@ -925,9 +968,9 @@ TEST(Vaddi2Play, IsSolvedByItsOwnAnswerThroughManyExercises) {
         std::size_t asked = 0;
         for (const AnswerField& field : answerFields(state)) {
             constexpr std::array<std::array<const char*, 4>, 3> kNames{
-                {{"Text21", "Text22", "", "Text23"},
-                 {"Text24", "Text25", "Text26", "Text27"},
-                 {"Text28", "Text29", "Text30", "Text31"}}};
+                {{"segment1Slope", "segment1Intercept", "", "segment1End"},
+                 {"segment2Slope", "segment2Intercept", "segment2Start", "segment2End"},
+                 {"segment3Slope", "segment3Intercept", "segment3Start", "segment3End"}}};
             const std::size_t slot = field.slot == Slot::Slope       ? 0
                                      : field.slot == Slot::Intercept ? 1
                                      : field.slot == Slot::Start     ? 2
@@ -940,11 +983,11 @@ TEST(Vaddi2Play, IsSolvedByItsOwnAnswerThroughManyExercises) {
         const auto shown = std::count_if(kAnswer.begin(), kAnswer.end(),
                                          [&f](const std::string& box) { return f.isShown(box); });
         ASSERT_EQ(static_cast<std::size_t>(shown), asked) << "exercise " << exercise;
-        f.button("Command2").click();
-        ASSERT_TRUE(f.isShown("Label75")) << "exercise " << exercise;
-        f.button("Command3").click();
-        f.button("Vis3").click();
-        f.button("Command1").click();
+        f.button("ok").click();
+        ASSERT_TRUE(f.isShown("right")) << "exercise " << exercise;
+        f.button("help").click();
+        f.button("showSum").click();
+        f.button("newExercise").click();
     }
 }
 
