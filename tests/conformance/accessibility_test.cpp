@@ -208,8 +208,9 @@ TEST(NamesInWords, TellTheGivenFunctionsOfAnAdditionAsAWhole) {
           {PageName::Vaddi2, "function1Slope", "function1Intercept", "", "Q ≥ 0, P ≥ 0", ""},
           {PageName::Laddi2, "function1Part1Slope", "function1Part1Intercept", "function1Part1End",
            "0 ≤ Q ≤ ", ""},
-          {PageName::Vaddi3, "Label31", "Label32", "Label33", "", " < Q, P > 0"},
-          {PageName::Vaddi3, "Label35", "Label36", "", "Q > 0, P > 0", ""}}) {
+          {PageName::Vaddi3, "function1Part2Slope", "function1Part2Intercept", "function1Part2Start", "",
+           " < Q, P > 0"},
+          {PageName::Vaddi3, "function2Slope", "function2Intercept", "", "Q > 0, P > 0", ""}}) {
         SeededDraws draws(3);
         const FormDriver form(page, draws);
         const std::string where = before + (*kink == 0 ? "" : form.caption(kink)) + after;
@@ -225,7 +226,7 @@ TEST(NamesInWords, FollowTheColumnsOfTheHelpTable) {
     const BlindStudent student(form.page());
     std::set<bool> kinds;
     for (int exercise = 0; exercise < 20; ++exercise) {
-        const bool isWide = form.isShown("Text11");
+        const bool isWide = form.isShown("wideTablePrice1");
         kinds.insert(isWide);
         for (const char* column : {"Q1a", "Qtotalb"}) {
             EXPECT_EQ(student.hears(QAccessible::EditableText,

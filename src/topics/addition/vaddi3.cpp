@@ -38,58 +38,64 @@ void drawJoin(GraphBox& box, const Piece& before, double end, const Piece& after
 Vaddi3::Vaddi3(Draws& draws)
     : ExerciseForm(PageName::Vaddi3, draws), ui_(std::make_unique<Ui::Vaddi3>()), rows_({}) {
     setUp(*ui_);
-    buttons({.newExercise = ui_->Command1,
-             .ok = ui_->Command2,
-             .giveAnswer = ui_->Command4,
-             .help = ui_->Command3});
-    verdict(TwoLabels{.right = ui_->Label49, .wrong = ui_->Label45, .darkUntilFirstTick = true});
+    buttons(
+        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
+    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong, .darkUntilFirstTick = true});
     bindBoxes();
     bindEnter();
-    onClick(ui_->Vis1, &Vaddi3::showPrices);
-    onClick(ui_->Vis2, &Vaddi3::showQuantities);
-    onClick(ui_->Vis3, &Vaddi3::showSum);
-    onClick(ui_->Luk, &Vaddi3::closeHelp);
+    onClick(ui_->showPrices, &Vaddi3::showPrices);
+    onClick(ui_->showQuantities, &Vaddi3::showQuantities);
+    onClick(ui_->showSum, &Vaddi3::showSum);
+    onClick(ui_->closeHelp, &Vaddi3::closeHelp);
 }
 
 Vaddi3::~Vaddi3() = default;
 
 void Vaddi3::bindBoxes() {
-    rows_ = AnswerRows({{ui_->Text1, ui_->Text2, nullptr, ui_->Text3},
-                        {ui_->Text4, ui_->Text5, ui_->Text6, ui_->Text7},
-                        {ui_->Text8, ui_->Text9, ui_->Text10, ui_->Text36},
-                        {ui_->Text37, ui_->Text38, ui_->Text39, ui_->Text47}});
-    table_ = {{{ui_->Text11, ui_->Text17, ui_->Text23, ui_->Text29, ui_->Text35},
-               {ui_->Text12, ui_->Text18, ui_->Text24, ui_->Text30, ui_->Text40},
-               {ui_->Text13, ui_->Text19, ui_->Text25, ui_->Text31, ui_->Text41},
-               {ui_->Text14, ui_->Text20, ui_->Text26, ui_->Text32, ui_->Text42},
-               {ui_->Text15, ui_->Text21, ui_->Text27, ui_->Text33, ui_->Text43},
-               {ui_->Text16, ui_->Text22, ui_->Text28, ui_->Text34, ui_->Text44}}};
+    rows_ = AnswerRows({{ui_->segment1Slope, ui_->segment1Intercept, nullptr, ui_->segment1End},
+                        {ui_->segment2Slope, ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End},
+                        {ui_->segment3Slope, ui_->segment3Intercept, ui_->segment3Start, ui_->segment3End},
+                        {ui_->segment4Slope, ui_->segment4Intercept, ui_->segment4Start, ui_->segment4End}});
+    table_ = {
+        {{ui_->wideTablePrice1, ui_->wideTablePrice2, ui_->wideTablePrice3, ui_->wideTablePrice4,
+          ui_->wideTablePrice5},
+         {ui_->priceOrPart1Quantity1, ui_->priceOrPart1Quantity2, ui_->priceOrPart1Quantity3,
+          ui_->priceOrPart1Quantity4, ui_->priceOrPart1Quantity5},
+         {ui_->function1OrPart2Quantity1, ui_->function1OrPart2Quantity2, ui_->function1OrPart2Quantity3,
+          ui_->function1OrPart2Quantity4, ui_->function1OrPart2Quantity5},
+         {ui_->function2Quantity1, ui_->function2Quantity2, ui_->function2Quantity3, ui_->function2Quantity4,
+          ui_->function2Quantity5},
+         {ui_->totalOrPart1TotalQuantity1, ui_->totalOrPart1TotalQuantity2, ui_->totalOrPart1TotalQuantity3,
+          ui_->totalOrPart1TotalQuantity4, ui_->totalOrPart1TotalQuantity5},
+         {ui_->part2TotalQuantity1, ui_->part2TotalQuantity2, ui_->part2TotalQuantity3,
+          ui_->part2TotalQuantity4, ui_->part2TotalQuantity5}}};
 }
 
 void Vaddi3::bindEnter() {
     // Backwards through the table: from each box to the first one after it that is shown.
-    std::vector<QWidget*> rest{ui_->Text1, ui_->Text4};
+    std::vector<QWidget*> rest{ui_->segment1Slope, ui_->segment2Slope};
     for (std::size_t row = table_.front().size(); row-- > 0;) {
         for (std::size_t column = table_.size(); column-- > 0;) {
             enterGoes(table_[column][row], rest);
             rest.insert(rest.begin(), table_[column][row]);
         }
     }
-    enterChainWhileShown(
-        {ui_->Text1, ui_->Text2, ui_->Text3, ui_->Text4, ui_->Text5, ui_->Text6, ui_->Text7, ui_->Text8,
-         ui_->Text9, ui_->Text10, ui_->Text36, ui_->Text37, ui_->Text38, ui_->Text39, ui_->Text47},
-        LastBox::OkOrNewExercise);
+    enterChainWhileShown({ui_->segment1Slope, ui_->segment1Intercept, ui_->segment1End, ui_->segment2Slope,
+                          ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End, ui_->segment3Slope,
+                          ui_->segment3Intercept, ui_->segment3Start, ui_->segment3End, ui_->segment4Slope,
+                          ui_->segment4Intercept, ui_->segment4Start, ui_->segment4End},
+                         LastBox::OkOrNewExercise);
 }
 
 void Vaddi3::firstTick() {
     ExerciseForm::firstTick();
-    ui_->Label64->hide();
+    ui_->openingBlank->hide();
 }
 
 void Vaddi3::newExercise() {
-    ui_->Label1->setCaption("");
-    ui_->Label2->setCaption("");
-    ui_->Picture5->hide();
+    ui_->quantitiesResult->setCaption("");
+    ui_->quantitiesResultRest->setCaption("");
+    ui_->helpPanel->hide();
     blankBoxes();
     showAsking();
     tavrune::newExercise(state_, draws());
@@ -113,15 +119,15 @@ void Vaddi3::showTable() {
             box->setVisible(state_.isJumpUp());
         }
     }
-    ui_->Label9->setCaption(state_.isJumpUp() ? "P          Q1a       Q1b        Q2    Qtotala  Qtotalb"
-                                              : "              P           Q1          Q2     Qtotal");
+    ui_->tableHead->setCaption(state_.isJumpUp() ? "P          Q1a       Q1b        Q2    Qtotala  Qtotalb"
+                                                 : "              P           Q1          Q2     Qtotal");
     std::vector<const Control*> columns;
     for (const HelpColumn& column : table_) {
         if (column.front()->isShown()) {
             columns.push_back(column.front());
         }
     }
-    ui_->Label9->standOver(columns);
+    ui_->tableHead->standOver(columns);
     nameTable();
 }
 
@@ -140,58 +146,62 @@ void Vaddi3::nameTable() {
 }
 
 void Vaddi3::showTask() {
-    ui_->Label27->setCaption(NumberText(state_.firstSlope));
-    ui_->Label28->setCaption(NumberText(state_.firstIntercept));
-    ui_->Label29->setCaption(NumberText(state_.kinkQuantity));
-    ui_->Label31->setCaption(NumberText(state_.secondSlope));
-    ui_->Label32->setCaption(NumberText(state_.secondIntercept));
-    ui_->Label33->setCaption(NumberText(state_.kinkQuantity));
-    ui_->Label35->setCaption(NumberText(state_.slope2));
-    ui_->Label36->setCaption(NumberText(state_.intercept2));
+    ui_->function1Part1Slope->setCaption(NumberText(state_.firstSlope));
+    ui_->function1Part1Intercept->setCaption(NumberText(state_.firstIntercept));
+    ui_->function1Part1End->setCaption(NumberText(state_.kinkQuantity));
+    ui_->function1Part2Slope->setCaption(NumberText(state_.secondSlope));
+    ui_->function1Part2Intercept->setCaption(NumberText(state_.secondIntercept));
+    ui_->function1Part2Start->setCaption(NumberText(state_.kinkQuantity));
+    ui_->function2Slope->setCaption(NumberText(state_.slope2));
+    ui_->function2Intercept->setCaption(NumberText(state_.intercept2));
     // Parts that meet share their point, which then belongs to the first.
     const bool isJump = state_.kinkKind == KinkKind::JumpDown || state_.isJumpUp();
-    ui_->Label3->setVisible(isJump);
-    ui_->Label41->setVisible(!isJump);
+    ui_->function1Part1EndLess->setVisible(isJump);
+    ui_->function1Part1EndLessOrEqual->setVisible(!isJump);
     const std::string kink = NumberText(state_.kinkQuantity);
-    ui_->Label26->setAccessibleName(wholeFunction(ui_->Label27->caption(), ui_->Label28->caption(),
-                                                  (isJump ? "0 < Q < " : "0 < Q ≤ ") + kink));
-    ui_->Label30->setAccessibleName(
-        wholeFunction(ui_->Label31->caption(), ui_->Label32->caption(), kink + " < Q, P > 0"));
-    ui_->Label34->setAccessibleName(
-        wholeFunction(ui_->Label35->caption(), ui_->Label36->caption(), "Q > 0, P > 0"));
+    ui_->function1Part1Text->setAccessibleName(wholeFunction(ui_->function1Part1Slope->caption(),
+                                                             ui_->function1Part1Intercept->caption(),
+                                                             (isJump ? "0 < Q < " : "0 < Q ≤ ") + kink));
+    ui_->function1Part2Text->setAccessibleName(wholeFunction(
+        ui_->function1Part2Slope->caption(), ui_->function1Part2Intercept->caption(), kink + " < Q, P > 0"));
+    ui_->function2Text->setAccessibleName(
+        wholeFunction(ui_->function2Slope->caption(), ui_->function2Intercept->caption(), "Q > 0, P > 0"));
 }
 
 void Vaddi3::showRows() {
     const int count = state_.segmentCount();
     const bool isAsked = state_.upperEndAsked;
-    setShown(count >= 2, {ui_->Label11, ui_->Text1, ui_->Label13, ui_->Text2, ui_->Label15, ui_->Text3});
+    setShown(count >= 2, {ui_->segment1PriceEquals, ui_->segment1Slope, ui_->segment1TimesQuantityPlus,
+                          ui_->segment1Intercept, ui_->segment1ZeroLessThanQuantity, ui_->segment1End});
     const bool hasSecondEnd = count >= 3 || isAsked;
-    ui_->Text7->setVisible(hasSecondEnd);
-    ui_->Label21->setCaption(hasSecondEnd ? "<Q<" : "<Q");
-    setShown(count >= 3,
-             {ui_->Label22, ui_->Text8, ui_->Label23, ui_->Text9, ui_->Label24, ui_->Text10, ui_->Label25});
+    ui_->segment2End->setVisible(hasSecondEnd);
+    ui_->segment2LessThanQuantity->setCaption(hasSecondEnd ? "<Q<" : "<Q");
+    setShown(count >= 3, {ui_->segment3PriceEquals, ui_->segment3Slope, ui_->segment3TimesQuantityPlus,
+                          ui_->segment3Intercept, ui_->segment3ValidFor, ui_->segment3Start,
+                          ui_->segment3LessThanQuantity});
     const bool hasThirdEnd = count == 4 || (count == 3 && isAsked);
-    ui_->Text36->setVisible(hasThirdEnd);
-    ui_->Label25->setCaption(hasThirdEnd ? "<Q<" : "<Q");
-    setShown(count == 4,
-             {ui_->Label37, ui_->Text37, ui_->Label38, ui_->Text38, ui_->Label39, ui_->Text39, ui_->Label40});
-    setShown(count == 4 && isAsked, {ui_->LabelUpperEnd, ui_->Text47});
+    ui_->segment3End->setVisible(hasThirdEnd);
+    ui_->segment3LessThanQuantity->setCaption(hasThirdEnd ? "<Q<" : "<Q");
+    setShown(count == 4, {ui_->segment4PriceEquals, ui_->segment4Slope, ui_->segment4TimesQuantityPlus,
+                          ui_->segment4Intercept, ui_->segment4ValidFor, ui_->segment4Start,
+                          ui_->segment4LessThanQuantity});
+    setShown(count == 4 && isAsked, {ui_->segment4EndLess, ui_->segment4End});
     rows_.nameShownBoxes();
 }
 
 void Vaddi3::drawGraphs() {
-    for (GraphBox* box : {ui_->Picture3, ui_->Picture4, ui_->Picture7}) {
+    for (GraphBox* box : {ui_->function2Graph, ui_->function1Graph, ui_->resultGraph}) {
         box->Cls();
     }
-    drawFrameTicks(*ui_->Picture1);
-    drawFrameTicks(*ui_->Picture2);
-    drawWideFrameTicks(*ui_->Picture6);
+    drawFrameTicks(*ui_->function1GraphFrame);
+    drawFrameTicks(*ui_->function2GraphFrame);
+    drawWideFrameTicks(*ui_->resultGraphFrame);
     drawGivenFunctions();
 }
 
 void Vaddi3::drawGivenFunctions() {
     const Vaddi3State& s = state_;
-    GraphBox& first = *ui_->Picture4;
+    GraphBox& first = *ui_->function1Graph;
     const double kinkQ = s.kinkQuantity;
     const double kinkFirst = kTop - s.priceAtKinkFirst;
     const double kinkSecond = kTop - s.priceAtKinkSecond;
@@ -200,10 +210,12 @@ void Vaddi3::drawGivenFunctions() {
     if (s.kinkKind == KinkKind::JumpDown || s.isJumpUp()) {
         first.Line(kinkQ, kinkFirst, kinkQ, kinkSecond);
     }
-    ui_->Picture3->Line(0, kTop - s.intercept2, kLastQ, kTop - (kLastQ * s.slope2 + s.intercept2));
+    ui_->function2Graph->Line(0, kTop - s.intercept2, kLastQ, kTop - (kLastQ * s.slope2 + s.intercept2));
 }
 
-void Vaddi3::focusOnTable() { focusOn(state_.isJumpUp() ? ui_->Text11 : ui_->Text12); }
+void Vaddi3::focusOnTable() {
+    focusOn(state_.isJumpUp() ? ui_->wideTablePrice1 : ui_->priceOrPart1Quantity1);
+}
 
 void Vaddi3::judge() {
     rows_.whiten();
@@ -219,7 +231,7 @@ void Vaddi3::judge() {
         fields.push_back(*upperEnd);
     }
     rows_.mark(fields);
-    focusOn(state_.segmentCount() == 1 ? ui_->Text4 : ui_->Text1);
+    focusOn(state_.segmentCount() == 1 ? ui_->segment2Slope : ui_->segment1Slope);
 }
 
 bool Vaddi3::isUpperEndRight() const {
@@ -229,7 +241,7 @@ bool Vaddi3::isUpperEndRight() const {
     }
     // Kept: with three segments the verdict reads a box of the help table; the red mark goes by the field.
     const AnswerBox* const read =
-        state_.segmentCount() == 3 ? ui_->Text25 : rows_.box(asked->row, asked->slot);
+        state_.segmentCount() == 3 ? ui_->function1OrPart2Quantity3 : rows_.box(asked->row, asked->slot);
     return asked->target.isFit(read->value());
 }
 
@@ -237,7 +249,7 @@ void Vaddi3::drawSum() {
     const int count = state_.segmentCount();
     for (int i = 0; i < count; ++i) {
         const SumSegment& segment = state_.segments[static_cast<std::size_t>(i)];
-        drawPiece(*ui_->Picture7, kTop, segment.piece, i == 0 ? 0 : segment.startQ.number(),
+        drawPiece(*ui_->resultGraph, kTop, segment.piece, i == 0 ? 0 : segment.startQ.number(),
                   i + 1 == count ? kLastSumQ : segment.endQ.number(), kSumGreen);
     }
 }
@@ -251,14 +263,14 @@ void Vaddi3::drawJoins() {
         const bool isSloping = before.piece.slope != 0 && after.piece.slope != 0;
         if (state_.kinkKind == KinkKind::JumpDown ||
             (state_.isJumpUp() && i == 1 && isUpright && isSloping)) {
-            drawJoin(*ui_->Picture7, before.piece, before.endQ.number(), after.piece, after.startQ.number(),
-                     kSumGreen);
+            drawJoin(*ui_->resultGraph, before.piece, before.endQ.number(), after.piece,
+                     after.startQ.number(), kSumGreen);
         }
     }
 }
 
 void Vaddi3::giveAnswer() {
-    ui_->Picture5->hide();
+    ui_->helpPanel->hide();
     given();
     drawTypedSum();
     fillTable(true);
@@ -266,7 +278,7 @@ void Vaddi3::giveAnswer() {
 }
 
 void Vaddi3::drawTypedSum() {
-    GraphBox& box = *ui_->Picture7;
+    GraphBox& box = *ui_->resultGraph;
     const int count = state_.segmentCount();
     for (int i = 0; i < count; ++i) {
         const int row = rowOf(i, count);
@@ -314,20 +326,20 @@ void Vaddi3::fillAnswer() {
 }
 
 void Vaddi3::help() {
-    ui_->Label42->setVisible(state_.isJumpUp());
-    ui_->Label5->setVisible(!state_.isJumpUp());
-    openPanel(ui_->Picture5, ui_->Vis1);
+    ui_->jumpUpQuantitiesStepText->setVisible(state_.isJumpUp());
+    ui_->quantitiesStepText->setVisible(!state_.isJumpUp());
+    openPanel(ui_->helpPanel, ui_->showPrices);
 }
 
 void Vaddi3::showPrices() {
     fillTable(false);
     markEnds();
-    focusOn(ui_->Vis2);
+    focusOn(ui_->showQuantities);
 }
 
 void Vaddi3::markEnds() {
     const Vaddi3State& s = state_;
-    GraphBox& first = *ui_->Picture4;
+    GraphBox& first = *ui_->function1Graph;
     drawEndMark(first, 0, s.firstIntercept);
     drawEndMark(first, s.kinkQuantity, s.priceAtKinkFirst);
     if (s.priceAtKinkSecond != s.priceAtKinkFirst) {
@@ -335,7 +347,7 @@ void Vaddi3::markEnds() {
     }
     drawEndMark(first, -s.secondIntercept / s.secondSlope, 0);
 
-    GraphBox& second = *ui_->Picture3;
+    GraphBox& second = *ui_->function2Graph;
     drawEndMark(second, 0, s.intercept2);
     if (s.slope2 == 0) {
         drawEndMark(second, kLastQ, s.intercept2);
@@ -349,9 +361,9 @@ void Vaddi3::showQuantities() {
     fillTable(true);
     drawBands();
     const auto [first, second] = pathTexts(state_);
-    ui_->Label1->setCaption(first);
-    ui_->Label2->setCaption(second);
-    focusOn(ui_->Vis3);
+    ui_->quantitiesResult->setCaption(first);
+    ui_->quantitiesResultRest->setCaption(second);
+    focusOn(ui_->showSum);
 }
 
 void Vaddi3::drawBands() {
@@ -366,24 +378,24 @@ void Vaddi3::drawBands() {
     for (std::size_t row = 1; row < prices.size() && prices[row].isNumeric(); ++row) {
         const double price = prices[row].number();
         for (const std::size_t column : columns.quantities1) {
-            draw(*ui_->Picture4, column, row, price, kBlue);
+            draw(*ui_->function1Graph, column, row, price, kBlue);
         }
-        draw(*ui_->Picture3, columns.quantity2, row, price, kBandGreen);
+        draw(*ui_->function2Graph, columns.quantity2, row, price, kBandGreen);
     }
 }
 
 void Vaddi3::showSum() {
-    ui_->Command4->hide();
+    ui_->giveAnswer->hide();
     hideVerdict();
     showQuantities();
-    ui_->Command2->hide();
-    focusOn(ui_->Luk);
+    ui_->ok->hide();
+    focusOn(ui_->closeHelp);
     drawStacks();
     fillAnswer();
 }
 
 void Vaddi3::drawStacks() {
-    GraphBox& box = *ui_->Picture7;
+    GraphBox& box = *ui_->resultGraph;
     const HelpColumns columns = helpColumns(state_);
     const Vaddi3State::Column& prices = state_.helpTable[columns.price];
     for (std::size_t row = 0; row < prices.size() && prices[row].isNumeric(); ++row) {
@@ -406,7 +418,7 @@ void Vaddi3::drawStacks() {
 }
 
 void Vaddi3::closeHelp() {
-    ui_->Picture5->hide();
+    ui_->helpPanel->hide();
     focusOnTable();
 }
 
