@@ -6,7 +6,7 @@
 namespace tavrune {
 namespace {
 
-/// Lays out the running text of `Label9` with its gaps, and each bold word in its gap.
+/// Lays out the running text of `exerciseText` with its gaps, and each bold word in its gap.
 class RunningText {
 public:
     explicit RunningText(Label* text) : text_(text), metrics_(designFont()) {}
@@ -78,28 +78,28 @@ Form1::Form1() : Page(PageName::Form1) {
     Ui::Form1 ui;
     setUp(ui);
 
-    RunningText text(ui.Label9);
+    RunningText text(ui.exerciseText);
     text.add(
         "Programmet bliver ved med at stille nye opgaver inden for emnet, så længe det ønskes. "
         "En ny opgave får man stillet ved at klikke på");
-    text.addBold(ui.Label8);
+    text.addBold(ui.newExerciseWord);
     text.endParagraph();
     text.add("Når svaret på opgaven er indtastet, altid med 2 decimalers nøjagtighed, klikkes på");
-    text.addBold(ui.Label6);
+    text.addBold(ui.okWord);
     text.add(", hvorefter programmet fortæller, om svaret er rigtigt eller forkert.");
     text.endParagraph();
     text.add("Det er muligt at få det rigtige svar ved at klikke på");
-    text.addBold(ui.Label7);
+    text.addBold(ui.giveAnswerWord);
     text.endParagraph();
     text.add("Det er også muligt at få hjælp til løsning af opgaven ved klik på");
-    text.addBold(ui.Label11);
+    text.addBold(ui.helpWord);
     text.add(
         ". Hjælpefunktionen indeholder i de fleste tilfælde både en teoretisk fremgangsmåde og løsning af "
         "det aktuelle eksempel.");
     text.finish();
 
-    connect(ui.Command1, &Button::clicked, this, [this] { emit chosen(PageName::Form2); });
-    ui.Command1->setFocus();
+    connect(ui.nextPage, &Button::clicked, this, [this] { emit chosen(PageName::Form2); });
+    ui.nextPage->setFocus();
 }
 
 Form2::Form2() : Page(PageName::Form2) {

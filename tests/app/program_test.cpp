@@ -95,7 +95,7 @@ TEST_F(ProgramRun, PutsTheFocusOnThePageThatHasCome) {
     EXPECT_EQ(QApplication::focusWidget(), program.page()->findChild<AnswerBox*>("numerator"));
     choose(PageName::Form1);
     // Nothing there asks for it.
-    EXPECT_EQ(QApplication::focusWidget(), program.page()->findChild<Button*>("Command1"));
+    EXPECT_EQ(QApplication::focusWidget(), program.page()->findChild<Button*>("nextPage"));
     choose(PageName::Laddi1);
     ASSERT_NE(QApplication::focusWidget(), nullptr);
     EXPECT_TRUE(program.page()->isAncestorOf(QApplication::focusWidget()));

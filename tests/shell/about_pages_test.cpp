@@ -23,35 +23,35 @@ TEST_F(AboutPages, FirstTellsOfTheProgramInItsOwnWords) {
     const FormDriver form(PageName::Form1, draws);
     EXPECT_EQ(form.page().windowTitle().toStdString(), "Tavrune - Om Tavrune");
     // Another version number than on the start page: kept.
-    EXPECT_EQ(form.caption("Label1"), "Tavrune 2.1");
-    EXPECT_EQ(form.caption("Label2"), "Matematiktræningsprogram for økonomer");
-    EXPECT_EQ(form.caption("Label3"), "Om programmet");
-    EXPECT_EQ(form.caption("Label12"), "Brug af programmet");
+    EXPECT_EQ(form.caption("programName"), "Tavrune 2.1");
+    EXPECT_EQ(form.caption("subtitle"), "Matematiktræningsprogram for økonomer");
+    EXPECT_EQ(form.caption("aboutHeading"), "Om programmet");
+    EXPECT_EQ(form.caption("usageHeading"), "Brug af programmet");
     EXPECT_EQ(
-        form.caption("Label4"),
+        form.caption("purposeText"),
         "Matematiktræningsprogrammet Tavrune er udviklet specielt til at indøve og træne en række "
         "grundlæggende regnefærdigheder og matematiske teknikker, som især anvendes inden for Managerial "
         "Economics.");
     EXPECT_EQ(
-        form.caption("Label5"),
+        form.caption("modulesText"),
         "Systemet består af 12 moduler, der hver især fokuserer på et bestemt teknisk/matematisk område, som "
         "brugeren måtte ønske at træne sine færdigheder indenfor.");
     EXPECT_EQ(
-        form.caption("Label10"),
+        form.caption("topicChoiceText"),
         "Hver af de 12 emner aktiveres ved at \"klikke\" på det pågældende emne i menuen \"Indhold\". For "
         "nogle emner vælges der sværhedsgrad.");
-    EXPECT_EQ(form.caption("Label13"),
+    EXPECT_EQ(form.caption("copyingTerms"),
               "Tavrune må frit kopieres til brug i undervisningen, når programmet ikke ændres.");
-    EXPECT_EQ(form.caption("Label8"), "\"Ny opgave\"");
-    EXPECT_EQ(form.caption("Label6"), "\"OK\"");
-    EXPECT_EQ(form.caption("Label7"), "\"Giv svaret\"");
-    EXPECT_EQ(form.caption("Label11"), "\"Hjælp\"");
-    EXPECT_EQ(form.button("Command1").caption(), "&Næste side >");
+    EXPECT_EQ(form.caption("newExerciseWord"), "\"Ny opgave\"");
+    EXPECT_EQ(form.caption("okWord"), "\"OK\"");
+    EXPECT_EQ(form.caption("giveAnswerWord"), "\"Giv svaret\"");
+    EXPECT_EQ(form.caption("helpWord"), "\"Hjælp\"");
+    EXPECT_EQ(form.button("nextPage").caption(), "&Næste side >");
 }
 
 TEST_F(AboutPages, FirstRunsItsTextAroundTheNamesOfTheButtons) {
     const FormDriver form(PageName::Form1, draws);
-    QString running = form.label("Label9").text();
+    QString running = form.label("exerciseText").text();
     EXPECT_EQ(
         running.simplified().toStdString(),
         "Programmet bliver ved med at stille nye opgaver inden for emnet, så længe det ønskes. En ny opgave "
@@ -105,7 +105,7 @@ TEST_F(AboutPages, LeadToEachOther) {
         QObject::connect(&form->page(), &Page::chosen, &form->page(),
                          [&asked](PageName name) { asked.push_back(name); });
     }
-    first.click("Command1");
+    first.click("nextPage");
     second.press("Command2", Qt::Key_Return);
     EXPECT_EQ(asked, (std::vector{PageName::Form2, PageName::Form1}));
 }
