@@ -105,8 +105,8 @@ Form1::Form1() : Page(PageName::Form1) {
 Form2::Form2() : Page(PageName::Form2) {
     Ui::Form2 ui;
     setUp(ui);
-    connect(ui.Command2, &Button::clicked, this, [this] { emit chosen(PageName::Form1); });
-    ui.Command2->setFocus();
+    connect(ui.previousPage, &Button::clicked, this, [this] { emit chosen(PageName::Form1); });
+    ui.previousPage->setFocus();
 }
 
 }  // namespace tavrune

@@ -64,7 +64,7 @@ TEST_F(AboutPages, FirstRunsItsTextAroundTheNamesOfTheButtons) {
 
 TEST_F(AboutPages, SecondListsTheTwelveTopics) {
     const FormDriver form(PageName::Form2, draws);
-    EXPECT_EQ(form.caption("Label25"), "De 12 emner");
+    EXPECT_EQ(form.caption("topicsHeading"), "De 12 emner");
     const std::vector<std::string> topics{
         "Afsætningsfunktioner:  Fastlæggelse af lineære afsætningsfunktioner ud fra "
         "forskellige kombinationer af oplysninger såsom priser, mængder, priselasticiteter og "
@@ -86,15 +86,20 @@ TEST_F(AboutPages, SecondListsTheTwelveTopics) {
         "Lodret addition:  Lodret addition af lineære funktioner. 2 niveauer.",
         "Vandret addition:  Vandret addition af lineære funktioner. 3 niveauer.",
         "2 ligninger med 2 ubekendte:  Træning i løsning af 2 ligninger med 2 ubekendte."};
-    const std::array numbers{"Label1", "Label2", "Label3", "Label4",  "Label5",  "Label6",
-                             "Label7", "Label8", "Label9", "Label10", "Label11", "Label12"};
-    const std::array labels{"Label13", "Label14", "Label15", "Label16", "Label17", "Label18",
-                            "Label19", "Label20", "Label21", "Label22", "Label23", "Label24"};
+    const std::array numbers{
+        "demandFunctionsNumber",      "quadraticPolynomialNumber", "fractionsNumber",
+        "straightLineNumber",         "differentiationNumber",     "functionConversionNumber",
+        "averageTotalMarginalNumber", "integrationNumber",         "linearInterpolationNumber",
+        "verticalAdditionNumber",     "horizontalAdditionNumber",  "twoEquationsNumber"};
+    const std::array labels{"demandFunctions",      "quadraticPolynomial", "fractions",
+                            "straightLine",         "differentiation",     "functionConversion",
+                            "averageTotalMarginal", "integration",         "linearInterpolation",
+                            "verticalAddition",     "horizontalAddition",  "twoEquations"};
     for (std::size_t i = 0; i < topics.size(); ++i) {
         EXPECT_EQ(form.caption(numbers.at(i)), std::to_string(i + 1) + ".");
         EXPECT_EQ(form.caption(labels.at(i)), topics[i]);
     }
-    EXPECT_EQ(form.button("Command2").caption(), "< &Sidste side");
+    EXPECT_EQ(form.button("previousPage").caption(), "< &Sidste side");
 }
 
 TEST_F(AboutPages, LeadToEachOther) {
@@ -106,7 +111,7 @@ TEST_F(AboutPages, LeadToEachOther) {
                          [&asked](PageName name) { asked.push_back(name); });
     }
     first.click("nextPage");
-    second.press("Command2", Qt::Key_Return);
+    second.press("previousPage", Qt::Key_Return);
     EXPECT_EQ(asked, (std::vector{PageName::Form2, PageName::Form1}));
 }
 
