@@ -118,11 +118,11 @@ TEST_F(AboutPages, LeadToEachOther) {
 TEST(AboutBox, TellsWhoMadeTheProgram) {
     FrmAbout about;
     EXPECT_EQ(about.windowTitle().toStdString(), "Om Tavrune");
-    EXPECT_EQ(about.findChild<Label*>("Label2")->caption(), "Tavrune 2.2");
-    EXPECT_EQ(about.findChild<Label*>("Label3")->caption(), "MATEMATIKTRÆNINGSPROGRAM FOR ØKONOMER");
-    EXPECT_EQ(about.findChild<Label*>("Label5")->caption(), "© 2005 Holdet bag Tavrune");
-    EXPECT_EQ(about.findChild<Label*>("Label1")->caption(), "Udviklet af holdet bag Tavrune");
-    EXPECT_EQ(about.findChild<Label*>("Label6")->caption(),
+    EXPECT_EQ(about.findChild<Label*>("programName")->caption(), "Tavrune 2.2");
+    EXPECT_EQ(about.findChild<Label*>("subtitle")->caption(), "MATEMATIKTRÆNINGSPROGRAM FOR ØKONOMER");
+    EXPECT_EQ(about.findChild<Label*>("rights")->caption(), "© 2005 Holdet bag Tavrune");
+    EXPECT_EQ(about.findChild<Label*>("developers")->caption(), "Udviklet af holdet bag Tavrune");
+    EXPECT_EQ(about.findChild<Label*>("collaborators")->caption(),
               "Opgaver, tekster og afprøvning: holdet bag Tavrune");
     for (const Label* label : about.findChildren<Label*>()) {
         EXPECT_EQ(label->textColour(), QColor(0, 0, 192));
