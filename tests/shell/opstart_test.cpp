@@ -81,13 +81,14 @@ TEST(Opstart, GreetsInItsOwnTextsAndColours) {
     EXPECT_EQ(page.windowTitle().toStdString(), "Tavrune - Matematiktræningsprogram for økonomer");
     const QColor darkBlue(0, 0, 192);
     for (const LabelRow& row :
-         {LabelRow{"Label9", "Velkommen til", {0, 0, 255}, true, false},
-          LabelRow{"Label1", "Tavrune 2.2", darkBlue, true, true},
-          LabelRow{"Label2", "MATEMATIKTRÆNINGSPROGRAM FOR ØKONOMER", darkBlue, true, true},
-          LabelRow{"Label5", "© 2005 Holdet bag Tavrune", darkBlue, false, true},
-          LabelRow{"Label8", "START AF PROGRAMMET:", QGuiApplication::palette().color(QPalette::WindowText),
-                   true, true},
-          LabelRow{"Label7", "Klik med musen på \"Indhold\" øverst til venstre ", {0, 0, 0}, false, true}}) {
+         {LabelRow{"welcome", "Velkommen til", {0, 0, 255}, true, false},
+          LabelRow{"programName", "Tavrune 2.2", darkBlue, true, true},
+          LabelRow{"subtitle", "MATEMATIKTRÆNINGSPROGRAM FOR ØKONOMER", darkBlue, true, true},
+          LabelRow{"rights", "© 2005 Holdet bag Tavrune", darkBlue, false, true},
+          LabelRow{"startHeading", "START AF PROGRAMMET:",
+                   QGuiApplication::palette().color(QPalette::WindowText), true, true},
+          LabelRow{
+              "startHint", "Klik med musen på \"Indhold\" øverst til venstre ", {0, 0, 0}, false, true}}) {
         const auto* const label = page.findChild<Label*>(row.name);
         EXPECT_EQ(label->caption(), row.text);
         EXPECT_EQ(label->textColour(), row.colour) << row.name;
