@@ -1,6 +1,7 @@
 #include "shell/exercise_form.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <tuple>
 
 #include <QAccessible>
@@ -13,7 +14,6 @@ namespace {
 constexpr std::string_view kRightCaption = "RIGTIGT";
 constexpr std::string_view kWrongCaption = "FORKERT";
 const QColor kRightOfTwo(0, 128, 0);
-const QColor kWrongAtStart(192, 0, 0);
 
 void styleVerdict(Label* label) {
     label->setAlignment(Qt::AlignCenter);
@@ -49,45 +49,60 @@ void hideAll(std::initializer_list<QWidget*> widgets) { setShown(false, widgets)
 
 ExerciseForm::ExerciseForm(PageName name, Draws& draws) : Page(name), draws_(draws) {}
 
-void ExerciseForm::buttons(const Buttons& roles) {
-    buttons_ = roles;
-    roles.giveAnswer->hide();
-    onClick(roles.newExercise, &ExerciseForm::newExercise);
-    onClick(roles.ok, &ExerciseForm::judgeAloud);
-    onClick(roles.giveAnswer, &ExerciseForm::giveAnswer);
-    onClick(roles.help, &ExerciseForm::help);
+template <class Widget>
+Widget* ExerciseForm::role(const char* name) const {
+    auto* const control = design()->findChild<Widget*>(name);
+    if (control == nullptr) {
+        throw std::logic_error(std::string(textOf(this->name())) + " has no control named " + name);
+    }
+    return control;
+}
+
+void ExerciseForm::bindRoles() {
+    buttons_ = {role<Button>("newExercise"), role<Button>("ok"), role<Button>("giveAnswer")};
+    buttons_.giveAnswer->hide();
+    onClick(buttons_.newExercise, &ExerciseForm::newExercise);
+    onClick(buttons_.ok, &ExerciseForm::judgeAloud);
+    onClick(buttons_.giveAnswer, &ExerciseForm::giveAnswer);
+    onClick(role<Button>("help"), &ExerciseForm::help);
+    helpPanel_ = design()->findChild<QWidget*>("helpPanel");
+    if (helpPanel_ != nullptr) {
+        onClick(role<Button>("closeHelp"), &ExerciseForm::closeHelp);
+    }
+    bindVerdict();
+}
+
+void ExerciseForm::bindVerdict() {
+    if (auto* const verdict = design()->findChild<Label*>("verdict")) {
+        right_ = wrong_ = verdict;
+        styleVerdict(verdict);
+        return;
+    }
+    right_ = role<Label>("right");
+    wrong_ = role<Label>("wrong");
+    styleVerdict(right_);
+    styleVerdict(wrong_);
+    right_->setCaption(kRightCaption);
+    right_->setBackColour(kRightOfTwo);
+    wrong_->setCaption(kWrongCaption);
+    if (!wrong_->autoFillBackground()) {
+        wrong_->setBackColour(kRed);
+    }
 }
 
 void ExerciseForm::onClick(QAbstractButton* button, std::function<void()> action) {
     connect(button, &QAbstractButton::clicked, this, [done = std::move(action)] { run(done); });
 }
 
-void ExerciseForm::verdict(const OneLabel& label) {
-    oneLabel_ = label.label;
-    right_ = wrong_ = label.label;
-    styleVerdict(label.label);
-}
-
-void ExerciseForm::verdict(const TwoLabels& labels) {
-    right_ = labels.right;
-    wrong_ = labels.wrong;
-    styleVerdict(right_);
-    styleVerdict(wrong_);
-    right_->setCaption(kRightCaption);
-    right_->setBackColour(kRightOfTwo);
-    wrong_->setCaption(kWrongCaption);
-    wrong_->setBackColour(labels.darkUntilFirstTick ? kWrongAtStart : kRed);
-}
-
-void ExerciseForm::enterChain(std::initializer_list<AnswerBox*> boxes, LastBox last) {
-    for (const auto* box = boxes.begin(); box != boxes.end(); ++box) {
-        const auto* const next = box + 1;
+void ExerciseForm::enterChain(const std::vector<AnswerBox*>& boxes, LastBox last) {
+    for (auto box = boxes.begin(); box != boxes.end(); ++box) {
+        const auto next = box + 1;
         enterGoes(*box, next == boxes.end() ? after(last) : std::vector<QWidget*>{*next});
     }
 }
 
-void ExerciseForm::enterChainWhileShown(std::initializer_list<AnswerBox*> boxes, LastBox last) {
-    for (const auto* box = boxes.begin(); box != boxes.end(); ++box) {
+void ExerciseForm::enterChainWhileShown(const std::vector<AnswerBox*>& boxes, LastBox last) {
+    for (auto box = boxes.begin(); box != boxes.end(); ++box) {
         std::vector<QWidget*> targets = after(last);
         if (box + 1 != boxes.end()) {
             targets.insert(targets.begin(), *(box + 1));
@@ -109,7 +124,6 @@ void ExerciseForm::enterGoes(AnswerBox* box, std::vector<QWidget*> candidates) {
 }
 
 std::vector<QWidget*> ExerciseForm::after(LastBox last) const {
-    Q_ASSERT(buttons_.ok != nullptr);
     if (last == LastBox::OkOrStay) {
         return {buttons_.ok};
     }
@@ -143,18 +157,18 @@ void ExerciseForm::showAsking() {
 void ExerciseForm::hideVerdict() { hideAll({right_, wrong_}); }
 
 void ExerciseForm::showRight() {
-    if (oneLabel_ != nullptr) {
-        oneLabel_->setBackColour(kGreen);
-        oneLabel_->setCaption(kRightCaption);
+    if (hasOneLabel()) {
+        right_->setBackColour(kGreen);
+        right_->setCaption(kRightCaption);
     }
     right_->show();
     shown_ = Verdict::Right;
 }
 
 void ExerciseForm::showWrong() {
-    if (oneLabel_ != nullptr) {
-        oneLabel_->setBackColour(kRed);
-        oneLabel_->setCaption(kWrongCaption);
+    if (hasOneLabel()) {
+        wrong_->setBackColour(kRed);
+        wrong_->setCaption(kWrongCaption);
     }
     wrong_->show();
     shown_ = Verdict::Wrong;
@@ -178,7 +192,7 @@ void ExerciseForm::given() {
 }
 
 void ExerciseForm::giveFinalWrongColour() {
-    if (oneLabel_ == nullptr) {
+    if (!hasOneLabel()) {
         wrong_->setBackColour(kRed);
     }
 }
@@ -217,6 +231,8 @@ QStringList ExerciseForm::wrongFields() const {
     }
     return names;
 }
+
+void ExerciseForm::closeHelp() { helpPanel_->hide(); }
 
 void ExerciseForm::openPanel(QWidget* panel, QWidget* firstVis) {
     panel->show();

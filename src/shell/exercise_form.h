@@ -19,19 +19,6 @@ void showAll(std::initializer_list<QWidget*> widgets);
 void hideAll(std::initializer_list<QWidget*> widgets);
 void setShown(bool shown, std::initializer_list<QWidget*> widgets);
 
-/// One label that gets caption and colour at each judging.
-struct OneLabel {
-    Label* label;
-};
-
-/// Two labels at one place with fixed captions and colours, of which judging shows one.
-struct TwoLabels {
-    Label* right;
-    Label* wrong;
-    /// "FORKERT" starts in a darker red and gets its final one at the first tick.
-    bool darkUntilFirstTick = false;
-};
-
 /// The application object, where it tells the user of a failure of the arithmetic and ends the program. A
 /// failure does not travel to it as an exception, since Qt's widgets, through which that would pass, leave
 /// half-done work behind then.
@@ -48,8 +35,16 @@ public:
 /// What Enter does in the last box of a chain: "&OK" if it is shown; else nothing, or "&Ny opgave".
 enum class LastBox { OkOrStay, OkOrNewExercise };
 
-/// The life cycle that all exercise forms share. A form binds its controls to their roles in its
-/// constructor and says, in the hooks, what is particular to it.
+/// The life cycle that all exercise forms share. It knows the controls that it moves by their names, which
+/// are the same on every form; a form says, in the hooks, what is particular to it.
+///
+/// | Name | What |
+/// |---|---|
+/// | `newExercise`, `ok`, `giveAnswer`, `help` | the four standing buttons |
+/// | `verdict`, or `right` and `wrong` | one label that gets caption and colour at each judging; or two at
+/// one place with fixed ones, of which judging shows one. A `wrong` that the design gives a colour has it
+/// until the first exercise | | `helpPanel`, `closeHelp` | the help and its "Luk", where a form has one help
+/// for all its exercises |
 ///
 ///     Loaded --first tick--> Asking --judge--> Wrong or Solved; --give the answer--> Given
 ///
@@ -65,30 +60,28 @@ signals:
     void announced(const QString& words);
 
 protected:
-    struct Buttons {
-        Button* newExercise;
-        Button* ok;
-        Button* giveAnswer;
-        Button* help;
-    };
+    /// Fills the design area from a designer file and binds the roles. Throws std::logic_error with the names
+    /// of the form and the control where one is missing.
+    template <class Ui>
+    void setUp(Ui& ui) {
+        Page::setUp(ui);
+        bindRoles();
+    }
+    void bindRoles();
 
-    // Bindings, for the constructor.
-    void buttons(const Buttons& roles);
-    void verdict(const OneLabel& label);
-    void verdict(const TwoLabels& labels);
-
-    /// Enter goes from each box to the next; from the last as `last` says. Wants the buttons to be bound.
-    void enterChain(std::initializer_list<AnswerBox*> boxes, LastBox last);
+    // For the constructor, once the roles are bound.
+    /// Enter goes from each box to the next; from the last as `last` says.
+    void enterChain(const std::vector<AnswerBox*>& boxes, LastBox last);
 
     /// As `enterChain`, where not all boxes are always shown: before a hidden box, too, Enter goes as `last`
     /// says.
-    void enterChainWhileShown(std::initializer_list<AnswerBox*> boxes, LastBox last);
+    void enterChainWhileShown(const std::vector<AnswerBox*>& boxes, LastBox last);
 
     /// Enter goes from `box` to the first of `candidates` that is shown, or nowhere; of several words on one
     /// box the last counts.
     void enterGoes(AnswerBox* box, std::vector<QWidget*> candidates);
 
-    /// The targets of a last box. Wants the buttons to be bound.
+    /// The targets of a last box.
     [[nodiscard]] std::vector<QWidget*> after(LastBox last) const;
 
     /// Runs `action` at each click on `button`.
@@ -108,6 +101,8 @@ protected:
     virtual void judge() = 0;
     virtual void giveAnswer() = 0;
     virtual void help() = 0;
+    /// "Luk" in the help panel. The base hides the panel.
+    virtual void closeHelp();
 
     // Steps that the hooks are made of.
     /// White and empty.
@@ -129,12 +124,19 @@ protected:
 
     /// Shows a panel and gives the focus to its first "Vis".
     static void openPanel(QWidget* panel, QWidget* firstVis);
+    /// The help panel, where a form has one.
+    [[nodiscard]] QWidget* helpPanel() const { return helpPanel_; }
 
     [[nodiscard]] Draws& draws() { return draws_; }
 
     void showEvent(QShowEvent* event) override;
 
 private:
+    [[nodiscard]] bool hasOneLabel() const { return right_ == wrong_; }
+    /// The control of a role. Throws std::logic_error where there is none.
+    template <class Widget>
+    [[nodiscard]] Widget* role(const char* name) const;
+    void bindVerdict();
     /// Judges, and announces the verdict, if there is one.
     void judgeAloud();
     void announce(Label* verdict, const QString& words);
@@ -142,10 +144,15 @@ private:
     [[nodiscard]] QStringList wrongFields() const;
 
     Draws& draws_;
-    Buttons buttons_{};
-    Label* oneLabel_ = nullptr;
+    struct {
+        Button* newExercise = nullptr;
+        Button* ok = nullptr;
+        Button* giveAnswer = nullptr;
+    } buttons_;
+    /// One and the same label where there is but one.
     Label* right_ = nullptr;
     Label* wrong_ = nullptr;
+    QWidget* helpPanel_ = nullptr;
     /// The verdict that the last judging has shown.
     enum class Verdict { None, Right, Wrong } shown_ = Verdict::None;
     bool hasTicked_ = false;

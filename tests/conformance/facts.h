@@ -10,15 +10,11 @@
 
 namespace tavrune::test {
 
-/// What is told of every exercise form alike: which controls have which roles, and how the roles act.
+/// What is told of every exercise form alike: how its controls act that have the same names on all.
 struct FormFacts {
     PageName page;
-    std::string newExercise;
-    std::string ok;
-    std::string giveAnswer;
-    std::string help;
-    std::string right;
-    std::string wrong;
+    /// One label for both verdicts.
+    bool hasOneLabel;
     /// "FORKERT" starts in a darker red, until the first tick.
     bool darkUntilFirstTick;
     /// Enter in the last box goes on to "&Ny opgave" where "&OK" is hidden.
@@ -28,10 +24,8 @@ struct FormFacts {
     std::string firstBox;
     /// The option to choose before there is anything to judge; empty if there is none.
     std::string option;
-    /// The panel that help opens, and its close button; empty where it depends on the exercise, or there is
-    /// none.
-    std::string panel;
-    std::string close;
+    /// One help panel whatever the exercise, with a close button.
+    bool hasOnePanel;
     /// The boxes that the exercise itself fills, to tell what is given.
     int filledBoxes = 0;
 
@@ -39,7 +33,8 @@ struct FormFacts {
     /// their worked solution.
     bool mayFail = false;
 
-    [[nodiscard]] bool hasOneLabel() const { return right == wrong; }
+    [[nodiscard]] std::string right() const { return hasOneLabel ? "verdict" : "right"; }
+    [[nodiscard]] std::string wrong() const { return hasOneLabel ? "verdict" : "wrong"; }
 };
 
 inline void PrintTo(const FormFacts& facts, std::ostream* out) { *out << textOf(facts.page); }

@@ -66,7 +66,7 @@ protected:
         int typed = 987654;
         KeyPlayer::fill(page, [&typed](const AnswerBox& /*box*/) { return std::to_string(typed += 1013); });
         KeyPlayer::pressAccessKey(Qt::Key_O);
-        ASSERT_TRUE(isInSight(page, facts().wrong));
+        ASSERT_TRUE(isInSight(page, facts().wrong()));
     }
 
     /// Gives up on the exercise of `page`, and reads what was right.
@@ -96,7 +96,7 @@ protected:
         });
         // Enter has led from the last box to "&OK", or it is a key away.
         const QWidget* const focused = QApplication::focusWidget();
-        if (focused != nullptr && focused->objectName().toStdString() == facts().ok) {
+        if (focused != nullptr && focused->objectName().toStdString() == "ok") {
             KeyPlayer::press(Qt::Key_Return);
         } else {
             KeyPlayer::pressAccessKey(Qt::Key_O);
@@ -165,7 +165,7 @@ protected:
             }
             bringToFront(*program.page());
             write(*program.page(), answer);
-            const bool isRight = isInSight(*program.page(), facts().right);
+            const bool isRight = isInSight(*program.page(), facts().right());
             ++answered;
             solved += isRight ? 1 : 0;
             EXPECT_TRUE(isRight || mayShowAWrongAnswer(facts().page)) << "exercise " << exercise;
@@ -179,7 +179,7 @@ protected:
         }
         answerWrongly(*program.page());
         KeyPlayer::pressAccessKey(Qt::Key_G);
-        EXPECT_FALSE(isInSight(*program.page(), facts().ok));
+        EXPECT_FALSE(isInSight(*program.page(), "ok"));
 
         const PageName other = facts().page == PageName::Brok ? PageName::Dlinie : PageName::Brok;
         KeyPlayer::chooseInMenu(*program.page(), other);

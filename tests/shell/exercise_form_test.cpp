@@ -23,24 +23,25 @@ enum class VerdictKind { One, Two, TwoDark };
 class Sample : public ExerciseForm {
 public:
     Sample(Draws& draws, VerdictKind kind, LastBox last) : ExerciseForm(PageName::Brok, draws) {
-        newExerciseButton.setObjectName("new");
-        ok.setObjectName("ok");
-        giveAnswerButton.setObjectName("give");
-        helpButton.setObjectName("help");
-        vis.setObjectName("vis");
-        first.setObjectName("first");
-        second.setObjectName("second");
-        panel.hide();
-        buttons({.newExercise = &newExerciseButton,
-                 .ok = &ok,
-                 .giveAnswer = &giveAnswerButton,
-                 .help = &helpButton});
-        if (kind == VerdictKind::One) {
-            verdict(OneLabel{&right});
-        } else {
-            verdict(TwoLabels{
-                .right = &right, .wrong = &wrong, .darkUntilFirstTick = kind == VerdictKind::TwoDark});
+        for (const auto& [control, name] : std::initializer_list<std::pair<QWidget*, const char*>>{
+                 {&newExerciseButton, "newExercise"},
+                 {&ok, "ok"},
+                 {&giveAnswerButton, "giveAnswer"},
+                 {&helpButton, "help"},
+                 {&panel, "helpPanel"},
+                 {&close, "closeHelp"},
+                 {&vis, "vis"},
+                 {&first, "first"},
+                 {&second, "second"},
+                 {&right, kind == VerdictKind::One ? "verdict" : "right"},
+                 {&wrong, kind == VerdictKind::One ? "" : "wrong"}}) {
+            control->setObjectName(name);
         }
+        panel.hide();
+        if (kind == VerdictKind::TwoDark) {
+            wrong.setBackColour(QColor(192, 0, 0));
+        }
+        bindRoles();
         enterChain({&first, &second}, last);
     }
 
@@ -74,6 +75,7 @@ public:
     Button helpButton{design()};
     Panel panel{design()};
     Button vis{&panel};
+    Button close{&panel};
 
 protected:
     void loadStep() override { calls.emplace_back("load"); }
@@ -166,7 +168,7 @@ TEST_F(LifeCycle, SolvedLeavesOnlyTheNextExercise) {
     EXPECT_FALSE(s.giveAnswerButton.isVisible());
     EXPECT_EQ(s.right.caption(), "RIGTIGT");
     EXPECT_EQ(s.right.backColour(), QColor(0, 130, 0));
-    EXPECT_EQ(s.focus(), "new");
+    EXPECT_EQ(s.focus(), "newExercise");
     EXPECT_TRUE(s.helpButton.isVisible());
 }
 
@@ -178,7 +180,7 @@ TEST_F(LifeCycle, GivenShowsNoVerdict) {
     EXPECT_FALSE(s.giveAnswerButton.isVisible());
     EXPECT_FALSE(s.right.isVisible());
     EXPECT_FALSE(s.wrong.isVisible());
-    EXPECT_EQ(s.focus(), "new");
+    EXPECT_EQ(s.focus(), "newExercise");
 }
 
 TEST_F(LifeCycle, EnterOnTheNextExerciseStartsIt) {
@@ -238,7 +240,7 @@ TEST_F(LifeCycle, EnterInTheLastBoxOfTheSecondKindGoesOnToTheNextExercise) {
     EXPECT_EQ(s.focus(), "ok");
     s.ok.hide();
     QTest::keyClick(&s.second, Qt::Key_Return);
-    EXPECT_EQ(s.focus(), "new");
+    EXPECT_EQ(s.focus(), "newExercise");
 }
 
 TEST_F(LifeCycle, EnterPassesByABoxThatIsHidden) {
@@ -252,7 +254,7 @@ TEST_F(LifeCycle, EnterPassesByABoxThatIsHidden) {
     EXPECT_EQ(s.focus(), "ok");
     s.ok.hide();
     QTest::keyClick(&third, Qt::Key_Return);
-    EXPECT_EQ(s.focus(), "new");
+    EXPECT_EQ(s.focus(), "newExercise");
     s.second.show();
     QTest::keyClick(&third, Qt::Key_Return);
     EXPECT_EQ(s.focus(), "second");
@@ -263,7 +265,7 @@ TEST_F(LifeCycle, TakesTheLastWordOnWhereEnterGoes) {
     s.enterGoes(&s.first, {&s.ok});
     s.enterGoes(&s.first, {&s.newExerciseButton});
     QTest::keyClick(&s.first, Qt::Key_Return);
-    EXPECT_EQ(s.focus(), "new");
+    EXPECT_EQ(s.focus(), "newExercise");
     s.newExerciseButton.hide();
     s.first.setFocus();
     QTest::keyClick(&s.first, Qt::Key_Return);
@@ -298,6 +300,52 @@ TEST_F(LifeCycle, AMessageHasOneButtonAndStandsOverThePageAlone) {
     QTest::keyClick(box->buttons().at(0), Qt::Key_Return);
     settle();
     EXPECT_EQ(s.findChild<QMessageBox*>(), nullptr);
+}
+
+TEST_F(LifeCycle, LukHidesThePanel) {
+    Sample& s = open();
+    s.helpButton.click();
+    s.close.click();
+    EXPECT_FALSE(s.panel.isVisible());
+}
+
+/// A form whose design lacks one of the controls of the roles.
+class Incomplete : public ExerciseForm {
+public:
+    Incomplete(Draws& draws, const std::string& missing) : ExerciseForm(PageName::Topp, draws) {
+        for (const char* name : {"newExercise", "ok", "giveAnswer", "help", "closeHelp"}) {
+            if (name != missing) {
+                (new Button(design()))->setObjectName(name);
+            }
+        }
+        for (const char* name : {"right", "wrong"}) {
+            if (name != missing) {
+                (new Label(design()))->setObjectName(name);
+            }
+        }
+        (new Panel(design()))->setObjectName("helpPanel");
+        bindRoles();
+    }
+
+protected:
+    void newExercise() override {}
+    void judge() override {}
+    void giveAnswer() override {}
+    void help() override {}
+};
+
+TEST(Roles, NameTheFormAndTheControlThatItLacks) {
+    SeededDraws draws(1);
+    EXPECT_NO_THROW(Incomplete(draws, "none"));
+    for (const std::string missing :
+         {"newExercise", "ok", "giveAnswer", "help", "closeHelp", "right", "wrong"}) {
+        try {
+            const Incomplete form(draws, missing);
+            ADD_FAILURE() << missing;
+        } catch (const std::logic_error& error) {
+            EXPECT_EQ(std::string(error.what()), "Topp has no control named " + missing);
+        }
+    }
 }
 
 class Announcement : public LifeCycle {

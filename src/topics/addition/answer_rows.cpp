@@ -21,7 +21,76 @@ void forEachBox(const std::vector<AnswerRows::Row>& rows, Action action) {
     }
 }
 
+QWidget* find(const QWidget& page, const QString& name) { return page.findChild<QWidget*>(name); }
+
+AnswerRows::Row rowOf(const QWidget& page, const QString& name) {
+    AnswerRows::Row row;
+    for (const auto& [box, what] : {std::pair{&row.slope, "Slope"},
+                                    {&row.intercept, "Intercept"},
+                                    {&row.start, "Start"},
+                                    {&row.end, "End"}}) {
+        *box = page.findChild<AnswerBox*>(name + what);
+    }
+    for (const char* caption :
+         {"PriceEquals", "TimesQuantityPlus", "ZeroLessThanQuantity", "ValidFor", "LessThanQuantity"}) {
+        if (QWidget* const found = find(page, name + caption)) {
+            row.captions.push_back(found);
+        }
+    }
+    QWidget* const startSign = find(page, name + "StartLessOrEqual");
+    if (row.start != nullptr) {
+        row.startSign = startSign;
+    } else if (startSign != nullptr) {
+        // After the 0 of the first row.
+        row.captions.push_back(startSign);
+    }
+    row.endSign = find(page, name + "EndLessOrEqual");
+    if (row.endSign == nullptr) {
+        row.endSign = find(page, name + "EndLess");
+    }
+    return row;
+}
+
+void setShown(bool isShown, QWidget* widget) {
+    if (widget != nullptr) {
+        widget->setVisible(isShown);
+    }
+}
+
 }  // namespace
+
+AnswerRows AnswerRows::of(const QWidget& page) {
+    std::vector<Row> rows;
+    for (int number = 1;; ++number) {
+        Row row = rowOf(page, QString("segment%1").arg(number));
+        if (row.slope == nullptr) {
+            return AnswerRows(std::move(rows));
+        }
+        rows.push_back(std::move(row));
+    }
+}
+
+void AnswerRows::show(int row, bool isUsed, bool hasEnd) const {
+    const Row& shown = rows_.at(static_cast<std::size_t>(row));
+    for (QWidget* widget : {shown.slope, shown.intercept, shown.start}) {
+        setShown(isUsed, widget);
+    }
+    for (QWidget* caption : shown.captions) {
+        setShown(isUsed, caption);
+    }
+    setShown(isUsed && hasEnd, shown.end);
+    setShown(isUsed && hasEnd, shown.endSign);
+}
+
+void AnswerRows::showStartSign(int row, bool isLone) const {
+    setShown(isLone, rows_.at(static_cast<std::size_t>(row)).startSign);
+}
+
+std::vector<AnswerBox*> AnswerRows::boxes() const {
+    std::vector<AnswerBox*> all;
+    forEachBox(rows_, [&all](AnswerBox* box) { all.push_back(box); });
+    return all;
+}
 
 AnswerBox* AnswerRows::box(int row, Slot slot) const {
     const Row& found = rows_.at(static_cast<std::size_t>(row));
@@ -94,6 +163,37 @@ QString wholeFunction(const std::string& slope, const std::string& intercept, co
     const bool isNegative = intercept.front() == '-';
     return fromUtf8("P = " + slope + "Q " + (isNegative ? "- " + intercept.substr(1) : "+ " + intercept) +
                     " for " + where);
+}
+
+GivenFunction GivenFunction::of(const QWidget& page, const QString& prefix) {
+    return {page.findChild<Label*>(prefix + "Text"), page.findChild<Label*>(prefix + "Slope"),
+            page.findChild<Label*>(prefix + "Intercept")};
+}
+
+void GivenFunction::fill(const std::string& slopeText, const std::string& interceptText) const {
+    slope->setCaption(slopeText);
+    intercept->setCaption(interceptText);
+}
+
+void GivenFunction::tell(const std::string& slopeText, const std::string& interceptText,
+                         const std::string& where) const {
+    fill(slopeText, interceptText);
+    text->setAccessibleName(wholeFunction(slopeText, interceptText, where));
+}
+
+FramedGraph FramedGraph::of(const QWidget& page, const QString& prefix) {
+    return {page.findChild<GraphBox*>(prefix + "GraphFrame"), page.findChild<GraphBox*>(prefix + "Graph")};
+}
+
+HelpColumn helpColumnOf(const QWidget& page, const QString& name) {
+    HelpColumn column;
+    for (int row = 1;; ++row) {
+        auto* const box = page.findChild<AnswerBox*>(name + QString::number(row));
+        if (box == nullptr) {
+            return column;
+        }
+        column.push_back(box);
+    }
 }
 
 void blankColumn(const HelpColumn& column) {

@@ -8,22 +8,9 @@ namespace tavrune {
 
 Laddi1::Laddi1(Draws& draws) : VerticalForm(PageName::Laddi1, draws), ui_(std::make_unique<Ui::Laddi1>()) {
     setUp(*ui_);
-    graphs({.function1 = {ui_->function1GraphFrame, ui_->function1Graph},
-            .function2 = {ui_->function2GraphFrame, ui_->function2Graph},
-            .sum = {ui_->resultGraphFrame, ui_->resultGraph}});
-    answerRows({{ui_->segment1Slope, ui_->segment1Intercept, nullptr, ui_->segment1End},
-                {ui_->segment2Slope, ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End}});
-    helpPanel(ui_->helpPanel, ui_->showIntervals);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
-    enterChain({ui_->segment1Slope, ui_->segment1Intercept, ui_->segment1End, ui_->segment2Slope,
-                ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End},
-               LastBox::OkOrNewExercise);
-    enterGoes(ui_->segment2Start, {ui_->segment2End, ui_->ok, ui_->newExercise});
+    enterChainWhileShown(rows().boxes(), LastBox::OkOrNewExercise);
     onClick(ui_->showIntervals, &Laddi1::showIntervals);
     onClick(ui_->showFunctions, &Laddi1::showSum);
-    onClick(ui_->closeHelp, &Laddi1::closeHelp);
 }
 
 Laddi1::~Laddi1() = default;
@@ -55,12 +42,9 @@ void Laddi1::showTask() {
 
 void Laddi1::showRows() {
     const bool isOne = state_.segmentCount == 1;
-    setShown(!isOne, {ui_->segment1Slope, ui_->segment1Intercept, ui_->segment1End, ui_->segment1PriceEquals,
-                      ui_->segment1TimesQuantityPlus, ui_->segment1ZeroLessThanQuantity,
-                      ui_->segment1EndLessOrEqual, ui_->segment1StartLessOrEqual});
-    // A lone segment begins at its start, a second one after it.
-    ui_->segment2StartLessOrEqual->setVisible(isOne);
-    setShown(state_.upperEndAsked, {ui_->segment2End, ui_->segment2EndLessOrEqual});
+    rows().show(0, !isOne, true);
+    rows().show(1, true, state_.upperEndAsked);
+    rows().showStartSign(1, isOne);
 }
 
 void Laddi1::showIntervals() {

@@ -24,6 +24,7 @@ public:
 protected:
     void firstTick() override;
     void newExercise() override;
+    void closeHelp() override;
     [[nodiscard]] VerticalSum sum() const override { return sumOf(state_); }
 
 private:
@@ -32,7 +33,6 @@ private:
     static void markEnds(GraphBox& box, const Piece& function);
     void showIntervals();
     void showSum();
-    void closeHelp();
 
     std::unique_ptr<Ui::Laddi1> ui_;
     Laddi1State state_;

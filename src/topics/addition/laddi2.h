@@ -24,15 +24,16 @@ public:
 protected:
     void firstTick() override;
     void newExercise() override;
+    void closeHelp() override;
     [[nodiscard]] VerticalSum sum() const override { return state_.sum; }
 
 private:
     void showTask();
+    /// The two parts of a given function, whose controls begin with `name`.
+    void tellFunction(const QString& name, const KinkedFunction& function);
     void showRows();
-    void showRow(int row, std::initializer_list<QWidget*> controls, std::initializer_list<QWidget*> end);
     void showIntervals();
     void showSum();
-    void closeHelp();
 
     std::unique_ptr<Ui::Laddi2> ui_;
     Laddi2State state_;

@@ -17,33 +17,26 @@ constexpr double kLastSumQ = 20;
 
 }  // namespace
 
-Vaddi1::Vaddi1(Draws& draws)
-    : ExerciseForm(PageName::Vaddi1, draws), ui_(std::make_unique<Ui::Vaddi1>()), rows_({}) {
+Vaddi1::Vaddi1(Draws& draws) : ExerciseForm(PageName::Vaddi1, draws), ui_(std::make_unique<Ui::Vaddi1>()) {
     setUp(*ui_);
-    rows_ = AnswerRows({{ui_->segment1Slope, ui_->segment1Intercept, nullptr, ui_->segment1End},
-                        {ui_->segment2Slope, ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End}});
-    columnP_ = {ui_->price1, ui_->price2, ui_->price3};
-    columnQ1_ = {ui_->function1Quantity1, ui_->function1Quantity2, ui_->function1Quantity3};
-    columnQ2_ = {ui_->function2Quantity1, ui_->function2Quantity2, ui_->function2Quantity3};
-    columnQtotal_ = {ui_->totalQuantity1, ui_->totalQuantity2, ui_->totalQuantity3};
+    rows_ = AnswerRows::of(*design());
+    for (const char* name : {"price", "function1Quantity", "function2Quantity", "totalQuantity"}) {
+        table_.push_back(helpColumnOf(*design(), name));
+    }
     ui_->tableHead->standOver(
         {ui_->price1, ui_->function1Quantity1, ui_->function2Quantity1, ui_->totalQuantity1});
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong, .darkUntilFirstTick = true});
-    enterChain({ui_->price1, ui_->function1Quantity1, ui_->function2Quantity1, ui_->totalQuantity1,
-                ui_->price2, ui_->function1Quantity2, ui_->function2Quantity2, ui_->totalQuantity2,
-                ui_->price3, ui_->function1Quantity3, ui_->function2Quantity3, ui_->totalQuantity3},
-               LastBox::OkOrStay);
-    enterGoes(ui_->totalQuantity3, {ui_->segment1Slope, ui_->segment2Slope});
-    enterChain({ui_->segment1Slope, ui_->segment1Intercept, ui_->segment1End, ui_->segment2Slope,
-                ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End},
-               LastBox::OkOrNewExercise);
-    enterGoes(ui_->segment2Start, {ui_->segment2End, ui_->ok, ui_->newExercise});
+    std::vector<AnswerBox*> boxes;
+    for (std::size_t row = 0; row < table_.front().size(); ++row) {
+        for (const HelpColumn& column : table_) {
+            boxes.push_back(column[row]);
+        }
+    }
+    enterChain(boxes, LastBox::OkOrStay);
+    enterGoes(boxes.back(), {ui_->segment1Slope, ui_->segment2Slope});
+    enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
     onClick(ui_->showPrices, &Vaddi1::showPrices);
     onClick(ui_->showQuantities, &Vaddi1::showQuantities);
     onClick(ui_->showSum, &Vaddi1::showSum);
-    onClick(ui_->closeHelp, &Vaddi1::closeHelp);
 }
 
 Vaddi1::~Vaddi1() = default;
@@ -67,29 +60,22 @@ void Vaddi1::newExercise() {
 
 void Vaddi1::showRows() {
     const bool isOne = isOneSegment(state_);
-    setShown(!isOne, {ui_->segment1PriceEquals, ui_->segment1TimesQuantityPlus,
-                      ui_->segment1ZeroLessThanQuantity, ui_->segment1EndLessOrEqual, ui_->segment1Slope,
-                      ui_->segment1Intercept, ui_->segment1End, ui_->segment1StartLessOrEqual});
-    // A lone segment begins at its start, a second one after it.
-    ui_->segment2StartLessOrEqual->setVisible(isOne);
-    setShown(hasUpperEnd(state_), {ui_->segment2End, ui_->segment2EndLessOrEqual});
+    rows_.show(0, !isOne, true);
+    rows_.show(1, true, hasUpperEnd(state_));
+    rows_.showStartSign(1, isOne);
     rows_.nameShownBoxes();
 }
 
 void Vaddi1::showTask() {
     rows_.blank();
-    for (const HelpColumn& column : {columnP_, columnQ1_, columnQ2_, columnQtotal_}) {
+    for (const HelpColumn& column : table_) {
         blankColumn(column);
     }
     showAsking();
-    ui_->function1Slope->setCaption(NumberText(state_.slope1));
-    ui_->function1Intercept->setCaption(NumberText(state_.intercept1));
-    ui_->function2Slope->setCaption(NumberText(state_.slope2));
-    ui_->function2Intercept->setCaption(NumberText(state_.intercept2));
-    for (const auto& [whole, slope, intercept] :
-         {std::array{ui_->function1Text, ui_->function1Slope, ui_->function1Intercept},
-          {ui_->function2Text, ui_->function2Slope, ui_->function2Intercept}}) {
-        whole->setAccessibleName(wholeFunction(slope->caption(), intercept->caption(), "Q ≥ 0, P ≥ 0"));
+    for (const auto& [name, function] :
+         {std::pair{"function1", state_.function1()}, {"function2", state_.function2()}}) {
+        GivenFunction::of(*design(), name)
+            .tell(NumberText(function.slope), NumberText(function.intercept), "Q ≥ 0, P ≥ 0");
     }
 }
 
@@ -131,14 +117,16 @@ void Vaddi1::drawSum() {
 void Vaddi1::giveAnswer() {
     ui_->helpPanel->hide();
     drawTypedSum();
-    for (const auto& [column, cells] : {std::pair{columnP_, state_.tableP},
-                                        {columnQ1_, state_.tableQ1},
-                                        {columnQ2_, state_.tableQ2},
-                                        {columnQtotal_, state_.tableQtotal}}) {
-        writeColumn(column, cells);
-    }
+    fillTable(table_.size());
     fillAnswer();
     given();
+}
+
+void Vaddi1::fillTable(std::size_t columns) {
+    const std::array cells{&state_.tableP, &state_.tableQ1, &state_.tableQ2, &state_.tableQtotal};
+    for (std::size_t column = 0; column < columns; ++column) {
+        writeColumn(table_[column], *cells.at(column));
+    }
 }
 
 void Vaddi1::drawTypedSum() {
@@ -168,7 +156,7 @@ void Vaddi1::fillAnswer() {
 void Vaddi1::help() { openPanel(ui_->helpPanel, ui_->showPrices); }
 
 void Vaddi1::showPrices() {
-    writeColumn(columnP_, state_.tableP);
+    fillTable(1);
     markEnds(*ui_->function1Graph, state_.tableQ1);
     markEnds(*ui_->function2Graph, state_.tableQ2);
     focusOn(ui_->showQuantities);
@@ -197,9 +185,7 @@ void Vaddi1::showQuantities() {
                      kBandGreen);
         }
     }
-    writeColumn(columnQ1_, state_.tableQ1);
-    writeColumn(columnQ2_, state_.tableQ2);
-    writeColumn(columnQtotal_, state_.tableQtotal);
+    fillTable(table_.size());
     ui_->quantitiesResult->setCaption(pathText(state_));
     focusOn(ui_->showSum);
 }

@@ -29,6 +29,7 @@ protected:
     void judge() override;
     void giveAnswer() override;
     void help() override;
+    void closeHelp() override;
 
 private:
     void showRows();
@@ -37,20 +38,19 @@ private:
     void drawGivenFunctions();
     void drawTypedSum();
     void drawSum();
+    /// The first columns of the help table, as many as told.
+    void fillTable(std::size_t columns);
     void fillAnswer();
     void markEnds(GraphBox& box, const Vaddi1State::Column& quantities);
     void drawStack(std::size_t row);
     void showPrices();
     void showQuantities();
     void showSum();
-    void closeHelp();
 
     std::unique_ptr<Ui::Vaddi1> ui_;
     AnswerRows rows_;
-    HelpColumn columnP_;
-    HelpColumn columnQ1_;
-    HelpColumn columnQ2_;
-    HelpColumn columnQtotal_;
+    /// The columns of the help table, from the left.
+    std::vector<HelpColumn> table_;
     Vaddi1State state_;
 };
 

@@ -26,48 +26,23 @@ void drawBar(GraphBox& box, double from, double to, double price, const QColor& 
 
 }  // namespace
 
-Vaddi2::Vaddi2(Draws& draws)
-    : ExerciseForm(PageName::Vaddi2, draws), ui_(std::make_unique<Ui::Vaddi2>()), rows_({}) {
+Vaddi2::Vaddi2(Draws& draws) : ExerciseForm(PageName::Vaddi2, draws), ui_(std::make_unique<Ui::Vaddi2>()) {
     setUp(*ui_);
-    rows_ = AnswerRows({{ui_->segment1Slope, ui_->segment1Intercept, nullptr, ui_->segment1End},
-                        {ui_->segment2Slope, ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End},
-                        {ui_->segment3Slope, ui_->segment3Intercept, ui_->segment3Start, ui_->segment3End}});
-    columnP_ = {ui_->price1, ui_->price2, ui_->price3, ui_->price4};
-    given_ = {{{ui_->function1Text,
-                ui_->function1Slope,
-                ui_->function1Intercept,
-                ui_->function1GraphFrame,
-                ui_->function1Graph,
-                {ui_->function1Quantity1, ui_->function1Quantity2, ui_->function1Quantity3,
-                 ui_->function1Quantity4},
-                kBlue},
-               {ui_->function2Text,
-                ui_->function2Slope,
-                ui_->function2Intercept,
-                ui_->function2GraphFrame,
-                ui_->function2Graph,
-                {ui_->function2Quantity1, ui_->function2Quantity2, ui_->function2Quantity3,
-                 ui_->function2Quantity4},
-                kBandGreen},
-               {ui_->function3Text,
-                ui_->function3Slope,
-                ui_->function3Intercept,
-                ui_->function3GraphFrame,
-                ui_->function3Graph,
-                {ui_->function3Quantity1, ui_->function3Quantity2, ui_->function3Quantity3,
-                 ui_->function3Quantity4},
-                kBlack}}};
-    columnQtotal_ = {ui_->totalQuantity1, ui_->totalQuantity2, ui_->totalQuantity3, ui_->totalQuantity4};
+    rows_ = AnswerRows::of(*design());
+    columnP_ = helpColumnOf(*design(), "price");
+    const std::array bands{kBlue, kBandGreen, QColor(kBlack)};
+    for (std::size_t f = 0; f < given_.size(); ++f) {
+        const QString name = QString("function%1").arg(f + 1);
+        given_[f] = {GivenFunction::of(*design(), name), FramedGraph::of(*design(), name),
+                     helpColumnOf(*design(), name + "Quantity"), bands[f]};
+    }
+    columnQtotal_ = helpColumnOf(*design(), "totalQuantity");
     ui_->tableHead->standOver({ui_->price1, ui_->function1Quantity1, ui_->function2Quantity1,
                                ui_->function3Quantity1, ui_->totalQuantity1});
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong, .darkUntilFirstTick = true});
     chainBoxes();
     onClick(ui_->showPrices, &Vaddi2::showPrices);
     onClick(ui_->showQuantities, &Vaddi2::showQuantities);
     onClick(ui_->showSum, &Vaddi2::showSum);
-    onClick(ui_->closeHelp, &Vaddi2::closeHelp);
 }
 
 Vaddi2::~Vaddi2() = default;
@@ -76,8 +51,8 @@ void Vaddi2::chainBoxes() {
     std::vector<AnswerBox*> table;
     for (std::size_t row = 0; row < columnP_.size(); ++row) {
         table.push_back(columnP_[row]);
-        for (const GivenFunction& function : given_) {
-            table.push_back(function.quantities[row]);
+        for (const Given& given : given_) {
+            table.push_back(given.quantities[row]);
         }
         table.push_back(columnQtotal_[row]);
     }
@@ -85,10 +60,7 @@ void Vaddi2::chainBoxes() {
         enterGoes(table[i], {table[i + 1]});
     }
     enterGoes(table.back(), {ui_->segment1Slope, ui_->segment2Slope});
-    enterChainWhileShown({ui_->segment1Slope, ui_->segment1Intercept, ui_->segment1End, ui_->segment2Slope,
-                          ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End, ui_->segment3Slope,
-                          ui_->segment3Intercept, ui_->segment3Start, ui_->segment3End},
-                         LastBox::OkOrNewExercise);
+    enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
 }
 
 void Vaddi2::firstTick() {
@@ -110,16 +82,10 @@ void Vaddi2::newExercise() {
 void Vaddi2::showRows() {
     const int count = state_.segmentCount;
     const bool isEndAsked = state_.upperEndAsked();
-    setShown(count > 1, {ui_->segment1PriceEquals, ui_->segment1Slope, ui_->segment1TimesQuantityPlus,
-                         ui_->segment1Intercept, ui_->segment1ZeroLessThanQuantity,
-                         ui_->segment1StartLessOrEqual, ui_->segment1EndLessOrEqual, ui_->segment1End});
-    // A lone segment begins at its start, a second one after it.
-    ui_->segment2StartLessOrEqual->setVisible(count == 1);
-    setShown(count == 3 || isEndAsked, {ui_->segment2EndLessOrEqual, ui_->segment2End});
-    setShown(count == 3, {ui_->segment3PriceEquals, ui_->segment3Slope, ui_->segment3TimesQuantityPlus,
-                          ui_->segment3Intercept, ui_->segment3ValidFor, ui_->segment3Start,
-                          ui_->segment3LessThanQuantity});
-    setShown(count == 3 && isEndAsked, {ui_->segment3EndLessOrEqual, ui_->segment3End});
+    rows_.show(0, count > 1, true);
+    rows_.show(1, true, count == 3 || isEndAsked);
+    rows_.show(2, count == 3, isEndAsked);
+    rows_.showStartSign(1, count == 1);
     rows_.nameShownBoxes();
 }
 
@@ -130,10 +96,7 @@ void Vaddi2::showTask() {
     showAsking();
     for (std::size_t f = 0; f < given_.size(); ++f) {
         blankColumn(given_[f].quantities);
-        given_[f].slope->setCaption(NumberText(state_.slope[f]));
-        given_[f].intercept->setCaption(NumberText(state_.intercept[f]));
-        given_[f].task->setAccessibleName(
-            wholeFunction(given_[f].slope->caption(), given_[f].intercept->caption(), "Q ≥ 0, P ≥ 0"));
+        given_[f].function.tell(NumberText(state_.slope[f]), NumberText(state_.intercept[f]), "Q ≥ 0, P ≥ 0");
     }
 }
 
@@ -141,9 +104,9 @@ void Vaddi2::drawGraphs() {
     ui_->resultGraph->Cls();
     drawWideFrameTicks(*ui_->resultGraphFrame);
     for (std::size_t f = 0; f < given_.size(); ++f) {
-        given_[f].graph->Cls();
-        drawFrameTicks(*given_[f].frame);
-        drawPiece(*given_[f].graph, kTop, state_.function(f), 0, kLastQ);
+        given_[f].graph.box->Cls();
+        drawFrameTicks(*given_[f].graph.frame);
+        drawPiece(*given_[f].graph.box, kTop, state_.function(f), 0, kLastQ);
     }
 }
 
@@ -231,7 +194,7 @@ void Vaddi2::showPrices() {
     const double edge = state_.direction == 1 ? kTop : 0;
     for (std::size_t f = 0; f < given_.size(); ++f) {
         const Vaddi2State::Column& quantities = state_.tableQ[f];
-        GraphBox& box = *given_[f].graph;
+        GraphBox& box = *given_[f].graph.box;
         // One that starts beyond a level function has no quantities, and no marks.
         for (std::size_t row = 0; row < quantities.size(); ++row) {
             if (quantities[row].isBlank()) {
@@ -260,7 +223,8 @@ void Vaddi2::showQuantities() {
     for (std::size_t f = 0; f < given_.size(); ++f) {
         for (std::size_t row = 0; row < state_.tableP.size(); ++row) {
             if (const TableCell& quantity = state_.tableQ[f][row]; quantity.isNumeric()) {
-                drawBar(*given_[f].graph, 0, quantity.number(), state_.tableP[row].number(), given_[f].band);
+                drawBar(*given_[f].graph.box, 0, quantity.number(), state_.tableP[row].number(),
+                        given_[f].band);
             }
         }
     }

@@ -30,15 +30,13 @@ protected:
     void judge() override;
     void giveAnswer() override;
     void help() override;
+    void closeHelp() override;
 
 private:
     /// What the form has for each of the functions.
-    struct GivenFunction {
-        Label* task;
-        Label* slope;
-        Label* intercept;
-        GraphBox* frame;
-        GraphBox* graph;
+    struct Given {
+        GivenFunction function;
+        FramedGraph graph;
         HelpColumn quantities;
         QColor band;
     };
@@ -56,12 +54,11 @@ private:
     void showSum();
     void drawStack(std::size_t row);
     void closePanel();
-    void closeHelp();
 
     std::unique_ptr<Ui::Vaddi2> ui_;
     AnswerRows rows_;
     HelpColumn columnP_;
-    std::array<GivenFunction, Vaddi2State::kFunctions> given_;
+    std::array<Given, Vaddi2State::kFunctions> given_;
     HelpColumn columnQtotal_;
     Vaddi2State state_;
 };

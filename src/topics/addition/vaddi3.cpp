@@ -35,40 +35,24 @@ void drawJoin(GraphBox& box, const Piece& before, double end, const Piece& after
 
 }  // namespace
 
-Vaddi3::Vaddi3(Draws& draws)
-    : ExerciseForm(PageName::Vaddi3, draws), ui_(std::make_unique<Ui::Vaddi3>()), rows_({}) {
+Vaddi3::Vaddi3(Draws& draws) : ExerciseForm(PageName::Vaddi3, draws), ui_(std::make_unique<Ui::Vaddi3>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong, .darkUntilFirstTick = true});
     bindBoxes();
     bindEnter();
     onClick(ui_->showPrices, &Vaddi3::showPrices);
     onClick(ui_->showQuantities, &Vaddi3::showQuantities);
     onClick(ui_->showSum, &Vaddi3::showSum);
-    onClick(ui_->closeHelp, &Vaddi3::closeHelp);
 }
 
 Vaddi3::~Vaddi3() = default;
 
 void Vaddi3::bindBoxes() {
-    rows_ = AnswerRows({{ui_->segment1Slope, ui_->segment1Intercept, nullptr, ui_->segment1End},
-                        {ui_->segment2Slope, ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End},
-                        {ui_->segment3Slope, ui_->segment3Intercept, ui_->segment3Start, ui_->segment3End},
-                        {ui_->segment4Slope, ui_->segment4Intercept, ui_->segment4Start, ui_->segment4End}});
-    table_ = {
-        {{ui_->wideTablePrice1, ui_->wideTablePrice2, ui_->wideTablePrice3, ui_->wideTablePrice4,
-          ui_->wideTablePrice5},
-         {ui_->priceOrPart1Quantity1, ui_->priceOrPart1Quantity2, ui_->priceOrPart1Quantity3,
-          ui_->priceOrPart1Quantity4, ui_->priceOrPart1Quantity5},
-         {ui_->function1OrPart2Quantity1, ui_->function1OrPart2Quantity2, ui_->function1OrPart2Quantity3,
-          ui_->function1OrPart2Quantity4, ui_->function1OrPart2Quantity5},
-         {ui_->function2Quantity1, ui_->function2Quantity2, ui_->function2Quantity3, ui_->function2Quantity4,
-          ui_->function2Quantity5},
-         {ui_->totalOrPart1TotalQuantity1, ui_->totalOrPart1TotalQuantity2, ui_->totalOrPart1TotalQuantity3,
-          ui_->totalOrPart1TotalQuantity4, ui_->totalOrPart1TotalQuantity5},
-         {ui_->part2TotalQuantity1, ui_->part2TotalQuantity2, ui_->part2TotalQuantity3,
-          ui_->part2TotalQuantity4, ui_->part2TotalQuantity5}}};
+    rows_ = AnswerRows::of(*design());
+    std::size_t place = 0;
+    for (const char* name : {"wideTablePrice", "priceOrPart1Quantity", "function1OrPart2Quantity",
+                             "function2Quantity", "totalOrPart1TotalQuantity", "part2TotalQuantity"}) {
+        table_.at(place++) = helpColumnOf(*design(), name);
+    }
 }
 
 void Vaddi3::bindEnter() {
@@ -80,11 +64,7 @@ void Vaddi3::bindEnter() {
             rest.insert(rest.begin(), table_[column][row]);
         }
     }
-    enterChainWhileShown({ui_->segment1Slope, ui_->segment1Intercept, ui_->segment1End, ui_->segment2Slope,
-                          ui_->segment2Intercept, ui_->segment2Start, ui_->segment2End, ui_->segment3Slope,
-                          ui_->segment3Intercept, ui_->segment3Start, ui_->segment3End, ui_->segment4Slope,
-                          ui_->segment4Intercept, ui_->segment4Start, ui_->segment4End},
-                         LastBox::OkOrNewExercise);
+    enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
 }
 
 void Vaddi3::firstTick() {
@@ -146,46 +126,33 @@ void Vaddi3::nameTable() {
 }
 
 void Vaddi3::showTask() {
-    ui_->function1Part1Slope->setCaption(NumberText(state_.firstSlope));
-    ui_->function1Part1Intercept->setCaption(NumberText(state_.firstIntercept));
-    ui_->function1Part1End->setCaption(NumberText(state_.kinkQuantity));
-    ui_->function1Part2Slope->setCaption(NumberText(state_.secondSlope));
-    ui_->function1Part2Intercept->setCaption(NumberText(state_.secondIntercept));
-    ui_->function1Part2Start->setCaption(NumberText(state_.kinkQuantity));
-    ui_->function2Slope->setCaption(NumberText(state_.slope2));
-    ui_->function2Intercept->setCaption(NumberText(state_.intercept2));
     // Parts that meet share their point, which then belongs to the first.
     const bool isJump = state_.kinkKind == KinkKind::JumpDown || state_.isJumpUp();
     ui_->function1Part1EndLess->setVisible(isJump);
     ui_->function1Part1EndLessOrEqual->setVisible(!isJump);
     const std::string kink = NumberText(state_.kinkQuantity);
-    ui_->function1Part1Text->setAccessibleName(wholeFunction(ui_->function1Part1Slope->caption(),
-                                                             ui_->function1Part1Intercept->caption(),
-                                                             (isJump ? "0 < Q < " : "0 < Q ≤ ") + kink));
-    ui_->function1Part2Text->setAccessibleName(wholeFunction(
-        ui_->function1Part2Slope->caption(), ui_->function1Part2Intercept->caption(), kink + " < Q, P > 0"));
-    ui_->function2Text->setAccessibleName(
-        wholeFunction(ui_->function2Slope->caption(), ui_->function2Intercept->caption(), "Q > 0, P > 0"));
+    ui_->function1Part1End->setCaption(kink);
+    ui_->function1Part2Start->setCaption(kink);
+    GivenFunction::of(*design(), "function1Part1")
+        .tell(NumberText(state_.firstSlope), NumberText(state_.firstIntercept),
+              (isJump ? "0 < Q < " : "0 < Q ≤ ") + kink);
+    GivenFunction::of(*design(), "function1Part2")
+        .tell(NumberText(state_.secondSlope), NumberText(state_.secondIntercept), kink + " < Q, P > 0");
+    GivenFunction::of(*design(), "function2")
+        .tell(NumberText(state_.slope2), NumberText(state_.intercept2), "Q > 0, P > 0");
 }
 
 void Vaddi3::showRows() {
     const int count = state_.segmentCount();
     const bool isAsked = state_.upperEndAsked;
-    setShown(count >= 2, {ui_->segment1PriceEquals, ui_->segment1Slope, ui_->segment1TimesQuantityPlus,
-                          ui_->segment1Intercept, ui_->segment1ZeroLessThanQuantity, ui_->segment1End});
-    const bool hasSecondEnd = count >= 3 || isAsked;
-    ui_->segment2End->setVisible(hasSecondEnd);
-    ui_->segment2LessThanQuantity->setCaption(hasSecondEnd ? "<Q<" : "<Q");
-    setShown(count >= 3, {ui_->segment3PriceEquals, ui_->segment3Slope, ui_->segment3TimesQuantityPlus,
-                          ui_->segment3Intercept, ui_->segment3ValidFor, ui_->segment3Start,
-                          ui_->segment3LessThanQuantity});
-    const bool hasThirdEnd = count == 4 || (count == 3 && isAsked);
-    ui_->segment3End->setVisible(hasThirdEnd);
-    ui_->segment3LessThanQuantity->setCaption(hasThirdEnd ? "<Q<" : "<Q");
-    setShown(count == 4, {ui_->segment4PriceEquals, ui_->segment4Slope, ui_->segment4TimesQuantityPlus,
-                          ui_->segment4Intercept, ui_->segment4ValidFor, ui_->segment4Start,
-                          ui_->segment4LessThanQuantity});
-    setShown(count == 4 && isAsked, {ui_->segment4EndLess, ui_->segment4End});
+    const bool hasEnd2 = count >= 3 || isAsked;
+    const bool hasEnd3 = count == 4 || isAsked;
+    rows_.show(0, count >= 2, true);
+    rows_.show(1, true, hasEnd2);
+    rows_.show(2, count >= 3, hasEnd3);
+    rows_.show(3, count == 4, isAsked);
+    ui_->segment2LessThanQuantity->setCaption(hasEnd2 ? "<Q<" : "<Q");
+    ui_->segment3LessThanQuantity->setCaption(count >= 3 && hasEnd3 ? "<Q<" : "<Q");
     rows_.nameShownBoxes();
 }
 

@@ -30,6 +30,7 @@ protected:
     void judge() override;
     void giveAnswer() override;
     void help() override;
+    void closeHelp() override;
 
 private:
     void bindBoxes();
@@ -54,7 +55,6 @@ private:
     void showPrices();
     void showQuantities();
     void showSum();
-    void closeHelp();
     void focusOnTable();
 
     std::unique_ptr<Ui::Vaddi3> ui_;

@@ -25,9 +25,11 @@ void write(const AnswerRows& rows, const VerticalSum& sum) {
 
 }  // namespace
 
-void VerticalForm::helpPanel(Panel* panel, QWidget* firstVis) {
-    panel_ = panel;
-    firstVis_ = firstVis;
+void VerticalForm::bindGraphsAndRows() {
+    function1_ = FramedGraph::of(*design(), "function1");
+    function2_ = FramedGraph::of(*design(), "function2");
+    result_ = FramedGraph::of(*design(), "result");
+    rows_ = AnswerRows::of(*design());
 }
 
 void VerticalForm::judge() {
@@ -37,7 +39,7 @@ void VerticalForm::judge() {
     const std::vector<AnswerField> fields = answerFields(right);
     if (rows_.areFit(fields)) {
         solved();
-        drawSum(*graphs_.sum.box, right);
+        drawSum(*result_.box, right);
         return;
     }
     failed();
@@ -46,22 +48,22 @@ void VerticalForm::judge() {
 }
 
 void VerticalForm::giveAnswer() {
-    panel_->hide();
+    helpPanel()->hide();
     const VerticalSum right = sum();
-    drawTypedSum(*graphs_.sum.box, rows_, right);
+    drawTypedSum(*result_.box, rows_, right);
     rows_.whiten();
-    drawSum(*graphs_.sum.box, right);
+    drawSum(*result_.box, right);
     write(rows_, right);
     given();
 }
 
-void VerticalForm::help() { openPanel(panel_, firstVis_); }
+void VerticalForm::help() { openPanel(helpPanel(), helpPanel()->findChild<Button*>("showIntervals")); }
 
 void VerticalForm::clearGraphs() {
-    drawFrameTicks(*graphs_.function1.frame);
-    drawFrameTicks(*graphs_.function2.frame);
-    drawTallFrameTicks(*graphs_.sum.frame);
-    for (const Graph& graph : {graphs_.function1, graphs_.function2, graphs_.sum}) {
+    drawFrameTicks(*function1_.frame);
+    drawFrameTicks(*function2_.frame);
+    drawTallFrameTicks(*result_.frame);
+    for (const FramedGraph& graph : {function1_, function2_, result_}) {
         graph.box->Cls();
     }
 }

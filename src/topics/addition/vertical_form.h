@@ -14,22 +14,14 @@ namespace tavrune {
 /// the rows in which it is typed, and how it is judged and given.
 class VerticalForm : public ExerciseForm {
 protected:
-    VerticalForm(PageName name, Draws& draws) : ExerciseForm(name, draws), rows_({}) {}
+    VerticalForm(PageName name, Draws& draws) : ExerciseForm(name, draws) {}
 
-    struct Graph {
-        GraphBox* frame;
-        GraphBox* box;
-    };
-    struct Graphs {
-        Graph function1;
-        Graph function2;
-        Graph sum;
-    };
-
-    // Bindings, for the constructor.
-    void graphs(const Graphs& roles) { graphs_ = roles; }
-    void answerRows(std::vector<AnswerRows::Row> rows) { rows_ = AnswerRows(std::move(rows)); }
-    void helpPanel(Panel* panel, QWidget* firstVis);
+    /// Fills the design area from a designer file and finds the graphs and the rows.
+    template <class Ui>
+    void setUp(Ui& ui) {
+        ExerciseForm::setUp(ui);
+        bindGraphsAndRows();
+    }
 
     /// The sum of the exercise.
     [[nodiscard]] virtual VerticalSum sum() const = 0;
@@ -45,11 +37,15 @@ protected:
     /// To the slope of the first segment that is asked for.
     void focusOnFirstRow();
 
+    [[nodiscard]] const AnswerRows& rows() const { return rows_; }
+
 private:
-    Graphs graphs_{};
+    void bindGraphsAndRows();
+
+    FramedGraph function1_;
+    FramedGraph function2_;
+    FramedGraph result_;
     AnswerRows rows_;
-    Panel* panel_ = nullptr;
-    QWidget* firstVis_ = nullptr;
 };
 
 }  // namespace tavrune

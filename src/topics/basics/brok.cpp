@@ -17,12 +17,8 @@ constexpr double kGap = 2;
 
 Brok::Brok(Draws& draws) : ExerciseForm(PageName::Brok, draws), ui_(std::make_unique<Ui::Brok>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(OneLabel{ui_->verdict});
     enterChain({ui_->numerator, ui_->denominator}, LastBox::OkOrStay);
     onClick(ui_->showWorkedSolution, &Brok::showWorkedSolution);
-    onClick(ui_->closeHelp, &Brok::closeHelp);
 }
 
 Brok::~Brok() = default;

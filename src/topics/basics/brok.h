@@ -24,12 +24,12 @@ protected:
     void judge() override;
     void giveAnswer() override;
     void help() override;
+    void closeHelp() override;
 
 private:
     void layOutFractions();
     void showReduction();
     void showWorkedSolution();
-    void closeHelp();
 
     std::unique_ptr<Ui::Brok> ui_;
     BrokState state_;

@@ -26,9 +26,6 @@ void showSlope(const DlinieSlopeStep& step, const Fraction& fraction, Label* res
 
 Dlinie::Dlinie(Draws& draws) : ExerciseForm(PageName::Dlinie, draws), ui_(std::make_unique<Ui::Dlinie>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(OneLabel{ui_->verdict});
     enterChain({ui_->slope, ui_->intercept}, LastBox::OkOrStay);
     onClick(ui_->showTwoPointsSlope, &Dlinie::showSlopeOfTwoPoints);
     onClick(ui_->showTwoPointsIntercept, &Dlinie::showInterceptOfTwoPoints);

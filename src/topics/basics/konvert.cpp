@@ -31,12 +31,8 @@ constexpr double kGap = 0.4;
 Konvert::Konvert(Draws& draws)
     : ExerciseForm(PageName::Konvert, draws), ui_(std::make_unique<Ui::Konvert>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong, .darkUntilFirstTick = true});
     enterChain({ui_->slope, ui_->intercept}, LastBox::OkOrNewExercise);
     onClick(ui_->showWorkedSolution, &Konvert::showWorkedSolution);
-    onClick(ui_->closeHelp, &Konvert::closeHelp);
     ui_->generalResult->setCaption("= " + exampleResult());
     ui_->helpConvertedFunction->setCaption("P = " + exampleResult());
 }

@@ -26,6 +26,7 @@ protected:
     void judge() override;
     void giveAnswer() override;
     void help() override;
+    void closeHelp() override;
 
 private:
     void blankWorkedSolution();
@@ -35,7 +36,6 @@ private:
     void drawBarOver(const Label* label);
     void showWorkedSolution();
     void layOutWorkedSolution();
-    void closeHelp();
 
     std::unique_ptr<Ui::Konvert> ui_;
     KonvertState state_;

@@ -22,13 +22,9 @@ constexpr double kNameDrop = 0.5;
 Lininter::Lininter(Draws& draws)
     : ExerciseForm(PageName::Lininter, draws), ui_(std::make_unique<Ui::Lininter>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
     enterChain({ui_->askedCoordinate}, LastBox::OkOrStay);
     onClick(ui_->showPriceSolution, &Lininter::uncoverLeft);
     onClick(ui_->showQuantitySolution, &Lininter::uncoverRight);
-    onClick(ui_->closeHelp, &Lininter::closeHelp);
 }
 
 Lininter::~Lininter() = default;

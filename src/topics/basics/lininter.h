@@ -27,6 +27,7 @@ protected:
     void judge() override;
     void giveAnswer() override;
     void help() override;
+    void closeHelp() override;
 
 private:
     void drawAxes();
@@ -35,7 +36,6 @@ private:
     void draw(std::span<const Segment> segments, const QColor& colour);
     void uncoverLeft();
     void uncoverRight();
-    void closeHelp();
 
     std::unique_ptr<Ui::Lininter> ui_;
     LininterState state_;

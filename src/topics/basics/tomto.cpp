@@ -19,9 +19,6 @@ constexpr double kGap = 4;
 
 Tomto::Tomto(Draws& draws) : ExerciseForm(PageName::Tomto, draws), ui_(std::make_unique<Ui::Tomto>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(OneLabel{ui_->verdict});
     // Kept: from the right-hand field to the left one, against the layout.
     enterChain({ui_->crossingPointPrice, ui_->crossingPointQuantity}, LastBox::OkOrStay);
     options_ = {{ui_->crossing, Relation::Crossing},

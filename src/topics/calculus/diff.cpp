@@ -21,13 +21,9 @@ constexpr double kGap = 4;
 
 Diff::Diff(Draws& draws) : ExerciseForm(PageName::Diff, draws), ui_(std::make_unique<Ui::Diff>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
     enterChain({ui_->derivative}, LastBox::OkOrStay);
     onClick(ui_->showDerivative, &Diff::showDerivative);
     onClick(ui_->showDerivativeAtPoint, &Diff::showDerivativeAtPoint);
-    onClick(ui_->closeHelp, &Diff::closeHelp);
 }
 
 Diff::~Diff() = default;

@@ -27,6 +27,7 @@ protected:
     void judge() override;
     void giveAnswer() override;
     void help() override;
+    void closeHelp() override;
 
 private:
     void drawAxes();
@@ -37,7 +38,6 @@ private:
     void drawTangent(double slope, double reach, const QColor& colour);
     void showDerivative();
     void showDerivativeAtPoint();
-    void closeHelp();
 
     std::unique_ptr<Ui::Diff> ui_;
     DiffState state_;

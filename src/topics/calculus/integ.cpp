@@ -29,12 +29,8 @@ void write(std::initializer_list<Label*> labels, const IntegRow& row) {
 
 Integ::Integ(Draws& draws) : ExerciseForm(PageName::Integ, draws), ui_(std::make_unique<Ui::Integ>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
     enterChain({ui_->integral}, LastBox::OkOrStay);
     onClick(ui_->showWorkedSolution, &Integ::uncover);
-    onClick(ui_->closeHelp, &Integ::closeHelp);
 }
 
 Integ::~Integ() = default;

@@ -27,6 +27,7 @@ protected:
     void judge() override;
     void giveAnswer() override;
     void help() override;
+    void closeHelp() override;
 
 private:
     void drawAxes();
@@ -36,7 +37,6 @@ private:
     void hatchArea();
     void layOutHelp();
     void uncover();
-    void closeHelp();
 
     std::unique_ptr<Ui::Integ> ui_;
     IntegState state_;

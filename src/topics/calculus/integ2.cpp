@@ -61,12 +61,8 @@ double layOutTerm(Label* label, double left) {
 
 Integ2::Integ2(Draws& draws) : ExerciseForm(PageName::Integ2, draws), ui_(std::make_unique<Ui::Integ2>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
     enterChain({ui_->integral}, LastBox::OkOrStay);
     onClick(ui_->showWorkedSolution, &Integ2::uncover);
-    onClick(ui_->closeHelp, &Integ2::closeHelp);
 }
 
 Integ2::~Integ2() = default;

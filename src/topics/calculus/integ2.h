@@ -28,6 +28,7 @@ protected:
     void judge() override;
     void giveAnswer() override;
     void help() override;
+    void closeHelp() override;
 
 private:
     void showTask();
@@ -38,7 +39,6 @@ private:
     bool plotPieces(GraphBox& graph) const;
     void hatchPieces(GraphBox& graph, const QColor& first, const QColor& second) const;
     void uncover();
-    void closeHelp();
 
     std::unique_ptr<Ui::Integ2> ui_;
     Integ2State state_;

@@ -21,9 +21,6 @@ constexpr double kGap = 6;
 
 Afsaet::Afsaet(Draws& draws) : ExerciseForm(PageName::Afsaet, draws), ui_(std::make_unique<Ui::Afsaet>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(OneLabel{ui_->verdict});
     enterChain({ui_->slope, ui_->intercept, ui_->rangeStart, ui_->rangeEnd}, LastBox::OkOrStay);
     helps_ = helpPanels();
     for (const HelpPanel& help : helps_) {

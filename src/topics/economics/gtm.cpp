@@ -23,9 +23,6 @@ const Colours& coloursOf(GtmFunction function) {
 
 Gtm::Gtm(Draws& draws) : ExerciseForm(PageName::Gtm, draws), ui_(std::make_unique<Ui::Gtm>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(OneLabel{ui_->verdict});
     boxes_ = {{{ui_->avcQuadraticCoefficient, ui_->avcLinearCoefficient, ui_->avcConstant},
                {ui_->tvcCubicCoefficient, ui_->tvcQuadraticCoefficient, ui_->tvcLinearCoefficient},
                {ui_->mcQuadraticCoefficient, ui_->mcLinearCoefficient, ui_->mcConstant}}};

@@ -17,9 +17,6 @@ constexpr double kHalfTick = 0.5;
 Roedder::Roedder(Draws& draws)
     : ExerciseForm(PageName::Roedder, draws), ui_(std::make_unique<Ui::Roedder>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
     enterChain({ui_->rootOne, ui_->rootTwo}, LastBox::OkOrStay);
     options_ = {{ui_->twoRoots, RootCount::Two},
                 {ui_->doubleRoot, RootCount::Double},
@@ -30,7 +27,6 @@ Roedder::Roedder(Draws& draws)
     onClick(ui_->showDiscriminant, &Roedder::showDiscriminant);
     onClick(ui_->showRootCount, &Roedder::showRootCount);
     onClick(ui_->showRoots, &Roedder::showSolution);
-    onClick(ui_->closeHelp, &Roedder::closeHelp);
 }
 
 Roedder::~Roedder() = default;

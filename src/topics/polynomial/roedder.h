@@ -28,6 +28,7 @@ protected:
     void judge() override;
     void giveAnswer() override;
     void help() override;
+    void closeHelp() override;
 
 private:
     void drawAxes();
@@ -49,7 +50,6 @@ private:
     void showDiscriminant();
     void showRootCount();
     void showSolution();
-    void closeHelp();
 
     std::unique_ptr<Ui::Roedder> ui_;
     RoedderState state_;

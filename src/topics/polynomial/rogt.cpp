@@ -14,9 +14,6 @@ constexpr double kHalfTick = 0.5;
 
 Rogt::Rogt(Draws& draws) : ExerciseForm(PageName::Rogt, draws), ui_(std::make_unique<Ui::Rogt>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
     // Kept: the vertex is walked from its right-hand box to the left one, against the layout.
     enterChain({ui_->rootOne, ui_->rootTwo, ui_->vertexPrice, ui_->vertexQuantity}, LastBox::OkOrStay);
     options_ = {{ui_->twoRoots, RootCount::Two},

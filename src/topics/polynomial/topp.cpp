@@ -19,13 +19,9 @@ constexpr double kGap = 4;
 
 Topp::Topp(Draws& draws) : ExerciseForm(PageName::Topp, draws), ui_(std::make_unique<Ui::Topp>()) {
     setUp(*ui_);
-    buttons(
-        {.newExercise = ui_->newExercise, .ok = ui_->ok, .giveAnswer = ui_->giveAnswer, .help = ui_->help});
-    verdict(TwoLabels{.right = ui_->right, .wrong = ui_->wrong});
     // Kept: from the right-hand box to the left-hand one.
     enterChain({ui_->vertexPrice, ui_->vertexQuantity}, LastBox::OkOrStay);
     onClick(ui_->showWorkedSolution, &Topp::uncover);
-    onClick(ui_->closeHelp, &Topp::closeHelp);
 }
 
 Topp::~Topp() = default;

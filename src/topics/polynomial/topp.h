@@ -27,13 +27,13 @@ protected:
     void judge() override;
     void giveAnswer() override;
     void help() override;
+    void closeHelp() override;
 
 private:
     void drawAxes();
     void fillHelp();
     void drawCurve();
     void uncover();
-    void closeHelp();
 
     std::unique_ptr<Ui::Topp> ui_;
     ToppState state_;

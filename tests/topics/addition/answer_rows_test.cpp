@@ -7,13 +7,71 @@
 namespace tavrune {
 namespace {
 
-/// Two rows, of which the first has no start.
+/// A page with two rows, of which the first has no start.
 class TwoRows : public testing::Test {
 protected:
-    AnswerBox slope1, intercept1, end1, slope2, intercept2, start2, end2;
+    TwoRows() {
+        for (const auto& [widget, name] : std::initializer_list<std::pair<QWidget*, const char*>>{
+                 {&slope1, "segment1Slope"},
+                 {&intercept1, "segment1Intercept"},
+                 {&end1, "segment1End"},
+                 {&zeroLessThan, "segment1ZeroLessThanQuantity"},
+                 {&afterZero, "segment1StartLessOrEqual"},
+                 {&endSign1, "segment1EndLessOrEqual"},
+                 {&slope2, "segment2Slope"},
+                 {&intercept2, "segment2Intercept"},
+                 {&start2, "segment2Start"},
+                 {&end2, "segment2End"},
+                 {&validFor, "segment2ValidFor"},
+                 {&startSign2, "segment2StartLessOrEqual"},
+                 {&endSign2, "segment2EndLess"}}) {
+            widget->setObjectName(name);
+        }
+        rows = AnswerRows::of(page);
+    }
+
+    QWidget page;
+    AnswerBox slope1{&page}, intercept1{&page}, end1{&page}, slope2{&page}, intercept2{&page}, start2{&page},
+        end2{&page};
+    Label zeroLessThan{&page}, afterZero{&page}, endSign1{&page}, validFor{&page}, startSign2{&page},
+        endSign2{&page};
     std::vector<AnswerBox*> boxes{&slope1, &intercept1, &end1, &slope2, &intercept2, &start2, &end2};
-    AnswerRows rows{{{&slope1, &intercept1, nullptr, &end1}, {&slope2, &intercept2, &start2, &end2}}};
+    AnswerRows rows;
 };
+
+TEST_F(TwoRows, AreFoundByTheirNamesInReadingOrder) {
+    EXPECT_EQ(rows.count(), 2);
+    EXPECT_EQ(rows.boxes(), boxes);
+}
+
+TEST_F(TwoRows, AreShownWithWhatStandsBetweenTheirBoxes) {
+    rows.show(0, false, true);
+    for (const QWidget* hidden :
+         std::initializer_list<QWidget*>{&slope1, &intercept1, &end1, &zeroLessThan, &afterZero, &endSign1}) {
+        EXPECT_TRUE(hidden->isHidden()) << hidden->objectName().toStdString();
+    }
+    rows.show(0, true, true);
+    rows.show(1, true, false);
+    for (const QWidget* hidden : std::initializer_list<QWidget*>{&end2, &endSign2}) {
+        EXPECT_TRUE(hidden->isHidden()) << hidden->objectName().toStdString();
+    }
+    for (const QWidget* shown : std::initializer_list<QWidget*>{&slope1, &end1, &afterZero, &endSign1,
+                                                                &slope2, &start2, &validFor}) {
+        EXPECT_FALSE(shown->isHidden()) << shown->objectName().toStdString();
+    }
+}
+
+TEST_F(TwoRows, ShowTheSignOfALoneStartByItself) {
+    rows.showStartSign(1, false);
+    EXPECT_TRUE(startSign2.isHidden());
+    rows.show(1, true, true);
+    EXPECT_TRUE(startSign2.isHidden());
+    rows.showStartSign(1, true);
+    EXPECT_FALSE(startSign2.isHidden());
+    // The first row has none of its own.
+    rows.showStartSign(0, false);
+    EXPECT_FALSE(afterZero.isHidden());
+}
 
 TEST_F(TwoRows, FindTheBoxOfEachSlot) {
     EXPECT_EQ(rows.box(0, Slot::Slope), &slope1);
@@ -99,11 +157,6 @@ TEST_F(TwoRows, LeaveAValueAtTheLowerEndWrongAndWhite) {
 }
 
 TEST_F(TwoRows, NameTheirBoxesByTheOrderOfTheRows) {
-    QWidget page;
-    for (AnswerBox* box : boxes) {
-        box->setParent(&page);
-        box->show();
-    }
     rows.nameShownBoxes();
     EXPECT_EQ(slope1.accessibleName(), "hældning, første stykke");
     EXPECT_EQ(end1.accessibleName(), "slut i Q, første stykke");
@@ -113,9 +166,31 @@ TEST_F(TwoRows, NameTheirBoxesByTheOrderOfTheRows) {
     rows.nameShownBoxes();
     EXPECT_EQ(slope2.accessibleName(), "hældning");
     EXPECT_EQ(end2.accessibleName(), "slut i Q");
-    for (AnswerBox* box : boxes) {
-        box->setParent(nullptr);
-    }
+}
+
+TEST(GivenFunction, FillsItsGapsAndTellsTheWhole) {
+    QWidget page;
+    Label text(&page);
+    Label slope(&page);
+    Label intercept(&page);
+    text.setObjectName("function2Text");
+    slope.setObjectName("function2Slope");
+    intercept.setObjectName("function2Intercept");
+    GivenFunction::of(page, "function2").tell("-3", "4", "Q > 0");
+    EXPECT_EQ(slope.caption(), "-3");
+    EXPECT_EQ(intercept.caption(), "4");
+    EXPECT_EQ(text.accessibleName(), "P = -3Q + 4 for Q > 0");
+}
+
+TEST(HelpColumn, IsFoundByItsNameFromTheTop) {
+    QWidget page;
+    AnswerBox second(&page);
+    AnswerBox first(&page);
+    AnswerBox other(&page);
+    first.setObjectName("price1");
+    second.setObjectName("price2");
+    other.setObjectName("totalQuantity1");
+    EXPECT_EQ(helpColumnOf(page, "price"), (HelpColumn{&first, &second}));
 }
 
 TEST(WholeFunction, SaysWhatIsLaidOutInPieces) {
