@@ -12,6 +12,11 @@ Fraction::Fraction(Label* numerator, LineControl* bar, Label* denominator)
     denominator_->setDecorative(true);
 }
 
+Fraction Fraction::of(const QWidget& page, const QString& prefix) {
+    return {page.findChild<Label*>(prefix + "Numerator"), page.findChild<LineControl*>(prefix + "Bar"),
+            page.findChild<Label*>(prefix + "Denominator")};
+}
+
 void Fraction::setTexts(std::string_view numerator, std::string_view denominator) const {
     numerator_->setAutoSize(true);
     denominator_->setAutoSize(true);

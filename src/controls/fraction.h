@@ -13,10 +13,15 @@ class Fraction {
 public:
     Fraction(Label* numerator, LineControl* bar, Label* denominator);
 
+    /// What is called `slopeNumerator`, `slopeBar` and `slopeDenominator`, for the prefix "slope". All three
+    /// must be on the page.
+    [[nodiscard]] static Fraction of(const QWidget& page, const QString& prefix);
+
     /// Sets both texts; the fraction keeps its left edge.
     void setTexts(std::string_view numerator, std::string_view denominator) const;
 
     void setLeft(double left) const;
+    [[nodiscard]] double left() const { return numerator_->place().left(); }
     [[nodiscard]] double right() const { return numerator_->place().right(); }
     [[nodiscard]] double width() const { return numerator_->place().width(); }
 

@@ -2,7 +2,7 @@
 
 namespace tavrune {
 
-double layOutRow(std::initializer_list<Label*> labels, double left, double gap) {
+double layOutRow(const std::vector<Label*>& labels, double left, double gap) {
     double right = left;
     double next = left;
     for (Label* label : labels) {
@@ -14,6 +14,19 @@ double layOutRow(std::initializer_list<Label*> labels, double left, double gap) 
         }
     }
     return right;
+}
+
+double layOutFromFirst(const std::vector<Label*>& labels, double gap) {
+    return layOutRow(labels, labels.front()->place().left(), gap);
+}
+
+std::vector<Label*> labelsOf(const QWidget& page, const QString& prefix,
+                             std::initializer_list<const char*> names) {
+    std::vector<Label*> labels;
+    for (const char* name : names) {
+        labels.push_back(page.findChild<Label*>(prefix + name));
+    }
+    return labels;
 }
 
 }  // namespace tavrune

@@ -3,13 +3,17 @@
 namespace tavrune {
 namespace {
 
-constexpr double kTop = 10;
-constexpr double kStroke = 0.05;
+/// The left edge of a mark that ends with the box.
+constexpr double kLeftOfLastMark = 9.85;
+constexpr double kMarkSize = 2 * kHalfMark;
 
-// The ticks of eleven whole numbers along 8 units of a frame.
-constexpr double kFirstTick = 0.2;
-constexpr double kLastTick = 8.5;
-constexpr double kTickStep = 0.8;
+constexpr double kHalfThickness = 0.1;
+constexpr double kThickness = 2 * kHalfThickness;
+
+// The ticks of twenty-one whole numbers along 18 units of a frame.
+constexpr double kFirstWideTick = 1;
+constexpr double kLastWideTick = 19.1;
+constexpr double kWideTickStep = 0.9;
 
 }  // namespace
 
@@ -23,7 +27,8 @@ void drawFrameTicks(GraphBox& frame) {
 void drawWideFrameTicks(GraphBox& frame) {
     stepThrough(kFirstTick, kLastTick, kTickStep,
                 [&frame](double t) { frame.Line(0.8, t + 0.8, 1, t + 0.8); });
-    stepThrough(1, 19.1, 0.9, [&frame](double t) { frame.Line(t, 9, t, 9.2); });
+    stepThrough(kFirstWideTick, kLastWideTick, kWideTickStep,
+                [&frame](double t) { frame.Line(t, 9, t, 9.2); });
 }
 
 void drawPiece(GraphBox& box, double top, const Piece& piece, double from, double to, const QColor& colour) {
@@ -31,23 +36,26 @@ void drawPiece(GraphBox& box, double top, const Piece& piece, double from, doubl
 }
 
 void drawMark(GraphBox& box, const TableCell& quantity, double price) {
-    double left = -5;
+    double left = kBesideTheBox;
     if (quantity.isUnbounded()) {
-        left = 9.85;
+        left = kLeftOfLastMark;
     } else if (quantity.isNumeric()) {
-        left = quantity.number() - 0.15;
+        left = quantity.number() - kHalfMark;
     }
-    stepThrough(left, left + 0.3, kStroke,
-                [&box, price](double x) { box.Line(x, kTop - price - 0.15, x, kTop - price + 0.15, kRed); });
+    stepThrough(left, left + kMarkSize, kStroke, [&box, price](double x) {
+        box.Line(x, kTopPrice - price - kHalfMark, x, kTopPrice - price + kHalfMark, kRed);
+    });
 }
 
 void drawThickLine(GraphBox& box, double from, double to, double middle, const QColor& colour) {
-    stepThrough(-0.1, 0.1, kStroke, [&](double t) { box.Line(from, middle - t, to, middle - t, colour); });
+    stepThrough(-kHalfThickness, kHalfThickness, kStroke,
+                [&](double t) { box.Line(from, middle - t, to, middle - t, colour); });
 }
 
 void drawBand(GraphBox& box, double from, double to, double price, const QColor& colour) {
-    const double base = price == 0 ? 0 : price - 0.1;
-    stepThrough(base, base + 0.2, kStroke, [&](double y) { box.Line(from, kTop - y, to, kTop - y, colour); });
+    const double base = price == 0 ? 0 : price - kHalfThickness;
+    stepThrough(base, base + kThickness, kStroke,
+                [&](double y) { box.Line(from, kTopPrice - y, to, kTopPrice - y, colour); });
 }
 
 }  // namespace tavrune

@@ -32,6 +32,10 @@ std::string stretchText(const TableCell& fromQ, const TableCell& fromP, const Ta
     return "( " + fromQ.text() + " ; " + fromP.text() + " ) til ( " + toQ.text() + " ; " + toP.text() + " )";
 }
 
+bool isOnEdge(const Piece& piece) {
+    return piece.slope == 0 && (piece.intercept == 0 || piece.intercept == kTopPrice);
+}
+
 bool Target::isFit(double typed) const {
     switch (rule) {
         case Rule::Near:

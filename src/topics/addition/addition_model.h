@@ -63,6 +63,24 @@ struct Piece {
     [[nodiscard]] double at(double q) const { return slope * q + intercept; }
 };
 
+/// The highest price on the graph of a given function.
+inline constexpr double kTopPrice = 10;
+
+/// A level line along an edge of the graph of a given function.
+[[nodiscard]] bool isOnEdge(const Piece& piece);
+
+/// Which way the functions run that are added by their quantities. The sum goes from price to price the same
+/// way.
+enum class Direction { Rising, Falling };
+
+/// +1 for rising functions, -1 for falling ones: of prices times it, the sum comes to the lower one first.
+[[nodiscard]] constexpr int factorOf(Direction direction) { return direction == Direction::Rising ? 1 : -1; }
+
+/// The edge of the graph at which the sum ends, unless a level function ends it before.
+[[nodiscard]] constexpr double lastPriceOf(Direction direction) {
+    return direction == Direction::Rising ? kTopPrice : 0;
+}
+
 /// How a typed value is tested against its target, for the verdict and for the red mark.
 enum class Rule {
     /// target - 0.005 < typed <= target + 0.005. Kept: a value just at the lower end is wrong and stays
@@ -90,14 +108,24 @@ struct Target {
 /// What a field of an answer row asks for.
 enum class Slot { Slope, Intercept, Start, End };
 
-/// One field that is judged: its row, from 0 at the top, what it asks for, and its target.
+// The rows of an answer, from the top.
+inline constexpr int kFirstRow = 0;
+inline constexpr int kSecondRow = 1;
+inline constexpr int kThirdRow = 2;
+inline constexpr int kFourthRow = 3;
+/// The row of a segment that is the whole sum.
+inline constexpr int kLoneRow = kSecondRow;
+
+/// One field that is judged: its row, what it asks for, and its target.
 struct AnswerField {
     int row;
     Slot slot;
     Target target;
 };
 
-/// The row in which a segment is typed: a lone one stands in the second row.
-[[nodiscard]] constexpr int rowOf(int segment, int segmentCount) { return segmentCount == 1 ? 1 : segment; }
+/// The row in which a segment, counted from 0, is typed.
+[[nodiscard]] constexpr int rowOf(int segment, int segmentCount) {
+    return segmentCount == 1 ? kLoneRow : segment;
+}
 
 }  // namespace tavrune

@@ -185,17 +185,6 @@ FramedGraph FramedGraph::of(const QWidget& page, const QString& prefix) {
     return {page.findChild<GraphBox*>(prefix + "GraphFrame"), page.findChild<GraphBox*>(prefix + "Graph")};
 }
 
-HelpColumn helpColumnOf(const QWidget& page, const QString& name) {
-    HelpColumn column;
-    for (int row = 1;; ++row) {
-        auto* const box = page.findChild<AnswerBox*>(name + QString::number(row));
-        if (box == nullptr) {
-            return column;
-        }
-        column.push_back(box);
-    }
-}
-
 void blankColumn(const HelpColumn& column) {
     for (AnswerBox* box : column) {
         box->setContent(kBlankText);

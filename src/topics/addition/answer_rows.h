@@ -92,11 +92,23 @@ struct FramedGraph {
     [[nodiscard]] static FramedGraph of(const QWidget& page, const QString& prefix);
 };
 
+/// The controls of a page whose names are `pattern` with 1, 2 and so on for its "%1", as far as they go.
+template <class Widget>
+[[nodiscard]] std::vector<Widget*> numbered(const QWidget& page, const QString& pattern) {
+    std::vector<Widget*> found;
+    while (auto* const widget = page.findChild<Widget*>(pattern.arg(found.size() + 1))) {
+        found.push_back(widget);
+    }
+    return found;
+}
+
 /// Boxes of one column of a help table, from the top.
 using HelpColumn = std::vector<AnswerBox*>;
 
 /// What is called `price1`, `price2` and so on, for the name "price".
-[[nodiscard]] HelpColumn helpColumnOf(const QWidget& page, const QString& name);
+[[nodiscard]] inline HelpColumn helpColumnOf(const QWidget& page, const QString& name) {
+    return numbered<AnswerBox>(page, name + "%1");
+}
 
 /// Writes cells into a column, as many as it has boxes.
 template <class Cells>

@@ -15,11 +15,6 @@ Laddi1::Laddi1(Draws& draws) : VerticalForm(PageName::Laddi1, draws), ui_(std::m
 
 Laddi1::~Laddi1() = default;
 
-void Laddi1::firstTick() {
-    VerticalForm::firstTick();
-    ui_->openingBlank->hide();
-}
-
 void Laddi1::newExercise() {
     hideAll({ui_->helpPanel, ui_->loneSegmentStep, ui_->twoSegmentsStep});
     for (Label* text :
@@ -36,15 +31,15 @@ void Laddi1::showTask() {
     ui_->function1Formula->setCaption(functionText(state_.function1()));
     ui_->function2Formula->setCaption(functionText(state_.function2()));
     clearGraphs();
-    drawPiece(*ui_->function1Graph, kFunctionTop, state_.function1(), 0, kLastGivenQ);
-    drawPiece(*ui_->function2Graph, kFunctionTop, state_.function2(), 0, kLastGivenQ);
+    drawPiece(*ui_->function1Graph, kTopPrice, state_.function1(), 0, kLastGivenQ);
+    drawPiece(*ui_->function2Graph, kTopPrice, state_.function2(), 0, kLastGivenQ);
 }
 
 void Laddi1::showRows() {
     const bool isOne = state_.segmentCount == 1;
-    rows().show(0, !isOne, true);
-    rows().show(1, true, state_.upperEndAsked);
-    rows().showStartSign(1, isOne);
+    rows().show(kFirstRow, !isOne, true);
+    rows().show(kSecondRow, true, state_.upperEndAsked);
+    rows().showStartSign(kLoneRow, isOne);
 }
 
 void Laddi1::showIntervals() {

@@ -22,7 +22,6 @@ public:
     [[nodiscard]] const Laddi1State& state() const { return state_; }
 
 protected:
-    void firstTick() override;
     void newExercise() override;
     void closeHelp() override;
     [[nodiscard]] VerticalSum sum() const override { return sumOf(state_); }

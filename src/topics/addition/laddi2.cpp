@@ -9,8 +9,8 @@ namespace tavrune {
 namespace {
 
 void drawFunction(GraphBox& box, const KinkedFunction& f) {
-    drawPiece(box, kFunctionTop, f.before, 0, f.kink);
-    drawPiece(box, kFunctionTop, f.after, f.kink, kLastGivenQ);
+    drawPiece(box, kTopPrice, f.before, 0, f.kink);
+    drawPiece(box, kTopPrice, f.after, f.kink, kLastGivenQ);
 }
 
 void markEnds(GraphBox& box, const KinkedFunction& f) {
@@ -26,6 +26,7 @@ void markEnds(GraphBox& box, const KinkedFunction& f) {
 
 Laddi2::Laddi2(Draws& draws) : VerticalForm(PageName::Laddi2, draws), ui_(std::make_unique<Ui::Laddi2>()) {
     setUp(*ui_);
+    segmentResults_ = numbered<Label>(*design(), "segment%1Result");
     enterChainWhileShown(rows().boxes(), LastBox::OkOrNewExercise);
     onClick(ui_->showIntervals, &Laddi2::showIntervals);
     onClick(ui_->showFunctions, &Laddi2::showSum);
@@ -33,15 +34,12 @@ Laddi2::Laddi2(Draws& draws) : VerticalForm(PageName::Laddi2, draws), ui_(std::m
 
 Laddi2::~Laddi2() = default;
 
-void Laddi2::firstTick() {
-    VerticalForm::firstTick();
-    ui_->openingBlank->hide();
-}
-
 void Laddi2::newExercise() {
     ui_->helpPanel->hide();
-    for (Label* text : {ui_->intervalsHeading, ui_->intervalsResult, ui_->intervalsResultRest,
-                        ui_->segment1Result, ui_->segment2Result, ui_->segment3Result, ui_->segment4Result}) {
+    for (Label* text : {ui_->intervalsHeading, ui_->intervalsResult, ui_->intervalsResultRest}) {
+        text->setCaption("");
+    }
+    for (Label* text : segmentResults_) {
         text->setCaption("");
     }
     tavrune::newExercise(state_, draws());
@@ -105,9 +103,8 @@ void Laddi2::showIntervals() {
 void Laddi2::showSum() {
     showIntervals();
     focusOn(ui_->closeHelp);
-    Label* const lines[]{ui_->segment1Result, ui_->segment2Result, ui_->segment3Result, ui_->segment4Result};
     for (std::size_t segment = 0; segment <= state_.sum.last(); ++segment) {
-        lines[segment]->setCaption(segmentText(state_, segment));
+        segmentResults_[segment]->setCaption(segmentText(state_, segment));
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "topics/addition/laddi2_exercise.h"
 #include "topics/addition/vertical_form.h"
@@ -22,7 +23,6 @@ public:
     [[nodiscard]] const Laddi2State& state() const { return state_; }
 
 protected:
-    void firstTick() override;
     void newExercise() override;
     void closeHelp() override;
     [[nodiscard]] VerticalSum sum() const override { return state_.sum; }
@@ -36,6 +36,8 @@ private:
     void showSum();
 
     std::unique_ptr<Ui::Laddi2> ui_;
+    /// Where the last step of the help shows the segments.
+    std::vector<Label*> segmentResults_;
     Laddi2State state_;
 };
 

@@ -1,21 +1,11 @@
 #include "topics/addition/vaddi1.h"
 
-#include <array>
-
 #include "controls/panel.h"
 #include "numeric/text.h"
 #include "topics/addition/addition_graphs.h"
 #include "topics/addition/ui_vaddi1.h"
 
 namespace tavrune {
-namespace {
-
-constexpr double kTop = 10;
-/// Where the given functions end, and the sum.
-constexpr double kLastQ = 10;
-constexpr double kLastSumQ = 20;
-
-}  // namespace
 
 Vaddi1::Vaddi1(Draws& draws) : ExerciseForm(PageName::Vaddi1, draws), ui_(std::make_unique<Ui::Vaddi1>()) {
     setUp(*ui_);
@@ -60,9 +50,9 @@ void Vaddi1::newExercise() {
 
 void Vaddi1::showRows() {
     const bool isOne = isOneSegment(state_);
-    rows_.show(0, !isOne, true);
-    rows_.show(1, true, hasUpperEnd(state_));
-    rows_.showStartSign(1, isOne);
+    rows_.show(kFirstRow, !isOne, true);
+    rows_.show(kSecondRow, true, hasUpperEnd(state_));
+    rows_.showStartSign(kLoneRow, isOne);
     rows_.nameShownBoxes();
 }
 
@@ -86,8 +76,8 @@ void Vaddi1::drawGraphs() {
     drawFrameTicks(*ui_->function1GraphFrame);
     drawFrameTicks(*ui_->function2GraphFrame);
     drawWideFrameTicks(*ui_->resultGraphFrame);
-    drawPiece(*ui_->function1Graph, kTop, state_.function1(), 0, kLastQ);
-    drawPiece(*ui_->function2Graph, kTop, state_.function2(), 0, kLastQ);
+    drawPiece(*ui_->function1Graph, kTopPrice, state_.function1(), 0, kLastGivenQ);
+    drawPiece(*ui_->function2Graph, kTopPrice, state_.function2(), 0, kLastGivenQ);
 }
 
 void Vaddi1::judge() {
@@ -107,34 +97,37 @@ void Vaddi1::judge() {
 void Vaddi1::drawSum() {
     GraphBox& box = *ui_->resultGraph;
     if (state_.segmentCount == 2) {
-        drawPiece(box, kTop, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
-        drawPiece(box, kTop, state_.secondSegment(), state_.kinkQuantity, kLastSumQ, kSumGreen);
+        drawPiece(box, kTopPrice, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
+        drawPiece(box, kTopPrice, state_.secondSegment(), state_.kinkQuantity, kLastSumQ, kSumGreen);
     } else {
-        drawPiece(box, kTop, state_.secondSegment(), 0, kLastSumQ, kSumGreen);
+        drawPiece(box, kTopPrice, state_.secondSegment(), 0, kLastSumQ, kSumGreen);
     }
 }
 
 void Vaddi1::giveAnswer() {
     ui_->helpPanel->hide();
     drawTypedSum();
-    fillTable(table_.size());
+    fillTable();
     fillAnswer();
     given();
 }
 
-void Vaddi1::fillTable(std::size_t columns) {
-    const std::array cells{&state_.tableP, &state_.tableQ1, &state_.tableQ2, &state_.tableQtotal};
-    for (std::size_t column = 0; column < columns; ++column) {
-        writeColumn(table_[column], *cells.at(column));
+void Vaddi1::fillPrices() { writeColumn(table_.front(), state_.tableP); }
+
+void Vaddi1::fillTable() {
+    auto column = table_.begin();
+    for (const auto* cells : {&state_.tableP, &state_.tableQ1, &state_.tableQ2, &state_.tableQtotal}) {
+        writeColumn(*column++, *cells);
     }
 }
 
 void Vaddi1::drawTypedSum() {
     GraphBox& box = *ui_->resultGraph;
     // Kept: with one segment too, from what stands in the hidden row.
-    drawPiece(box, kTop, rows_.typedSegment(0), 0, rows_.typed(0, Slot::End), kRed);
-    const double end = state_.upperEndAsked ? rows_.typed(1, Slot::End) : kLastSumQ;
-    drawPiece(box, kTop, rows_.typedSegment(1), rows_.typed(1, Slot::Start), end, kRed);
+    drawPiece(box, kTopPrice, rows_.typedSegment(kFirstRow), 0, rows_.typed(kFirstRow, Slot::End), kRed);
+    const double end = state_.upperEndAsked ? rows_.typed(kSecondRow, Slot::End) : kLastSumQ;
+    drawPiece(box, kTopPrice, rows_.typedSegment(kSecondRow), rows_.typed(kSecondRow, Slot::Start), end,
+              kRed);
 }
 
 void Vaddi1::fillAnswer() {
@@ -142,40 +135,42 @@ void Vaddi1::fillAnswer() {
         rows_.write(row, Slot::Slope, segment.slope);
         rows_.write(row, Slot::Intercept, segment.intercept);
     };
-    write(1, state_.secondSegment());
-    rows_.write(1, Slot::Start, state_.kinkQuantity);
-    write(0, state_.firstSegment());
-    rows_.write(0, Slot::End, state_.kinkQuantity);
-    rows_.write(1, Slot::End, state_.upperEnd);
+    write(kSecondRow, state_.secondSegment());
+    rows_.write(kSecondRow, Slot::Start, state_.kinkQuantity);
+    write(kFirstRow, state_.firstSegment());
+    rows_.write(kFirstRow, Slot::End, state_.kinkQuantity);
+    rows_.write(kSecondRow, Slot::End, state_.upperEnd);
     rows_.whiten();
     // Kept: always as two segments, of which the first collapses to a dot with one.
-    drawPiece(*ui_->resultGraph, kTop, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
-    drawPiece(*ui_->resultGraph, kTop, state_.secondSegment(), state_.kinkQuantity, kLastSumQ, kSumGreen);
+    drawPiece(*ui_->resultGraph, kTopPrice, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
+    drawPiece(*ui_->resultGraph, kTopPrice, state_.secondSegment(), state_.kinkQuantity, kLastSumQ,
+              kSumGreen);
 }
 
 void Vaddi1::help() { openPanel(ui_->helpPanel, ui_->showPrices); }
 
 void Vaddi1::showPrices() {
-    fillTable(1);
+    fillPrices();
     markEnds(*ui_->function1Graph, state_.tableQ1);
     markEnds(*ui_->function2Graph, state_.tableQ2);
     focusOn(ui_->showQuantities);
 }
 
 void Vaddi1::markEnds(GraphBox& box, const Vaddi1State::Column& quantities) {
-    const Vaddi1State::Column& prices = state_.tableP;
-    drawMark(box, quantities[0], prices[0].number());
-    if (quantities[0].isBlank() || quantities[2].isBlank()) {
-        drawMark(box, quantities[1], prices[1].number());
+    const auto& [startPrice, middlePrice, lastPrice] = state_.tableP;
+    const auto& [start, middle, last] = quantities;
+    drawMark(box, start, startPrice.number());
+    if (start.isBlank() || last.isBlank()) {
+        drawMark(box, middle, middlePrice.number());
     }
-    if (prices[1] != prices[2] || quantities[1] != quantities[2]) {
-        drawMark(box, quantities[2], prices[2].isBlank() ? -5 : prices[2].number());
+    if (middlePrice != lastPrice || middle != last) {
+        drawMark(box, last, lastPrice.isBlank() ? kBesideTheBox : lastPrice.number());
     }
 }
 
 void Vaddi1::showQuantities() {
     showPrices();
-    for (const std::size_t row : {std::size_t{1}, std::size_t{2}}) {
+    for (const std::size_t row : {Vaddi1State::kMiddleRow, Vaddi1State::kLastRow}) {
         if (state_.tableQ1[row].isNumeric()) {
             drawBand(*ui_->function1Graph, 0, state_.tableQ1[row].number(), state_.tableP[row].number(),
                      kBlue);
@@ -185,7 +180,7 @@ void Vaddi1::showQuantities() {
                      kBandGreen);
         }
     }
-    fillTable(table_.size());
+    fillTable();
     ui_->quantitiesResult->setCaption(pathText(state_));
     focusOn(ui_->showSum);
 }
@@ -194,10 +189,10 @@ void Vaddi1::showSum() {
     showQuantities();
     ui_->ok->hide();
     focusOn(ui_->closeHelp);
-    drawStack(1);
-    // Kept: a blank price is not 10 either, and fails.
-    if (state_.tableP[2] != TableCell(kTop)) {
-        drawStack(2);
+    drawStack(Vaddi1State::kMiddleRow);
+    // Kept: a blank price is not the top one either, and fails.
+    if (state_.tableP[Vaddi1State::kLastRow] != TableCell(kTopPrice)) {
+        drawStack(Vaddi1State::kLastRow);
     }
     fillAnswer();
 }
@@ -212,8 +207,8 @@ void Vaddi1::drawStack(std::size_t row) {
         if (second.isNumeric()) {
             drawBand(box, first.number(), first.number() + second.number(), price, kBandGreen);
         }
-    } else if (state_.tableQ2[2].isNumeric()) {
-        // Kept: the second row asks for the cell below its own.
+    } else if (state_.tableQ2[Vaddi1State::kLastRow].isNumeric()) {
+        // Kept: the middle row asks for the cell below its own.
         drawBand(box, 0, second.number(), price, kBandGreen);
     }
 }

@@ -35,11 +35,11 @@ private:
     void showRows();
     void showTask();
     void drawGraphs();
-    void drawGivenFunctions();
     void drawTypedSum();
     void drawSum();
-    /// The first columns of the help table, as many as told.
-    void fillTable(std::size_t columns);
+    /// The first column of the help table; all of it.
+    void fillPrices();
+    void fillTable();
     void fillAnswer();
     void markEnds(GraphBox& box, const Vaddi1State::Column& quantities);
     void drawStack(std::size_t row);

@@ -6,13 +6,10 @@
 namespace tavrune {
 namespace {
 
-constexpr double kTop = 10;
+constexpr float kRisingShare = 0.26F;
 
 const TableCell kBlank = TableCell::blank();
 const TableCell kUnbounded = TableCell::unbounded();
-
-/// A level line on an edge of the graph.
-bool isOnEdge(double slope, double intercept) { return slope == 0 && (intercept == 0 || intercept == kTop); }
 
 /// The level function 1 is the whole sum.
 void solveLevelFirst(Vaddi1State& s) {
@@ -39,7 +36,7 @@ void solveLevelSecond(Vaddi1State& s) {
     s.tableQ1 = {beside, beside, kBlank};
     s.tableQ2 = {0.0, kUnbounded, kBlank};
     // Kept: the second cell is the third one of the exercise before.
-    s.tableQtotal = {0.0, s.tableQtotal[2], kBlank};
+    s.tableQtotal = {0.0, s.tableQtotal[Vaddi1State::kLastRow], kBlank};
 }
 
 /// Function 1 down, or up, to the level function 2. Not the mirror image either.
@@ -71,7 +68,8 @@ void solveLevel(Vaddi1State& s) {
 }
 
 void solveSloping(Vaddi1State& s) {
-    const bool isFirstOuter = s.direction * s.intercept1 < s.direction * s.intercept2;
+    const int factor = factorOf(s.direction);
+    const bool isFirstOuter = factor * s.intercept1 < factor * s.intercept2;
     const Piece outer = isFirstOuter ? s.function1() : s.function2();
     const double inner = isFirstOuter ? s.intercept2 : s.intercept1;
     const double kink = RoundUp2((inner - outer.intercept) / outer.slope);
@@ -82,14 +80,14 @@ void solveSloping(Vaddi1State& s) {
     const auto quantity = [](double price, const Piece& f) { return (price - f.intercept) / f.slope; };
     const double atKink1 = quantity(inner, s.function1());
     const double atKink2 = quantity(inner, s.function2());
-    const double end = s.direction == 1 ? kTop : 0;
+    const double end = lastPriceOf(s.direction);
     const double atEnd1 = quantity(end, s.function1());
     const double atEnd2 = quantity(end, s.function2());
     const double sum = atEnd1 + atEnd2;
     // The line goes through the rounded kink.
-    if (s.direction == 1) {
-        s.secondSlope = Divide(kTop - inner, sum - kink);
-        s.secondIntercept = kTop - s.secondSlope * sum;
+    if (s.direction == Direction::Rising) {
+        s.secondSlope = Divide(kTopPrice - inner, sum - kink);
+        s.secondIntercept = kTopPrice - s.secondSlope * sum;
     } else {
         s.secondSlope = Divide(inner, kink - sum);
         s.secondIntercept = -(s.secondSlope * sum);
@@ -105,9 +103,9 @@ void solveSloping(Vaddi1State& s) {
     }
     // Both start at one price: the row of the kink falls away.
     s.segmentCount = 1;
-    s.tableP = {s.tableP[0], end, kBlank};
+    s.tableP = {s.tableP[Vaddi1State::kStartRow], end, kBlank};
     for (Vaddi1State::Column* column : {&s.tableQ1, &s.tableQ2, &s.tableQtotal}) {
-        *column = {0.0, (*column)[2], kBlank};
+        *column = {0.0, (*column)[Vaddi1State::kLastRow], kBlank};
     }
 }
 
@@ -116,30 +114,31 @@ void solveSloping(Vaddi1State& s) {
 void drawTask(Vaddi1State& s, Draws& draws) {
     draws.Randomize();
     do {
-        if (draws.Rnd() < 0.26F) {
-            s.direction = 1;
+        if (draws.Rnd() < kRisingShare) {
+            s.direction = Direction::Rising;
             s.slope1 = Int(draws.Rnd() * 6);
             s.intercept1 = Int(draws.Rnd() * 6);
             s.slope2 = Int(draws.Rnd() * 6);
         } else {
-            s.direction = -1;
+            s.direction = Direction::Falling;
             s.slope1 = Fix(draws.Rnd() * -6);
             s.intercept1 = Int(draws.Rnd() * 6) + 5;
             s.slope2 = Fix(draws.Rnd() * -6);
         }
         // The same for rising functions: the first never starts above the second.
         s.intercept2 = Int(draws.Rnd() * 6) + 5;
-    } while ((s.slope1 == 0 && s.slope2 == 0) || isOnEdge(s.slope1, s.intercept1) ||
-             isOnEdge(s.slope2, s.intercept2));
+    } while ((s.slope1 == 0 && s.slope2 == 0) || isOnEdge(s.function1()) || isOnEdge(s.function2()));
 }
 
 bool isOneSegment(const Vaddi1State& s) {
-    const double start1 = s.intercept1 * s.direction;
-    const double start2 = s.intercept2 * s.direction;
+    const double start1 = s.intercept1 * factorOf(s.direction);
+    const double start2 = s.intercept2 * factorOf(s.direction);
     return start1 == start2 || (s.slope1 == 0 && start1 <= start2) || (s.slope2 == 0 && start2 <= start1);
 }
 
-bool hasUpperEnd(const Vaddi1State& s) { return s.direction == -1 && s.slope1 * s.slope2 != 0; }
+bool hasUpperEnd(const Vaddi1State& s) {
+    return s.direction == Direction::Falling && s.slope1 * s.slope2 != 0;
+}
 
 void solve(Vaddi1State& s) {
     if (s.slope1 == 0 || s.slope2 == 0) {
@@ -148,8 +147,8 @@ void solve(Vaddi1State& s) {
         solveSloping(s);
     }
     if (hasUpperEnd(s)) {
-        const TableCell& last = s.tableQtotal[2];
-        s.upperEnd = last.isEmpty() || last.isBlank() ? s.tableQtotal[1] : last;
+        const TableCell& last = s.tableQtotal[Vaddi1State::kLastRow];
+        s.upperEnd = last.isEmpty() || last.isBlank() ? s.tableQtotal[Vaddi1State::kMiddleRow] : last;
         s.upperEndAsked = true;
     }
     s.secondSlope = RoundSigned2Fine(s.secondSlope);
@@ -161,15 +160,15 @@ void solve(Vaddi1State& s) {
 std::vector<AnswerField> answerFields(const Vaddi1State& s) {
     std::vector<AnswerField> fields;
     if (s.segmentCount == 2) {
-        fields = {{0, Slot::Slope, {s.firstSlope}},
-                  {0, Slot::Intercept, {s.firstIntercept}},
-                  {0, Slot::End, {s.kinkQuantity}}};
+        fields = {{kFirstRow, Slot::Slope, {s.firstSlope}},
+                  {kFirstRow, Slot::Intercept, {s.firstIntercept}},
+                  {kFirstRow, Slot::End, {s.kinkQuantity}}};
     }
-    fields.push_back({1, Slot::Slope, {s.secondSlope}});
-    fields.push_back({1, Slot::Intercept, {s.secondIntercept}});
-    fields.push_back({1, Slot::Start, {s.kinkQuantity}});
+    fields.push_back({kSecondRow, Slot::Slope, {s.secondSlope}});
+    fields.push_back({kSecondRow, Slot::Intercept, {s.secondIntercept}});
+    fields.push_back({kSecondRow, Slot::Start, {s.kinkQuantity}});
     if (s.upperEndAsked) {
-        fields.push_back({1, Slot::End, {s.upperEnd.number()}});
+        fields.push_back({kSecondRow, Slot::End, {s.upperEnd.number()}});
     }
     return fields;
 }
@@ -178,7 +177,8 @@ std::string pathText(const Vaddi1State& s) {
     const auto stretch = [&s](std::size_t row) {
         return stretchText(s.tableQtotal[row], s.tableP[row], s.tableQtotal[row + 1], s.tableP[row + 1]);
     };
-    return "Her fra " + stretch(0) + (s.segmentCount == 2 ? " og fra " + stretch(1) : "") + ".";
+    return "Her fra " + stretch(Vaddi1State::kStartRow) +
+           (s.segmentCount == 2 ? " og fra " + stretch(Vaddi1State::kMiddleRow) : "") + ".";
 }
 
 }  // namespace tavrune

@@ -17,9 +17,13 @@ struct Vaddi1State {
     double intercept1 = 0;
     double slope2 = 0;
     double intercept2 = 0;
-    /// +1 both functions rising, -1 both falling.
-    int direction = 1;
+    Direction direction = Direction::Rising;
 
+    // The rows of the help table: where the sum starts, where its kink or else its end is, and the end behind
+    // a kink.
+    static constexpr std::size_t kStartRow = 0;
+    static constexpr std::size_t kMiddleRow = 1;
+    static constexpr std::size_t kLastRow = 2;
     using Column = std::array<TableCell, 3>;
     Column tableP;
     Column tableQ1;

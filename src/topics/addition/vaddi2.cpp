@@ -8,20 +8,14 @@
 namespace tavrune {
 namespace {
 
-constexpr double kTop = 10;
-/// Where the given functions end.
-constexpr double kLastQ = 10;
-/// Where the sum ends on the graph, and well past it.
-constexpr double kLastSumQ = 20;
+/// Well past the end of the sum on its graph.
 constexpr double kBeyondQ = 50;
-
-/// The rows of the answer in which a lone segment stands, and the one below it.
-constexpr int kLoneRow = 1;
-constexpr int kLastRow = 2;
+/// The middle of a thick line that stands on the axis.
+constexpr double kOnTheAxis = 9.9;
 
 /// A thick level line round a price; standing on the axis for the price 0.
 void drawBar(GraphBox& box, double from, double to, double price, const QColor& colour) {
-    drawThickLine(box, from, to, price == 0 ? 9.9 : kTop - price, colour);
+    drawThickLine(box, from, to, price == 0 ? kOnTheAxis : kTopPrice - price, colour);
 }
 
 }  // namespace
@@ -82,10 +76,10 @@ void Vaddi2::newExercise() {
 void Vaddi2::showRows() {
     const int count = state_.segmentCount;
     const bool isEndAsked = state_.upperEndAsked();
-    rows_.show(0, count > 1, true);
-    rows_.show(1, true, count == 3 || isEndAsked);
-    rows_.show(2, count == 3, isEndAsked);
-    rows_.showStartSign(1, count == 1);
+    rows_.show(kFirstRow, count > 1, true);
+    rows_.show(kSecondRow, true, count == 3 || isEndAsked);
+    rows_.show(kThirdRow, count == 3, isEndAsked);
+    rows_.showStartSign(kLoneRow, count == 1);
     rows_.nameShownBoxes();
 }
 
@@ -106,7 +100,7 @@ void Vaddi2::drawGraphs() {
     for (std::size_t f = 0; f < given_.size(); ++f) {
         given_[f].graph.box->Cls();
         drawFrameTicks(*given_[f].graph.frame);
-        drawPiece(*given_[f].graph.box, kTop, state_.function(f), 0, kLastQ);
+        drawPiece(*given_[f].graph.box, kTopPrice, state_.function(f), 0, kLastGivenQ);
     }
 }
 
@@ -128,7 +122,7 @@ void Vaddi2::drawSum(double lastQ) {
     const int last = state_.segmentCount - 1;
     for (int s = 0; s <= last; ++s) {
         const double to = s == last ? lastQ : state_.endOf(s).number();
-        drawPiece(*ui_->resultGraph, kTop, state_.segment(s), state_.startOf(s).number(), to, kSumGreen);
+        drawPiece(*ui_->resultGraph, kTopPrice, state_.segment(s), state_.startOf(s).number(), to, kSumGreen);
     }
 }
 
@@ -149,16 +143,16 @@ void Vaddi2::drawTypedSum() {
     if (state_.segmentCount == 1) {
         const Piece typed = rows_.typedSegment(kLoneRow);
         // Kept: the far end takes its intercept from the row below, which is hidden and blank.
-        const Piece atFarEnd{typed.slope, rows_.typed(kLastRow, Slot::Intercept)};
+        const Piece atFarEnd{typed.slope, rows_.typed(kThirdRow, Slot::Intercept)};
         const double from = rows_.typed(kLoneRow, Slot::Start);
         const double to = typedEnd(kLoneRow, true);
-        box.Line(from, kTop - typed.at(from), to, kTop - atFarEnd.at(to), kRed);
+        box.Line(from, kTopPrice - typed.at(from), to, kTopPrice - atFarEnd.at(to), kRed);
         return;
     }
     for (int row = 0; row < state_.segmentCount; ++row) {
-        const double from = row == 0 ? 0 : rows_.typed(row, Slot::Start);
-        drawPiece(box, kTop, rows_.typedSegment(row), from, typedEnd(row, row == state_.segmentCount - 1),
-                  kRed);
+        const double from = row == kFirstRow ? 0 : rows_.typed(row, Slot::Start);
+        drawPiece(box, kTopPrice, rows_.typedSegment(row), from,
+                  typedEnd(row, row == state_.segmentCount - 1), kRed);
     }
 }
 
@@ -191,7 +185,7 @@ void Vaddi2::closePanel() {
 void Vaddi2::showPrices() {
     focusOn(ui_->showQuantities);
     writeColumn(columnP_, state_.tableP);
-    const double edge = state_.direction == 1 ? kTop : 0;
+    const double edge = lastPriceOf(state_.direction);
     for (std::size_t f = 0; f < given_.size(); ++f) {
         const Vaddi2State::Column& quantities = state_.tableQ[f];
         GraphBox& box = *given_[f].graph.box;

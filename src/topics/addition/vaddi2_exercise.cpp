@@ -8,7 +8,7 @@
 namespace tavrune {
 namespace {
 
-constexpr double kTop = 10;
+constexpr float kRisingShare = 0.25F;
 /// From here on a quantity counts as unbounded.
 constexpr double kManyQ = 1000;
 
@@ -27,7 +27,7 @@ bool isRejected(const Vaddi2State& s) {
         return true;
     }
     for (std::size_t f = 0; f < Vaddi2State::kFunctions; ++f) {
-        if (s.slope[f] == 0 && (s.intercept[f] == 0 || s.intercept[f] == kTop)) {
+        if (isOnEdge(s.function(f))) {
             return true;
         }
     }
@@ -36,12 +36,12 @@ bool isRejected(const Vaddi2State& s) {
 
 void drawFunctions(Vaddi2State& s, Draws& draws) {
     draws.Randomize();
-    s.direction = draws.Rnd() < 0.25F ? 1 : -1;
-    const double lowest = s.direction == 1 ? 0 : 5;
+    s.direction = draws.Rnd() < kRisingShare ? Direction::Rising : Direction::Falling;
+    const double lowest = s.direction == Direction::Rising ? 0 : 5;
     do {
         for (std::size_t f = 0; f < Vaddi2State::kFunctions; ++f) {
             const double steepness = Int(draws.Rnd() * 5);
-            s.slope[f] = s.direction * steepness;
+            s.slope[f] = factorOf(s.direction) * steepness;
             s.intercept[f] = Int(draws.Rnd() * 5) + lowest;
         }
     } while (isRejected(s));
@@ -53,8 +53,8 @@ std::vector<Start> startsOf(const Vaddi2State& s) {
     for (std::size_t f = 0; f < Vaddi2State::kFunctions; ++f) {
         all.push_back({s.intercept[f], s.slope[f] == 0});
     }
-    std::sort(all.begin(), all.end(), [&s](const Start& one, const Start& other) {
-        return s.direction * one.price < s.direction * other.price;
+    std::sort(all.begin(), all.end(), [factor = factorOf(s.direction)](const Start& one, const Start& other) {
+        return factor * one.price < factor * other.price;
     });
     std::vector<Start> starts;
     for (const Start& start : all) {
@@ -68,9 +68,9 @@ std::vector<Start> startsOf(const Vaddi2State& s) {
 }
 
 /// What a function offers at a price: nothing on the far side of its start.
-TableCell quantityAt(double price, const Piece& f, int direction) {
+TableCell quantityAt(double price, const Piece& f, Direction direction) {
     if (f.slope == 0) {
-        if (direction * f.intercept < direction * price) {
+        if (factorOf(direction) * f.intercept < factorOf(direction) * price) {
             return kUnbounded;
         }
         return f.intercept == price ? TableCell(0.0) : kBlank;
@@ -109,8 +109,7 @@ void fillTable(Vaddi2State& s, const std::vector<Start>& starts) {
     const auto rows = static_cast<std::size_t>(s.segmentCount) + 1;
     for (std::size_t row = 0; row < s.tableP.size(); ++row) {
         if (row < rows) {
-            const double end = s.direction == 1 ? kTop : 0;
-            fillRow(s, row, row < starts.size() ? starts[row].price : end);
+            fillRow(s, row, row < starts.size() ? starts[row].price : lastPriceOf(s.direction));
         } else {
             s.tableP[row] = s.tableQtotal[row] = kBlank;
             for (Vaddi2State::Column& column : s.tableQ) {

@@ -18,8 +18,7 @@ struct Vaddi2State {
     /// Whole numbers. At most one function is level.
     std::array<double, kFunctions> slope{};
     std::array<double, kFunctions> intercept{};
-    /// +1 all functions rising, -1 all falling.
-    int direction = 1;
+    Direction direction = Direction::Rising;
 
     /// The prices from the outer start on, one row each, and where the sum ends. Rows that the sum does not
     /// reach are blank.
@@ -41,7 +40,7 @@ struct Vaddi2State {
 
     [[nodiscard]] bool isAnyLevel() const;
     /// True if the sum ends at P = 0.
-    [[nodiscard]] bool upperEndAsked() const { return direction == -1 && !isAnyLevel(); }
+    [[nodiscard]] bool upperEndAsked() const { return direction == Direction::Falling && !isAnyLevel(); }
 
     /// Where a segment begins and ends in Q. The end of a sum with a level function is no number.
     [[nodiscard]] const TableCell& startOf(int s) const { return tableQtotal[static_cast<std::size_t>(s)]; }

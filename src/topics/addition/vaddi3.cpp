@@ -9,28 +9,21 @@
 namespace tavrune {
 namespace {
 
-constexpr double kTop = 10;
-/// Where the given functions end, and the sum.
-constexpr int kLastQ = 10;
-constexpr double kLastSumQ = 20;
-constexpr double kStroke = 0.05;
-
 /// The quantity of function 1 in a stack.
 const QColor kStackTeal = rgb(0, 200, 200);
 
 /// A red square at a quantity and a price.
 void drawEndMark(GraphBox& box, double quantity, double price) {
-    constexpr double kHalf = 0.15;
-    stepThrough(-kHalf, kHalf, kStroke, [&](double offset) {
+    stepThrough(-kHalfMark, kHalfMark, kStroke, [&](double offset) {
         const double x = quantity + offset;
-        box.Line(x, kTop - price - kHalf, x, kTop - price + kHalf, kRed);
+        box.Line(x, kTopPrice - price - kHalfMark, x, kTopPrice - price + kHalfMark, kRed);
     });
 }
 
 /// An upright line where one piece passes into the next.
 void drawJoin(GraphBox& box, const Piece& before, double end, const Piece& after, double start,
               const QColor& colour) {
-    box.Line(end, kTop - before.at(end), start, kTop - after.at(start), colour);
+    box.Line(end, kTopPrice - before.at(end), start, kTopPrice - after.at(start), colour);
 }
 
 }  // namespace
@@ -94,8 +87,8 @@ void Vaddi3::blankBoxes() {
 }
 
 void Vaddi3::showTable() {
-    for (const HelpColumn* wide : {&table_.front(), &table_.back()}) {
-        for (AnswerBox* box : *wide) {
+    for (const TableColumn wide : {TableColumn::WidePrice, TableColumn::Part2Total}) {
+        for (AnswerBox* box : boxes(wide)) {
             box->setVisible(state_.isJumpUp());
         }
     }
@@ -147,10 +140,10 @@ void Vaddi3::showRows() {
     const bool isAsked = state_.upperEndAsked;
     const bool hasEnd2 = count >= 3 || isAsked;
     const bool hasEnd3 = count == 4 || isAsked;
-    rows_.show(0, count >= 2, true);
-    rows_.show(1, true, hasEnd2);
-    rows_.show(2, count >= 3, hasEnd3);
-    rows_.show(3, count == 4, isAsked);
+    rows_.show(kFirstRow, count >= 2, true);
+    rows_.show(kSecondRow, true, hasEnd2);
+    rows_.show(kThirdRow, count >= 3, hasEnd3);
+    rows_.show(kFourthRow, count == 4, isAsked);
     ui_->segment2LessThanQuantity->setCaption(hasEnd2 ? "<Q<" : "<Q");
     ui_->segment3LessThanQuantity->setCaption(count >= 3 && hasEnd3 ? "<Q<" : "<Q");
     rows_.nameShownBoxes();
@@ -170,14 +163,15 @@ void Vaddi3::drawGivenFunctions() {
     const Vaddi3State& s = state_;
     GraphBox& first = *ui_->function1Graph;
     const double kinkQ = s.kinkQuantity;
-    const double kinkFirst = kTop - s.priceAtKinkFirst;
-    const double kinkSecond = kTop - s.priceAtKinkSecond;
-    first.Line(0, kTop - s.firstIntercept, kinkQ, kinkFirst);
-    first.Line(kinkQ, kinkSecond, kLastQ, kTop - (kLastQ * s.secondSlope + s.secondIntercept));
+    const double kinkFirst = kTopPrice - s.priceAtKinkFirst;
+    const double kinkSecond = kTopPrice - s.priceAtKinkSecond;
+    first.Line(0, kTopPrice - s.firstIntercept, kinkQ, kinkFirst);
+    first.Line(kinkQ, kinkSecond, kLastGivenQ, kTopPrice - (kLastGivenQ * s.secondSlope + s.secondIntercept));
     if (s.kinkKind == KinkKind::JumpDown || s.isJumpUp()) {
         first.Line(kinkQ, kinkFirst, kinkQ, kinkSecond);
     }
-    ui_->function2Graph->Line(0, kTop - s.intercept2, kLastQ, kTop - (kLastQ * s.slope2 + s.intercept2));
+    ui_->function2Graph->Line(0, kTopPrice - s.intercept2, kLastGivenQ,
+                              kTopPrice - (kLastGivenQ * s.slope2 + s.intercept2));
 }
 
 void Vaddi3::focusOnTable() {
@@ -216,7 +210,7 @@ void Vaddi3::drawSum() {
     const int count = state_.segmentCount();
     for (int i = 0; i < count; ++i) {
         const SumSegment& segment = state_.segments[static_cast<std::size_t>(i)];
-        drawPiece(*ui_->resultGraph, kTop, segment.piece, i == 0 ? 0 : segment.startQ.number(),
+        drawPiece(*ui_->resultGraph, kTopPrice, segment.piece, i == 0 ? 0 : segment.startQ.number(),
                   i + 1 == count ? kLastSumQ : segment.endQ.number(), kSumGreen);
     }
 }
@@ -240,7 +234,7 @@ void Vaddi3::giveAnswer() {
     ui_->helpPanel->hide();
     given();
     drawTypedSum();
-    fillTable(true);
+    fillTable();
     fillAnswer();
 }
 
@@ -250,7 +244,7 @@ void Vaddi3::drawTypedSum() {
     for (int i = 0; i < count; ++i) {
         const int row = rowOf(i, count);
         const bool endsByRow = i + 1 < count || state_.upperEndAsked;
-        drawPiece(box, kTop, rows_.typedSegment(row),
+        drawPiece(box, kTopPrice, rows_.typedSegment(row),
                   rows_.box(row, Slot::Start) == nullptr ? 0 : rows_.typed(row, Slot::Start),
                   endsByRow ? rows_.typed(row, Slot::End) : kLastSumQ, kRed);
     }
@@ -265,17 +259,15 @@ void Vaddi3::drawTypedSum() {
     }
 }
 
-void Vaddi3::fillTable(bool withQuantities) {
+void Vaddi3::fillPrices() { write(helpColumns(state_).price); }
+
+void Vaddi3::fillTable() {
+    fillPrices();
     const HelpColumns columns = helpColumns(state_);
-    const auto write = [this](std::size_t column) { writeColumn(table_[column], state_.helpTable[column]); };
-    write(columns.price);
-    if (!withQuantities) {
-        return;
-    }
     write(columns.quantity2);
-    for (std::size_t part = 0; part < columns.totals.size(); ++part) {
-        write(columns.quantities1[part]);
-        write(columns.totals[part]);
+    for (const auto& [part, quantity, total] : columns.function1) {
+        write(quantity);
+        write(total);
     }
 }
 
@@ -299,7 +291,7 @@ void Vaddi3::help() {
 }
 
 void Vaddi3::showPrices() {
-    fillTable(false);
+    fillPrices();
     markEnds();
     focusOn(ui_->showQuantities);
 }
@@ -317,7 +309,7 @@ void Vaddi3::markEnds() {
     GraphBox& second = *ui_->function2Graph;
     drawEndMark(second, 0, s.intercept2);
     if (s.slope2 == 0) {
-        drawEndMark(second, kLastQ, s.intercept2);
+        drawEndMark(second, kLastGivenQ, s.intercept2);
     } else {
         drawEndMark(second, -s.intercept2 / s.slope2, 0);
     }
@@ -325,7 +317,7 @@ void Vaddi3::markEnds() {
 
 void Vaddi3::showQuantities() {
     showPrices();
-    fillTable(true);
+    fillTable();
     drawBands();
     const auto [first, second] = pathTexts(state_);
     ui_->quantitiesResult->setCaption(first);
@@ -335,17 +327,17 @@ void Vaddi3::showQuantities() {
 
 void Vaddi3::drawBands() {
     const HelpColumns columns = helpColumns(state_);
-    const Vaddi3State::Column& prices = state_.helpTable[columns.price];
-    const auto draw = [this](GraphBox& box, std::size_t column, std::size_t row, double price,
+    const Vaddi3State::Column& prices = state_.column(columns.price);
+    const auto draw = [this](GraphBox& box, TableColumn column, std::size_t row, double price,
                              const QColor& colour) {
-        if (const TableCell& cell = state_.helpTable[column][row]; cell.isNumeric()) {
+        if (const TableCell& cell = state_.column(column)[row]; cell.isNumeric()) {
             drawBand(box, 0, cell.number(), price, colour);
         }
     };
     for (std::size_t row = 1; row < prices.size() && prices[row].isNumeric(); ++row) {
         const double price = prices[row].number();
-        for (const std::size_t column : columns.quantities1) {
-            draw(*ui_->function1Graph, column, row, price, kBlue);
+        for (const HelpColumns::OfFunction1& of1 : columns.function1) {
+            draw(*ui_->function1Graph, of1.quantity, row, price, kBlue);
         }
         draw(*ui_->function2Graph, columns.quantity2, row, price, kBandGreen);
     }
@@ -364,21 +356,21 @@ void Vaddi3::showSum() {
 void Vaddi3::drawStacks() {
     GraphBox& box = *ui_->resultGraph;
     const HelpColumns columns = helpColumns(state_);
-    const Vaddi3State::Column& prices = state_.helpTable[columns.price];
+    const Vaddi3State::Column& prices = state_.column(columns.price);
     for (std::size_t row = 0; row < prices.size() && prices[row].isNumeric(); ++row) {
         const double price = prices[row].number();
-        const TableCell& second = state_.helpTable[columns.quantity2][row];
-        for (std::size_t part = 0; part < columns.totals.size(); ++part) {
+        const TableCell& second = state_.column(columns.quantity2)[row];
+        for (const auto& [part, quantity, total] : columns.function1) {
             if (!isRowOf(state_, row, part)) {
                 continue;
             }
-            const TableCell& first = state_.helpTable[columns.quantities1[part]][row];
+            const TableCell& first = state_.column(quantity)[row];
             if (first.isNumeric()) {
-                drawThickLine(box, 0, first.number(), kTop - price, kStackTeal);
+                drawThickLine(box, 0, first.number(), kTopPrice - price, kStackTeal);
             }
             if (second.isNumeric()) {
-                drawThickLine(box, first.isNumeric() ? first.number() : 0,
-                              state_.helpTable[columns.totals[part]][row].number(), kTop - price, kBandGreen);
+                drawThickLine(box, first.isNumeric() ? first.number() : 0, state_.column(total)[row].number(),
+                              kTopPrice - price, kBandGreen);
             }
         }
     }

@@ -33,6 +33,11 @@ protected:
     void closeHelp() override;
 
 private:
+    [[nodiscard]] const HelpColumn& boxes(TableColumn column) const {
+        return table_[static_cast<std::size_t>(column)];
+    }
+    void write(TableColumn column) const { writeColumn(boxes(column), state_.column(column)); }
+
     void bindBoxes();
     void bindEnter();
     void blankBoxes();
@@ -47,7 +52,8 @@ private:
     void drawTypedSum();
     void drawSum();
     void drawJoins();
-    void fillTable(bool withQuantities);
+    void fillPrices();
+    void fillTable();
     void fillAnswer();
     void markEnds();
     void drawBands();
@@ -60,7 +66,7 @@ private:
     std::unique_ptr<Ui::Vaddi3> ui_;
     AnswerRows rows_;
     /// The columns of the help table as they stand on the form.
-    std::array<HelpColumn, 6> table_;
+    std::array<HelpColumn, kTableColumns> table_;
     Vaddi3State state_;
 };
 

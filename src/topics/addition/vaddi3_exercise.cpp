@@ -42,6 +42,9 @@ const Carried kNone = 0.0F;
 const Carried kUnboundedQuantity = 1000.0F;
 constexpr double kLargestShown = 999;
 
+/// Of the path of the sum.
+constexpr std::size_t kSegmentsInALine = 2;
+
 /// Nothing where a function does not exist.
 using Quantity = std::optional<Carried>;
 
@@ -55,14 +58,18 @@ TableCell shown(const Quantity& quantity) {
     return quantity->value() > kLargestShown ? TableCell::unbounded() : RoundUp2(quantity->value());
 }
 
-/// On which parts of function 1 a price lies, as bits.
-constexpr int kFirstPart = 1;
-constexpr int kSecondPart = 2;
-constexpr int kBothParts = kFirstPart | kSecondPart;
+bool isIn(Part part, Parts parts) {
+    return parts == Parts::Both || parts == (part == Part::First ? Parts::First : Parts::Second);
+}
+
+bool haveCommonPart(Parts one, Parts other) {
+    return (isIn(Part::First, one) && isIn(Part::First, other)) ||
+           (isIn(Part::Second, one) && isIn(Part::Second, other));
+}
 
 struct PriceRow {
     Carried price;
-    int owner;
+    Parts parts;
 };
 
 struct Quantities {
@@ -175,30 +182,30 @@ Quantities quantitiesAt(const Vaddi3State& s, Carried price) {
     return found;
 }
 
-int ownerOfIntercept2(const Vaddi3State& s) {
+Parts partsAtIntercept2(const Vaddi3State& s) {
     const auto [lower, higher] = std::minmax({double{s.priceAtKinkFirst}, s.priceAtKinkSecond});
     if (s.intercept2 < lower) {
-        return kSecondPart;
+        return Parts::Second;
     }
-    return s.intercept2 > higher ? kFirstPart : kBothParts;
+    return s.intercept2 > higher ? Parts::First : Parts::Both;
 }
 
 /// The prices at which something begins or ends, falling, each once.
 std::vector<PriceRow> priceRows(const Vaddi3State& s) {
     const bool isKink = s.kinkKind == KinkKind::Steeper || s.kinkKind == KinkKind::Flatter;
     const Carried secondKink = isKink ? Carried(s.priceAtKinkFirst) : Carried(s.priceAtKinkSecond);
-    std::vector<PriceRow> rows{{s.firstIntercept, kFirstPart},
-                               {s.priceAtKinkFirst, kFirstPart},
-                               {secondKink, kSecondPart},
-                               {s.intercept2, ownerOfIntercept2(s)},
-                               {kNone, kSecondPart}};
+    std::vector<PriceRow> rows{{s.firstIntercept, Parts::First},
+                               {s.priceAtKinkFirst, Parts::First},
+                               {secondKink, Parts::Second},
+                               {s.intercept2, partsAtIntercept2(s)},
+                               {kNone, Parts::Second}};
     std::stable_sort(rows.begin(), rows.end(),
                      [](const PriceRow& a, const PriceRow& b) { return a.price > b.price; });
     for (auto row = rows.begin(); row + 1 != rows.end();) {
         const auto next = row + 1;
         if (row->price == next->price) {
             // A price on both parts stays on both.
-            row->owner = std::max(row->owner, next->owner);
+            row->parts = std::max(row->parts, next->parts);
             rows.erase(next);
         } else {
             ++row;
@@ -211,25 +218,22 @@ void fillTable(Vaddi3State& s, const std::vector<PriceRow>& rows) {
     for (Vaddi3State::Column& column : s.helpTable) {
         column.fill(TableCell::blank());
     }
+    s.partsOfRows.fill(Parts::None);
     const HelpColumns columns = helpColumns(s);
     for (std::size_t row = 0; row < rows.size(); ++row) {
-        const auto put = [&s, row](std::size_t column, const TableCell& cell) {
-            s.helpTable[column][row] = cell;
-        };
         const Quantities q = quantitiesAt(s, rows[row].price);
-        const std::vector<Quantity> quantities1 = s.isJumpUp()
-                                                      ? std::vector<Quantity>{q.first, q.second}
-                                                      : std::vector<Quantity>{sum(q.first, q.second)};
-        put(columns.price, RoundUp2(rows[row].price.value()));
-        put(columns.quantity2, shown(q.other));
-        for (std::size_t part = 0; part < quantities1.size(); ++part) {
-            put(columns.quantities1[part], shown(quantities1[part]));
-            put(columns.totals[part], shown(sum(quantities1[part], q.other)));
+        s.column(columns.price)[row] = RoundUp2(rows[row].price.value());
+        s.column(columns.quantity2)[row] = shown(q.other);
+        for (const auto& [part, quantity, total] : columns.function1) {
+            const Quantity ofPart = part == Part::First ? q.first : q.second;
+            const Quantity own = s.isJumpUp() ? ofPart : sum(q.first, q.second);
+            s.column(quantity)[row] = shown(own);
+            s.column(total)[row] = shown(sum(own, q.other));
         }
-        put(HelpColumns::kOwner, rows[row].owner);
+        s.partsOfRows[row] = rows[row].parts;
     }
     s.upperEndAsked = s.slope2 != 0;
-    s.upperEnd = s.helpTable[columns.totals.back()][rows.size() - 1];
+    s.upperEnd = s.column(columns.function1.back().total)[rows.size() - 1];
 }
 
 SumSegment segmentBetween(const Point& from, const Point& to, Carried slope, Carried intercept) {
@@ -255,17 +259,17 @@ void addSegments(Vaddi3State& s, const std::vector<Point>& points) {
 
 void addUp(Vaddi3State& s, const std::vector<PriceRow>& rows) {
     // At a jump up each part is added to function 2 by itself, over its own prices.
-    const std::vector<int> runs =
-        s.isJumpUp() ? std::vector{kFirstPart, kSecondPart} : std::vector{kBothParts};
-    for (const int run : runs) {
+    const std::vector<Parts> runs =
+        s.isJumpUp() ? std::vector{Parts::First, Parts::Second} : std::vector{Parts::Both};
+    for (const Parts run : runs) {
         std::vector<Point> points;
         for (const PriceRow& row : rows) {
-            if ((row.owner & run) == 0) {
+            if (!haveCommonPart(row.parts, run)) {
                 continue;
             }
             const Quantities q = quantitiesAt(s, row.price);
-            const Quantity first = (run & kFirstPart) != 0 ? q.first : std::nullopt;
-            const Quantity second = (run & kSecondPart) != 0 ? q.second : std::nullopt;
+            const Quantity first = isIn(Part::First, run) ? q.first : std::nullopt;
+            const Quantity second = isIn(Part::Second, run) ? q.second : std::nullopt;
             points.push_back({sum(sum(first, second), q.other).value(), row.price});
         }
         addSegments(s, points);
@@ -307,7 +311,16 @@ void solve(Vaddi3State& s) {
 }  // namespace
 
 HelpColumns helpColumns(const Vaddi3State& s) {
-    return s.isJumpUp() ? HelpColumns{0, {1, 2}, 3, {4, 5}} : HelpColumns{1, {2}, 3, {4}};
+    using enum TableColumn;
+    if (s.isJumpUp()) {
+        return {WidePrice,
+                {{Part::First, PriceOrPart1Quantity, TotalOrPart1Total},
+                 {Part::Second, Function1OrPart2Quantity, Part2Total}},
+                Function2Quantity};
+    }
+    return {PriceOrPart1Quantity,
+            {{Part::First, Function1OrPart2Quantity, TotalOrPart1Total}},
+            Function2Quantity};
 }
 
 void newExercise(Vaddi3State& s, Draws& draws) {
@@ -315,13 +328,9 @@ void newExercise(Vaddi3State& s, Draws& draws) {
     solve(s);
 }
 
-bool isRowOf(const Vaddi3State& s, std::size_t row, std::size_t part) {
-    const TableCell& owner = s.helpTable[HelpColumns::kOwner][row];
-    if (owner.isBlank()) {
-        return false;
-    }
-    const int asked = part == 0 ? kFirstPart : kSecondPart;
-    return !s.isJumpUp() || (static_cast<int>(owner.number()) & asked) != 0;
+bool isRowOf(const Vaddi3State& s, std::size_t row, Part part) {
+    const Parts parts = s.partsOfRows[row];
+    return s.isJumpUp() ? isIn(part, parts) : parts != Parts::None;
 }
 
 std::vector<AnswerField> answerFields(const Vaddi3State& s) {
@@ -357,7 +366,7 @@ std::array<std::string, 2> pathTexts(const Vaddi3State& s) {
     const std::size_t count = s.segments.size();
     for (std::size_t i = 0; i < count; ++i) {
         const SumSegment& segment = s.segments[i];
-        std::string& line = lines[i / 2];
+        std::string& line = lines.at(i / kSegmentsInALine);
         line += stretchText(segment.startQ, segment.startP, segment.endQ, segment.endP);
         line += i + 1 == count ? "." : (i + 2 == count ? " og fra " : ", fra ");
     }

@@ -13,6 +13,24 @@ namespace tavrune {
 /// The shape of a function of two straight parts, where the first passes into the second.
 enum class KinkKind { JumpDown = 0, JumpUp = 1, Steeper = 2, Flatter = 3 };
 
+/// One of the two parts of function 1.
+enum class Part { First, Second };
+
+/// On which parts of function 1 a price lies. Of rows of one price, the last one in this order stays.
+enum class Parts { None, First, Second, Both };
+
+/// The columns of the help table as they stand on the form. At a jump up, each part of function 1 has its own
+/// quantity and its own total; otherwise the outer columns are blank, and the price moves one to the right.
+enum class TableColumn {
+    WidePrice,
+    PriceOrPart1Quantity,
+    Function1OrPart2Quantity,
+    Function2Quantity,
+    TotalOrPart1Total,
+    Part2Total
+};
+inline constexpr std::size_t kTableColumns = 6;
+
 /// A segment of the sum between its upper and its lower end, rounded.
 struct SumSegment {
     Piece piece;
@@ -39,32 +57,40 @@ struct Vaddi3State {
     float slope2 = 0;
     float intercept2 = 0;
 
-    using Column = std::array<TableCell, 5>;
+    static constexpr std::size_t kTableRows = 5;
+    using Column = std::array<TableCell, kTableRows>;
     /// Rounded; rows by falling price, blank below the last. See `HelpColumns` for what stands where.
-    std::array<Column, 7> helpTable;
+    std::array<Column, kTableColumns> helpTable;
+    /// Not shown: on which parts of function 1 the price of each row lies; none below the last.
+    std::array<Parts, kTableRows> partsOfRows{};
     /// 1 to 4.
     std::vector<SumSegment> segments;
     /// Where a falling sum meets P = 0; there is none over a level function.
     bool upperEndAsked = false;
     TableCell upperEnd;
 
+    [[nodiscard]] Column& column(TableColumn column) { return helpTable[static_cast<std::size_t>(column)]; }
+    [[nodiscard]] const Column& column(TableColumn column) const {
+        return helpTable[static_cast<std::size_t>(column)];
+    }
     [[nodiscard]] int segmentCount() const { return static_cast<int>(segments.size()); }
     /// At a jump up function 1 has two quantities at some prices.
     [[nodiscard]] bool isJumpUp() const { return kinkKind == KinkKind::JumpUp; }
 };
 
-/// What the columns of the help table hold. At a jump up, each part of function 1 has its own quantity and
-/// its own total; otherwise the table is narrower and begins in its second column.
+/// What the columns of the help table hold.
 struct HelpColumns {
-    std::size_t price;
-    std::vector<std::size_t> quantities1;
-    std::size_t quantity2;
-    /// One for each of `quantities1`.
-    std::vector<std::size_t> totals;
+    /// A quantity of function 1, and the total with it.
+    struct OfFunction1 {
+        Part part;
+        TableColumn quantity;
+        TableColumn total;
+    };
 
-    /// Not shown: on which parts of function 1 a row's price lies, 1 for the first, 2 for the second, 3 for
-    /// both.
-    static constexpr std::size_t kOwner = 6;
+    TableColumn price;
+    /// One for each part at a jump up; otherwise one, as the first part, for the whole function.
+    std::vector<OfFunction1> function1;
+    TableColumn quantity2;
 };
 
 [[nodiscard]] HelpColumns helpColumns(const Vaddi3State& state);
@@ -73,8 +99,8 @@ struct HelpColumns {
 /// just 0 gives, ends in a division by zero.
 void newExercise(Vaddi3State& state, Draws& draws);
 
-/// True if row `row` of the help table lies on part `part`, 0 or 1, of function 1.
-[[nodiscard]] bool isRowOf(const Vaddi3State& state, std::size_t row, std::size_t part);
+/// True if row `row` of the help table is filled, and lies, at a jump up, on this part of function 1.
+[[nodiscard]] bool isRowOf(const Vaddi3State& state, std::size_t row, Part part);
 
 /// The fields that are judged, but for the upper end.
 [[nodiscard]] std::vector<AnswerField> answerFields(const Vaddi3State& state);

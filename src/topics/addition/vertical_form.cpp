@@ -32,6 +32,11 @@ void VerticalForm::bindGraphsAndRows() {
     rows_ = AnswerRows::of(*design());
 }
 
+void VerticalForm::firstTick() {
+    ExerciseForm::firstTick();
+    design()->findChild<Label*>("openingBlank")->hide();
+}
+
 void VerticalForm::judge() {
     rows_.whiten();
     hideVerdict();

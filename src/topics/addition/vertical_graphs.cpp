@@ -1,23 +1,33 @@
 #include "topics/addition/vertical_graphs.h"
 
 namespace tavrune {
+namespace {
+
+// The ticks of twenty-one whole numbers up the tall frame.
+constexpr double kFirstTallTick = 1;
+constexpr double kLastTallTick = 19.6;
+constexpr double kTallTickStep = 0.925;
+
+}  // namespace
 
 void drawTallFrameTicks(GraphBox& frame) {
-    stepThrough(0.2, 8.5, 0.8, [&frame](double t) { frame.Line(t + 0.8, 19.5, t + 0.8, 19.75); });
-    stepThrough(1, 19.6, 0.925, [&frame](double t) { frame.Line(0.8, t, 1, t); });
+    stepThrough(kFirstTick, kLastTick, kTickStep,
+                [&frame](double t) { frame.Line(t + 0.8, 19.5, t + 0.8, 19.75); });
+    stepThrough(kFirstTallTick, kLastTallTick, kTallTickStep,
+                [&frame](double t) { frame.Line(0.8, t, 1, t); });
 }
 
 void drawLevelMark(GraphBox& box, double quantity, double price) {
-    stepThrough(-0.15, 0.15, 0.05, [&](double t) {
-        const double y = kFunctionTop - price + t;
-        box.Line(quantity - 0.15, y, quantity + 0.15, y, kRed);
+    stepThrough(-kHalfMark, kHalfMark, kStroke, [&](double t) {
+        const double y = kTopPrice - price + t;
+        box.Line(quantity - kHalfMark, y, quantity + kHalfMark, y, kRed);
     });
 }
 
 void drawUprights(GraphBox& box, const std::vector<double>& quantities) {
     box.DrawStyle(LineStyle::Dotted);
     for (const double quantity : quantities) {
-        box.Line(quantity, 0, quantity, kFunctionTop);
+        box.Line(quantity, 0, quantity, kTopPrice);
     }
     box.DrawStyle(LineStyle::Solid);
 }

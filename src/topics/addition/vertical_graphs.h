@@ -9,11 +9,9 @@
 
 namespace tavrune {
 
-// The given functions stand on boxes of 0..10 on both axes, their sum on a tall one of 0..10 in Q and 0..20
-// in P; prices run downwards from the top.
-inline constexpr double kFunctionTop = 10;
+/// The highest price of the tall box of 0..10 in Q and 0..20 in P on which the sum stands; the given
+/// functions stand on boxes of 0..10 on both axes. Prices run downwards from the top.
 inline constexpr double kSumTop = 20;
-inline constexpr double kLastGivenQ = 10;
 
 /// Ticks round the tall graph, drawn with each exercise: its frame keeps identical ones once.
 void drawTallFrameTicks(GraphBox& frame);

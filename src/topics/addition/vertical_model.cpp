@@ -7,8 +7,6 @@
 namespace tavrune {
 namespace {
 
-constexpr double kTop = 10;
-
 /// "(4 - 2)"
 std::string pairText(double one, double other) {
     return "(" + NumberText(one) + " " + signOf(other) + " " + sizeText(other) + ")";
@@ -18,10 +16,6 @@ std::string pairText(double one, double other) {
 
 double drawSlope(Draws& draws, bool isFalling) {
     return isFalling ? Fix(draws.Rnd() * -5) : Int(draws.Rnd() * 5);
-}
-
-bool isOnEdge(const Piece& piece) {
-    return piece.slope == 0 && (piece.intercept == 0 || piece.intercept == kTop);
 }
 
 double zeroOf(const Piece& piece) { return Divide(-piece.intercept, piece.slope); }

@@ -31,9 +31,6 @@ struct VerticalSum {
 /// 0..-4 where it is to fall, otherwise 0..4.
 [[nodiscard]] double drawSlope(Draws& draws, bool isFalling);
 
-/// A level line along an edge of the graph.
-[[nodiscard]] bool isOnEdge(const Piece& piece);
-
 /// Where a sloping line meets P = 0, on either side of Q = 0.
 [[nodiscard]] double zeroOf(const Piece& piece);
 

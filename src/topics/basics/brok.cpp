@@ -10,8 +10,81 @@ namespace {
 
 constexpr double kFirstFraction = fromTwips(600);
 constexpr double kSecondFraction = fromTwips(2160);
-constexpr double kMiddleFraction = fromTwips(1080);
+constexpr double kWrittenOutFraction = fromTwips(1080);
 constexpr double kGap = 2;
+
+/// "= numerator/denominator", a step of the worked solution.
+struct WorkedStep {
+    Label* equals;
+    Fraction fraction;
+
+    /// What is called `workedComputedEquals`, `workedComputedNumerator` and so on, for the prefix
+    /// "workedComputed".
+    static WorkedStep of(const QWidget& page, const QString& prefix) {
+        return {page.findChild<Label*>(prefix + "Equals"), Fraction::of(page, prefix)};
+    }
+
+    void putAfter(const WorkedStep& before) const {
+        equals->setLeft(before.fraction.right() + kGap);
+        fraction.setLeft(equals->place().right() + kGap);
+    }
+};
+
+/// The row of the worked solution: the task, then three steps.
+struct WorkedRow {
+    Fraction first;
+    Label* operatorSign;
+    Fraction second;
+    WorkedStep writtenOut;
+    WorkedStep computed;
+    WorkedStep reduced;
+    /// In the place of the reduced fraction.
+    Label* wholeNumber;
+
+    static WorkedRow of(const QWidget& page) {
+        return {Fraction::of(page, "workedFirst"),
+                page.findChild<Label*>("workedOperatorSign"),
+                Fraction::of(page, "workedSecond"),
+                WorkedStep::of(page, "workedWrittenOut"),
+                WorkedStep::of(page, "workedComputed"),
+                WorkedStep::of(page, "workedReduced"),
+                page.findChild<Label*>("workedReducedWholeNumber")};
+    }
+
+    void write(const BrokState& state) const {
+        const BrokWorked worked = workedSolution(state);
+        first.setTexts(NumberText(state.numeratorA), NumberText(state.denominatorB));
+        operatorSign->setCaption(tavrune::operatorSign(state.operation));
+        second.setTexts(NumberText(state.numeratorC), NumberText(state.denominatorD));
+        writtenOut.fraction.setTexts(worked.writtenOut.numerator, worked.writtenOut.denominator);
+        writtenOut.fraction.setLeft(kWrittenOutFraction);
+        computed.fraction.setTexts(worked.computed.numerator, worked.computed.denominator);
+        writeLast(worked.last);
+    }
+
+    void writeLast(const LastStep& last) const {
+        const bool isReduced = last.kind == LastStep::Kind::Reduced;
+        reduced.fraction.setTexts(isReduced ? last.numerator : "", isReduced ? last.denominator : "");
+        reduced.fraction.setShown(isReduced);
+        reduced.equals->setVisible(last.kind != LastStep::Kind::Irreducible);
+        wholeNumber->setVisible(last.kind == LastStep::Kind::Whole);
+        if (last.kind == LastStep::Kind::Whole) {
+            wholeNumber->setCaption(last.numerator);
+        }
+    }
+
+    /// The row stands round the fraction that is written out, whose place is fixed: backwards from it, then
+    /// forwards.
+    void layOut() const {
+        writtenOut.equals->setLeft(kWrittenOutFraction - kGap - writtenOut.equals->place().width());
+        second.setLeft(writtenOut.equals->place().left() - kGap - second.width());
+        operatorSign->setLeft(second.left() - kGap - operatorSign->place().width());
+        first.setLeft(operatorSign->place().left() - kGap - first.width());
+        computed.putAfter(writtenOut);
+        reduced.putAfter(computed);
+        wholeNumber->setLeft(reduced.equals->place().right() + kGap);
+    }
+};
 
 }  // namespace
 
@@ -25,26 +98,30 @@ Brok::~Brok() = default;
 
 void Brok::newExercise() {
     clearBoxes({ui_->numerator, ui_->denominator});
-    hideAll(
-        {ui_->solutionStep, ui_->helpPanel, ui_->reducedWholeNumber, ui_->reducedBar, ui_->reducedEquals});
+    closeHelp();
+    clearReduction();
     showAsking();
-    ui_->reducedNumerator->setCaption("");
-    ui_->reducedDenominator->setCaption("");
 
     tavrune::newExercise(state_, draws());
 
-    layOutFractions();
-    ui_->operatorSign->setCaption(state_.operatorText);
+    showTask();
     focusOn(ui_->numerator);
 }
 
-void Brok::layOutFractions() {
-    const Fraction first(ui_->firstNumerator, ui_->firstBar, ui_->firstDenominator);
+void Brok::clearReduction() {
+    hideAll({ui_->reducedWholeNumber, ui_->reducedBar, ui_->reducedEquals});
+    ui_->reducedNumerator->setCaption("");
+    ui_->reducedDenominator->setCaption("");
+}
+
+void Brok::showTask() {
+    const Fraction first = Fraction::of(*design(), "first");
     first.setTexts(NumberText(state_.numeratorA), NumberText(state_.denominatorB));
     first.setLeft(kFirstFraction);
-    const Fraction second(ui_->secondNumerator, ui_->secondBar, ui_->secondDenominator);
+    const Fraction second = Fraction::of(*design(), "second");
     second.setTexts(NumberText(state_.numeratorC), NumberText(state_.denominatorD));
     second.setLeft(kSecondFraction);
+    ui_->operatorSign->setCaption(operatorSign(state_.operation));
 }
 
 void Brok::judge() {
@@ -75,8 +152,7 @@ void Brok::showReduction() {
         ui_->reducedWholeNumber->setCaption(*text.whole);
     } else if (text.fraction) {
         showAll({ui_->reducedEquals, ui_->reducedBar});
-        Fraction(ui_->reducedNumerator, ui_->reducedBar, ui_->reducedDenominator)
-            .setTexts(text.fraction->numerator, text.fraction->denominator);
+        Fraction::of(*design(), "reduced").setTexts(text.fraction->numerator, text.fraction->denominator);
     }
 }
 
@@ -91,8 +167,8 @@ void Brok::giveAnswer() {
 }
 
 void Brok::help() {
-    const BrokMethod& method = methodFor(state_.operatorText);
-    ui_->generalOperatorSign->setCaption(state_.operatorText);
+    const BrokMethod& method = methodFor(state_.operation);
+    ui_->generalOperatorSign->setCaption(operatorSign(state_.operation));
     ui_->generalTask->setCaption(method.task);
     ui_->generalRule->setCaption(method.rule);
     ui_->generalResultNumerator->setCaption(method.numerator);
@@ -103,46 +179,10 @@ void Brok::help() {
 }
 
 void Brok::showWorkedSolution() {
-    const BrokWorked worked = workedSolution(state_);
     ui_->solutionStep->show();
-
-    const Fraction first(ui_->workedFirstNumerator, ui_->workedFirstBar, ui_->workedFirstDenominator);
-    first.setTexts(NumberText(state_.numeratorA), NumberText(state_.denominatorB));
-    ui_->workedOperatorSign->setCaption(state_.operatorText);
-    const Fraction second(ui_->workedSecondNumerator, ui_->workedSecondBar, ui_->workedSecondDenominator);
-    second.setTexts(NumberText(state_.numeratorC), NumberText(state_.denominatorD));
-
-    const Fraction middle(ui_->workedWrittenOutNumerator, ui_->workedWrittenOutBar,
-                          ui_->workedWrittenOutDenominator);
-    middle.setTexts(worked.middle.numerator, worked.middle.denominator);
-    middle.setLeft(kMiddleFraction);
-    const Fraction computed(ui_->workedComputedNumerator, ui_->workedComputedBar,
-                            ui_->workedComputedDenominator);
-    computed.setTexts(worked.computed.numerator, worked.computed.denominator);
-
-    const LastStep& last = worked.last;
-    const bool isReduced = last.kind == LastStep::Kind::Reduced;
-    const Fraction reduced(ui_->workedReducedNumerator, ui_->workedReducedBar, ui_->workedReducedDenominator);
-    reduced.setTexts(isReduced ? last.numerator : "", isReduced ? last.denominator : "");
-    reduced.setShown(isReduced);
-    ui_->workedReducedEquals->setVisible(last.kind != LastStep::Kind::Irreducible);
-    ui_->workedReducedWholeNumber->setVisible(last.kind == LastStep::Kind::Whole);
-    if (last.kind == LastStep::Kind::Whole) {
-        ui_->workedReducedWholeNumber->setCaption(last.numerator);
-    }
-
-    // The row stands round the middle fraction, whose place is fixed: backwards from it, then forwards.
-    const double equals = kMiddleFraction - kGap - ui_->workedWrittenOutEquals->place().width();
-    ui_->workedWrittenOutEquals->setLeft(equals);
-    second.setLeft(equals - kGap - second.width());
-    ui_->workedOperatorSign->setLeft(ui_->workedSecondNumerator->place().left() - kGap -
-                                     ui_->workedOperatorSign->place().width());
-    first.setLeft(ui_->workedOperatorSign->place().left() - kGap - first.width());
-    ui_->workedComputedEquals->setLeft(middle.right() + kGap);
-    computed.setLeft(ui_->workedComputedEquals->place().right() + kGap);
-    ui_->workedReducedEquals->setLeft(computed.right() + kGap);
-    reduced.setLeft(ui_->workedReducedEquals->place().right() + kGap);
-    ui_->workedReducedWholeNumber->setLeft(ui_->workedReducedEquals->place().right() + kGap);
+    const WorkedRow row = WorkedRow::of(*design());
+    row.write(state_);
+    row.layOut();
 }
 
 void Brok::closeHelp() { hideAll({ui_->solutionStep, ui_->helpPanel}); }

@@ -27,7 +27,8 @@ protected:
     void closeHelp() override;
 
 private:
-    void layOutFractions();
+    void clearReduction();
+    void showTask();
     void showReduction();
     void showWorkedSolution();
 

@@ -9,6 +9,9 @@
 namespace tavrune {
 namespace {
 
+constexpr int kOperations = 4;
+
+/// -10 to 9.
 float drawPart(Draws& draws) { return Int(draws.Rnd() * 20 - 10); }
 
 void drawParts(BrokState& s, Draws& draws) {
@@ -20,30 +23,29 @@ void drawParts(BrokState& s, Draws& draws) {
     } while (s.numeratorA * s.denominatorB * s.numeratorC * s.denominatorD == 0);
 }
 
-void chooseOperator(BrokState& s, int type) {
+Operation drawOperation(Draws& draws) { return static_cast<Operation>(Int(draws.Rnd() * kOperations)); }
+
+void solve(BrokState& s, Operation operation) {
     const float a = s.numeratorA;
     const float b = s.denominatorB;
     const float c = s.numeratorC;
     const float d = s.denominatorD;
     const bool sameDenominator = b == d;
-    switch (type) {
-        case 0:
-            s.operatorText = "-";
+    s.operation = operation;
+    switch (operation) {
+        case Operation::Subtract:
             s.resultNumerator = sameDenominator ? a - c : a * d - b * c;
             s.resultDenominator = sameDenominator ? b : b * d;
             break;
-        case 1:
-            s.operatorText = "+";
+        case Operation::Add:
             s.resultNumerator = sameDenominator ? a + c : a * d + b * c;
             s.resultDenominator = sameDenominator ? b : b * d;
             break;
-        case 2:
-            s.operatorText = "*";
+        case Operation::Multiply:
             s.resultNumerator = a * c;
             s.resultDenominator = b * d;
             break;
-        default:
-            s.operatorText = "/";
+        case Operation::Divide:
             s.resultNumerator = a * d;
             s.resultDenominator = c * b;
             break;
@@ -89,7 +91,8 @@ private:
         return number / factor;
     }
 
-    std::array<double, 13> slots_{};
+    static constexpr std::size_t kSlots = 13;
+    std::array<double, kSlots> slots_{};
     std::size_t used_ = 0;
 };
 
@@ -129,11 +132,16 @@ LastStep lastStep(const BrokState& s) {
 
 }  // namespace
 
+std::string operatorSign(std::optional<Operation> operation) {
+    static constexpr std::array kSigns{"-", "+", "*", "/"};
+    return operation ? kSigns.at(static_cast<std::size_t>(*operation)) : "";
+}
+
 void newExercise(BrokState& state, Draws& draws) {
     do {
         draws.Randomize();
         drawParts(state, draws);
-        chooseOperator(state, static_cast<int>(Int(draws.Rnd() * 4)));
+        solve(state, drawOperation(draws));
     } while (state.resultNumerator == 0);
 }
 
@@ -161,7 +169,7 @@ ReductionText reductionText(const BrokState& state, double typedNumerator) {
     return text;
 }
 
-const BrokMethod& methodFor(const std::string& operatorText) {
+const BrokMethod& methodFor(std::optional<Operation> operation) {
     static constexpr BrokMethod kAdd{
         "Her skal du lægge to brøker sammen",
         "Find en fællesnævner ved at forlænge begge brøker med den modsatte brøks nævner. Læg derefter de to "
@@ -178,13 +186,17 @@ const BrokMethod& methodFor(const std::string& operatorText) {
                                         "Man dividerer med en brøk ved at gange med den omvendte: Tæller med "
                                         "nævner og nævner med tæller",
                                         "a*d", "b*c"};
-    if (operatorText == "+") {
-        return kAdd;
+    switch (operation.value_or(Operation::Divide)) {
+        case Operation::Subtract:
+            return kSubtract;
+        case Operation::Add:
+            return kAdd;
+        case Operation::Multiply:
+            return kMultiply;
+        case Operation::Divide:
+            break;
     }
-    if (operatorText == "-") {
-        return kSubtract;
-    }
-    return operatorText == "*" ? kMultiply : kDivide;
+    return kDivide;
 }
 
 BrokWorked workedSolution(const BrokState& s) {
@@ -194,18 +206,23 @@ BrokWorked workedSolution(const BrokState& s) {
     const float d = s.denominatorD;
     const auto times = [](float x, float y) { return bracketed(x) + "*" + bracketed(y); };
     BrokWorked worked{{"", times(b, d)}, {"", NumberText(b * d)}, lastStep(s)};
-    if (s.operatorText == "+") {
-        worked.middle.numerator = times(a, d) + " + " + times(c, b);
-        worked.computed.numerator = NumberText(a * d + c * b);
-    } else if (s.operatorText == "-") {
-        worked.middle.numerator = times(a, d) + " - " + times(c, b);
-        worked.computed.numerator = NumberText(a * d - c * b);
-    } else if (s.operatorText == "*") {
-        worked.middle.numerator = times(a, c);
-        worked.computed.numerator = NumberText(a * c);
-    } else {
-        worked.middle = {times(a, d), times(b, c)};
-        worked.computed = {NumberText(a * d), NumberText(b * c)};
+    switch (s.operation.value_or(Operation::Divide)) {
+        case Operation::Subtract:
+            worked.writtenOut.numerator = times(a, d) + " - " + times(c, b);
+            worked.computed.numerator = NumberText(a * d - c * b);
+            break;
+        case Operation::Add:
+            worked.writtenOut.numerator = times(a, d) + " + " + times(c, b);
+            worked.computed.numerator = NumberText(a * d + c * b);
+            break;
+        case Operation::Multiply:
+            worked.writtenOut.numerator = times(a, c);
+            worked.computed.numerator = NumberText(a * c);
+            break;
+        case Operation::Divide:
+            worked.writtenOut = {times(a, d), times(b, c)};
+            worked.computed = {NumberText(a * d), NumberText(b * c)};
+            break;
     }
     return worked;
 }

@@ -7,18 +7,24 @@
 
 namespace tavrune {
 
+/// What is done with the two fractions, in the order in which it is drawn.
+enum class Operation { Subtract, Add, Multiply, Divide };
+
 /// One task on two fractions, a/b and c/d. The result is never 0.
 struct BrokState {
     float numeratorA = 0;
     float denominatorB = 0;
     float numeratorC = 0;
     float denominatorD = 0;
-    /// "+", "-", "*" or "/".
-    std::string operatorText;
+    /// Nothing until there is an exercise.
+    std::optional<Operation> operation;
     /// The result as computed: not reduced, with the sign wherever it falls.
     double resultNumerator = 0;
     double resultDenominator = 0;
 };
+
+/// "-", "+", "*" or "/"; empty for no operation.
+[[nodiscard]] std::string operatorSign(std::optional<Operation> operation);
 
 /// Draws until the result is not 0.
 void newExercise(BrokState& state, Draws& draws);
@@ -55,7 +61,7 @@ struct ReductionText {
 
 [[nodiscard]] ReductionText reductionText(const BrokState& state, double typedNumerator);
 
-/// The general method for an operator.
+/// The general method for an operation.
 struct BrokMethod {
     const char* task;
     const char* rule;
@@ -63,7 +69,8 @@ struct BrokMethod {
     const char* denominator;
 };
 
-[[nodiscard]] const BrokMethod& methodFor(const std::string& operatorText);
+/// Without an exercise, the method for a division.
+[[nodiscard]] const BrokMethod& methodFor(std::optional<Operation> operation);
 
 /// The last step of the worked solution.
 struct LastStep {
@@ -74,14 +81,15 @@ struct LastStep {
     std::string denominator;
 };
 
-/// The worked solution with the numbers of the task: the middle fraction is written out, the next is
+/// The worked solution with the numbers of the task: one fraction with the numbers written out, the next
 /// computed.
 struct BrokWorked {
-    FractionText middle;
+    FractionText writtenOut;
     FractionText computed;
     LastStep last;
 };
 
+/// Without an exercise, that of a division of zeros.
 [[nodiscard]] BrokWorked workedSolution(const BrokState& state);
 
 }  // namespace tavrune

@@ -1,5 +1,8 @@
 #include "topics/basics/dlinie.h"
 
+#include <algorithm>
+#include <array>
+
 #include "controls/fraction.h"
 #include "controls/panel.h"
 #include "graph/graph_box.h"
@@ -14,10 +17,73 @@ constexpr int kEnd = 10;
 constexpr double kFractionLeft = fromTwips(480);
 constexpr double kGap = 6;
 
-/// Lays out "a = numerator/denominator = result" in a row.
-void showSlope(const DlinieSlopeStep& step, const Fraction& fraction, Label* result) {
+/// How far the tick dots stand off their axis.
+constexpr double kOffXAxis = 0.1;
+constexpr double kOffYAxis = 0.07;
+
+/// A number at an axis, and where its top left corner stands.
+struct AxisMark {
+    const char* name;
+    double x;
+    double y;
+};
+
+constexpr std::array kAxisMarks{AxisMark{"xMark5", 4.7, -0.2}, AxisMark{"yMarkMinus5", -1, -4.5},
+                                AxisMark{"xMarkMinus5", -5.2, -0.2}, AxisMark{"yMark5", -0.8, 5.3}};
+
+/// The help for one kind of task, by the names of the controls.
+struct LineHelp {
+    LineTask task;
+    const char* panel;
+    const char* close;
+    /// "Vis" of the first step; null where there is no step to show.
+    const char* firstStep;
+    /// What its steps show, null behind the last.
+    std::array<const char*, 3> shownBySteps;
+};
+
+constexpr std::array kHelps{
+    LineHelp{LineTask::TwoPoints,
+             "twoPointsHelpPanel",
+             "closeTwoPointsHelp",
+             "showTwoPointsSlope",
+             {"twoPointsSlopeStep", "twoPointsWorkedPointInserted", "twoPointsWorkedIntercept"}},
+    LineHelp{LineTask::SlopeAndPoint,
+             "slopeAndPointHelpPanel",
+             "closeSlopeAndPointHelp",
+             "showSlopeAndPointIntercept",
+             {"slopeAndPointWorkedPointInserted", "slopeAndPointWorkedIntercept"}},
+    LineHelp{LineTask::SlopeAndYCross, "slopeAndYCrossHelpPanel", "closeSlopeAndYCrossHelp", nullptr, {}},
+    LineHelp{LineTask::SlopeAndXCross,
+             "slopeAndXCrossHelpPanel",
+             "closeSlopeAndXCrossHelp",
+             "showSlopeAndXCrossIntercept",
+             {"slopeAndXCrossInterceptStep"}},
+    LineHelp{LineTask::BothCrosses,
+             "bothCrossesHelpPanel",
+             "closeBothCrossesHelp",
+             "showBothCrossesSlope",
+             {"bothCrossesSlopeStep"}},
+};
+
+QWidget* control(const QWidget& page, const char* name) { return page.findChild<QWidget*>(name); }
+
+void closePanel(const QWidget& page, const LineHelp& help) {
+    control(page, help.panel)->hide();
+    for (const char* name : help.shownBySteps) {
+        if (name != nullptr) {
+            control(page, name)->hide();
+        }
+    }
+}
+
+/// Lays out "a = numerator/denominator = result" in a row: for the prefix "twoPointsWorkedSlope" what is
+/// called `twoPointsWorkedSlopeNumerator` and so on.
+void showSlope(const QWidget& page, const QString& prefix, const DlinieSlopeStep& step) {
+    const Fraction fraction = Fraction::of(page, prefix);
     fraction.setTexts(step.numerator, step.denominator);
     fraction.setLeft(kFractionLeft);
+    auto* const result = page.findChild<Label*>(prefix + "Result");
     result->setCaption(step.result);
     result->setLeft(fraction.right() + kGap);
 }
@@ -29,14 +95,12 @@ Dlinie::Dlinie(Draws& draws) : ExerciseForm(PageName::Dlinie, draws), ui_(std::m
     enterChain({ui_->slope, ui_->intercept}, LastBox::OkOrStay);
     onClick(ui_->showTwoPointsSlope, &Dlinie::showSlopeOfTwoPoints);
     onClick(ui_->showTwoPointsIntercept, &Dlinie::showInterceptOfTwoPoints);
-    onClick(ui_->closeTwoPointsHelp, &Dlinie::closeTwoPoints);
     onClick(ui_->showSlopeAndPointIntercept, &Dlinie::showInterceptOfPoint);
-    onClick(ui_->closeSlopeAndPointHelp, &Dlinie::closeSlopeAndPoint);
-    onClick(ui_->closeSlopeAndYCrossHelp, &Dlinie::closeSlopeAndYCross);
     onClick(ui_->showSlopeAndXCrossIntercept, &Dlinie::showInterceptOfXCross);
-    onClick(ui_->closeSlopeAndXCrossHelp, &Dlinie::closeSlopeAndXCross);
     onClick(ui_->showBothCrossesSlope, &Dlinie::showSlopeOfBothCrosses);
-    onClick(ui_->closeBothCrossesHelp, &Dlinie::closeBothCrosses);
+    for (const LineHelp& help : kHelps) {
+        onClick(design()->findChild<Button*>(help.close), [this, &help] { closePanel(*design(), help); });
+    }
 }
 
 Dlinie::~Dlinie() = default;
@@ -50,11 +114,9 @@ void Dlinie::firstTick() {
 void Dlinie::newExercise() {
     whiten({ui_->slope, ui_->intercept});
     ask(ZeroSlope::Rejected);
-    closeTwoPoints();
-    closeSlopeAndPoint();
-    closeSlopeAndYCross();
-    closeSlopeAndXCross();
-    closeBothCrosses();
+    for (const LineHelp& help : kHelps) {
+        closePanel(*design(), help);
+    }
 }
 
 void Dlinie::ask(ZeroSlope zeroSlope) {
@@ -80,12 +142,11 @@ void Dlinie::drawAxes() {
     graph.Line(0, kEnd, 0, -kEnd);
     graph.Line(-kEnd, 0, kEnd, 0);
     // Kept: the far ends go without a dot, and the Y axis without its lowest.
-    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd}, {0.1});
-    drawTicksAlongY(graph, {.from = -kEnd + 1, .before = kEnd}, {0.07});
-    graph.place(*ui_->xMark5, 4.7, -0.2);
-    graph.place(*ui_->yMarkMinus5, -1, -4.5);
-    graph.place(*ui_->xMarkMinus5, -5.2, -0.2);
-    graph.place(*ui_->yMark5, -0.8, 5.3);
+    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd}, {kOffXAxis});
+    drawTicksAlongY(graph, {.from = -kEnd + 1, .before = kEnd}, {kOffYAxis});
+    for (const auto& [name, x, y] : kAxisMarks) {
+        graph.place(*design()->findChild<Label*>(name), x, y);
+    }
 }
 
 void Dlinie::drawLine(double slope, double intercept, const QColor& colour) {
@@ -117,34 +178,24 @@ void Dlinie::giveAnswer() {
 }
 
 void Dlinie::help() {
-    switch (state_.taskType) {
-        case LineTask::None:
-            break;
-        case LineTask::TwoPoints:
-            openPanel(ui_->twoPointsHelpPanel, ui_->showTwoPointsSlope);
-            break;
-        case LineTask::SlopeAndPoint:
-            openPanel(ui_->slopeAndPointHelpPanel, ui_->showSlopeAndPointIntercept);
-            break;
-        case LineTask::SlopeAndYCross:
-            // It has no step to show, so the focus stays.
-            ui_->slopeAndYCrossHelpPanel->show();
-            break;
-        case LineTask::SlopeAndXCross:
-            openPanel(ui_->slopeAndXCrossHelpPanel, ui_->showSlopeAndXCrossIntercept);
-            break;
-        case LineTask::BothCrosses:
-            openPanel(ui_->bothCrossesHelpPanel, ui_->showBothCrossesSlope);
-            break;
+    const auto* const help = std::find_if(kHelps.begin(), kHelps.end(), [this](const LineHelp& candidate) {
+        return candidate.task == state_.taskType;
+    });
+    if (help == kHelps.end()) {
+        return;
+    }
+    QWidget* const panel = control(*design(), help->panel);
+    if (help->firstStep == nullptr) {
+        // The focus stays.
+        panel->show();
+    } else {
+        openPanel(panel, control(*design(), help->firstStep));
     }
 }
 
 void Dlinie::showSlopeOfTwoPoints() {
     ui_->twoPointsSlopeStep->show();
-    showSlope(slopeBetweenPoints(state_),
-              Fraction(ui_->twoPointsWorkedSlopeNumerator, ui_->twoPointsWorkedSlopeBar,
-                       ui_->twoPointsWorkedSlopeDenominator),
-              ui_->twoPointsWorkedSlopeResult);
+    showSlope(*design(), "twoPointsWorkedSlope", slopeBetweenPoints(state_));
 }
 
 void Dlinie::showInterceptOfTwoPoints() {
@@ -172,28 +223,7 @@ void Dlinie::showInterceptOfXCross() {
 
 void Dlinie::showSlopeOfBothCrosses() {
     ui_->bothCrossesSlopeStep->show();
-    showSlope(slopeBetweenCrosses(state_),
-              Fraction(ui_->bothCrossesWorkedSlopeNumerator, ui_->bothCrossesWorkedSlopeBar,
-                       ui_->bothCrossesWorkedSlopeDenominator),
-              ui_->bothCrossesWorkedSlopeResult);
+    showSlope(*design(), "bothCrossesWorkedSlope", slopeBetweenCrosses(state_));
 }
-
-void Dlinie::closeTwoPoints() {
-    hideAll({ui_->twoPointsHelpPanel, ui_->twoPointsSlopeStep, ui_->twoPointsWorkedPointInserted,
-             ui_->twoPointsWorkedIntercept});
-}
-
-void Dlinie::closeSlopeAndPoint() {
-    hideAll({ui_->slopeAndPointWorkedPointInserted, ui_->slopeAndPointWorkedIntercept,
-             ui_->slopeAndPointHelpPanel});
-}
-
-void Dlinie::closeSlopeAndYCross() { ui_->slopeAndYCrossHelpPanel->hide(); }
-
-void Dlinie::closeSlopeAndXCross() {
-    hideAll({ui_->slopeAndXCrossHelpPanel, ui_->slopeAndXCrossInterceptStep});
-}
-
-void Dlinie::closeBothCrosses() { hideAll({ui_->bothCrossesHelpPanel, ui_->bothCrossesSlopeStep}); }
 
 }  // namespace tavrune

@@ -39,12 +39,6 @@ private:
     void showInterceptOfXCross();
     void showSlopeOfBothCrosses();
 
-    void closeTwoPoints();
-    void closeSlopeAndPoint();
-    void closeSlopeAndYCross();
-    void closeSlopeAndXCross();
-    void closeBothCrosses();
-
     std::unique_ptr<Ui::Dlinie> ui_;
     DlinieState state_;
 };

@@ -8,9 +8,14 @@
 namespace tavrune {
 namespace {
 
+/// Without `LineTask::None`, for which only the shift leaves room.
+constexpr int kLineTasks = 5;
+constexpr double kShift = 0.001;
+
+/// -10 to 9.
 float drawCoordinate(Draws& draws) { return Int(draws.Rnd() * 20 - 10); }
 
-LineTask drawTask(Draws& draws) { return static_cast<LineTask>(Int(draws.Rnd() * 5 - 0.001) + 1); }
+LineTask drawTask(Draws& draws) { return static_cast<LineTask>(Int(draws.Rnd() * kLineTasks - kShift) + 1); }
 
 void drawNumbers(DlinieState& s, Draws& draws, ZeroSlope zeroSlope) {
     do {

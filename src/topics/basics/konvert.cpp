@@ -1,5 +1,6 @@
 #include "topics/basics/konvert.h"
 
+#include <array>
 #include <utility>
 
 #include "numeric/judging.h"
@@ -9,6 +10,8 @@
 namespace tavrune {
 namespace {
 
+constexpr const char* kBlankText = " ";
+
 // Lighter than the green of what is right elsewhere.
 const QColor kLightGreen = rgb(0, 190, 0);
 
@@ -16,15 +19,65 @@ const QColor kLightGreen = rgb(0, 190, 0);
 constexpr int kBase = 15;
 constexpr int kLastUnit = 20;
 
-// The frame round it, in whose scale the graph begins one unit from the left and 0.2 from the top.
-constexpr double kFirstTick = 0.2;
+// The frame round it, in whose scale the graph begins one unit from the left and 0.2 from the top. Its ticks
+// lead out of the graph.
+constexpr int kFrameLeft = 1;
+constexpr double kFrameTop = 0.2;
 constexpr double kFrameBase = 15.2;
+constexpr double kQuantityTickEnd = 15.4;
+constexpr double kPriceTickEnd = 0.8;
 
-// The worked solution, in the centimetres of the help panel.
+// The graph of the example in the help.
+constexpr int kExampleBase = 10;
+constexpr int kExampleLastUnit = 20;
+/// How far the P axis keeps off the edges.
+constexpr int kExampleInset = 1;
+
+/// A falling line between the axes of the example.
+struct ExampleLine {
+    int constant;
+    int root;
+};
+
+constexpr ExampleLine kExampleGiven{.constant = 10, .root = 10};
+constexpr ExampleLine kExampleConverted{.constant = 5, .root = 20};
+
+/// The fraction bars of the example, in the centimetres of the help panel.
+struct Bar {
+    double left;
+    double right;
+};
+
+constexpr std::array kExampleBars{Bar{1.58, 2.4}, Bar{3.8, 4.3}};
 constexpr double kBarHeight = 5.35;
+
+// The worked solution, in centimetres too.
 constexpr double kBarWidth = 1;
 constexpr double kBeforeBar = 0.3;
 constexpr double kGap = 0.4;
+
+/// A fraction whose bar is drawn on the panel.
+struct WorkedFraction {
+    Label* numerator;
+    Label* denominator;
+
+    /// What is called `workedSlopeNumerator` and `workedSlopeDenominator`, for the prefix "workedSlope".
+    static WorkedFraction of(const QWidget& page, const QString& prefix) {
+        return {page.findChild<Label*>(prefix + "Numerator"), page.findChild<Label*>(prefix + "Denominator")};
+    }
+
+    void blank() const {
+        numerator->setCaption(kBlankText);
+        denominator->setCaption(kBlankText);
+    }
+
+    /// Over the denominator, which stands where it is to be.
+    void setNumerator(const std::string& text) const {
+        numerator->setCaption(text);
+        numerator->setLeft(denominator->place().left());
+        numerator->setWidth(denominator->place().width());
+    }
+};
 
 }  // namespace
 
@@ -59,19 +112,19 @@ void Konvert::newExercise() {
 
 void Konvert::blankWorkedSolution() {
     ui_->workedRule->hide();
-    for (Label* label : {ui_->workedPriceEquals, ui_->workedSlopeNumerator, ui_->workedSlopeDenominator,
-                         ui_->workedTimesConvertedUnitPlus, ui_->workedInterceptNumerator,
-                         ui_->workedInterceptDenominator, ui_->workedResult}) {
-        label->setCaption(" ");
+    WorkedFraction::of(*design(), "workedSlope").blank();
+    WorkedFraction::of(*design(), "workedIntercept").blank();
+    for (Label* label : {ui_->workedPriceEquals, ui_->workedTimesConvertedUnitPlus, ui_->workedResult}) {
+        label->setCaption(kBlankText);
     }
 }
 
 void Konvert::drawTicks() {
-    for (int x = 1; x <= kLastUnit + 1; ++x) {
-        ui_->graphFrame->Line(x, kFrameBase, x, 15.4);
+    for (int x = kFrameLeft; x <= kFrameLeft + kLastUnit; ++x) {
+        ui_->graphFrame->Line(x, kFrameBase, x, kQuantityTickEnd);
     }
     for (int unit = 0; unit <= kBase; ++unit) {
-        ui_->graphFrame->Line(0.8, kFirstTick + unit, 1, kFirstTick + unit);
+        ui_->graphFrame->Line(kPriceTickEnd, kFrameTop + unit, kFrameLeft, kFrameTop + unit);
     }
 }
 
@@ -116,20 +169,26 @@ void Konvert::giveAnswer() {
 void Konvert::help() {
     ui_->task->hide();
     openPanel(ui_->helpPanel, ui_->showWorkedSolution);
-    GraphBox* example = ui_->helpGraph;
-    example->Line(1, 1, 1, 9);
-    example->Line(0, 10, 20, 10);
-    example->Line(0, 0, 10, 10);
-    example->Line(0, 5, 20, 10, kLightGreen);
-    drawExampleBars();
+    drawExample();
     const KonvertGiven texts = givenTexts(state_);
     ui_->workedGivenFunction->setCaption(texts.function);
     ui_->workedConversionFactor->setCaption(texts.conversion);
 }
 
+void Konvert::drawExample() {
+    GraphBox& graph = *ui_->helpGraph;
+    graph.Line(kExampleInset, kExampleInset, kExampleInset, kExampleBase - kExampleInset);
+    graph.Line(0, kExampleBase, kExampleLastUnit, kExampleBase);
+    for (const auto& [line, colour] : {std::pair{kExampleGiven, kBlack}, {kExampleConverted, kLightGreen}}) {
+        graph.Line(0, kExampleBase - line.constant, line.root, kExampleBase, colour);
+    }
+    drawExampleBars();
+}
+
 void Konvert::drawExampleBars() {
-    ui_->helpPanel->Line(1.58, kBarHeight, 2.4, kBarHeight);
-    ui_->helpPanel->Line(3.8, kBarHeight, 4.3, kBarHeight);
+    for (const auto& [left, right] : kExampleBars) {
+        ui_->helpPanel->Line(left, kBarHeight, right, kBarHeight);
+    }
 }
 
 void Konvert::showWorkedSolution() {
@@ -150,29 +209,27 @@ void Konvert::layOutWorkedSolution() {
         panel.placeLeft(*label, panel.rightOf(*before) + gap);
     };
     const KonvertWorked worked = workedSolution(state_);
+    const WorkedFraction slope = WorkedFraction::of(*design(), "workedSlope");
     ui_->workedPriceEquals->setCaption(worked.opening);
-    ui_->workedSlopeDenominator->setCaption(worked.squaredFactor);
-    placeAfter(ui_->workedPriceEquals, kGap, ui_->workedSlopeDenominator);
+    slope.denominator->setCaption(worked.squaredFactor);
+    placeAfter(ui_->workedPriceEquals, kGap, slope.denominator);
     ui_->workedTimesConvertedUnitPlus->setCaption("K + ");
-    placeAfter(ui_->workedSlopeDenominator, kGap, ui_->workedTimesConvertedUnitPlus);
-    ui_->workedSlopeNumerator->setCaption(worked.slope);
-    ui_->workedSlopeNumerator->setLeft(ui_->workedSlopeDenominator->place().left());
-    ui_->workedSlopeNumerator->setWidth(ui_->workedSlopeDenominator->place().width());
+    placeAfter(slope.denominator, kGap, ui_->workedTimesConvertedUnitPlus);
+    slope.setNumerator(worked.slope);
 
     // A whole factor stands under a bar of fixed width, a fraction under one of its own.
+    const WorkedFraction intercept = WorkedFraction::of(*design(), "workedIntercept");
     const bool isWhole = state_.factorKind == FactorKind::Whole;
-    ui_->workedInterceptDenominator->setAutoSize(!isWhole);
-    ui_->workedInterceptDenominator->setCaption(worked.factor);
+    intercept.denominator->setAutoSize(!isWhole);
+    intercept.denominator->setCaption(worked.factor);
     if (isWhole) {
-        panel.setWidthOf(*ui_->workedInterceptDenominator, kBarWidth);
+        panel.setWidthOf(*intercept.denominator, kBarWidth);
     }
-    placeAfter(ui_->workedTimesConvertedUnitPlus, kBeforeBar, ui_->workedInterceptDenominator);
-    ui_->workedInterceptNumerator->setCaption(worked.constant);
-    ui_->workedInterceptNumerator->setLeft(ui_->workedInterceptDenominator->place().left());
-    ui_->workedInterceptNumerator->setWidth(ui_->workedInterceptDenominator->place().width());
+    placeAfter(ui_->workedTimesConvertedUnitPlus, kBeforeBar, intercept.denominator);
+    intercept.setNumerator(worked.constant);
 
     ui_->workedResult->setCaption(worked.result);
-    placeAfter(ui_->workedInterceptDenominator, kGap, ui_->workedResult);
+    placeAfter(intercept.denominator, kGap, ui_->workedResult);
 }
 
 void Konvert::drawBarOver(const Label* label) {

@@ -32,6 +32,7 @@ private:
     void blankWorkedSolution();
     void drawTicks();
     void drawFunction(double slope, double constant, const QColor& colour);
+    void drawExample();
     void drawExampleBars();
     void drawBarOver(const Label* label);
     void showWorkedSolution();

@@ -1,6 +1,5 @@
 #include "topics/basics/lininter.h"
 
-#include "controls/fraction.h"
 #include "controls/panel.h"
 #include "controls/text.h"
 #include "graph/graph_box.h"
@@ -11,7 +10,10 @@ namespace tavrune {
 namespace {
 
 constexpr double kTopmostP = 16.5;
-constexpr double kLowestP = -5;
+constexpr int kLowestP = -5;
+// Ticks stand at whole numbers; none is at the right edge.
+constexpr TickRun kTicksOfQ{.from = static_cast<int>(kLeftmostQ), .before = static_cast<int>(kRightmostQ)};
+constexpr TickRun kTicksOfP{.from = kLowestP, .before = 17};
 /// How far the tick dots stand off their axis.
 constexpr double kOffAxis = 0.1;
 /// The name of a point stands below it.
@@ -23,8 +25,8 @@ Lininter::Lininter(Draws& draws)
     : ExerciseForm(PageName::Lininter, draws), ui_(std::make_unique<Ui::Lininter>()) {
     setUp(*ui_);
     enterChain({ui_->askedCoordinate}, LastBox::OkOrStay);
-    onClick(ui_->showPriceSolution, &Lininter::uncoverLeft);
-    onClick(ui_->showQuantitySolution, &Lininter::uncoverRight);
+    onClick(ui_->showPriceSolution, &Lininter::showPriceSolution);
+    onClick(ui_->showQuantitySolution, &Lininter::showQuantitySolution);
 }
 
 Lininter::~Lininter() = default;
@@ -33,15 +35,18 @@ void Lininter::newExercise() {
     drawAxes();
     ui_->showPriceSolution->setEnabled(false);
     ui_->showQuantitySolution->setEnabled(false);
-    showAll({ui_->priceSolutionCover, ui_->quantitySolutionCover});
-    ui_->helpPanel->hide();
-    showAll({ui_->pointA, ui_->pointB, ui_->givenLetter, ui_->givenEquals, ui_->givenCoordinate,
-             ui_->askedLetter, ui_->askedEquals, ui_->askedCoordinate});
+    closeHelp();
     showAsking();
     clearBoxes({ui_->askedCoordinate});
 
     tavrune::newExercise(state_, draws());
 
+    showTask();
+    drawPoints();
+    focusOn(ui_->askedCoordinate);
+}
+
+void Lininter::showTask() {
     ui_->pointA->setCaption(textOfA(state_));
     ui_->pointB->setCaption(textOfB(state_));
     const LininterTask asked = task(state_);
@@ -50,8 +55,6 @@ void Lininter::newExercise() {
     ui_->askedLetter->setCaption(asked.askedLetter);
     ui_->askedCoordinate->setAccessibleName(
         QString("det nye punkts %1-koordinat").arg(fromUtf8(asked.askedLetter)));
-    drawPoints();
-    focusOn(ui_->askedCoordinate);
 }
 
 void Lininter::drawAxes() {
@@ -60,8 +63,8 @@ void Lininter::drawAxes() {
     graph.Scale(kLeftmostQ, kTopmostP, kRightmostQ, kLowestP);
     graph.Line(0, kTopmostP, 0, kLowestP);
     graph.Line(kLeftmostQ, 0, kRightmostQ, 0);
-    drawTicksAlongX(graph, {.from = -7, .before = 15}, {kOffAxis});
-    drawTicksAlongY(graph, {.from = -5, .before = 17}, {kOffAxis});
+    drawTicksAlongX(graph, kTicksOfQ, {kOffAxis});
+    drawTicksAlongY(graph, kTicksOfP, {kOffAxis});
 }
 
 void Lininter::drawPoints() {
@@ -107,32 +110,35 @@ void Lininter::draw(std::span<const Segment> segments, const QColor& colour) {
     }
 }
 
+Lininter::Solution Lininter::solution() const {
+    if (state_.given == Coordinate::Quantity) {
+        return {Fraction::of(*design(), "workedSlope"), ui_->workedSlope, ui_->workedPrice,
+                ui_->showPriceSolution};
+    }
+    return {Fraction::of(*design(), "workedInverseSlope"), ui_->workedInverseSlope, ui_->workedQuantity,
+            ui_->showQuantitySolution};
+}
+
 void Lininter::help() {
-    // Only the solution that fits the direction is filled; what the other column holds stays covered.
+    // Only the solution for the coordinate asked for is filled; what the other column holds stays covered.
     const LininterWorked worked = workedSolution(state_);
-    const bool isLeft = isQGiven(state_);
-    const Fraction fraction =
-        isLeft ? Fraction(ui_->workedSlopeNumerator, ui_->workedSlopeBar, ui_->workedSlopeDenominator)
-               : Fraction(ui_->workedInverseSlopeNumerator, ui_->workedInverseSlopeBar,
-                          ui_->workedInverseSlopeDenominator);
-    Label* const ratio = isLeft ? ui_->workedSlope : ui_->workedInverseSlope;
+    const auto& [fraction, ratio, result, vis] = solution();
     fraction.setTexts(worked.numerator, worked.denominator);
     ratio->setCaption(worked.ratio);
     ratio->setLeft(fraction.right());
-    (isLeft ? ui_->workedPrice : ui_->workedQuantity)->setCaption(worked.result);
+    result->setCaption(worked.result);
 
-    Button* const vis = isLeft ? ui_->showPriceSolution : ui_->showQuantitySolution;
     vis->setEnabled(true);
     ui_->workedSolution->show();
     openPanel(ui_->helpPanel, vis);
 }
 
-void Lininter::uncoverLeft() {
+void Lininter::showPriceSolution() {
     ui_->priceSolutionCover->hide();
     focusOn(ui_->closeHelp);
 }
 
-void Lininter::uncoverRight() {
+void Lininter::showQuantitySolution() {
     ui_->quantitySolutionCover->hide();
     focusOn(ui_->closeHelp);
 }

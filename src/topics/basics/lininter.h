@@ -3,6 +3,7 @@
 #include <memory>
 #include <span>
 
+#include "controls/fraction.h"
 #include "shell/exercise_form.h"
 #include "topics/basics/lininter_exercise.h"
 
@@ -30,12 +31,26 @@ protected:
     void closeHelp() override;
 
 private:
+    /// Where the help works out one coordinate.
+    struct Solution {
+        /// The slope, or its inverse.
+        Fraction fraction;
+        Label* ratio;
+        Label* result;
+        /// The "Vis" that uncovers it.
+        Button* vis;
+    };
+
+    /// That of the coordinate asked for.
+    [[nodiscard]] Solution solution() const;
+
+    void showTask();
     void drawAxes();
     void drawPoints();
     void drawSolution();
     void draw(std::span<const Segment> segments, const QColor& colour);
-    void uncoverLeft();
-    void uncoverRight();
+    void showPriceSolution();
+    void showQuantitySolution();
 
     std::unique_ptr<Ui::Lininter> ui_;
     LininterState state_;

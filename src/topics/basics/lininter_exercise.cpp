@@ -13,6 +13,8 @@ namespace {
 /// Half the width of a cross, and the length of an arrowhead's strokes along each axis.
 constexpr double kReach = 0.35;
 constexpr float kFarthestTarget = 16;
+constexpr double kSteepest = 2.5;
+constexpr double kFlattest = 0.45;
 
 void drawPoints(LininterState& s, Draws& draws) {
     do {
@@ -28,7 +30,13 @@ void drawLine(LininterState& s, Draws& draws) {
         drawPoints(s, draws);
         s.lineSlope = (s.Pa - s.Pb) / (s.Qa - s.Qb);
         s.lineIntercept = -s.lineSlope * s.Qa + s.Pa;
-    } while (std::abs(s.lineSlope) > 2.5 || std::abs(s.lineSlope) < 0.45);
+    } while (std::abs(s.lineSlope) > kSteepest || std::abs(s.lineSlope) < kFlattest);
+}
+
+bool isQGiven(const LininterState& s) { return s.given == Coordinate::Quantity; }
+
+Coordinate drawGivenCoordinate(Draws& draws) {
+    return draws.Rnd() < 0.5 ? Coordinate::Quantity : Coordinate::Price;
 }
 
 void drawGivenQ(LininterState& s, Draws& draws) {
@@ -64,24 +72,11 @@ struct Barbs {
     int x1, y1, x2, y2;
 };
 
-struct HeadRow {
-    bool isQGiven;
-    bool isNegative;
-    Barbs onLine;
-    Barbs onAxis;
-};
-
-constexpr std::array kHeads{
-    HeadRow{true, false, {-1, -1, 1, -1}, {1, 1, 1, -1}},
-    HeadRow{true, true, {-1, 1, 1, 1}, {1, 1, 1, -1}},
-    HeadRow{false, false, {-1, 1, -1, -1}, {-1, 1, 1, 1}},
-    HeadRow{false, true, {1, 1, 1, -1}, {-1, 1, 1, 1}},
-};
-
-const HeadRow& headRow(const LininterState& s) {
-    const std::size_t row = (isQGiven(s) ? 0U : 2U) + (s.target < 0 ? 1U : 0U);
-    return kHeads.at(row);
-}
+// By where the head points.
+constexpr Barbs kUp{-1, -1, 1, -1};
+constexpr Barbs kDown{-1, 1, 1, 1};
+constexpr Barbs kLeft{1, 1, 1, -1};
+constexpr Barbs kRight{-1, 1, -1, -1};
 
 struct Point {
     double x, y;
@@ -97,15 +92,13 @@ Segment barb(Point tip, Point base, int x, int y) {
 void newExercise(LininterState& state, Draws& draws) {
     drawLine(state, draws);
     draws.Randomize();
-    state.directionDraw = draws.Rnd();
+    state.given = drawGivenCoordinate(draws);
     if (isQGiven(state)) {
         drawGivenQ(state, draws);
     } else {
         drawGivenP(state, draws);
     }
 }
-
-bool isQGiven(const LininterState& state) { return state.directionDraw < 0.5; }
 
 bool isRight(const LininterState& state, double typed) { return isHalfOpenNear(typed, state.target); }
 
@@ -161,22 +154,24 @@ std::array<Segment, 2> guideLines(const LininterState& s) {
 }
 
 std::array<Segment, 4> arrowheads(const LininterState& s, Occasion occasion) {
-    const HeadRow& row = headRow(s);
+    const bool isNegative = s.target < 0;
     Point onLine{s.target, s.givenP};
     Point base{s.target, lineAt(s, s.target)};
+    Barbs toLine = isNegative ? kLeft : kRight;
     Point onAxis{s.target, 0};
-    if (row.isQGiven) {
+    Barbs toAxis = kDown;
+    if (isQGiven(s)) {
         // Kept: where a right answer below 0 is judged, the head stands over the target instead of the given
         // Q, away from the guide line.
-        const bool isAstray = row.isNegative && occasion == Occasion::Judged;
+        const bool isAstray = isNegative && occasion == Occasion::Judged;
         const float x = isAstray ? s.target : s.givenQ;
         onLine = base = {x, lineAt(s, x)};
+        toLine = isNegative ? kDown : kUp;
         onAxis = {0, s.target};
+        toAxis = kLeft;
     }
-    return {barb(onLine, base, row.onLine.x1, row.onLine.y1),
-            barb(onLine, base, row.onLine.x2, row.onLine.y2),
-            barb(onAxis, onAxis, row.onAxis.x1, row.onAxis.y1),
-            barb(onAxis, onAxis, row.onAxis.x2, row.onAxis.y2)};
+    return {barb(onLine, base, toLine.x1, toLine.y1), barb(onLine, base, toLine.x2, toLine.y2),
+            barb(onAxis, onAxis, toAxis.x1, toAxis.y1), barb(onAxis, onAxis, toAxis.x2, toAxis.y2)};
 }
 
 }  // namespace tavrune

@@ -7,6 +7,9 @@
 
 namespace tavrune {
 
+/// A coordinate of a point: Q is the quantity, P the price.
+enum class Coordinate { Quantity, Price };
+
 /// Two points A and B in the plane of Q (across) and P (up), and one coordinate of a third point on their
 /// line. The other coordinate is asked for.
 struct LininterState {
@@ -18,21 +21,18 @@ struct LininterState {
     /// P = lineSlope * Q + lineIntercept, unrounded. The size of the slope is 0.45 to 2.5.
     float lineSlope = 0;
     float lineIntercept = 0;
-    /// Below 0.5, Q is given.
-    float directionDraw = 0;
-    /// Whole, 1 to 8. Only the one that the direction gives is drawn; the other keeps its old value.
+    /// The coordinate of the third point that is given. The other is asked for.
+    Coordinate given = Coordinate::Quantity;
+    /// Whole, 1 to 8. Only the given one is drawn; the other keeps its old value.
     float givenQ = 0;
     float givenP = 0;
     /// The coordinate asked for, unrounded, less than 16 in size.
     float target = 0;
 };
 
-/// Draws until the line is neither too steep nor too flat, then the direction, then the given coordinate
-/// until the point lies near the graph.
+/// Draws until the line is neither too steep nor too flat, then which coordinate is given, then the given
+/// coordinate until the point lies near the graph.
 void newExercise(LininterState& state, Draws& draws);
-
-/// Otherwise P is given.
-[[nodiscard]] bool isQGiven(const LininterState& state);
 
 [[nodiscard]] bool isRight(const LininterState& state, double typed);
 
@@ -52,7 +52,7 @@ struct LininterTask {
 
 [[nodiscard]] LininterTask task(const LininterState& state);
 
-/// The worked solution of the direction that the exercise has. The result is computed from the unrounded
+/// The worked solution for the coordinate asked for. The result is computed from the unrounded
 /// ratio, so the shown ratio times the difference can miss it in the last decimal.
 struct LininterWorked {
     std::string numerator;

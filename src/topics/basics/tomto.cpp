@@ -1,6 +1,5 @@
 #include "topics/basics/tomto.h"
 
-#include "controls/fraction.h"
 #include "controls/frame.h"
 #include "controls/panel.h"
 #include "graph/graph_box.h"
@@ -40,8 +39,7 @@ std::array<Tomto::Field, 2> Tomto::fields() const {
 }
 
 void Tomto::firstTick() {
-    ui_->priceMarkMiddle->setCaption("5");
-    ui_->quantityMarkMiddle->setCaption("5");
+    markMiddles(kShortAxis);
     prepare();
     firstExercise(state_, draws());
     showTask();
@@ -66,7 +64,7 @@ void Tomto::prepare() {
     clearBoxes({ui_->crossingPointQuantity, ui_->crossingPointPrice});
     ui_->graph->Cls();
     // Kept: the numbers on the axes are left as they are.
-    ui_->graph->Scale(0, 10, 10, 0);
+    ui_->graph->Scale(0, kShortAxis, kShortAxis, 0);
     options_.resetColours();
     ui_->equationsBackground->show();
 }
@@ -86,7 +84,11 @@ void Tomto::hideCrossing() { hideAll({ui_->crossingPointEquals, ui_->crossingPoi
 
 void Tomto::setRange() {
     state_.graphMax = rangeFor(state_);
-    const std::string middle = NumberText(state_.graphMax / 2);
+    markMiddles(state_.graphMax);
+}
+
+void Tomto::markMiddles(float upperEnd) {
+    const std::string middle = NumberText(upperEnd / 2);
     ui_->quantityMarkMiddle->setCaption(middle);
     ui_->priceMarkMiddle->setCaption(middle);
 }
@@ -99,7 +101,7 @@ void Tomto::judge() {
                 ui_->crossingPointPrice->value())) {
         whiten({ui_->crossingPointQuantity, ui_->crossingPointPrice});
         solved();
-        drawLines(state_.formKind == 0 ? kGreen : kBlack);
+        drawLines(state_.form == LineForm::Implicit ? kBlack : kGreen);
         ui_->graph->DrawWidth(kThin);
         return;
     }
@@ -139,15 +141,16 @@ void Tomto::drawLines(const QColor& colour) {
 }
 
 void Tomto::help() {
-    if (state_.formTag == "a") {
-        if (hasDerivation(state_)) {
-            ui_->explicitDerivation->show();
-        }
+    if (!state_.form) {
+        return;
+    }
+    const bool isExplicit = state_.form == LineForm::Explicit;
+    if (hasDerivation(state_)) {
+        (isExplicit ? ui_->explicitDerivation : ui_->implicitDerivation)->show();
+    }
+    if (isExplicit) {
         openPanel(ui_->explicitHelpPanel, ui_->showExplicitWorkedSolution);
-    } else if (state_.formTag == "b") {
-        if (hasDerivation(state_)) {
-            ui_->implicitDerivation->show();
-        }
+    } else {
         openPanel(ui_->implicitHelpPanel, ui_->showImplicitWorkedSolution);
     }
 }
@@ -169,8 +172,7 @@ void Tomto::closeExplicitHelp() {
 
 void Tomto::showWorkedImplicit() {
     const ImplicitWorked worked = workedImplicit(state_);
-    const Fraction q(ui_->implicitWorkedQuantityNumerator, ui_->implicitWorkedQuantityBar,
-                     ui_->implicitWorkedQuantityDenominator);
+    const Fraction q = implicitQuantity();
     q.setTexts(worked.numerator, worked.denominator);
     q.setShown(true);
     ui_->implicitWorkedQuantity->setLeft(q.right() + kGap);
@@ -183,9 +185,10 @@ void Tomto::showWorkedImplicit() {
 
 void Tomto::closeImplicitHelp() {
     hideAll({ui_->implicitHelpPanel, ui_->implicitDerivation, ui_->implicitWorkedQuantityEquals,
-             ui_->implicitWorkedQuantityNumerator, ui_->implicitWorkedQuantityDenominator,
-             ui_->implicitWorkedQuantity, ui_->implicitWorkedInserted, ui_->implicitWorkedPrice,
-             ui_->implicitWorkedQuantityBar});
+             ui_->implicitWorkedQuantity, ui_->implicitWorkedInserted, ui_->implicitWorkedPrice});
+    implicitQuantity().setShown(false);
 }
+
+Fraction Tomto::implicitQuantity() const { return Fraction::of(*design(), "implicitWorkedQuantity"); }
 
 }  // namespace tavrune

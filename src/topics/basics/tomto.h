@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 
+#include "controls/fraction.h"
 #include "controls/option_group.h"
 #include "shell/exercise_form.h"
 #include "topics/basics/tomto_exercise.h"
@@ -43,11 +44,14 @@ private:
     void askForCrossing();
     void hideCrossing();
     void setRange();
+    void markMiddles(float upperEnd);
     void drawLines(const QColor& colour);
     void showWorkedExplicit();
     void showWorkedImplicit();
     void closeExplicitHelp();
     void closeImplicitHelp();
+    /// Q in the worked solution of implicit lines.
+    [[nodiscard]] Fraction implicitQuantity() const;
 
     std::unique_ptr<Ui::Tomto> ui_;
     TomtoState state_;

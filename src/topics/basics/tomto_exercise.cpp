@@ -19,6 +19,13 @@ struct ZeroReplacements {
 constexpr ZeroReplacements kFirst{.a1 = 3, .b1 = 2};
 constexpr ZeroReplacements kLater{.a1 = 7, .b1 = 3};
 
+constexpr int kLineForms = 2;
+
+bool isImplicit(const TomtoState& s) { return s.form == LineForm::Implicit; }
+
+LineForm drawForm(Draws& draws) { return static_cast<LineForm>(Int(draws.Rnd() * kLineForms)); }
+
+/// -10 to 9.
 float drawCoefficient(Draws& draws) { return Int(draws.Rnd() * 20 - 10); }
 
 void replaceZero(float& coefficient, float replacement) {
@@ -89,12 +96,11 @@ void generate(TomtoState& s, Draws& draws, const ZeroReplacements& zeros) {
         s.graphMax = 0;
         draws.Randomize();
         drawCoefficients(s, draws, zeros);
-        s.formKind = static_cast<int>(Int(draws.Rnd() * 2));
-        s.formTag = s.formKind == 0 ? "a" : "b";
-        if (s.formKind == 0) {
-            solveExplicit(s);
-        } else {
+        s.form = drawForm(draws);
+        if (isImplicit(s)) {
             solveImplicit(s);
+        } else {
+            solveExplicit(s);
         }
         roundSolution(s);
     } while (s.solutionQ < 0 || s.solutionP < 0);
@@ -129,10 +135,10 @@ void firstExercise(TomtoState& state, Draws& draws) { generate(state, draws, kFi
 void newExercise(TomtoState& state, Draws& draws) { generate(state, draws, kLater); }
 
 std::array<std::string, 2> lineTexts(const TomtoState& s) {
-    if (s.formKind == 0) {
-        return {explicitText("l", s.a1, s.b1), explicitText("m", s.a2, s.b2)};
+    if (isImplicit(s)) {
+        return {implicitText(s.c1, s.a1, s.b1), implicitText(s.c2, s.a2, s.b2)};
     }
-    return {implicitText(s.c1, s.a1, s.b1), implicitText(s.c2, s.a2, s.b2)};
+    return {explicitText("l", s.a1, s.b1), explicitText("m", s.a2, s.b2)};
 }
 
 bool isRight(const TomtoState& state, std::optional<Relation> chosen, double q, double p) {
@@ -143,19 +149,17 @@ bool isRight(const TomtoState& state, std::optional<Relation> chosen, double q, 
 }
 
 float rangeFor(const TomtoState& state) {
-    return state.solutionQ > 10 || state.solutionP > 10 ? 100.0F : 10.0F;
+    return state.solutionQ > kShortAxis || state.solutionP > kShortAxis ? kLongAxis : kShortAxis;
 }
 
 std::array<GraphLine, 2> graphLines(const TomtoState& s) {
-    if (s.formKind == 0) {
-        return {explicitLine(s.graphMax, s.a1, s.b1), explicitLine(s.graphMax, s.a2, s.b2)};
+    if (isImplicit(s)) {
+        return {implicitLine(s.graphMax, s.a1, s.b1, s.c1), implicitLine(s.graphMax, s.a2, s.b2, s.c2)};
     }
-    return {implicitLine(s.graphMax, s.a1, s.b1, s.c1), implicitLine(s.graphMax, s.a2, s.b2, s.c2)};
+    return {explicitLine(s.graphMax, s.a1, s.b1), explicitLine(s.graphMax, s.a2, s.b2)};
 }
 
-bool hasDerivation(const TomtoState& s) {
-    return s.formKind == 0 ? s.a1 != s.a2 : s.a1 / s.a2 != s.c1 / s.c2;
-}
+bool hasDerivation(const TomtoState& s) { return isImplicit(s) ? s.a1 / s.a2 != s.c1 / s.c2 : s.a1 != s.a2; }
 
 ExplicitWorked workedExplicit(const TomtoState& s) {
     const std::string quotient = signedQuotientText(s.b2 - s.b1, s.a1 - s.a2);

@@ -11,13 +11,18 @@ namespace tavrune {
 /// How two lines lie to each other.
 enum class Relation { Coinciding = 0, Parallel = 1, Crossing = 2 };
 
+/// How the lines are written: P = aQ + b, or cP + aQ + b = 0. In the order in which it is drawn.
+enum class LineForm { Explicit, Implicit };
+
+/// The two upper ends that the axes can have.
+inline constexpr float kShortAxis = 10;
+inline constexpr float kLongAxis = 100;
+
 /// One task on two straight lines in P and Q, which cross in the first quadrant if they cross at all.
 struct TomtoState {
-    /// 0: the lines are written P = aQ + b; 1: cP + aQ + b = 0.
-    int formKind = 0;
-    /// "a" or "b" by the kind; empty until there is an exercise.
-    std::string formTag;
-    /// Whole numbers; only the kind with three terms uses the c's.
+    /// Nothing until there is an exercise; lines count as explicit then.
+    std::optional<LineForm> form;
+    /// Whole numbers; only the implicit form uses the c's.
     float a1 = 0;
     float b1 = 0;
     float c1 = 0;
@@ -29,7 +34,7 @@ struct TomtoState {
     /// that do not cross leave them as they were, and an old value can make the generator draw once more.
     double solutionQ = 0;
     double solutionP = 0;
-    /// The upper end of both axes, 10 or 100; 0 until the exercise is judged or answered.
+    /// The upper end of both axes, short or long; 0 until the exercise is judged or answered.
     float graphMax = 0;
 };
 

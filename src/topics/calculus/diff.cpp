@@ -61,7 +61,7 @@ void Diff::showTask() {
     const DiffTexts texts = textsOf(state_);
     ui_->givenFunction->setCaption(texts.polynomial);
     ui_->pointQuantity->setCaption(NumberText(state_.pointQ));
-    layOutRow({ui_->task, ui_->pointQuantity}, ui_->task->place().left(), kGap);
+    layOutFromFirst({ui_->task, ui_->pointQuantity}, kGap);
     ui_->workedFunction->setCaption(texts.workedPolynomial);
     ui_->workedDerivative->setCaption(texts.derivative);
     ui_->workedForQuantity->setCaption(texts.atPoint);

@@ -17,6 +17,7 @@ constexpr int kLargestOther = 5;
 constexpr int kLastQuadratic = 16;
 // Kept: the first two cubics count as quadratics wherever the curve is concerned.
 constexpr int kLastWithParabola = 18;
+/// What the curve may be at the point, in size.
 constexpr int kReach = 60;
 
 constexpr Term M = Term::Minus;
@@ -87,28 +88,38 @@ struct Blanks {
     const char* afterDerivative = "";
 };
 
+// Patterns whose texts have slips of their own, by their places in the list.
+constexpr int kSquarePlusBPlusC = 1;
+constexpr int kSquareMinusB = 8;
+constexpr int kCubePlusBPlusD = 21;
+constexpr int kCubePlusB = 25;
+constexpr int kCubeMinusB = 34;
+constexpr int kCubePlusCMinusD = 35;
+/// The cubics from here on, of which this is aQ³-bQ²+d, write the derivative as the quadratics do.
+constexpr int kFirstCubicWithBApart = 36;
+
 // Kept: the slips of single patterns.
 Blanks blanksOf(int patternCase) {
     Blanks blanks;
-    if (isQuadratic(patternCase) || patternCase >= 36) {
+    if (isQuadratic(patternCase) || patternCase >= kFirstCubicWithBApart) {
         blanks.bOfDerivative = SignStyle::Apart;
     }
     switch (patternCase) {
-        case 1:
+        case kSquarePlusBPlusC:
             blanks.afterPolynomial = " ";
             blanks.bOfDerivative = SignStyle::Led;
             break;
-        case 8:
+        case kSquareMinusB:
             blanks.bOfTask = SignStyle::Apart;
             break;
-        case 21:
-        case 25:
+        case kCubePlusBPlusD:
+        case kCubePlusB:
             blanks.afterDerivative = "  ";
             break;
-        case 34:
+        case kCubeMinusB:
             blanks.afterPolynomial = " ";
             break;
-        case 35:
+        case kCubePlusCMinusD:
             blanks.cOfDerivative = SignStyle::Led;
             break;
         default:

@@ -17,20 +17,37 @@ constexpr int kFarQ = 15;
 constexpr double kLargestOfTask = 2000;
 constexpr double kLargestOfAnswer = 1000;
 
-/// Five labels, one for each piece.
-void write(std::initializer_list<Label*> labels, const IntegRow& row) {
-    const std::string* piece = row.data();
-    for (Label* label : labels) {
-        label->setCaption(*piece++);
-    }
+}  // namespace
+
+IntegRowLabels IntegRowLabels::of(const QWidget& page, const QString& prefix) {
+    return {.cubicTerm = page.findChild<Label*>(prefix + "CubicTerm"),
+            .cube = page.findChild<Label*>(prefix + "Cube"),
+            .quadraticTerm = page.findChild<Label*>(prefix + "QuadraticTerm"),
+            .square = page.findChild<Label*>(prefix + "Square"),
+            .linearTerm = page.findChild<Label*>(prefix + "LinearTerm")};
 }
 
-}  // namespace
+void IntegRowLabels::write(const IntegRow& row) const {
+    cubicTerm->setCaption(row.cubicTerm);
+    cube->setCaption(row.cube);
+    quadraticTerm->setCaption(row.quadraticTerm);
+    square->setCaption(row.square);
+    linearTerm->setCaption(row.linearTerm);
+}
+
+double IntegRowLabels::layOut(double left) const {
+    return layOutRow({cubicTerm, cube, quadraticTerm, square, linearTerm}, left);
+}
 
 Integ::Integ(Draws& draws) : ExerciseForm(PageName::Integ, draws), ui_(std::make_unique<Ui::Integ>()) {
     setUp(*ui_);
     enterChain({ui_->integral}, LastBox::OkOrStay);
-    onClick(ui_->showWorkedSolution, &Integ::uncover);
+    onClick(ui_->showWorkedSolution, &Integ::showWorkedSolution);
+    rows_ = {.primitive = IntegRowLabels::of(*design(), "workedPrimitive"),
+             .upperWithLetters = IntegRowLabels::of(*design(), "workedLettersUpper"),
+             .lowerWithLetters = IntegRowLabels::of(*design(), "workedLettersLower"),
+             .upperWithNumbers = IntegRowLabels::of(*design(), "workedNumbersUpper"),
+             .lowerWithNumbers = IntegRowLabels::of(*design(), "workedNumbersLower")};
 }
 
 Integ::~Integ() = default;
@@ -44,7 +61,8 @@ void Integ::newExercise() {
 
     tavrune::newExercise(state_, draws());
 
-    writeTexts();
+    showTask();
+    fillHelp();
     clearBoxes({ui_->integral});
     showAsking();
     ui_->newExercise->show();
@@ -63,40 +81,27 @@ void Integ::drawAxes() {
     drawTicksAlongY(graph, {.from = -70, .before = 70, .step = 10}, {0.05, 0.075, 0.1});
 }
 
-void Integ::writeTexts() {
-    const IntegWorked worked = workedSolution(state_);
+void Integ::showTask() {
     ui_->givenFunction->setCaption(functionText(state_));
-    ui_->workedFunction->setCaption(worked.function);
-    ui_->workedNumbersIntegrand->setCaption(worked.integrand);
-    write({ui_->workedPrimitiveCubicTerm, ui_->workedPrimitiveCube, ui_->workedPrimitiveQuadraticTerm,
-           ui_->workedPrimitiveSquare, ui_->workedPrimitiveLinearTerm},
-          worked.primitive);
-    write(
-        {ui_->workedLettersUpperCubicTerm, ui_->workedLettersUpperCube, ui_->workedLettersUpperQuadraticTerm,
-         ui_->workedLettersUpperSquare, ui_->workedLettersUpperLinearTerm},
-        worked.upperWithLetters);
-    write(
-        {ui_->workedLettersLowerCubicTerm, ui_->workedLettersLowerCube, ui_->workedLettersLowerQuadraticTerm,
-         ui_->workedLettersLowerSquare, ui_->workedLettersLowerLinearTerm},
-        worked.lowerWithLetters);
-    write(
-        {ui_->workedNumbersUpperCubicTerm, ui_->workedNumbersUpperCube, ui_->workedNumbersUpperQuadraticTerm,
-         ui_->workedNumbersUpperSquare, ui_->workedNumbersUpperLinearTerm},
-        worked.upperWithNumbers);
-    write(
-        {ui_->workedNumbersLowerCubicTerm, ui_->workedNumbersLowerCube, ui_->workedNumbersLowerQuadraticTerm,
-         ui_->workedNumbersLowerSquare, ui_->workedNumbersLowerLinearTerm},
-        worked.lowerWithNumbers);
-    ui_->workedResult->setCaption(worked.value);
     ui_->integralSign->setAccessibleName(
         QString("integralet fra %1 til %2 af p dQ =")
             .arg(fromUtf8(NumberText(state_.v)), fromUtf8(NumberText(state_.w))));
-    for (Label* upper : {ui_->upperLimit, ui_->workedNumbersUpperLimit}) {
-        upper->setCaption(NumberText(state_.w));
-    }
-    for (Label* lower : {ui_->lowerLimit, ui_->workedNumbersLowerLimit}) {
-        lower->setCaption(NumberText(state_.v));
-    }
+    ui_->upperLimit->setCaption(NumberText(state_.w));
+    ui_->lowerLimit->setCaption(NumberText(state_.v));
+}
+
+void Integ::fillHelp() {
+    const IntegWorked worked = workedSolution(state_);
+    ui_->workedFunction->setCaption(worked.function);
+    rows_.primitive.write(worked.primitive);
+    rows_.upperWithLetters.write(worked.upperWithLetters);
+    rows_.lowerWithLetters.write(worked.lowerWithLetters);
+    ui_->workedNumbersUpperLimit->setCaption(NumberText(state_.w));
+    ui_->workedNumbersLowerLimit->setCaption(NumberText(state_.v));
+    ui_->workedNumbersIntegrand->setCaption(worked.integrand);
+    rows_.upperWithNumbers.write(worked.upperWithNumbers);
+    rows_.lowerWithNumbers.write(worked.lowerWithNumbers);
+    ui_->workedResult->setCaption(worked.value);
 }
 
 void Integ::drawCurve(double largest) {
@@ -148,32 +153,25 @@ void Integ::help() {
 }
 
 void Integ::layOutHelp() {
-    const auto& u = *ui_;
-    const double left = u.workedPriceEquals->place().left();
-    layOutRow({u.workedPriceEquals, u.workedFunction, u.workedPrimitiveEquals, u.workedPrimitiveCubicTerm,
-               u.workedPrimitiveCube, u.workedPrimitiveQuadraticTerm, u.workedPrimitiveSquare,
-               u.workedPrimitiveLinearTerm},
-              left);
-    layOutRow({u.workedLettersIntegrandHead, u.workedLettersIntegrandSquare, u.workedLettersIntegrandTail,
-               u.workedLettersDifferentialEquals},
-              u.workedLettersIntegrandHead->place().left());
-    // The upper part takes the last five of its labels; the others stay empty.
-    layOutRow({u.emptyBeforeCubicTerm, u.emptyBeforeCube, u.emptyBeforeQuadraticTerm, u.emptyBeforeSquare,
-               u.workedLettersUpperCubicTerm, u.workedLettersUpperCube, u.workedLettersUpperQuadraticTerm,
-               u.workedLettersUpperSquare, u.workedLettersUpperLinearTerm, u.workedLettersLowerCubicTerm,
-               u.workedLettersLowerCube, u.workedLettersLowerQuadraticTerm, u.workedLettersLowerSquare,
-               u.workedLettersLowerLinearTerm},
-              left);
-    layOutRow({u.workedNumbersIntegrand, u.workedNumbersDifferentialEquals},
-              u.workedNumbersIntegrand->place().left());
-    layOutRow({u.workedNumbersUpperCubicTerm, u.workedNumbersUpperCube, u.workedNumbersUpperQuadraticTerm,
-               u.workedNumbersUpperSquare, u.workedNumbersUpperLinearTerm, u.workedNumbersLowerCubicTerm,
-               u.workedNumbersLowerCube, u.workedNumbersLowerQuadraticTerm, u.workedNumbersLowerSquare,
-               u.workedNumbersLowerLinearTerm},
-              left);
+    const double left = ui_->workedPriceEquals->place().left();
+    rows_.primitive.layOut(
+        layOutRow({ui_->workedPriceEquals, ui_->workedFunction, ui_->workedPrimitiveEquals}, left));
+    layOutStepWithLetters(left);
+    layOutFromFirst({ui_->workedNumbersIntegrand, ui_->workedNumbersDifferentialEquals});
+    rows_.lowerWithNumbers.layOut(rows_.upperWithNumbers.layOut(left));
 }
 
-void Integ::uncover() {
+void Integ::layOutStepWithLetters(double left) {
+    layOutFromFirst({ui_->workedLettersIntegrandHead, ui_->workedLettersIntegrandSquare,
+                     ui_->workedLettersIntegrandTail, ui_->workedLettersDifferentialEquals});
+    // Four labels that stay empty stand before the upper part.
+    const double afterEmpty = layOutRow({ui_->emptyBeforeCubicTerm, ui_->emptyBeforeCube,
+                                         ui_->emptyBeforeQuadraticTerm, ui_->emptyBeforeSquare},
+                                        left);
+    rows_.lowerWithLetters.layOut(rows_.upperWithLetters.layOut(afterEmpty));
+}
+
+void Integ::showWorkedSolution() {
     ui_->workedSolutionCover->hide();
     focusOn(ui_->closeHelp);
 }

@@ -11,6 +11,23 @@ namespace Ui {
 class Integ;
 }
 
+/// The labels that show a sum, each a piece of it.
+struct IntegRowLabels {
+    Label* cubicTerm = nullptr;
+    Label* cube = nullptr;
+    Label* quadraticTerm = nullptr;
+    Label* square = nullptr;
+    Label* linearTerm = nullptr;
+
+    /// What is called `workedPrimitiveCubicTerm` and so on, for the prefix "workedPrimitive". All five must
+    /// be on the page.
+    [[nodiscard]] static IntegRowLabels of(const QWidget& page, const QString& prefix);
+
+    void write(const IntegRow& row) const;
+    /// Sets them side by side from `left` on and gives the right edge.
+    double layOut(double left) const;
+};
+
 /// The definite integral of a linear or second-degree function, with its curve and the area.
 class Integ : public ExerciseForm {
     Q_OBJECT
@@ -31,14 +48,24 @@ protected:
 
 private:
     void drawAxes();
-    void writeTexts();
+    void showTask();
+    void fillHelp();
     /// Ends where p is larger than this.
     void drawCurve(double largest);
     void hatchArea();
     void layOutHelp();
-    void uncover();
+    void layOutStepWithLetters(double left);
+    void showWorkedSolution();
 
     std::unique_ptr<Ui::Integ> ui_;
+    /// The sums of the help, as `IntegWorked` has them.
+    struct {
+        IntegRowLabels primitive;
+        IntegRowLabels upperWithLetters;
+        IntegRowLabels lowerWithLetters;
+        IntegRowLabels upperWithNumbers;
+        IntegRowLabels lowerWithNumbers;
+    } rows_;
     IntegState state_;
 };
 

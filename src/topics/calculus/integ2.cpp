@@ -5,7 +5,6 @@
 #include "controls/panel.h"
 #include "controls/row.h"
 #include "controls/text.h"
-#include "graph/curve.h"
 #include "graph/ticks.h"
 #include "numeric/text.h"
 #include "topics/calculus/hatching.h"
@@ -34,20 +33,44 @@ void drawAxes(GraphBox& graph) {
     drawTicksAlongY(graph, {.from = -10, .before = 20}, {0.05, 0.075, 0.1});
 }
 
-/// Dots a piece from `from` on and gives true if it has come to `to`; a dot beyond the largest y is its last.
-bool dot(GraphBox& graph, const Curve& piece, float from, float to) {
+/// Where the last dot of a segment stands.
+enum class LastDot { AtItsEnd, BeyondTheGraph };
+
+/// Dots a segment between two quantities; a dot beyond the largest y is its last.
+LastDot plot(GraphBox& graph, const Integ2Segment& segment, float from, float to) {
     // As in the hatching: the running sum meets its end as a single.
     for (double x = from; static_cast<float>(x) < to; x += kStep) {
-        const double y = piece(x);
+        const double y = heightAt(segment, x);
         graph.PSet(x, y);
         if (std::abs(y) > kLargestY) {
-            return false;
+            return LastDot::BeyondTheGraph;
         }
     }
-    return true;
+    return LastDot::AtItsEnd;
 }
 
-/// Sets a term of the last sum and gives its right edge. Bracketed too often to fit, it shows its middle.
+/// Dots both segments; gives where the second one ends.
+LastDot plotSegments(GraphBox& graph, const Integ2State& state) {
+    plot(graph, firstSegment(state), 0, state.k);
+    return plot(graph, secondSegment(state), state.k, kRightEnd);
+}
+
+void hatchSegment(GraphBox& graph, const Integ2Segment& segment, const QColor& colour) {
+    hatch(
+        graph, [&segment](double q) { return heightAt(segment, q); }, static_cast<int>(segment.lowerLimit),
+        static_cast<int>(segment.upperLimit), colour);
+}
+
+void hatchSegments(GraphBox& graph, const Integ2State& state, const QColor& first, const QColor& second) {
+    hatchSegment(graph, firstSegment(state), first);
+    hatchSegment(graph, secondSegment(state), second);
+}
+
+/// Kept: what a term of the last sum shows depends on what it has shown so far, over all exercises. An
+/// integral that is not above 0 never shows; what stood there gets one more pair of brackets at each opening.
+void showSummand(Label* term, double integral) { term->setCaption(summandText(integral, term->caption())); }
+
+/// Lays out a term of the last sum and gives its right edge. Bracketed too often to fit, it shows its middle.
 double layOutTerm(Label* label, double left) {
     layOutRow({label}, left);
     if (label->place().width() > kWidestTerm) {
@@ -57,12 +80,18 @@ double layOutTerm(Label* label, double left) {
     return label->place().right();
 }
 
+/// What the names of the controls of a segment begin with, in the task and in the help.
+constexpr const char* kFirst = "segment1";
+constexpr const char* kSecond = "segment2";
+constexpr const char* kWorkedFirst = "workedSegment1";
+constexpr const char* kWorkedSecond = "workedSegment2";
+
 }  // namespace
 
 Integ2::Integ2(Draws& draws) : ExerciseForm(PageName::Integ2, draws), ui_(std::make_unique<Ui::Integ2>()) {
     setUp(*ui_);
     enterChain({ui_->integral}, LastBox::OkOrStay);
-    onClick(ui_->showWorkedSolution, &Integ2::uncover);
+    onClick(ui_->showWorkedSolution, &Integ2::showWorkedSolution);
 }
 
 Integ2::~Integ2() = default;
@@ -77,36 +106,37 @@ void Integ2::newExercise() {
     tavrune::newExercise(state_, draws());
 
     showTask();
-    fillHelp();
-    plotPieces(*ui_->graph);
-    // Kept: where the pieces leave the graph upwards, the focus stays where it is.
-    if (plotPieces(*ui_->helpGraph)) {
+    fillHelp(kWorkedFirst, firstSegment(state_));
+    fillHelp(kWorkedSecond, secondSegment(state_));
+    plotSegments(*ui_->graph, state_);
+    // Kept: where the second segment leaves the graph upwards, the focus stays where it is.
+    if (plotSegments(*ui_->helpGraph, state_) == LastDot::AtItsEnd) {
         focusOn(ui_->integral);
     }
 }
 
+Label* Integ2::label(const QString& segment, const char* name) const {
+    return design()->findChild<Label*>(segment + name);
+}
+
 void Integ2::showTask() {
-    ui_->segment1Slope->setCaption(NumberText(state_.a1));
-    ui_->segment1Intercept->setCaption(NumberText(state_.b1));
-    ui_->segment2Slope->setCaption(NumberText(state_.a2));
-    ui_->segment2Intercept->setCaption(NumberText(state_.b2));
-    ui_->segment1LowerLimit->setCaption(NumberText(state_.v));
-    ui_->segment2UpperLimit->setCaption(NumberText(state_.w));
-    for (Label* kink :
-         {ui_->segment1End, ui_->segment2Start, ui_->segment1UpperLimit, ui_->segment2LowerLimit}) {
-        kink->setCaption(NumberText(state_.k));
-    }
+    showSegment(kFirst, firstSegment(state_));
+    showSegment(kSecond, secondSegment(state_));
+    ui_->segment1End->setCaption(NumberText(state_.k));
+    ui_->segment2Start->setCaption(NumberText(state_.k));
     nameTask();
-    layOutRow({ui_->segment1PriceEquals, ui_->segment1Slope, ui_->segment1TimesQuantity, ui_->segment1Plus,
-               ui_->segment1Intercept},
-              ui_->segment1PriceEquals->place().left());
-    layOutRow({ui_->segment1ZeroLessThanQuantity, ui_->segment1End},
-              ui_->segment1ZeroLessThanQuantity->place().left());
-    layOutRow({ui_->segment2PriceEquals, ui_->segment2Slope, ui_->segment2TimesQuantity, ui_->segment2Plus,
-               ui_->segment2Intercept},
-              ui_->segment2PriceEquals->place().left());
-    const double afterFor = layOutRow({ui_->segment2ValidFor}, ui_->segment2ValidFor->place().left());
+    layOutFromFirst({ui_->segment1ZeroLessThanQuantity, ui_->segment1End});
+    const double afterFor = layOutFromFirst({ui_->segment2ValidFor});
     layOutRow({ui_->segment2Start, ui_->segment2QuantityBelowTen}, afterFor + kGap);
+}
+
+void Integ2::showSegment(const QString& segment, const Integ2Segment& shown) const {
+    label(segment, "Slope")->setCaption(NumberText(shown.slope));
+    label(segment, "Intercept")->setCaption(NumberText(shown.intercept));
+    label(segment, "LowerLimit")->setCaption(NumberText(shown.lowerLimit));
+    label(segment, "UpperLimit")->setCaption(NumberText(shown.upperLimit));
+    layOutFromFirst(
+        labelsOf(*design(), segment, {"PriceEquals", "Slope", "TimesQuantity", "Plus", "Intercept"}));
 }
 
 void Integ2::nameTask() {
@@ -122,41 +152,15 @@ void Integ2::nameTask() {
         QString("plus integralet fra %1 til %2 af P2 dQ =").arg(k, text(state_.w)));
 }
 
-void Integ2::fillHelp() {
-    ui_->workedSegment1UpperLimit->setCaption(NumberText(state_.k));
-    ui_->workedSegment1LowerLimit->setCaption(NumberText(state_.v));
-    const Integ2Worked red = workedFirst(state_);
-    ui_->workedSegment1Integrand->setCaption(red.integrand);
-    ui_->workedSegment1UpperQuadraticTerm->setCaption(red.upperSquared);
-    ui_->workedSegment1UpperLinearTerm->setCaption(red.upperLinear);
-    ui_->workedSegment1LowerQuadraticTerm->setCaption(red.lowerSquared);
-    ui_->workedSegment1LowerLinearTerm->setCaption(red.lowerLinear);
-
-    ui_->workedSegment2UpperLimit->setCaption(NumberText(state_.w));
-    ui_->workedSegment2LowerLimit->setCaption(NumberText(state_.k));
-    const Integ2Worked green = workedSecond(state_);
-    ui_->workedSegment2Integrand->setCaption(green.integrand);
-    ui_->workedSegment2UpperQuadraticTerm->setCaption(green.upperSquared);
-    ui_->workedSegment2UpperLinearTerm->setCaption(green.upperLinear);
-    ui_->workedSegment2LowerQuadraticTerm->setCaption(green.lowerSquared);
-    ui_->workedSegment2LowerLinearTerm->setCaption(green.lowerLinear);
-}
-
-bool Integ2::plotPieces(GraphBox& graph) const {
-    dot(
-        graph, [this](double q) { return heightOfFirst(state_, q); }, 0, state_.k);
-    return dot(
-        graph, [this](double q) { return heightOfSecond(state_, q); }, state_.k, kRightEnd);
-}
-
-void Integ2::hatchPieces(GraphBox& graph, const QColor& first, const QColor& second) const {
-    const int kink = static_cast<int>(state_.k);
-    hatch(
-        graph, [this](double q) { return heightOfFirst(state_, q); }, static_cast<int>(state_.v), kink,
-        first);
-    hatch(
-        graph, [this](double q) { return heightOfSecond(state_, q); }, kink, static_cast<int>(state_.w),
-        second);
+void Integ2::fillHelp(const QString& segment, const Integ2Segment& worked) const {
+    const Integ2Worked texts = workedOut(worked);
+    label(segment, "UpperLimit")->setCaption(NumberText(worked.upperLimit));
+    label(segment, "LowerLimit")->setCaption(NumberText(worked.lowerLimit));
+    label(segment, "Integrand")->setCaption(texts.integrand);
+    label(segment, "UpperQuadraticTerm")->setCaption(texts.upperQuadraticTerm);
+    label(segment, "UpperLinearTerm")->setCaption(texts.upperLinearTerm);
+    label(segment, "LowerQuadraticTerm")->setCaption(texts.lowerQuadraticTerm);
+    label(segment, "LowerLinearTerm")->setCaption(texts.lowerLinearTerm);
 }
 
 void Integ2::judge() {
@@ -165,7 +169,7 @@ void Integ2::judge() {
     ui_->integral->mark(!right);
     if (right) {
         solved();
-        hatchPieces(*ui_->graph, kBlue, kBlue);
+        hatchSegments(*ui_->graph, state_, kBlue, kBlue);
         return;
     }
     failed();
@@ -176,44 +180,39 @@ void Integ2::giveAnswer() {
     ui_->integral->setContent(answerText(state_));
     whiten({ui_->integral});
     given();
-    hatchPieces(*ui_->graph, kBlue, kBlue);
+    hatchSegments(*ui_->graph, state_, kBlue, kBlue);
 }
 
 void Integ2::help() {
     ui_->workedSegment1Result->setCaption(" = " + NumberText(state_.first));
     ui_->workedSegment2Result->setCaption(" = " + NumberText(state_.second));
     ui_->workedResult->setCaption(" = " + NumberText(state_.total));
-    // Kept: an integral that is not above 0 never shows; what stood there gets one more pair of brackets at
-    // each opening, over all exercises.
-    ui_->workedSumSegment1->setCaption(summandText(state_.first, ui_->workedSumSegment1->caption()));
-    ui_->workedSumSegment2->setCaption(summandText(state_.second, ui_->workedSumSegment2->caption()));
+    showSummand(ui_->workedSumSegment1, state_.first);
+    showSummand(ui_->workedSumSegment2, state_.second);
     layOutHelp();
     openPanel(ui_->helpPanel, ui_->showWorkedSolution);
 }
 
 void Integ2::layOutHelp() {
-    layOutRow({ui_->workedSegment1Integrand, ui_->workedSegment1DifferentialEquals}, kIntegrandLeft,
-              kAfterIntegrand);
-    layOutRow({ui_->workedSegment1UpperQuadraticTerm, ui_->workedSegment1UpperSquare,
-               ui_->workedSegment1UpperLinearTerm, ui_->workedSegment1LowerQuadraticTerm,
-               ui_->workedSegment1LowerSquare, ui_->workedSegment1LowerLinearTerm, ui_->workedSegment1Result},
-              ui_->workedSegment1UpperQuadraticTerm->place().left());
-    layOutRow({ui_->workedSegment2Integrand, ui_->workedSegment2DifferentialEquals}, kIntegrandLeft,
-              kAfterIntegrand);
-    layOutRow({ui_->workedSegment2UpperQuadraticTerm, ui_->workedSegment2UpperSquare,
-               ui_->workedSegment2UpperLinearTerm, ui_->workedSegment2LowerQuadraticTerm,
-               ui_->workedSegment2LowerSquare, ui_->workedSegment2LowerLinearTerm, ui_->workedSegment2Result},
-              ui_->workedSegment2UpperQuadraticTerm->place().left());
-
+    layOutWorkedSegment(kWorkedFirst);
+    layOutWorkedSegment(kWorkedSecond);
     const double afterFirst = layOutTerm(ui_->workedSumSegment1, ui_->workedSumSegment1->place().left());
     const double afterPlus = layOutRow({ui_->workedSumPlus}, afterFirst);
     layOutRow({ui_->workedResult}, layOutTerm(ui_->workedSumSegment2, afterPlus));
 }
 
-void Integ2::uncover() {
+void Integ2::layOutWorkedSegment(const QString& segment) const {
+    layOutRow(labelsOf(*design(), segment, {"Integrand", "DifferentialEquals"}), kIntegrandLeft,
+              kAfterIntegrand);
+    layOutFromFirst(labelsOf(*design(), segment,
+                             {"UpperQuadraticTerm", "UpperSquare", "UpperLinearTerm", "LowerQuadraticTerm",
+                              "LowerSquare", "LowerLinearTerm", "Result"}));
+}
+
+void Integ2::showWorkedSolution() {
     ui_->workedSolutionCover->hide();
     focusOn(ui_->closeHelp);
-    hatchPieces(*ui_->helpGraph, kRed, kGreen);
+    hatchSegments(*ui_->helpGraph, state_, kRed, kGreen);
 }
 
 void Integ2::closeHelp() {

@@ -7,13 +7,11 @@
 
 namespace tavrune {
 
-class GraphBox;
-
 namespace Ui {
 class Integ2;
 }
 
-/// The definite integral of a function in two linear pieces, with its graph.
+/// The definite integral of a function in two linear segments, with its graph.
 class Integ2 : public ExerciseForm {
     Q_OBJECT
 
@@ -32,13 +30,16 @@ protected:
 
 private:
     void showTask();
-    /// The task as a whole, which is laid out piece by piece.
+    /// The task as a whole, which is laid out label by label.
     void nameTask();
-    void fillHelp();
     void layOutHelp();
-    bool plotPieces(GraphBox& graph) const;
-    void hatchPieces(GraphBox& graph, const QColor& first, const QColor& second) const;
-    void uncover();
+    void showWorkedSolution();
+
+    // The labels of a segment are called after it: "segment1Slope", "workedSegment1Integrand".
+    [[nodiscard]] Label* label(const QString& segment, const char* name) const;
+    void showSegment(const QString& segment, const Integ2Segment& shown) const;
+    void fillHelp(const QString& segment, const Integ2Segment& worked) const;
+    void layOutWorkedSegment(const QString& segment) const;
 
     std::unique_ptr<Ui::Integ2> ui_;
     Integ2State state_;

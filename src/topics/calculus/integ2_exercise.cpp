@@ -17,14 +17,22 @@ enum class Try { Taken, Again, LeftForFallThenRise };
 
 constexpr int kFamilies = 3;
 constexpr int kLargestLimit = 9;
-/// Of the second piece at the kink.
+/// From the kink to either limit.
+constexpr int kLargestReach = 3;
+/// The kink is one of so many whole numbers, from the smallest on.
+constexpr int kKinks = 5;
+constexpr int kSmallestKink = 2;
+/// Of the second segment at the kink.
 constexpr int kLargestHeight = 15;
 
-void drawKink(Integ2State& s, Draws& draws) { s.k = Int(draws.Rnd() * 5) + 2; }
+/// A whole number from 1 to `largest`.
+float drawUpTo(int largest, Draws& draws) { return Int(draws.Rnd() * static_cast<float>(largest)) + 1; }
+
+void drawKink(Integ2State& s, Draws& draws) { s.k = Int(draws.Rnd() * kKinks) + kSmallestKink; }
 
 void drawLimits(Integ2State& s, Draws& draws) {
-    s.v = s.k - (Int(draws.Rnd() * 3) + 1);
-    s.w = s.k + (Int(draws.Rnd() * 3) + 1);
+    s.v = s.k - drawUpTo(kLargestReach, draws);
+    s.w = s.k + drawUpTo(kLargestReach, draws);
 }
 
 // Kept, though of the three only v < 0 can be drawn.
@@ -33,10 +41,10 @@ bool areLimitsOutside(const Integ2State& s) { return s.v >= s.w || s.v < 0 || s.
 bool isTooHigh(const Integ2State& s) { return std::abs(s.a2 * s.k + s.b2) > kLargestHeight; }
 
 Try tryFallThenRise(Integ2State& s, Draws& draws) {
-    s.a1 = -(Int(draws.Rnd() * 2) + 1);
-    s.b1 = Int(draws.Rnd() * 6) + 1;
-    s.a2 = Int(draws.Rnd() * 3) + 1;
-    s.b2 = Int(draws.Rnd() * 4) + 1;
+    s.a1 = -drawUpTo(2, draws);
+    s.b1 = drawUpTo(6, draws);
+    s.a2 = drawUpTo(3, draws);
+    s.b2 = drawUpTo(4, draws);
     drawKink(s, draws);
     if (s.b1 <= s.b2) {
         return Try::Again;
@@ -46,16 +54,16 @@ Try tryFallThenRise(Integ2State& s, Draws& draws) {
 }
 
 Try tryRiseThenFall(Integ2State& s, Draws& draws) {
-    s.a1 = (Int(draws.Rnd() * 3) + 1) / 2;
-    s.b1 = Int(draws.Rnd() * 6) + 1;
-    s.a2 = (Int(draws.Rnd() * 3) + 1) / 2;
-    s.b2 = Int(draws.Rnd() * 7) + 1;
+    s.a1 = drawUpTo(3, draws) / 2;
+    s.b1 = drawUpTo(6, draws);
+    s.a2 = drawUpTo(3, draws) / 2;
+    s.b2 = drawUpTo(7, draws);
     if (s.b1 >= s.b2) {
         return Try::LeftForFallThenRise;
     }
     drawKink(s, draws);
     drawLimits(s, draws);
-    // Kept: the height is that of the piece before it is made to fall.
+    // Kept: the height is that of the segment before it is made to fall.
     if (areLimitsOutside(s) || isTooHigh(s)) {
         return Try::Again;
     }
@@ -64,10 +72,10 @@ Try tryRiseThenFall(Integ2State& s, Draws& draws) {
 }
 
 Try tryTwoFalls(Integ2State& s, Draws& draws) {
-    s.a1 = -(Int(draws.Rnd() * 2) + 1) / 2;
-    s.b1 = Int(draws.Rnd() * 5) + 1;
-    s.a2 = -(Int(draws.Rnd() * 2) + 1) / 2;
-    s.b2 = Int(draws.Rnd() * 2) + 1;
+    s.a1 = -drawUpTo(2, draws) / 2;
+    s.b1 = drawUpTo(5, draws);
+    s.a2 = -drawUpTo(2, draws) / 2;
+    s.b2 = drawUpTo(2, draws);
     drawKink(s, draws);
     drawLimits(s, draws);
     const bool isOneLine = s.a1 == s.a2 && s.b1 == s.b2;
@@ -90,22 +98,12 @@ Try tryFamily(Family family, Integ2State& s, Draws& draws) {
     return tryFallThenRise(s, draws);
 }
 
-double primitiveAt(double q, float a, float b) { return a / 2 * Power(q, 2) + b * q; }
-
-void integrate(Integ2State& s) {
-    s.first = primitiveAt(s.k, s.a1, s.b1) - primitiveAt(s.v, s.a1, s.b1);
-    s.second = primitiveAt(s.w, s.a2, s.b2) - primitiveAt(s.k, s.a2, s.b2);
-    s.total = s.first + s.second;
+double primitiveAt(double q, const Integ2Segment& segment) {
+    return segment.slope / 2 * Power(q, 2) + segment.intercept * q;
 }
 
-Integ2Worked workedOut(float a, float b, float upper, float lower) {
-    const std::string quotient = "((" + NumberText(a) + "/2)*";
-    const std::string linear = "+" + NumberText(b) + "*";
-    return {.integrand = "(" + NumberText(a) + "Q+" + NumberText(b) + ")",
-            .upperSquared = quotient + NumberText(upper),
-            .upperLinear = linear + NumberText(upper) + ")",
-            .lowerSquared = "-" + quotient + NumberText(lower),
-            .lowerLinear = linear + NumberText(lower) + ")"};
+double integralOf(const Integ2Segment& segment) {
+    return primitiveAt(segment.upperLimit, segment) - primitiveAt(segment.lowerLimit, segment);
 }
 
 }  // namespace
@@ -120,23 +118,37 @@ void newExercise(Integ2State& state, Draws& draws) {
             family = Family::FallThenRise;
         }
     }
-    integrate(state);
+    state.first = integralOf(firstSegment(state));
+    state.second = integralOf(secondSegment(state));
+    state.total = state.first + state.second;
 }
 
-double heightOfFirst(const Integ2State& state, double q) { return state.a1 * q + state.b1; }
+Integ2Segment firstSegment(const Integ2State& s) {
+    return {.slope = s.a1, .intercept = s.b1, .lowerLimit = s.v, .upperLimit = s.k};
+}
 
-double heightOfSecond(const Integ2State& state, double q) { return state.a2 * q + state.b2; }
+Integ2Segment secondSegment(const Integ2State& s) {
+    return {.slope = s.a2, .intercept = s.b2, .lowerLimit = s.k, .upperLimit = s.w};
+}
+
+double heightAt(const Integ2Segment& segment, double q) { return segment.slope * q + segment.intercept; }
 
 bool isRight(const Integ2State& state, double typed) { return isHalfOpenNear(typed, state.total); }
 
 std::string answerText(const Integ2State& state) { return NumberText(RoundSigned2(state.total)); }
 
-Integ2Worked workedFirst(const Integ2State& s) { return workedOut(s.a1, s.b1, s.k, s.v); }
+Integ2Worked workedOut(const Integ2Segment& segment) {
+    const std::string quotient = "((" + NumberText(segment.slope) + "/2)*";
+    const std::string linear = "+" + NumberText(segment.intercept) + "*";
+    return {.integrand = "(" + NumberText(segment.slope) + "Q+" + NumberText(segment.intercept) + ")",
+            .upperQuadraticTerm = quotient + NumberText(segment.upperLimit),
+            .upperLinearTerm = linear + NumberText(segment.upperLimit) + ")",
+            .lowerQuadraticTerm = "-" + quotient + NumberText(segment.lowerLimit),
+            .lowerLinearTerm = linear + NumberText(segment.lowerLimit) + ")"};
+}
 
-Integ2Worked workedSecond(const Integ2State& s) { return workedOut(s.a2, s.b2, s.w, s.k); }
-
-std::string summandText(double integral, const std::string& shown) {
-    return integral > 0 ? NumberText(integral) : "(" + shown + ")";
+std::string summandText(double integral, const std::string& shownSoFar) {
+    return integral > 0 ? NumberText(integral) : "(" + shownSoFar + ")";
 }
 
 }  // namespace tavrune

@@ -6,8 +6,8 @@
 
 namespace tavrune {
 
-/// A function in two linear pieces, P1 = a1 Q + b1 up to the kink k and P2 = a2 Q + b2 after it, whose
-/// integral from v to w is asked for. The pieces need not meet at k.
+/// A function in two linear segments, P1 = a1 Q + b1 up to the kink k and P2 = a2 Q + b2 after it, whose
+/// integral from v to w is asked for. The segments need not meet at k.
 struct Integ2State {
     float a1 = 0;
     float b1 = 0;
@@ -23,37 +23,47 @@ struct Integ2State {
     double total = 0;
 };
 
-/// Draws until the limits stand on the graph and the pieces are of one of three families: a fall and a rise,
-/// a rise and a fall, two falls.
+/// One of the two segments, P = slope Q + intercept, and the limits between which it is integrated.
+struct Integ2Segment {
+    float slope = 0;
+    float intercept = 0;
+    float lowerLimit = 0;
+    float upperLimit = 0;
+};
+
+/// Draws until the limits stand on the graph and the segments are of one of three families: a fall and a
+/// rise, a rise and a fall, two falls.
 void newExercise(Integ2State& state, Draws& draws);
 
-/// The heights of the two pieces at q, wherever q lies.
-[[nodiscard]] double heightOfFirst(const Integ2State& state, double q);
-[[nodiscard]] double heightOfSecond(const Integ2State& state, double q);
+/// The segment from v to k, and the one from k to w.
+[[nodiscard]] Integ2Segment firstSegment(const Integ2State& state);
+[[nodiscard]] Integ2Segment secondSegment(const Integ2State& state);
+
+/// The height of a segment at q, wherever q lies.
+[[nodiscard]] double heightAt(const Integ2Segment& segment, double q);
 
 [[nodiscard]] bool isRight(const Integ2State& state, double typed);
 
 /// The whole integral with two decimals, as the student is shown it.
 [[nodiscard]] std::string answerText(const Integ2State& state);
 
-/// One of the two integrals as the help works it out. A raised 2 stands after each of the squared terms. No
-/// sign is looked at: "+" stands before every b.
+/// One of the two integrals as the help works it out. A raised 2 stands after each of the quadratic terms. No
+/// sign is looked at: "+" stands before every intercept.
 struct Integ2Worked {
     /// "(-1Q+3)"
     std::string integrand;
     /// "((-1/2)*4" and "+3*4)"
-    std::string upperSquared;
-    std::string upperLinear;
+    std::string upperQuadraticTerm;
+    std::string upperLinearTerm;
     /// "-((-1/2)*2" and "+3*2)"
-    std::string lowerSquared;
-    std::string lowerLinear;
+    std::string lowerQuadraticTerm;
+    std::string lowerLinearTerm;
 };
 
-[[nodiscard]] Integ2Worked workedFirst(const Integ2State& state);
-[[nodiscard]] Integ2Worked workedSecond(const Integ2State& state);
+[[nodiscard]] Integ2Worked workedOut(const Integ2Segment& segment);
 
-/// What a term of the last sum shows from now on: its integral if that is above 0, otherwise what it shows
-/// already, in brackets. summandText(0, "5") -> "(5)"
-[[nodiscard]] std::string summandText(double integral, const std::string& shown);
+/// What a term of the last sum shows from now on: its integral if that is above 0, otherwise what it has
+/// shown so far, in brackets. summandText(0, "5") -> "(5)"
+[[nodiscard]] std::string summandText(double integral, const std::string& shownSoFar);
 
 }  // namespace tavrune

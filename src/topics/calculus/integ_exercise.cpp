@@ -1,5 +1,6 @@
 #include "topics/calculus/integ_exercise.h"
 
+#include <array>
 #include <cmath>
 
 #include "numeric/arithmetic.h"
@@ -41,11 +42,12 @@ constexpr int kShapeCount = kShapes.size();
 
 // Where single shapes leave the rules of the texts below.
 
-/// Kept: the help shows these with blanks round the sign, and no other.
-bool hasBlanks(int shape) { return shape == 6 || shape == 7 || shape == 8; }
+/// Kept: the help shows bQ+c with blanks round its sign, and no other shape; nor bQ+c without any minus.
+bool hasBlanks(const IntegState& s) { return s.a == 0 && s.b != 0 && s.c != 0 && (s.b < 0 || s.c < 0); }
 
-/// Kept: the closing bracket stands before the raised 2 or 3 of the last term, not behind it.
-bool closesBeforeRaised(int shape) { return shape == 2 || shape == 3; }
+/// Kept: in aQ² and aQ²+bQ without any minus the closing bracket stands before the raised 2 or 3 of the last
+/// term, not behind it.
+bool closesBeforeRaised(const IntegState& s) { return s.a > 0 && s.b >= 0 && s.c == 0; }
 
 /// Kept: no blank and no bracket of its own for a positive constant.
 constexpr const char* kLowerOfPositiveConstant = "-(";
@@ -109,19 +111,18 @@ std::string integrandTail(const IntegState& s) {
 /// The terms of P at `at`, the first one behind `opening`.
 IntegRow terms(const IntegState& s, const std::string& opening, const std::string& at) {
     IntegRow row;
-    auto& [cubic, raised3, square, raised2, linear] = row;
     const bool bIsFirst = s.a == 0;
     if (s.a != 0) {
-        cubic = opening + "(" + NumberText(s.a) + "/3)·" + at;
-        raised3 = "³";
+        row.cubicTerm = opening + "(" + NumberText(s.a) + "/3)·" + at;
+        row.cube = "³";
     }
     if (s.b != 0) {
-        square = bIsFirst ? opening + "(" + NumberText(s.b) : signOf(s.b) + "(" + sizeText(s.b);
-        square += "/2)·" + at;
-        raised2 = "²";
+        row.quadraticTerm = bIsFirst ? opening + "(" + NumberText(s.b) : signOf(s.b) + "(" + sizeText(s.b);
+        row.quadraticTerm += "/2)·" + at;
+        row.square = "²";
     }
     if (s.c != 0) {
-        linear = term(s.c, bIsFirst && s.b == 0) + "·" + at;
+        row.linearTerm = term(s.c, bIsFirst && s.b == 0) + "·" + at;
     }
     return row;
 }
@@ -131,10 +132,10 @@ bool isConstant(const IntegState& s) { return s.a == 0 && s.b == 0; }
 /// P at a limit, in brackets.
 IntegRow bracketedTerms(const IntegState& s, const std::string& opening, const std::string& at) {
     IntegRow row = terms(s, opening, at);
-    if (closesBeforeRaised(s.shape)) {
-        row[s.b != 0 ? 2 : 0] += ")";
+    if (closesBeforeRaised(s)) {
+        (s.b != 0 ? row.quadraticTerm : row.cubicTerm) += ")";
     } else {
-        row[4] += ")";
+        row.linearTerm += ")";
     }
     return row;
 }
@@ -147,7 +148,9 @@ std::string constantAt(const IntegState& s, const char* openingIfPositive, const
 
 IntegRow upperAt(const IntegState& s, const std::string& at) {
     if (isConstant(s)) {
-        return {"", "", "", "", constantAt(s, "(", "(", at)};
+        IntegRow row;
+        row.linearTerm = constantAt(s, "(", "(", at);
+        return row;
     }
     return bracketedTerms(s, "(", at);
 }
@@ -155,7 +158,9 @@ IntegRow upperAt(const IntegState& s, const std::string& at) {
 IntegRow lowerAt(const IntegState& s, const std::string& at) {
     if (isConstant(s)) {
         // It follows the upper one, which stands in the last label of its row, in the first one of its own.
-        return {constantAt(s, kLowerOfPositiveConstant, "- (", at), "", "", "", ""};
+        IntegRow row;
+        row.cubicTerm = constantAt(s, kLowerOfPositiveConstant, "- (", at);
+        return row;
     }
     return bracketedTerms(s, "- (", at);
 }
@@ -199,7 +204,7 @@ std::string answerText(const IntegState& state) { return NumberText(RoundSigned2
 std::string functionText(const IntegState& state) { return sum(state); }
 
 IntegWorked workedSolution(const IntegState& s) {
-    return {.function = sum(s, hasBlanks(s.shape) ? " " : ""),
+    return {.function = sum(s, hasBlanks(s) ? " " : ""),
             .primitive = terms(s, "", "Q"),
             .integrandHead = integrandHead(s),
             .integrandTail = integrandTail(s),

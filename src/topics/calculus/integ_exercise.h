@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "numeric/draws.h"
@@ -38,9 +37,15 @@ void newExercise(IntegState& state, Draws& draws);
 /// p as the task shows it: "-2Q²+3Q-4".
 [[nodiscard]] std::string functionText(const IntegState& state);
 
-/// A sum of terms cut into labels: the cubic term, its raised 3, the square one, its raised 2, the linear
-/// one. What an exercise has no term for is empty; together they read as the sum.
-using IntegRow = std::array<std::string, 5>;
+/// A sum of terms cut into labels. What an exercise has no term for is empty; together they read as the sum.
+struct IntegRow {
+    std::string cubicTerm;
+    /// The raised 3 of the cubic term, and the raised 2 of the quadratic one.
+    std::string cube;
+    std::string quadraticTerm;
+    std::string square;
+    std::string linearTerm;
+};
 
 /// The steps of the worked solution.
 struct IntegWorked {

@@ -1,8 +1,10 @@
 #include "topics/economics/afsaet.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "controls/fraction.h"
+#include "controls/line_control.h"
 #include "controls/panel.h"
 #include "graph/graph_box.h"
 #include "numeric/text.h"
@@ -14,110 +16,107 @@ namespace {
 // Lighter than the green of the verdict.
 const QColor kLightGreen = rgb(0, 190, 0);
 /// The price at the top of the graph, whose own scale runs downwards.
-constexpr int kTop = 10;
+constexpr int kTop = kAfsaetEnd;
+/// Between a fraction and the text behind it.
 constexpr double kGap = 6;
+
+/// The steps of a help panel, in their order.
+struct Plan {
+    AfsaetHelp help;
+    /// What the names of its controls begin with.
+    const char* prefix;
+    std::vector<AfsaetUnknown> steps;
+};
+
+const std::vector<Plan>& plans() {
+    using enum AfsaetUnknown;
+    static const std::vector<Plan> kPlans{
+        {AfsaetHelp::TwoPoints, "twoPoints", {Slope, Intercept}},
+        {AfsaetHelp::ElasticityAtPointPrice, "epAtPointPrice", {Slope, Intercept}},
+        {AfsaetHelp::ElasticityAtOtherPrice, "epAtOtherPrice", {Slope, Intercept}},
+        {AfsaetHelp::ElasticityAtPointQuantity, "epAtPointQuantity", {Slope, Intercept}},
+        {AfsaetHelp::ElasticityAtOtherQuantity, "epAtOtherQuantity", {Slope, Intercept}},
+        {AfsaetHelp::PointAndSlope, "pointAndSlope", {Intercept}},
+        {AfsaetHelp::TwoElasticities, "twoElasticities", {MaxPrice, MaxQuantity, Slope}},
+        {AfsaetHelp::ElasticityAtPriceAndSlope, "epAtPriceAndSlope", {Quantity, Intercept}},
+        {AfsaetHelp::ElasticityAtQuantityAndSlope, "epAtQuantityAndSlope", {Price, Intercept}},
+    };
+    return kPlans;
+}
+
+/// What the names of the controls of a step end in.
+QString nameOf(AfsaetUnknown unknown) {
+    switch (unknown) {
+        case AfsaetUnknown::Slope:
+            return "Slope";
+        case AfsaetUnknown::Intercept:
+            return "Intercept";
+        case AfsaetUnknown::MaxPrice:
+            return "MaxPrice";
+        case AfsaetUnknown::MaxQuantity:
+            return "MaxQuantity";
+        case AfsaetUnknown::Quantity:
+            return "Quantity";
+        case AfsaetUnknown::Price:
+            return "Price";
+    }
+    return {};
+}
+
+/// "twoPoints" -> "TwoPoints"
+QString capitalised(const QString& name) { return name.left(1).toUpper() + name.mid(1); }
 
 }  // namespace
 
 Afsaet::Afsaet(Draws& draws) : ExerciseForm(PageName::Afsaet, draws), ui_(std::make_unique<Ui::Afsaet>()) {
     setUp(*ui_);
-    enterChain({ui_->slope, ui_->intercept, ui_->rangeStart, ui_->rangeEnd}, LastBox::OkOrStay);
+    boxes_ = {ui_->slope, ui_->intercept, ui_->rangeStart, ui_->rangeEnd};
+    enterChain({boxes_.a, boxes_.b, boxes_.Qlo, boxes_.Qhi}, LastBox::OkOrStay);
     helps_ = helpPanels();
     for (const HelpPanel& help : helps_) {
-        for (std::size_t number = 0; number < help.steps.size(); ++number) {
-            onClick(help.steps[number].vis, [this, &help, number] { showStep(help, number); });
+        for (const Step& step : help.steps) {
+            onClick(step.vis, [this, &help, &step] { showStep(help, step); });
         }
-        onClick(help.close, [this, &help] { closeHelp(help); });
+        onClick(help.close, [this, &help] { closePanel(help); });
     }
 }
 
 Afsaet::~Afsaet() = default;
 
-/// In the order of `AfsaetHelp`.
-std::array<Afsaet::HelpPanel, kAfsaetHelps> Afsaet::helpPanels() const {
-    const Ui::Afsaet& ui = *ui_;
-    return {{
-        {AfsaetHelp::TwoPoints,
-         ui.twoPointsHelpPanel,
-         ui.closeTwoPointsHelp,
-         {{ui.showTwoPointsSlope, ui.twoPointsWorkedSlopeResult, ui.twoPointsSlopeStep,
-           ui.twoPointsWorkedSlopeNumerator, ui.twoPointsWorkedSlopeBar, ui.twoPointsWorkedSlopeDenominator},
-          {ui.showTwoPointsIntercept, ui.twoPointsWorkedIntercept}},
-         ui.twoPointsWorkedResultHeading,
-         ui.twoPointsWorkedResult},
-        {AfsaetHelp::ElasticityAtPointPrice,
-         ui.epAtPointPriceHelpPanel,
-         ui.closeEpAtPointPriceHelp,
-         {{ui.showEpAtPointPriceSlope, ui.epAtPointPriceWorkedSlopeResult, ui.epAtPointPriceSlopeStep,
-           ui.epAtPointPriceWorkedSlopeNumerator, ui.epAtPointPriceWorkedSlopeBar,
-           ui.epAtPointPriceWorkedSlopeDenominator},
-          {ui.showEpAtPointPriceIntercept, ui.epAtPointPriceWorkedIntercept}},
-         ui.epAtPointPriceWorkedResultHeading,
-         ui.epAtPointPriceWorkedResult},
-        {AfsaetHelp::ElasticityAtOtherPrice,
-         ui.epAtOtherPriceHelpPanel,
-         ui.closeEpAtOtherPriceHelp,
-         {{ui.showEpAtOtherPriceSlope, ui.epAtOtherPriceWorkedSlopeResult, ui.epAtOtherPriceSlopeStep,
-           ui.epAtOtherPriceWorkedSlopeNumerator, ui.epAtOtherPriceWorkedSlopeBar,
-           ui.epAtOtherPriceWorkedSlopeDenominator},
-          {ui.showEpAtOtherPriceIntercept, ui.epAtOtherPriceWorkedIntercept}},
-         ui.epAtOtherPriceWorkedResultHeading,
-         ui.epAtOtherPriceWorkedResult},
-        {AfsaetHelp::ElasticityAtPointQuantity,
-         ui.epAtPointQuantityHelpPanel,
-         ui.closeEpAtPointQuantityHelp,
-         {{ui.showEpAtPointQuantitySlope, ui.epAtPointQuantityWorkedSlopeResult,
-           ui.epAtPointQuantitySlopeStep, ui.epAtPointQuantityWorkedSlopeNumerator,
-           ui.epAtPointQuantityWorkedSlopeBar, ui.epAtPointQuantityWorkedSlopeDenominator},
-          {ui.showEpAtPointQuantityIntercept, ui.epAtPointQuantityWorkedIntercept}},
-         ui.epAtPointQuantityWorkedResultHeading,
-         ui.epAtPointQuantityWorkedResult},
-        {AfsaetHelp::ElasticityAtOtherQuantity,
-         ui.epAtOtherQuantityHelpPanel,
-         ui.closeEpAtOtherQuantityHelp,
-         {{ui.showEpAtOtherQuantitySlope, ui.epAtOtherQuantityWorkedSlopeResult,
-           ui.epAtOtherQuantitySlopeStep, ui.epAtOtherQuantityWorkedSlopeNumerator,
-           ui.epAtOtherQuantityWorkedSlopeBar, ui.epAtOtherQuantityWorkedSlopeDenominator},
-          {ui.showEpAtOtherQuantityIntercept, ui.epAtOtherQuantityWorkedIntercept}},
-         ui.epAtOtherQuantityWorkedResultHeading,
-         ui.epAtOtherQuantityWorkedResult},
-        {AfsaetHelp::PointAndSlope,
-         ui.pointAndSlopeHelpPanel,
-         ui.closePointAndSlopeHelp,
-         {{ui.showPointAndSlopeIntercept, ui.pointAndSlopeWorkedIntercept}},
-         ui.pointAndSlopeWorkedResultHeading,
-         ui.pointAndSlopeWorkedResult},
-        {AfsaetHelp::TwoElasticities,
-         ui.twoElasticitiesHelpPanel,
-         ui.closeTwoElasticitiesHelp,
-         {{ui.showTwoElasticitiesMaxPrice, ui.twoElasticitiesWorkedMaxPrice},
-          {ui.showTwoElasticitiesMaxQuantity, ui.twoElasticitiesWorkedMaxQuantity},
-          {ui.showTwoElasticitiesSlope, ui.twoElasticitiesWorkedSlope}},
-         ui.twoElasticitiesWorkedResultHeading,
-         ui.twoElasticitiesWorkedResult},
-        {AfsaetHelp::ElasticityAtPriceAndSlope,
-         ui.epAtPriceAndSlopeHelpPanel,
-         ui.closeEpAtPriceAndSlopeHelp,
-         {{ui.showEpAtPriceAndSlopeQuantity, ui.epAtPriceAndSlopeWorkedQuantity},
-          {ui.showEpAtPriceAndSlopeIntercept, ui.epAtPriceAndSlopeWorkedIntercept}},
-         ui.epAtPriceAndSlopeWorkedResultHeading,
-         ui.epAtPriceAndSlopeWorkedResult},
-        {AfsaetHelp::ElasticityAtQuantityAndSlope,
-         ui.epAtQuantityAndSlopeHelpPanel,
-         ui.closeEpAtQuantityAndSlopeHelp,
-         {{ui.showEpAtQuantityAndSlopePrice, ui.epAtQuantityAndSlopeWorkedPrice},
-          {ui.showEpAtQuantityAndSlopeIntercept, ui.epAtQuantityAndSlopeWorkedIntercept}},
-         ui.epAtQuantityAndSlopeWorkedResultHeading,
-         ui.epAtQuantityAndSlopeWorkedResult},
-    }};
+QWidget* Afsaet::Step::shown() const {
+    return box != nullptr ? static_cast<QWidget*>(box) : static_cast<QWidget*>(text);
 }
 
-std::array<AnswerBox*, 4> Afsaet::answerBoxes() const {
-    return {ui_->slope, ui_->intercept, ui_->rangeStart, ui_->rangeEnd};
+Afsaet::Step Afsaet::stepOf(const QString& prefix, AfsaetUnknown unknown) const {
+    const QString worked = prefix + "Worked" + nameOf(unknown);
+    auto* const box = design()->findChild<Panel*>(prefix + nameOf(unknown) + "Step");
+    return {.unknown = unknown,
+            .name = worked,
+            .vis = design()->findChild<Button*>("show" + capitalised(prefix) + nameOf(unknown)),
+            .text = design()->findChild<Label*>(box != nullptr ? worked + "Result" : worked),
+            .box = box};
+}
+
+std::vector<Afsaet::HelpPanel> Afsaet::helpPanels() const {
+    std::vector<HelpPanel> panels;
+    for (const Plan& plan : plans()) {
+        const QString prefix = plan.prefix;
+        std::vector<Step> steps;
+        for (const AfsaetUnknown unknown : plan.steps) {
+            steps.push_back(stepOf(prefix, unknown));
+        }
+        panels.push_back({.help = plan.help,
+                          .panel = design()->findChild<Panel*>(prefix + "HelpPanel"),
+                          .close = design()->findChild<Button*>("close" + capitalised(prefix) + "Help"),
+                          .steps = std::move(steps),
+                          .heading = design()->findChild<Label*>(prefix + "WorkedResultHeading"),
+                          .equation = design()->findChild<Label*>(prefix + "WorkedResult")});
+    }
+    return panels;
 }
 
 void Afsaet::newExercise() {
-    clearBoxes({ui_->slope, ui_->intercept, ui_->rangeStart, ui_->rangeEnd});
+    clearBoxes({boxes_.a, boxes_.b, boxes_.Qlo, boxes_.Qhi});
     ui_->graph->Cls();
     showAsking();
 
@@ -129,7 +128,7 @@ void Afsaet::newExercise() {
     ui_->secondFact->setCaption(task.secondFact);
     ui_->givenRange->setCaption(task.range);
     for (const HelpPanel& help : helps_) {
-        closeHelp(help);
+        closePanel(help);
     }
 }
 
@@ -139,71 +138,67 @@ void Afsaet::drawLine(const AfsaetAnswer& line, const QColor& colour) {
 }
 
 void Afsaet::judge() {
-    const std::array<AnswerBox*, 4> boxes = answerBoxes();
-    AfsaetAnswer typed{};
-    std::transform(boxes.begin(), boxes.end(), typed.begin(),
-                   [](const AnswerBox* box) { return box->value(); });
-    const std::array<bool, 4> right = tavrune::judge(state_, typed);
-    bool allRight = true;
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        boxes[i]->mark(!right[i]);
-        allRight = allRight && right[i];
-    }
-    if (allRight) {
+    const auto& [a, b, Qlo, Qhi] = boxes_;
+    const AfsaetAnswer typed{a->value(), b->value(), Qlo->value(), Qhi->value()};
+    const AfsaetFields<bool> right = tavrune::judge(state_, typed);
+    a->mark(!right.a);
+    b->mark(!right.b);
+    Qlo->mark(!right.Qlo);
+    Qhi->mark(!right.Qhi);
+    if (right == kAfsaetAllRight) {
         solved();
         drawLine(answerOf(state_), kLightGreen);
     } else {
         failed();
         drawLine(typed, kRed);
-        focusOn(ui_->slope);
+        focusOn(boxes_.a);
     }
 }
 
 void Afsaet::giveAnswer() {
-    const std::array<AnswerBox*, 4> boxes = answerBoxes();
     const AfsaetAnswer answer = answerOf(state_);
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        boxes[i]->mark(false);
-        boxes[i]->setContent(NumberText(answer[i]));
+    for (const auto& [box, number] : {std::pair{boxes_.a, answer.a},
+                                      {boxes_.b, answer.b},
+                                      {boxes_.Qlo, answer.Qlo},
+                                      {boxes_.Qhi, answer.Qhi}}) {
+        box->mark(false);
+        box->setContent(NumberText(number));
     }
     given();
     drawLine(answer, kLightGreen);
 }
 
 void Afsaet::help() {
-    const HelpPanel& help = helps_.at(static_cast<std::size_t>(helpFor(state_)));
-    openPanel(help.panel, help.steps.front().vis);
+    const AfsaetHelp wanted = helpFor(state_);
+    const auto help = std::find_if(helps_.begin(), helps_.end(),
+                                   [wanted](const HelpPanel& each) { return each.help == wanted; });
+    openPanel(help->panel, help->steps.front().vis);
 }
 
-void Afsaet::showStep(const HelpPanel& help, std::size_t number) {
-    const Step& step = help.steps[number];
-    const AfsaetStep worked = workedSteps(state_, help.help).at(number);
+void Afsaet::showStep(const HelpPanel& help, const Step& step) {
+    const AfsaetStep worked = workedStep(state_, help.help, step.unknown);
     step.text->setCaption(worked.text);
     if (step.box != nullptr) {
-        const Fraction fraction(step.numerator, step.bar, step.denominator);
+        const Fraction fraction(step.box->findChild<Label*>(step.name + "Numerator"),
+                                step.box->findChild<LineControl*>(step.name + "Bar"),
+                                step.box->findChild<Label*>(step.name + "Denominator"));
         fraction.setTexts(worked.numerator, worked.denominator);
         step.text->setLeft(fraction.right() + kGap);
-        step.box->show();
-    } else {
-        step.text->show();
     }
-    if (number + 1 == help.steps.size()) {
+    step.shown()->show();
+    if (step.unknown == help.steps.back().unknown) {
         help.equation->setCaption(equationText(state_));
         showAll({help.heading, help.equation});
     }
 }
 
-void Afsaet::closeHelp(const HelpPanel& help) {
+void Afsaet::closePanel(const HelpPanel& help) {
     help.panel->hide();
     for (const Step& step : help.steps) {
-        if (step.box != nullptr) {
-            step.box->hide();
-        } else {
-            step.text->hide();
-        }
+        step.shown()->hide();
     }
     hideAll({help.heading, help.equation});
-    focusOn(ui_->slope);
+    focusOn(boxes_.a);
 }
 
 }  // namespace tavrune

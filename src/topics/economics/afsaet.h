@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <memory>
 #include <vector>
 
@@ -9,7 +8,6 @@
 
 namespace tavrune {
 
-class LineControl;
 class Panel;
 
 namespace Ui {
@@ -33,14 +31,18 @@ protected:
     void help() override;
 
 private:
-    /// What a "Vis" shows: a text, in some steps behind a fraction in a box of their own.
+    /// A step of a help panel.
     struct Step {
+        AfsaetUnknown unknown;
+        /// What its controls are called: "twoPointsWorkedSlope".
+        QString name;
         Button* vis;
         Label* text;
-        Panel* box = nullptr;
-        Label* numerator = nullptr;
-        LineControl* bar = nullptr;
-        Label* denominator = nullptr;
+        /// Holds the text and a fraction before it; null where there is none.
+        Panel* box;
+
+        /// What its "Vis" shows.
+        [[nodiscard]] QWidget* shown() const;
     };
 
     struct HelpPanel {
@@ -53,14 +55,17 @@ private:
         Label* equation;
     };
 
-    [[nodiscard]] std::array<HelpPanel, kAfsaetHelps> helpPanels() const;
-    [[nodiscard]] std::array<AnswerBox*, 4> answerBoxes() const;
+    /// What is called `prefix` with the name of the unknown, and so on.
+    [[nodiscard]] Step stepOf(const QString& prefix, AfsaetUnknown unknown) const;
+    /// For each help one.
+    [[nodiscard]] std::vector<HelpPanel> helpPanels() const;
     void drawLine(const AfsaetAnswer& line, const QColor& colour);
-    void showStep(const HelpPanel& help, std::size_t number);
-    void closeHelp(const HelpPanel& help);
+    void showStep(const HelpPanel& help, const Step& step);
+    void closePanel(const HelpPanel& help);
 
     std::unique_ptr<Ui::Afsaet> ui_;
-    std::array<HelpPanel, kAfsaetHelps> helps_;
+    AfsaetFields<AnswerBox*> boxes_;
+    std::vector<HelpPanel> helps_;
     AfsaetState state_;
 };
 

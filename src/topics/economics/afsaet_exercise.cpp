@@ -1,6 +1,7 @@
 #include "topics/economics/afsaet_exercise.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "numeric/arithmetic.h"
@@ -11,9 +12,7 @@
 namespace tavrune {
 namespace {
 
-constexpr int kKinds = 7;
-/// Both axes of the graph end here.
-constexpr int kEnd = 10;
+constexpr int kEnd = kAfsaetEnd;
 constexpr int kSmallestB = 3;
 
 enum class Outcome { Rejected, Accepted };
@@ -54,38 +53,8 @@ struct Attempt {
     }
 };
 
-float drawCoordinate(Draws& draws) { return Int(draws.Rnd() * 10); }
-
-// Kept: -1 only from a draw of 0.
-float drawNegative(Draws& draws) { return Int(-draws.Rnd() * 5) - 1; }
-
 AfsaetInterval drawInterval(Draws& draws) {
     return draws.Rnd() > 0.5 ? AfsaetInterval::InPrices : AfsaetInterval::InQuantities;
-}
-
-/// The numbers that all kinds draw.
-Attempt drawAttempt(Draws& draws) {
-    draws.Randomize();
-    Attempt t;
-    t.kind = static_cast<AfsaetKind>(Int(draws.Rnd() * kKinds));
-    t.P1 = drawCoordinate(draws);
-    t.P2 = drawCoordinate(draws);
-    t.Q1 = drawCoordinate(draws);
-    t.Q2 = drawCoordinate(draws);
-    t.Ep = drawNegative(draws);
-    t.Ep2 = drawNegative(draws);
-    t.slope = drawNegative(draws);
-    // Kept: Q1 can become 0 again when the two change places.
-    if (t.Q1 == 0) {
-        t.Q1 = 1;
-    }
-    if (t.P1 < t.P2) {
-        std::swap(t.P1, t.P2);
-    }
-    if (t.Q1 > t.Q2) {
-        std::swap(t.Q1, t.Q2);
-    }
-    return t;
 }
 
 /// The denominators of the kinds. Every kind wants them all, also those that it does not use: so P1 and Q1
@@ -127,7 +96,7 @@ Outcome fromTwoPoints(Attempt& t, Draws& draws) {
     t.b = -t.a * t.Q1 + t.P1;
     if (drawInterval(draws) == AfsaetInterval::InPrices) {
         t.Plo = t.P2 - Int(draws.Rnd() * t.P2);
-        t.Phi = t.P1 + Int(draws.Rnd() * (10 - t.P1));
+        t.Phi = t.P1 + Int(draws.Rnd() * (kEnd - t.P1));
         tellInPricesWithinGraph(t);
     } else {
         const float Qlo = t.Q1 - Int(draws.Rnd() * t.Q1);
@@ -147,7 +116,7 @@ Outcome fromElasticityAtPointPrice(Attempt& t, Draws& draws) {
     }
     if (drawInterval(draws) == AfsaetInterval::InPrices) {
         t.Plo = Int(t.P2 / 2) - Int(draws.Rnd() * Int(t.P2 / 2));
-        t.Phi = (t.P1 + Int(t.P1 / 2)) + Int(draws.Rnd() * Int(10 - t.P1 / 2));
+        t.Phi = (t.P1 + Int(t.P1 / 2)) + Int(draws.Rnd() * Int(kEnd - t.P1 / 2));
         tellInPricesWithinGraph(t);
     } else {
         const float Qlo = Int(t.Q1 / 2) - Int(draws.Rnd() * (t.Q1 / 2));
@@ -170,7 +139,7 @@ Outcome fromElasticityAtOtherPrice(Attempt& t, Draws& draws) {
     }
     if (drawInterval(draws) == AfsaetInterval::InPrices) {
         t.Plo = t.P2 - Int(t.P2 / 2);
-        t.Phi = t.P1 + Int(draws.Rnd() * (10 - t.P1));
+        t.Phi = t.P1 + Int(draws.Rnd() * (kEnd - t.P1));
         tellInPricesWithinGraph(t);
     } else {
         const float Qlo = t.Q1 - Int(draws.Rnd() * t.Q1);
@@ -235,8 +204,8 @@ Outcome fromTwoElasticities(Attempt& t, Draws& draws) {
     t.a = -t.b / t.Qmax;
     t.Pmax = t.b;
     const float Qcap = t.cappedQCross();
-    const float floorPrice = std::max(10 * t.a + t.b, 0.0F);
-    const bool fallsEnough = -10 * t.a >= 2;
+    const float floorPrice = std::max(kEnd * t.a + t.b, 0.0F);
+    const bool fallsEnough = -kEnd * t.a >= 2;
     if (drawInterval(draws) == AfsaetInterval::InPrices && fallsEnough) {
         t.interval = AfsaetInterval::InPrices;
         t.Plo = Int(floorPrice + 1);
@@ -286,6 +255,38 @@ constexpr std::array kWays{
     fromTwoPoints,       fromPointAndElasticityAtPrice, fromPointAndElasticityAtQuantity, fromPointAndSlope,
     fromTwoElasticities, fromElasticityAtPriceAndSlope, fromElasticityAtQuantityAndSlope,
 };
+
+constexpr int kKinds = static_cast<int>(kWays.size());
+
+float drawCoordinate(Draws& draws) { return Int(draws.Rnd() * kEnd); }
+
+// Kept: -1 only from a draw of 0.
+float drawNegative(Draws& draws) { return Int(-draws.Rnd() * 5) - 1; }
+
+/// The numbers that all kinds draw.
+Attempt drawAttempt(Draws& draws) {
+    draws.Randomize();
+    Attempt t;
+    t.kind = static_cast<AfsaetKind>(Int(draws.Rnd() * kKinds));
+    t.P1 = drawCoordinate(draws);
+    t.P2 = drawCoordinate(draws);
+    t.Q1 = drawCoordinate(draws);
+    t.Q2 = drawCoordinate(draws);
+    t.Ep = drawNegative(draws);
+    t.Ep2 = drawNegative(draws);
+    t.slope = drawNegative(draws);
+    // Kept: Q1 can become 0 again when the two change places.
+    if (t.Q1 == 0) {
+        t.Q1 = 1;
+    }
+    if (t.P1 < t.P2) {
+        std::swap(t.P1, t.P2);
+    }
+    if (t.Q1 > t.Q2) {
+        std::swap(t.Q1, t.Q2);
+    }
+    return t;
+}
 
 bool isAcceptable(Attempt& t, Draws& draws) {
     if (hasZeroDenominator(t) || kWays.at(static_cast<std::size_t>(t.kind))(t, draws) == Outcome::Rejected) {
@@ -402,14 +403,8 @@ std::string rangeText(const AfsaetState& s) {
 
 /// "b = P1 - (slope)*Q1 = ", and what it comes to.
 AfsaetStep interceptStep(const AfsaetState& s, const std::string& slope) {
-    return {.numerator = "",
-            .denominator = "",
-            .text = "b = " + NumberText(s.P1) + " - (" + slope + ")*" + NumberText(s.Q1) + " = " +
-                    NumberText(s.b)};
-}
-
-AfsaetStep plainStep(std::string text) {
-    return {.numerator = "", .denominator = "", .text = std::move(text)};
+    return {AfsaetUnknown::Intercept,
+            "b = " + NumberText(s.P1) + " - (" + slope + ")*" + NumberText(s.Q1) + " = " + NumberText(s.b)};
 }
 
 std::string differenceText(double minuend, double subtrahend) {
@@ -417,25 +412,28 @@ std::string differenceText(double minuend, double subtrahend) {
 }
 
 std::vector<AfsaetStep> stepsOfTwoPoints(const AfsaetState& s) {
-    return {{.numerator = differenceText(s.P1, s.P2),
-             .denominator = differenceText(s.Q1, s.Q2),
-             .text = "= " + NumberText(s.a)},
+    return {{.unknown = AfsaetUnknown::Slope,
+             .text = "= " + NumberText(s.a),
+             .numerator = differenceText(s.P1, s.P2),
+             .denominator = differenceText(s.Q1, s.Q2)},
             interceptStep(s, NumberText(s.a))};
 }
 
 std::vector<AfsaetStep> stepsOfElasticityAtPoint(const AfsaetState& s) {
     const std::string slope = quotientText(s.P1, s.Ep * s.Q1);
-    return {{.numerator = NumberText(s.P1),
-             .denominator = NumberText(s.Ep) + "*" + NumberText(s.Q1),
-             .text = "= " + slope + " = " + NumberText(s.a)},
+    return {{.unknown = AfsaetUnknown::Slope,
+             .text = "= " + slope + " = " + NumberText(s.a),
+             .numerator = NumberText(s.P1),
+             .denominator = NumberText(s.Ep) + "*" + NumberText(s.Q1)},
             interceptStep(s, slope)};
 }
 
 std::vector<AfsaetStep> stepsOfElasticityBesidePoint(const AfsaetState& s) {
     const std::string slope = quotientText(s.P1 - s.P2, s.Q1 - s.Q2);
-    return {{.numerator = differenceText(s.P1, s.P2),
-             .denominator = differenceText(s.Q1, s.Q2),
-             .text = "= " + slope + " = " + NumberText(s.a)},
+    return {{.unknown = AfsaetUnknown::Slope,
+             .text = "= " + slope + " = " + NumberText(s.a),
+             .numerator = differenceText(s.P1, s.P2),
+             .denominator = differenceText(s.Q1, s.Q2)},
             interceptStep(s, slope)};
 }
 
@@ -448,9 +446,11 @@ std::vector<AfsaetStep> stepsOfTwoElasticities(const AfsaetState& s) {
     // Whether 2 decimals hold all of Pmax.
     const bool isShort = Int(s.Pmax * 100) / 100 == -s.P1 / s.Ep + s.P1;
     const std::string quotient = isShort ? "-" + Pmax + "/" + Qmax : "-(" + fraction + ")/" + Qmax;
-    return {plainStep("Pmax = " + P1 + " - " + P1 + "/" + NumberText(s.Ep) + " = " + fraction + " = " + Pmax),
-            plainStep("Qmax = " + Q1 + " - " + Q1 + "*" + NumberText(s.Ep2) + " = " + Qmax),
-            plainStep("a = " + quotient + " = " + NumberText(s.a))};
+    return {
+        {AfsaetUnknown::MaxPrice,
+         "Pmax = " + P1 + " - " + P1 + "/" + NumberText(s.Ep) + " = " + fraction + " = " + Pmax},
+        {AfsaetUnknown::MaxQuantity, "Qmax = " + Q1 + " - " + Q1 + "*" + NumberText(s.Ep2) + " = " + Qmax},
+        {AfsaetUnknown::Slope, "a = " + quotient + " = " + NumberText(s.a)}};
 }
 
 std::vector<AfsaetStep> stepsOfElasticityAtPriceAndSlope(const AfsaetState& s) {
@@ -461,14 +461,15 @@ std::vector<AfsaetStep> stepsOfElasticityAtPriceAndSlope(const AfsaetState& s) {
     // Whether 2 decimals hold all of Q1.
     const bool isShort = Int(s.Q1 * 100) / 100 == s.P1 / (s.Ep * s.a);
     const std::string product = "(" + NumberText(s.Ep) + "*" + a + ")";
-    return {plainStep("Q = " + P1 + "/" + product + " = " + (isShort ? "" : fraction + " = ") + Q1),
-            plainStep("b = " + P1 + " - (" + a + "*" + (isShort ? Q1 : "(" + fraction + ")") +
-                      ") = " + NumberText(s.b))};
+    return {{AfsaetUnknown::Quantity,
+             "Q = " + P1 + "/" + product + " = " + (isShort ? "" : fraction + " = ") + Q1},
+            {AfsaetUnknown::Intercept, "b = " + P1 + " - (" + a + "*" +
+                                           (isShort ? Q1 : "(" + fraction + ")") + ") = " + NumberText(s.b)}};
 }
 
 std::vector<AfsaetStep> stepsOfElasticityAtQuantityAndSlope(const AfsaetState& s) {
-    return {plainStep("P = " + NumberText(s.a) + "*(" + NumberText(s.Ep) + ")*" + NumberText(s.Q1) + " = " +
-                      NumberText(s.P1)),
+    return {{AfsaetUnknown::Price, "P = " + NumberText(s.a) + "*(" + NumberText(s.Ep) + ")*" +
+                                       NumberText(s.Q1) + " = " + NumberText(s.P1)},
             interceptStep(s, NumberText(s.a))};
 }
 
@@ -484,11 +485,11 @@ void newExercise(AfsaetState& state, Draws& draws) {
 
 AfsaetAnswer answerOf(const AfsaetState& state) { return {state.a, state.b, state.Qlo, state.Qhi}; }
 
-std::array<bool, 4> judge(const AfsaetState& state, const AfsaetAnswer& typed) {
-    const AfsaetAnswer answer = answerOf(state);
-    std::array<bool, 4> right{};
-    std::transform(typed.begin(), typed.end(), answer.begin(), right.begin(), isExactly);
-    return right;
+AfsaetFields<bool> judge(const AfsaetState& state, const AfsaetAnswer& typed) {
+    return {.a = isExactly(typed.a, state.a),
+            .b = isExactly(typed.b, state.b),
+            .Qlo = isExactly(typed.Qlo, state.Qlo),
+            .Qhi = isExactly(typed.Qhi, state.Qhi)};
 }
 
 AfsaetTask taskTexts(const AfsaetState& state) {
@@ -540,6 +541,13 @@ std::vector<AfsaetStep> workedSteps(const AfsaetState& state, AfsaetHelp help) {
             return stepsOfElasticityAtQuantityAndSlope(state);
     }
     return {};
+}
+
+AfsaetStep workedStep(const AfsaetState& state, AfsaetHelp help, AfsaetUnknown unknown) {
+    const std::vector<AfsaetStep> steps = workedSteps(state, help);
+    const auto step = std::find_if(steps.begin(), steps.end(),
+                                   [unknown](const AfsaetStep& each) { return each.unknown == unknown; });
+    return step == steps.end() ? AfsaetStep{.unknown = unknown, .text = ""} : *step;
 }
 
 std::string equationText(const AfsaetState& state) {

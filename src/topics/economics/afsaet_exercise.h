@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <vector>
 
@@ -18,6 +17,9 @@ enum class AfsaetKind {
     ElasticityAtPriceAndSlope,
     ElasticityAtQuantityAndSlope,
 };
+
+/// Both axes of the graph end here.
+inline constexpr int kAfsaetEnd = 10;
 
 /// How the range of validity is told.
 enum class AfsaetInterval { InPrices, InQuantities };
@@ -54,13 +56,27 @@ struct AfsaetState {
 /// Draws until a kind, its numbers and its interval go together, with a new kind at each try.
 void newExercise(AfsaetState& state, Draws& draws);
 
-/// a, b, and the lower and the upper bound of Q, in the order in which they are typed.
-using AfsaetAnswer = std::array<double, 4>;
+/// One of something for each number of the answer: a, b, and the lower and the upper bound of Q, in the order
+/// in which they are typed.
+template <class T>
+struct AfsaetFields {
+    T a{};
+    T b{};
+    T Qlo{};
+    T Qhi{};
+
+    bool operator==(const AfsaetFields&) const = default;
+};
+
+using AfsaetAnswer = AfsaetFields<double>;
 
 [[nodiscard]] AfsaetAnswer answerOf(const AfsaetState& state);
 
+/// What `judge` gives for the answer.
+inline constexpr AfsaetFields<bool> kAfsaetAllRight{true, true, true, true};
+
 /// Which of the four are right, to the last decimal.
-[[nodiscard]] std::array<bool, 4> judge(const AfsaetState& state, const AfsaetAnswer& typed);
+[[nodiscard]] AfsaetFields<bool> judge(const AfsaetState& state, const AfsaetAnswer& typed);
 
 /// What is asked, the two facts and the range.
 struct AfsaetTask {
@@ -85,21 +101,26 @@ enum class AfsaetHelp {
     ElasticityAtQuantityAndSlope,
 };
 
-inline constexpr int kAfsaetHelps = 9;
-
 [[nodiscard]] AfsaetHelp helpFor(const AfsaetState& state);
+
+/// What a step of a worked solution finds: the slope a, the intercept b, where the line meets an axis, or the
+/// other coordinate of a point.
+enum class AfsaetUnknown { Slope, Intercept, MaxPrice, MaxQuantity, Quantity, Price };
 
 /// One step of a worked solution: a text, in some behind a fraction.
 struct AfsaetStep {
-    std::string numerator;
-    std::string denominator;
+    AfsaetUnknown unknown;
     std::string text;
-
-    [[nodiscard]] bool hasFraction() const { return !denominator.empty(); }
+    /// Both empty where there is no fraction.
+    std::string numerator{};
+    std::string denominator{};
 };
 
 /// The steps of a panel, with the numbers of the exercise also where `helpFor` tells another one.
 [[nodiscard]] std::vector<AfsaetStep> workedSteps(const AfsaetState& state, AfsaetHelp help);
+
+/// The step of a panel that finds `unknown`; one without texts if the panel has none.
+[[nodiscard]] AfsaetStep workedStep(const AfsaetState& state, AfsaetHelp help, AfsaetUnknown unknown);
 
 /// "P = -0.5Q + 4"
 [[nodiscard]] std::string equationText(const AfsaetState& state);

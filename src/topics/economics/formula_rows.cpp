@@ -80,7 +80,7 @@ private:
 
 }  // namespace
 
-void showFormulas(Panel& box, const std::vector<Formula>& formulas, const std::vector<double>& tops) {
+void showFormulas(Panel& box, const std::vector<Formula>& formulas, std::span<const double> tops) {
     Q_ASSERT(formulas.size() == tops.size());
     qDeleteAll(box.findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
     for (std::size_t i = 0; i < formulas.size(); ++i) {

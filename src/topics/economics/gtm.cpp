@@ -1,5 +1,11 @@
 #include "topics/economics/gtm.h"
 
+#include <array>
+#include <span>
+#include <utility>
+
+#include <QRegularExpression>
+
 #include "graph/graph_box.h"
 #include "numeric/text.h"
 #include "topics/economics/formula_rows.h"
@@ -14,31 +20,60 @@ struct Colours {
 };
 
 const Colours& coloursOf(GtmFunction function) {
-    static const std::array<Colours, 3> kColours{
-        {{rgb(0, 190, 0), rgb(255, 190, 0)}, {kBlue, rgb(255, 0, 255)}, {rgb(200, 90, 0), rgb(255, 90, 0)}}};
-    return kColours.at(static_cast<std::size_t>(function));
+    static const GtmEach<Colours> kColours{.average = {rgb(0, 190, 0), rgb(255, 190, 0)},
+                                           .total = {kBlue, rgb(255, 0, 255)},
+                                           .marginal = {rgb(200, 90, 0), rgb(255, 90, 0)}};
+    return kColours.of(function);
 }
+
+// The graph begins at 0 both ways.
+constexpr double kLargestQuantity = 10;
+constexpr double kHighestCost = 20;
+
+// The tops of the formulas of a step, in units: level with the rows of the general solution.
+constexpr std::array kTwoRows{8.0, 30.0};
+constexpr std::array kDerivativeRows{8.0, 52.0, 72.0};
+constexpr std::array kIntegralRows{8.0, 32.0, 60.0};
+
+/// What a step of the help leads from and to, and what it shows.
+struct Plan {
+    GtmFunction from = GtmFunction::Average;
+    GtmFunction to = GtmFunction::Average;
+    std::vector<Formula> (*worked)(const GtmState&) = nullptr;
+    std::span<const double> tops{};
+};
+
+/// The steps where a function is given.
+constexpr GtmEach<std::array<Plan, 2>> kPlans{
+    .average = {Plan{GtmFunction::Average, GtmFunction::Total, workedProduct, kTwoRows},
+                Plan{GtmFunction::Total, GtmFunction::Marginal, workedDerivative, kDerivativeRows}},
+    .total = {Plan{GtmFunction::Total, GtmFunction::Average, workedQuotient, kTwoRows},
+              Plan{GtmFunction::Total, GtmFunction::Marginal, workedDerivative, kDerivativeRows}},
+    .marginal = {Plan{GtmFunction::Marginal, GtmFunction::Total, workedIntegral, kIntegralRows},
+                 Plan{GtmFunction::Total, GtmFunction::Average, workedQuotientOfIntegral, kTwoRows}},
+};
+
+// What the controls of a function are called after: those of the diagram by the word, all others by the
+// letters.
+constexpr GtmEach<const char*> kWords{.average = "Average", .total = "Total", .marginal = "Marginal"};
+constexpr GtmEach<const char*> kLetters{.average = "Avc", .total = "Tvc", .marginal = "Mc"};
+
+QString wordFor(GtmFunction function) { return kWords.of(function); }
+QString lettersOf(GtmFunction function) { return kLetters.of(function); }
 
 }  // namespace
 
 Gtm::Gtm(Draws& draws) : ExerciseForm(PageName::Gtm, draws), ui_(std::make_unique<Ui::Gtm>()) {
     setUp(*ui_);
-    boxes_ = {{{ui_->avcQuadraticCoefficient, ui_->avcLinearCoefficient, ui_->avcConstant},
-               {ui_->tvcCubicCoefficient, ui_->tvcQuadraticCoefficient, ui_->tvcLinearCoefficient},
-               {ui_->mcQuadraticCoefficient, ui_->mcLinearCoefficient, ui_->mcConstant}}};
-    enterChain({ui_->avcQuadraticCoefficient, ui_->avcLinearCoefficient, ui_->avcConstant,
-                ui_->tvcCubicCoefficient, ui_->tvcQuadraticCoefficient, ui_->tvcLinearCoefficient,
-                ui_->mcQuadraticCoefficient, ui_->mcLinearCoefficient, ui_->mcConstant},
-               LastBox::OkOrStay);
-    integrate_ = {ui_->wayFromMarginalToTotalStartLeg, ui_->wayFromMarginalToTotalEndLeg,
-                  ui_->wayFromMarginalToTotalUpperBarb, ui_->wayFromMarginalToTotalLowerBarb};
-    differentiate_ = {ui_->wayFromTotalToMarginalStartLeg, ui_->wayFromTotalToMarginalEndLeg,
-                      ui_->wayFromTotalToMarginalUpperBarb, ui_->wayFromTotalToMarginalLowerBarb};
-    divide_ = {ui_->wayFromTotalToAverageStartLeg, ui_->wayFromTotalToAverageEndLeg,
-               ui_->wayFromTotalToAverageLeftBarb, ui_->wayFromTotalToAverageRightBarb};
-    multiply_ = {ui_->wayFromAverageToTotalStartLeg, ui_->wayFromAverageToTotalEndLeg,
-                 ui_->wayFromAverageToTotalLeftBarb, ui_->wayFromAverageToTotalRightBarb};
-    bindSteps();
+    functions_ = {.average = bind(GtmFunction::Average),
+                  .total = bind(GtmFunction::Total),
+                  .marginal = bind(GtmFunction::Marginal)};
+    std::vector<AnswerBox*> chain;
+    for (const GtmFunction function : kGtmFunctions) {
+        const auto& [a, b, c] = functions_.of(function).boxes;
+        chain.insert(chain.end(), {a, b, c});
+    }
+    enterChain(chain, LastBox::OkOrStay);
     onClick(ui_->closeAvcGivenHelp, &Gtm::closeHelp);
     onClick(ui_->closeTvcGivenHelp, &Gtm::closeHelp);
     onClick(ui_->closeMcGivenHelp, &Gtm::closeHelpAndBlackenNames);
@@ -46,38 +81,42 @@ Gtm::Gtm(Draws& draws) : ExerciseForm(PageName::Gtm, draws), ui_(std::make_uniqu
 
 Gtm::~Gtm() = default;
 
-void Gtm::bindSteps() {
-    struct Step {
-        Button* vis;
-        Panel* box;
-        std::vector<Formula> (*worked)(const GtmState&);
-        // Level with the rows of the general solution.
-        std::vector<double> tops;
-    };
-    const std::vector<double> twoRows{8, 30};
-    const std::vector<double> derivative{8, 52, 72};
-    const std::vector<double> integral{8, 32, 60};
-    const Step steps[]{{ui_->showAvcGivenTvc, ui_->avcGivenTvcStep, workedProduct, twoRows},
-                       {ui_->showAvcGivenMc, ui_->avcGivenMcStep, workedDerivative, derivative},
-                       {ui_->showTvcGivenAvc, ui_->tvcGivenAvcStep, workedQuotient, twoRows},
-                       {ui_->showTvcGivenMc, ui_->tvcGivenMcStep, workedDerivative, derivative},
-                       {ui_->showMcGivenTvc, ui_->mcGivenTvcStep, workedIntegral, integral},
-                       {ui_->showMcGivenAvc, ui_->mcGivenAvcStep, workedQuotientOfIntegral, twoRows}};
-    for (const Step& step : steps) {
-        onClick(step.vis, [this, step] {
+Gtm::Function Gtm::bind(GtmFunction function) {
+    const QString letters = lettersOf(function);
+    const QString given = letters.toLower() + "Given";
+    Function found{.boxes = boxesOf(function),
+                   .name = design()->findChild<Label*>("diagram" + wordFor(function)),
+                   .help = design()->findChild<Panel*>(given + "HelpPanel"),
+                   .steps = {}};
+    for (const Plan& plan : kPlans.of(function)) {
+        const QString to = lettersOf(plan.to);
+        auto* const vis = design()->findChild<Button*>("show" + letters + "Given" + to);
+        auto* const box = design()->findChild<Panel*>(given + to + "Step");
+        onClick(vis, [this, box, &plan] {
             // The box comes last: labels are made faster where nothing is seen.
-            showFormulas(*step.box, step.worked(state_), step.tops);
-            step.box->show();
+            showFormulas(*box, plan.worked(state_), plan.tops);
+            box->show();
         });
+        found.steps.push_back({vis, box, linesOf("wayFrom" + wordFor(plan.from) + "To" + wordFor(plan.to))});
     }
+    return found;
 }
 
-const Gtm::Boxes& Gtm::boxesOf(GtmFunction function) const {
-    return boxes_.at(static_cast<std::size_t>(function));
+Gtm::Boxes Gtm::boxesOf(GtmFunction function) const {
+    const auto box = [this, name = lettersOf(function).toLower()](const char* term) {
+        return design()->findChild<AnswerBox*>(name + term);
+    };
+    return function == GtmFunction::Total
+               ? Boxes{box("CubicCoefficient"), box("QuadraticCoefficient"), box("LinearCoefficient")}
+               : Boxes{box("QuadraticCoefficient"), box("LinearCoefficient"), box("Constant")};
+}
+
+QList<LineControl*> Gtm::linesOf(const QString& prefix) const {
+    return design()->findChildren<LineControl*>(QRegularExpression('^' + prefix));
 }
 
 void Gtm::firstTick() {
-    ui_->graph->Scale(0, 20, 10, 0);
+    ui_->graph->Scale(0, kHighestCost, kLargestQuantity, 0);
     prepare();
     firstExercise(state_, draws());
     showTask(GtmReach::FirstTick);
@@ -94,17 +133,18 @@ void Gtm::newExercise() {
 void Gtm::prepare() {
     focusOn(ui_->avcQuadraticCoefficient);
     showAsking();
-    for (const auto& [a, b, c] : boxes_) {
+    for (const GtmFunction function : kGtmFunctions) {
+        const auto& [a, b, c] = functions_.of(function).boxes;
         clearBoxes({a, b, c});
     }
 }
 
 void Gtm::showTask(GtmReach reach) {
-    const Boxes& boxes = boxesOf(state_.given);
-    const std::array<std::string, 3> texts = taskTexts(state_.of(state_.given));
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        boxes.at(i)->setContent(texts.at(i));
-    }
+    const auto& [a, b, c] = functions_.of(state_.given).boxes;
+    const GtmTerms<std::string> texts = taskTexts(state_.of(state_.given));
+    a->setContent(texts.a);
+    b->setContent(texts.b);
+    c->setContent(texts.c);
     draw(curveOfTask(state_, reach), kBlack);
 }
 
@@ -117,13 +157,13 @@ void Gtm::draw(const GtmCurve& curve, const QColor& colour) {
 void Gtm::judge() {
     bool isSolved = true;
     for (const GtmFunction function : kGtmFunctions) {
-        const auto& [a, b, c] = boxesOf(function);
+        const auto& [a, b, c] = functions_.of(function).boxes;
         const GtmCoefficients typed{a->value(), b->value(), c->value()};
-        const auto [isARight, isBRight, isCRight] = tavrune::judge(state_, function, typed);
-        a->mark(!isARight);
-        b->mark(!isBRight);
-        c->mark(!isCRight);
-        const bool isRight = isARight && isBRight && isCRight;
+        const GtmTerms<bool> right = tavrune::judge(state_, function, typed);
+        a->mark(!right.a);
+        b->mark(!right.b);
+        c->mark(!right.c);
+        const bool isRight = right == kGtmAllRight;
         isSolved = isSolved && isRight;
         draw(curveOfTry(function, typed), isRight ? coloursOf(function).right : coloursOf(function).wrong);
     }
@@ -137,10 +177,11 @@ void Gtm::judge() {
 
 void Gtm::giveAnswer() {
     for (const GtmFunction function : kGtmFunctions) {
-        const Boxes& boxes = boxesOf(function);
-        for (std::size_t i = 0; i < boxes.size(); ++i) {
-            boxes.at(i)->mark(false);
-            boxes.at(i)->setContent(NumberText(state_.of(function).at(i)));
+        const auto& [a, b, c] = functions_.of(function).boxes;
+        const GtmCoefficients& right = state_.of(function);
+        for (const auto& [box, coefficient] : {std::pair{a, right.a}, {b, right.b}, {c, right.c}}) {
+            box->mark(false);
+            box->setContent(NumberText(coefficient));
         }
     }
     for (const GtmFunction function : {GtmFunction::Average, GtmFunction::Marginal, GtmFunction::Total}) {
@@ -149,58 +190,46 @@ void Gtm::giveAnswer() {
     given();
 }
 
-Gtm::Guide Gtm::guide() const {
-    switch (state_.given) {
-        case GtmFunction::Average:
-            return {ui_->diagramAverage,
-                    {&multiply_, &differentiate_},
-                    ui_->avcGivenHelpPanel,
-                    ui_->showAvcGivenTvc};
-        case GtmFunction::Total:
-            return {
-                ui_->diagramTotal, {&differentiate_, &divide_}, ui_->tvcGivenHelpPanel, ui_->showTvcGivenAvc};
-        case GtmFunction::Marginal:
-            break;
-    }
-    return {ui_->diagramMarginal, {&divide_, &integrate_}, ui_->mcGivenHelpPanel, ui_->showMcGivenTvc};
-}
-
 void Gtm::help() {
     // Kept: what an earlier exercise has left red stays red.
-    const Guide guide = this->guide();
-    guide.name->setTextColour(kRed);
-    for (const Way* way : guide.ways) {
-        for (LineControl* line : *way) {
+    const Function& given = functions_.of(state_.given);
+    given.name->setTextColour(kRed);
+    for (const Step& step : given.steps) {
+        for (LineControl* line : step.way) {
             line->setColour(kRed);
         }
     }
     const GtmMethod& method = methodFor(state_.given);
-    ui_->diagramStep1Text->setCaption(method.first);
-    ui_->diagramStep2Text->setCaption(method.second);
+    ui_->diagramStep1Text->setCaption(method.step1);
+    ui_->diagramStep2Text->setCaption(method.step2);
     ui_->diagramHelpPanel->show();
-    openPanel(guide.panel, guide.firstVis);
+    openPanel(given.help, given.steps.front().vis);
 }
 
 void Gtm::hideSteps() {
-    hideAll({ui_->diagramHelpPanel, ui_->avcGivenHelpPanel, ui_->tvcGivenHelpPanel, ui_->mcGivenHelpPanel,
-             ui_->avcGivenTvcStep, ui_->avcGivenMcStep, ui_->tvcGivenAvcStep, ui_->tvcGivenMcStep,
-             ui_->mcGivenTvcStep, ui_->mcGivenAvcStep});
+    ui_->diagramHelpPanel->hide();
+    for (const GtmFunction function : kGtmFunctions) {
+        functions_.of(function).help->hide();
+    }
+    for (const GtmFunction function : kGtmFunctions) {
+        for (const Step& step : functions_.of(function).steps) {
+            step.box->hide();
+        }
+    }
 }
 
 // Kept: the name of the given function stays red where AVC or TVC is given.
 void Gtm::closeHelp() {
     hideSteps();
-    for (const Way* way : {&integrate_, &differentiate_, &divide_, &multiply_}) {
-        for (LineControl* line : *way) {
-            line->setColour(kBlack);
-        }
+    for (LineControl* line : linesOf("wayFrom")) {
+        line->setColour(kBlack);
     }
 }
 
 void Gtm::closeHelpAndBlackenNames() {
     closeHelp();
-    for (Label* name : {ui_->diagramMarginal, ui_->diagramTotal, ui_->diagramAverage}) {
-        name->setTextColour(kBlack);
+    for (const GtmFunction function : kGtmFunctions) {
+        functions_.of(function).name->setTextColour(kBlack);
     }
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
-#include <array>
 #include <memory>
+#include <vector>
+
+#include <QList>
 
 #include "controls/line_control.h"
 #include "controls/panel.h"
@@ -30,37 +32,43 @@ protected:
     void help() override;
 
 private:
-    using Boxes = std::array<AnswerBox*, 3>;
-    /// A way of the diagram: its two legs and its two barbs.
-    using Way = std::array<LineControl*, 4>;
+    using Boxes = GtmTerms<AnswerBox*>;
 
-    /// What the help shows where a function is given.
-    struct Guide {
-        Label* name;
-        std::array<const Way*, 2> ways;
-        Panel* panel;
-        Button* firstVis;
+    /// A step of the help, from one function to another.
+    struct Step {
+        Button* vis = nullptr;
+        /// Where its formulas are shown.
+        Panel* box = nullptr;
+        /// The lines of its way in the diagram.
+        QList<LineControl*> way;
     };
 
-    [[nodiscard]] const Boxes& boxesOf(GtmFunction function) const;
-    [[nodiscard]] Guide guide() const;
+    /// What the page has for a function.
+    struct Function {
+        Boxes boxes;
+        /// Its name in the diagram.
+        Label* name = nullptr;
+        /// The help where it is given, with the steps to the other two.
+        Panel* help = nullptr;
+        std::vector<Step> steps;
+    };
 
-    void bindSteps();
+    /// Finds what is called after the function, and has each "Vis" show its step.
+    [[nodiscard]] Function bind(GtmFunction function);
+    [[nodiscard]] Boxes boxesOf(GtmFunction function) const;
+    /// The lines of the diagram whose names begin so, as they stand in the design.
+    [[nodiscard]] QList<LineControl*> linesOf(const QString& prefix) const;
+
     void prepare();
     void showTask(GtmReach reach);
     void draw(const GtmCurve& curve, const QColor& colour);
     void hideSteps();
-    void closeHelp();
+    void closeHelp() override;
     void closeHelpAndBlackenNames();
 
     std::unique_ptr<Ui::Gtm> ui_;
     GtmState state_;
-    /// In the order of `GtmFunction`.
-    std::array<Boxes, 3> boxes_;
-    Way integrate_;
-    Way differentiate_;
-    Way divide_;
-    Way multiply_;
+    GtmEach<Function> functions_;
 };
 
 }  // namespace tavrune

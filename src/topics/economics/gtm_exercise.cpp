@@ -13,11 +13,9 @@ namespace tavrune {
 namespace {
 
 /// The drawn coefficients, and what is made of them: singles until they are rounded.
-struct Drawn {
-    float a;
-    float b;
-    float c;
-};
+using Drawn = GtmTerms<float>;
+
+constexpr int kFunctions = static_cast<int>(kGtmFunctions.size());
 
 Drawn drawCoefficients(Draws& draws) {
     draws.Randomize();
@@ -41,7 +39,7 @@ double lowestOf(float a, float b, float c) { return -Power(b, 2) / 4 * a + c; }
 /// Draws which function is given and makes the other two of it. False if they are rejected.
 bool completeExercise(GtmState& s, const Drawn& drawn, Draws& draws) {
     const auto& [a, b, c] = drawn;
-    s.given = kGtmFunctions.at(static_cast<std::size_t>(Int(draws.Rnd() * 3)));
+    s.given = kGtmFunctions.at(static_cast<std::size_t>(Int(draws.Rnd() * kFunctions)));
     if (s.given == GtmFunction::Marginal) {
         const float avcA = a / 3;
         const float avcB = b / 2;
@@ -69,9 +67,9 @@ constexpr double kLargestSingle = std::numeric_limits<float>::max();
 /// Where the points of a curve lie. The first is the first of `start`, `start` + 1, ... that is low enough;
 /// from there the curve goes on in steps of 0.1.
 struct Plot {
-    double start;
+    double start = 0;
     /// The point beyond this is the last.
-    double lastQ;
+    double lastQ = 0;
     /// The first point is nearer to the axis than this ...
     double firstWithin = kInfinity;
     /// ... or just as near.
@@ -97,22 +95,18 @@ constexpr Plot kParabolaOfFirstTask{.start = -2, .lastQ = 15};
 constexpr Plot kParabolaOfTask{.start = -2, .lastQ = 11};
 constexpr Plot kCubicOfTask{.start = -2, .lastQ = 15, .firstWithin = 2000, .endsBefore = 400};
 
-// In the order of `GtmFunction`. An exact Q = 0 would be moved to -0.05 on the curves of AVC, but the running
-// sum of the steps always misses it.
-constexpr std::array kPlotsOfTry{
-    Plot{.start = -3, .lastQ = 15.05, .firstWithin = 2000, .firstMayReach = true, .endsAbove = 400},
-    Plot{.start = -3, .lastQ = 20, .firstWithin = 2000, .endsBefore = 400},
-    Plot{.start = -3, .lastQ = 15, .firstWithin = 200, .endsAbove = 210},
+// An exact Q = 0 would be moved to -0.05 on the curves of AVC, but the running sum of the steps always misses
+// it.
+constexpr GtmEach<Plot> kPlotsOfTry{
+    .average = {.start = -3, .lastQ = 15.05, .firstWithin = 2000, .firstMayReach = true, .endsAbove = 400},
+    .total = {.start = -3, .lastQ = 20, .firstWithin = 2000, .endsBefore = 400},
+    .marginal = {.start = -3, .lastQ = 15, .firstWithin = 200, .endsAbove = 210},
 };
-constexpr std::array kPlotsOfAnswer{
-    Plot{.start = -4, .lastQ = 15.05},
-    Plot{.start = -4, .lastQ = 20, .firstWithin = 200, .endsBefore = 400},
-    Plot{.start = -2, .lastQ = 21, .firstWithin = 100, .endsBeyond = 110},
+constexpr GtmEach<Plot> kPlotsOfAnswer{
+    .average = {.start = -4, .lastQ = 15.05},
+    .total = {.start = -4, .lastQ = 20, .firstWithin = 200, .endsBefore = 400},
+    .marginal = {.start = -2, .lastQ = 21, .firstWithin = 100, .endsBeyond = 110},
 };
-
-const Plot& plotOf(const std::array<Plot, 3>& plots, GtmFunction function) {
-    return plots.at(static_cast<std::size_t>(function));
-}
 
 GtmCurve pointsOf(GtmFunction function, const GtmCoefficients& coefficients, const Plot& plot) {
     const auto pointAt = [&](double q) { return GtmPoint{q, heightAt(function, coefficients, q)}; };
@@ -212,14 +206,14 @@ void firstExercise(GtmState& s, Draws& draws) {
     }
 }
 
-std::array<std::string, 3> taskTexts(const GtmCoefficients& given) {
+GtmTerms<std::string> taskTexts(const GtmCoefficients& given) {
     const auto& [a, b, c] = given;
     return {FixedPointText(a), NumberText(b), NumberText(c)};
 }
 
-std::array<bool, 3> judge(const GtmState& s, GtmFunction function, const GtmCoefficients& typed) {
+GtmTerms<bool> judge(const GtmState& s, GtmFunction function, const GtmCoefficients& typed) {
     const auto& [a, b, c] = s.of(function);
-    return {isExactly(typed[0], a), isExactly(typed[1], b), isExactly(typed[2], c)};
+    return {.a = isExactly(typed.a, a), .b = isExactly(typed.b, b), .c = isExactly(typed.c, c)};
 }
 
 double heightAt(GtmFunction function, const GtmCoefficients& coefficients, double q) {
@@ -236,32 +230,32 @@ GtmCurve curveOfTask(const GtmState& s, GtmReach reach) {
 }
 
 GtmCurve curveOfTry(GtmFunction function, const GtmCoefficients& typed) {
-    return pointsOf(function, typed, plotOf(kPlotsOfTry, function));
+    return pointsOf(function, typed, kPlotsOfTry.of(function));
 }
 
 GtmCurve curveOfAnswer(const GtmState& s, GtmFunction function) {
-    return pointsOf(function, s.of(function), plotOf(kPlotsOfAnswer, function));
+    return pointsOf(function, s.of(function), kPlotsOfAnswer.of(function));
 }
 
 const GtmMethod& methodFor(GtmFunction given) {
     static constexpr const char* kDifferentiate =
         " Når du skal fra TVC til MC skal du differentiere TVC-funktionen. Det gøres ved ledvis at gange "
         "koefficienten med eksponenten og derefter trække én fra eksponenten (se evt differentialregning).";
-    static constexpr std::array kMethods{
-        GtmMethod{" Du kender her AVC-funktionen. Du skal nu først finde TVC-funktionen og derefter "
-                  "MC-funktionen. Metoden er vist i diagrammet ovenfor. Først skal du gange AVC med "
-                  "mængden(Q).Derved får du TVC.",
-                  kDifferentiate},
-        GtmMethod{" Du kender her TVC-funktionen og skal finde AVC-funktionen samt MC-funktonen. Som det "
+    static constexpr GtmEach<GtmMethod> kMethods{
+        .average = {" Du kender her AVC-funktionen. Du skal nu først finde TVC-funktionen og derefter "
+                    "MC-funktionen. Metoden er vist i diagrammet ovenfor. Først skal du gange AVC med "
+                    "mængden(Q).Derved får du TVC.",
+                    kDifferentiate},
+        .total = {" Du kender her TVC-funktionen og skal finde AVC-funktionen samt MC-funktonen. Som det "
                   "fremgår af diagrammet ovenfor findes AVC-funktionen ved at dividere TVC-funktionen med "
                   "antallet(Q).",
                   kDifferentiate},
-        GtmMethod{" Du kender MC-funktionen og skal, som det fremgår af diagrammet ovenfor, først finde "
-                  "TVC-funktionen og derefter AVC-funktionen. TVC-funktionen finder du ved at integrere "
-                  "MC-funktionen (se evt. integralregning).",
-                  " AVC-funktionen findes nu ved at dividere TVC-funktionen med antallet (Q)."},
+        .marginal = {" Du kender MC-funktionen og skal, som det fremgår af diagrammet ovenfor, først finde "
+                     "TVC-funktionen og derefter AVC-funktionen. TVC-funktionen finder du ved at integrere "
+                     "MC-funktionen (se evt. integralregning).",
+                     " AVC-funktionen findes nu ved at dividere TVC-funktionen med antallet (Q)."},
     };
-    return kMethods.at(static_cast<std::size_t>(given));
+    return kMethods.of(given);
 }
 
 std::vector<Formula> workedProduct(const GtmState& s) {

@@ -14,8 +14,37 @@ enum class GtmFunction { Average, Total, Marginal };
 
 inline constexpr std::array kGtmFunctions{GtmFunction::Average, GtmFunction::Total, GtmFunction::Marginal};
 
-/// a, b and c: in falling powers of Q.
-using GtmCoefficients = std::array<double, 3>;
+/// One of something for each function.
+template <class T>
+struct GtmEach {
+    T average{};
+    T total{};
+    T marginal{};
+
+    [[nodiscard]] constexpr const T& of(GtmFunction function) const {
+        switch (function) {
+            case GtmFunction::Average:
+                return average;
+            case GtmFunction::Total:
+                return total;
+            case GtmFunction::Marginal:
+                break;
+        }
+        return marginal;
+    }
+};
+
+/// One of something for each term of a function, in falling powers of Q.
+template <class T>
+struct GtmTerms {
+    T a{};
+    T b{};
+    T c{};
+
+    bool operator==(const GtmTerms&) const = default;
+};
+
+using GtmCoefficients = GtmTerms<double>;
 
 /// One function of a product, from which the other two are to be found.
 ///
@@ -41,11 +70,13 @@ void newExercise(GtmState& s, Draws& draws);
 void firstExercise(GtmState& s, Draws& draws);
 
 /// The coefficients as a task shows them: a with the point in every locale, so that the box can be read back.
-[[nodiscard]] std::array<std::string, 3> taskTexts(const GtmCoefficients& given);
+[[nodiscard]] GtmTerms<std::string> taskTexts(const GtmCoefficients& given);
+
+/// What `judge` gives for the right coefficients.
+inline constexpr GtmTerms<bool> kGtmAllRight{true, true, true};
 
 /// Which of the three typed coefficients are right: to the digit, those of the given function too.
-[[nodiscard]] std::array<bool, 3> judge(const GtmState& s, GtmFunction function,
-                                        const GtmCoefficients& typed);
+[[nodiscard]] GtmTerms<bool> judge(const GtmState& s, GtmFunction function, const GtmCoefficients& typed);
 
 /// The height of a function at Q.
 [[nodiscard]] double heightAt(GtmFunction function, const GtmCoefficients& coefficients, double q);
@@ -69,10 +100,10 @@ enum class GtmReach { FirstTick, Later };
 
 [[nodiscard]] GtmCurve curveOfAnswer(const GtmState& s, GtmFunction function);
 
-/// The two texts below the diagram of the help.
+/// The two texts below the diagram of the help, one for each step.
 struct GtmMethod {
-    const char* first;
-    const char* second;
+    const char* step1 = "";
+    const char* step2 = "";
 };
 
 [[nodiscard]] const GtmMethod& methodFor(GtmFunction given);

@@ -10,6 +10,8 @@
 namespace tavrune {
 namespace {
 
+constexpr int kLargestSize = 5;
+
 constexpr Term M = Term::Minus;
 constexpr Term O = Term::Absent;
 constexpr Term P = Term::Plus;
@@ -20,6 +22,7 @@ constexpr std::array kPatterns{
     Pattern{M, P, O}, Pattern{M, P, M}, Pattern{M, O, P}, Pattern{M, O, M}, Pattern{M, O, O},
     Pattern{M, M, P}, Pattern{M, M, O}, Pattern{M, M, M},
 };
+constexpr int kPatternCount = kPatterns.size();
 
 std::string laterTerm(Term term, float size, const char* power) {
     if (term == Term::Absent) {
@@ -31,6 +34,18 @@ std::string laterTerm(Term term, float size, const char* power) {
 }  // namespace
 
 const Pattern& patternOf(int patternCase) { return kPatterns.at(static_cast<std::size_t>(patternCase - 1)); }
+
+Polynomial drawSizes(Draws& draws) {
+    Polynomial drawn;
+    for (float* const size : {&drawn.a, &drawn.b, &drawn.c}) {
+        *size = Int(draws.Rnd() * kLargestSize) + 1;
+    }
+    return drawn;
+}
+
+const Pattern& drawPattern(Draws& draws) {
+    return patternOf(static_cast<int>(Int(draws.Rnd() * kPatternCount)) + 1);
+}
 
 Polynomial withSigns(const Pattern& pattern, const Polynomial& drawn) {
     return {withSign(pattern.a, drawn.a), withSign(pattern.b, drawn.b), withSign(pattern.c, drawn.c)};
@@ -58,6 +73,8 @@ RootCount rootCountOf(double discriminant) {
     }
     return discriminant == 0 ? RootCount::Double : RootCount::None;
 }
+
+const char* nameOfSecondRoot(RootCount count) { return count == RootCount::Double ? "dobbelt rod" : "rod 2"; }
 
 bool rootsAreRight(double discriminant, const Roots& roots, std::optional<RootCount> chosen,
                    const TypedRoots& typed) {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "numeric/draws.h"
 #include "numeric/term.h"
 
 namespace tavrune {
@@ -22,6 +23,12 @@ struct Pattern {
 
 /// The eighteen shapes of a polynomial, `patternCase` 1 to 18.
 [[nodiscard]] const Pattern& patternOf(int patternCase);
+
+/// Draws three sizes, 1 to 5 each: a, b and c.
+[[nodiscard]] Polynomial drawSizes(Draws& draws);
+
+/// Draws one of the eighteen shapes.
+[[nodiscard]] const Pattern& drawPattern(Draws& draws);
 
 /// The drawn sizes with the signs of the pattern; absent terms are 0.
 [[nodiscard]] Polynomial withSigns(const Pattern& pattern, const Polynomial& drawn);
@@ -57,6 +64,9 @@ enum class RootCount { Two, Double, None };
 
 /// The count that a discriminant stands for.
 [[nodiscard]] RootCount rootCountOf(double discriminant);
+
+/// What screen readers call the second root box: it takes the second of two roots, or the double one.
+[[nodiscard]] const char* nameOfSecondRoot(RootCount count);
 
 /// What stands in the two root boxes; a double root is typed in the second.
 struct TypedRoots {

@@ -1,5 +1,9 @@
 #include "topics/polynomial/roedder.h"
 
+#include <algorithm>
+#include <array>
+#include <vector>
+
 #include "controls/frame.h"
 #include "controls/panel.h"
 #include "graph/curve.h"
@@ -9,8 +13,55 @@
 namespace tavrune {
 namespace {
 
+/// Where the axes end.
 constexpr int kEnd = 15;
+/// Half the height of the line at a wrong root.
 constexpr double kHalfTick = 0.5;
+
+// Where a curve is said to end; the running sum of its steps meets neither. The second one is for a parabola
+// with a maximum that is drawn with the given answer.
+constexpr double kNeverMet = 10;
+constexpr double kNeverMetByGivenMaximum = 7;
+
+/// A part of the worked solution, and the count that it belongs to. Its controls are called after it.
+struct WorkedPart {
+    const char* name;
+    RootCount count;
+};
+
+constexpr std::array kWorkedParts{
+    WorkedPart{"workedTwoRoots", RootCount::Two}, WorkedPart{"workedRootOne", RootCount::Two},
+    WorkedPart{"workedRootTwo", RootCount::Two},  WorkedPart{"workedDoubleRoot", RootCount::Double},
+    WorkedPart{"workedNoRoots", RootCount::None},
+};
+
+/// The controls of a part of the worked solution.
+struct WorkedControls {
+    std::vector<Label*> numbers;
+    std::vector<QWidget*> wordsAndLines;
+
+    [[nodiscard]] static WorkedControls of(const QWidget& page, const QString& part);
+};
+
+bool isNumberOf(const QString& part, const QString& name) {
+    static constexpr std::array kNumbers{"CoefficientB", "Discriminant", "Numerator", "Denominator",
+                                         "Result"};
+    return std::any_of(kNumbers.begin(), kNumbers.end(),
+                       [&](const char* number) { return name == part + number; });
+}
+
+WorkedControls WorkedControls::of(const QWidget& page, const QString& part) {
+    WorkedControls controls;
+    for (QWidget* control : page.findChildren<QWidget*>()) {
+        const QString name = control->objectName();
+        if (isNumberOf(part, name)) {
+            controls.numbers.push_back(qobject_cast<Label*>(control));
+        } else if (name.startsWith(part)) {
+            controls.wordsAndLines.push_back(control);
+        }
+    }
+    return controls;
+}
 
 }  // namespace
 
@@ -26,7 +77,7 @@ Roedder::Roedder(Draws& draws)
     onClick(ui_->noRoots, &Roedder::askForNoRoots);
     onClick(ui_->showDiscriminant, &Roedder::showDiscriminant);
     onClick(ui_->showRootCount, &Roedder::showRootCount);
-    onClick(ui_->showRoots, &Roedder::showSolution);
+    onClick(ui_->showRoots, &Roedder::showRoots);
 }
 
 Roedder::~Roedder() = default;
@@ -57,11 +108,11 @@ void Roedder::drawAxes() {
     graph.Scale(-kEnd, kEnd, kEnd, -kEnd);
     graph.Line(0, kEnd, 0, -kEnd);
     graph.Line(-kEnd, 0, kEnd, 0);
-    drawTicksAlongX(graph, {.from = -15, .before = 15}, {0.2});
-    drawTicksAlongY(graph, {.from = -15, .before = 15}, {0.1});
+    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd}, {0.2});
+    drawTicksAlongY(graph, {.from = -kEnd, .before = kEnd}, {0.1});
     for (const double offAxis : {0.2, 0.3}) {
-        drawTicksAlongX(graph, {.from = -15, .before = 15, .step = 5}, {offAxis});
-        drawTicksAlongY(graph, {.from = -15, .before = 15, .step = 5}, {offAxis});
+        drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {offAxis});
+        drawTicksAlongY(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {offAxis});
     }
 }
 
@@ -78,9 +129,7 @@ void Roedder::hideAnswer() {
     hideVerdict();
 }
 
-void Roedder::nameSecondBox(RootCount count) {
-    ui_->rootTwo->setAccessibleName(count == RootCount::Double ? "dobbelt rod" : "rod 2");
-}
+void Roedder::nameSecondBox(RootCount count) { ui_->rootTwo->setAccessibleName(nameOfSecondRoot(count)); }
 
 void Roedder::askForTwoRoots() {
     hideAnswer();
@@ -112,7 +161,7 @@ void Roedder::judge() {
     if (isRight(state_, options_.chosen(), typed)) {
         solved();
         colourRightOption();
-        drawCurve(10);
+        drawCurve(kNeverMet);
         return;
     }
     failed();
@@ -146,49 +195,52 @@ void Roedder::giveAnswer() {
     } else if (isDouble) {
         ui_->rootTwo->setContent(answer.root1);
     }
-    drawCurve(state_.coefficients.a < 0 ? 7 : 10);
+    drawCurve(state_.coefficients.a < 0 ? kNeverMetByGivenMaximum : kNeverMet);
     given();
 }
 
 void Roedder::colourRightOption() { options_.colour(rootCountOf(state_.discriminant), kGreen); }
 
 void Roedder::help() {
-    switch (rootCountOf(state_.discriminant)) {
+    const RootCount count = rootCountOf(state_.discriminant);
+    showWorked(count);
+    switch (count) {
         case RootCount::Two:
-            workOutTwoRoots();
+            fillWorkedTwoRoots();
             break;
         case RootCount::Double:
-            workOutDoubleRoot();
+            fillWorkedDoubleRoot();
             break;
         case RootCount::None:
-            showAll({ui_->workedNoRootsConclusion, ui_->workedNoRootsCase, ui_->workedNoRootsText});
             break;
     }
     openPanel(ui_->helpPanel, ui_->showDiscriminant);
 }
 
-void Roedder::workOutTwoRoots() {
-    showAll({ui_->workedTwoRootsConclusion, ui_->workedTwoRootsCase, ui_->workedRootOneEquals,
-             ui_->workedRootOneLeadingMinus, ui_->workedRootOnePlusRoot, ui_->workedRootOneResultEquals,
-             ui_->workedRootTwoEquals, ui_->workedRootTwoLeadingMinus, ui_->workedRootTwoMinusRoot,
-             ui_->workedRootTwoResultEquals, ui_->workedRootOneRootSignHook, ui_->workedRootOneRootSignRise,
-             ui_->workedRootOneRootSignBar, ui_->workedRootOneBar, ui_->workedRootTwoRootSignHook,
-             ui_->workedRootTwoRootSignRise, ui_->workedRootTwoRootSignBar, ui_->workedRootTwoBar});
+void Roedder::showWorked(RootCount count) {
+    for (const WorkedPart& part : kWorkedParts) {
+        if (part.count == count) {
+            for (QWidget* control : WorkedControls::of(*design(), part.name).wordsAndLines) {
+                control->show();
+            }
+        }
+    }
+}
+
+void Roedder::fillWorkedTwoRoots() {
     const RoedderFormula formula = formulaTexts(state_);
-    ui_->workedRootOneCoefficientB->setCaption(formula.b);
-    ui_->workedRootTwoCoefficientB->setCaption(formula.b);
-    ui_->workedRootOneDiscriminant->setCaption(formula.d);
-    ui_->workedRootTwoDiscriminant->setCaption(formula.d);
-    ui_->workedRootOneDenominator->setCaption(formula.denominator);
-    ui_->workedRootTwoDenominator->setCaption(formula.denominator);
     const RoedderAnswer answer = answerTexts(state_);
+    ui_->workedRootOneCoefficientB->setCaption(formula.b);
+    ui_->workedRootOneDiscriminant->setCaption(formula.d);
+    ui_->workedRootOneDenominator->setCaption(formula.denominator);
     ui_->workedRootOneResult->setCaption(answer.root1);
+    ui_->workedRootTwoCoefficientB->setCaption(formula.b);
+    ui_->workedRootTwoDiscriminant->setCaption(formula.d);
+    ui_->workedRootTwoDenominator->setCaption(formula.denominator);
     ui_->workedRootTwoResult->setCaption(answer.root2);
 }
 
-void Roedder::workOutDoubleRoot() {
-    showAll({ui_->workedDoubleRootConclusion, ui_->workedDoubleRootCase, ui_->workedDoubleRootEquals,
-             ui_->workedDoubleRootResultEquals, ui_->workedDoubleRootBar});
+void Roedder::fillWorkedDoubleRoot() {
     const RoedderFormula formula = formulaTexts(state_);
     ui_->workedDoubleRootNumerator->setCaption(formula.minusB);
     ui_->workedDoubleRootDenominator->setCaption(formula.denominator);
@@ -196,24 +248,16 @@ void Roedder::workOutDoubleRoot() {
 }
 
 void Roedder::clearWorkedSolution() {
-    // Kept: the places of the numbers are emptied and stay; the rest is hidden until help is asked for.
-    for (Label* number :
-         {ui_->workedRootOneCoefficientB, ui_->workedRootOneDiscriminant, ui_->workedRootOneDenominator,
-          ui_->workedRootOneResult, ui_->workedRootTwoCoefficientB, ui_->workedRootTwoDiscriminant,
-          ui_->workedRootTwoDenominator, ui_->workedRootTwoResult, ui_->workedDoubleRootNumerator,
-          ui_->workedDoubleRootDenominator, ui_->workedDoubleRootResult}) {
-        number->setCaption("");
+    for (const WorkedPart& part : kWorkedParts) {
+        const WorkedControls controls = WorkedControls::of(*design(), part.name);
+        // Kept: the places of the numbers are emptied and stay; the rest is hidden until help is asked for.
+        for (Label* number : controls.numbers) {
+            number->setCaption("");
+        }
+        for (QWidget* control : controls.wordsAndLines) {
+            control->hide();
+        }
     }
-    hideAll(
-        {ui_->workedTwoRootsConclusion,  ui_->workedDoubleRootConclusion, ui_->workedNoRootsConclusion,
-         ui_->workedTwoRootsCase,        ui_->workedRootOneEquals,        ui_->workedRootOneLeadingMinus,
-         ui_->workedRootOnePlusRoot,     ui_->workedRootOneResultEquals,  ui_->workedRootTwoEquals,
-         ui_->workedRootTwoLeadingMinus, ui_->workedRootTwoMinusRoot,     ui_->workedRootTwoResultEquals,
-         ui_->workedDoubleRootCase,      ui_->workedDoubleRootEquals,     ui_->workedDoubleRootResultEquals,
-         ui_->workedNoRootsCase,         ui_->workedNoRootsText,          ui_->workedRootOneRootSignHook,
-         ui_->workedRootOneRootSignRise, ui_->workedRootOneRootSignBar,   ui_->workedRootOneBar,
-         ui_->workedRootTwoRootSignHook, ui_->workedRootTwoRootSignRise,  ui_->workedRootTwoRootSignBar,
-         ui_->workedRootTwoBar,          ui_->workedDoubleRootBar});
 }
 
 void Roedder::showDiscriminant() {
@@ -226,7 +270,7 @@ void Roedder::showRootCount() {
     focusOn(ui_->showRoots);
 }
 
-void Roedder::showSolution() {
+void Roedder::showRoots() {
     hideAll({ui_->discriminantCover, ui_->rootCountCover, ui_->rootsCover});
     focusOn(ui_->closeHelp);
 }

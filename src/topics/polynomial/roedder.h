@@ -32,6 +32,7 @@ protected:
 
 private:
     void drawAxes();
+    /// `neverMet` as in a `CurveRange`.
     void drawCurve(double neverMet);
     void drawTick(double root);
 
@@ -44,12 +45,14 @@ private:
     void askForNoRoots();
     void colourRightOption();
 
-    void workOutTwoRoots();
-    void workOutDoubleRoot();
+    /// Shows the words and lines that the worked solution has for this count.
+    void showWorked(RootCount count);
+    void fillWorkedTwoRoots();
+    void fillWorkedDoubleRoot();
     void clearWorkedSolution();
     void showDiscriminant();
     void showRootCount();
-    void showSolution();
+    void showRoots();
 
     std::unique_ptr<Ui::Roedder> ui_;
     RoedderState state_;

@@ -2,14 +2,11 @@
 
 #include <array>
 
-#include "numeric/arithmetic.h"
 #include "numeric/rounding.h"
 #include "numeric/text.h"
 
 namespace tavrune {
 namespace {
-
-float drawSize(Draws& draws) { return Int(draws.Rnd() * 5) + 1; }
 
 /// What stands between the numbers of "d = b ² - 4 · a · c = d".
 struct Spacing {
@@ -34,12 +31,9 @@ std::size_t negativesOf(const Polynomial& p) {
 
 void newExercise(RoedderState& state, Draws& draws) {
     draws.Randomize();
-    Polynomial drawn;
-    drawn.a = drawSize(draws);
-    drawn.b = drawSize(draws);
-    drawn.c = drawSize(draws);
+    const Polynomial drawn = drawSizes(draws);
     draws.Randomize();
-    const Pattern& pattern = patternOf(static_cast<int>(Int(draws.Rnd() * 18)) + 1);
+    const Pattern& pattern = drawPattern(draws);
 
     state.coefficients = withSigns(pattern, drawn);
     state.polynomial = polynomialText(pattern, drawn);

@@ -8,6 +8,9 @@
 namespace tavrune {
 namespace {
 
+/// Where the axes end.
+constexpr int kEnd = 15;
+/// Half the height of the line at a wrong root.
 constexpr double kHalfTick = 0.5;
 
 }  // namespace
@@ -71,15 +74,15 @@ void Rogt::newExercise() {
 void Rogt::drawAxes() {
     GraphBox& graph = *ui_->graph;
     graph.Cls();
-    graph.Scale(-15, 15, 15, -15);
-    graph.Line(0, 15, 0, -15);
-    graph.Line(-15, 0, 15, 0);
-    drawTicksAlongX(graph, {.from = -15, .before = 15}, {0.2});
-    drawTicksAlongY(graph, {.from = -15, .before = 15}, {0.1});
-    drawTicksAlongX(graph, {.from = -15, .before = 15, .step = 5}, {0.3});
-    drawTicksAlongY(graph, {.from = -15, .before = 15, .step = 5}, {0.2});
-    drawTicksAlongX(graph, {.from = -15, .before = 15, .step = 5}, {0.4});
-    drawTicksAlongY(graph, {.from = -15, .before = 15, .step = 5}, {0.3});
+    graph.Scale(-kEnd, kEnd, kEnd, -kEnd);
+    graph.Line(0, kEnd, 0, -kEnd);
+    graph.Line(-kEnd, 0, kEnd, 0);
+    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd}, {0.2});
+    drawTicksAlongY(graph, {.from = -kEnd, .before = kEnd}, {0.1});
+    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {0.3});
+    drawTicksAlongY(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {0.2});
+    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {0.4});
+    drawTicksAlongY(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {0.3});
 }
 
 void Rogt::drawCurve() {
@@ -99,9 +102,7 @@ void Rogt::beginEntry() {
     showAll({ui_->ok, ui_->newExercise});
 }
 
-void Rogt::nameSecondBox(RootCount count) {
-    ui_->rootTwo->setAccessibleName(count == RootCount::Double ? "dobbelt rod" : "rod 2");
-}
+void Rogt::nameSecondBox(RootCount count) { ui_->rootTwo->setAccessibleName(nameOfSecondRoot(count)); }
 
 void Rogt::askForTwoRoots() {
     beginEntry();

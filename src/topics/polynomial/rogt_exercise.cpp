@@ -1,6 +1,5 @@
 #include "topics/polynomial/rogt_exercise.h"
 
-#include "numeric/arithmetic.h"
 #include "numeric/judging.h"
 #include "numeric/rounding.h"
 #include "numeric/text.h"
@@ -14,12 +13,8 @@ std::string rounded(double x) { return NumberText(RoundSigned2(x)); }
 
 void newExercise(RogtState& s, Draws& draws) {
     draws.Randomize();
-    Polynomial drawn;
-    for (float* const size : {&drawn.a, &drawn.b, &drawn.c}) {
-        *size = Int(draws.Rnd() * 5) + 1;
-    }
-    const auto patternCase = static_cast<int>(Int(draws.Rnd() * 18) + 1);
-    const Pattern& pattern = patternOf(patternCase);
+    const Polynomial drawn = drawSizes(draws);
+    const Pattern& pattern = drawPattern(draws);
     s.coefficients = withSigns(pattern, drawn);
     s.polynomialText = polynomialText(pattern, drawn);
     s.discriminant = discriminantOf(s.coefficients);

@@ -21,7 +21,7 @@ Topp::Topp(Draws& draws) : ExerciseForm(PageName::Topp, draws), ui_(std::make_un
     setUp(*ui_);
     // Kept: from the right-hand box to the left-hand one.
     enterChain({ui_->vertexPrice, ui_->vertexQuantity}, LastBox::OkOrStay);
-    onClick(ui_->showWorkedSolution, &Topp::uncover);
+    onClick(ui_->showWorkedSolution, &Topp::showWorkedSolution);
 }
 
 Topp::~Topp() = default;
@@ -36,15 +36,19 @@ void Topp::newExercise() {
 
     tavrune::newExercise(state_, draws());
 
-    ui_->task->setCaption("Bestem toppunktet i følgende andengradspolynomium");
-    ui_->workedFunction->setCaption(state_.polynomialText);
-    ui_->givenFunction->setCaption(state_.polynomialText);
+    showTask();
     fillHelp();
-    clearBoxes({ui_->vertexQuantity, ui_->vertexPrice});
-    showAll({ui_->task, ui_->priceEquals, ui_->vertexEquals, ui_->vertexQuantity, ui_->vertexSemicolon,
-             ui_->vertexPrice, ui_->vertexClosingBracket, ui_->newExercise});
+    ui_->newExercise->show();
     showAsking();
     focusOn(ui_->vertexPrice);
+}
+
+void Topp::showTask() {
+    ui_->task->setCaption("Bestem toppunktet i følgende andengradspolynomium");
+    ui_->givenFunction->setCaption(state_.polynomialText);
+    clearBoxes({ui_->vertexQuantity, ui_->vertexPrice});
+    showAll({ui_->task, ui_->priceEquals, ui_->vertexEquals, ui_->vertexQuantity, ui_->vertexSemicolon,
+             ui_->vertexPrice, ui_->vertexClosingBracket});
 }
 
 void Topp::drawAxes() {
@@ -63,17 +67,15 @@ void Topp::drawAxes() {
 
 void Topp::fillHelp() {
     const ToppWorked worked = workedSolution(state_);
+    ui_->workedFunction->setCaption(state_.polynomialText);
     ui_->workedDiscriminant->setCaption(worked.discriminant);
     ui_->workedResult->setCaption(worked.result);
-    const Fraction p(ui_->workedVertexPriceNumerator, ui_->workedVertexPriceBar,
-                     ui_->workedVertexPriceDenominator);
+    const Fraction p = Fraction::of(*design(), "workedVertexPrice");
     p.setTexts(worked.numeratorOfP, worked.denominatorOfP);
-    const Fraction q(ui_->workedVertexQuantityNumerator, ui_->workedVertexQuantityBar,
-                     ui_->workedVertexQuantityDenominator);
+    const Fraction q = Fraction::of(*design(), "workedVertexQuantity");
     q.setTexts(worked.numeratorOfQ, worked.denominatorOfQ);
 
-    const double left = ui_->workedVertexEquals->place().left();
-    p.setLeft(layOutRow({ui_->workedVertexEquals, ui_->workedVertexOpeningBracket}, left, kGap) + kGap);
+    p.setLeft(layOutFromFirst({ui_->workedVertexEquals, ui_->workedVertexOpeningBracket}, kGap) + kGap);
     q.setLeft(layOutRow({ui_->workedVertexSemicolon}, p.right() + kGap) + kGap);
     layOutRow({ui_->workedVertexClosingBracket}, q.right() + kGap);
 }
@@ -111,7 +113,7 @@ void Topp::giveAnswer() {
 
 void Topp::help() { openPanel(ui_->helpPanel, ui_->showWorkedSolution); }
 
-void Topp::uncover() {
+void Topp::showWorkedSolution() {
     ui_->workedSolutionCover->hide();
     focusOn(ui_->closeHelp);
 }

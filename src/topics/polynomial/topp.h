@@ -31,9 +31,10 @@ protected:
 
 private:
     void drawAxes();
+    void showTask();
     void fillHelp();
     void drawCurve();
-    void uncover();
+    void showWorkedSolution();
 
     std::unique_ptr<Ui::Topp> ui_;
     ToppState state_;

@@ -94,6 +94,13 @@ TEST(Piece, HasAPriceAtEachQuantity) {
     EXPECT_EQ(piece.at(20), -30);
 }
 
+TEST(Direction, HasAFactorAndAnEdgeWhereTheSumEnds) {
+    EXPECT_EQ(factorOf(Direction::Rising), 1);
+    EXPECT_EQ(factorOf(Direction::Falling), -1);
+    EXPECT_EQ(lastPriceOf(Direction::Rising), 10);
+    EXPECT_EQ(lastPriceOf(Direction::Falling), 0);
+}
+
 constexpr double above(double x) { return x + 1e-9; }
 constexpr double below(double x) { return x - 1e-9; }
 

@@ -55,7 +55,7 @@ Vaddi1State exercise(const Task& task) {
 }
 
 Task taskOf(const Vaddi1State& s) {
-    return {s.direction, static_cast<int>(s.slope1), static_cast<int>(s.intercept1),
+    return {factorOf(s.direction), static_cast<int>(s.slope1), static_cast<int>(s.intercept1),
             static_cast<int>(s.slope2), static_cast<int>(s.intercept2)};
 }
 
@@ -80,8 +80,10 @@ TEST(Vaddi1Generator, FallsFromTwentySixHundredthsOn) {
     const std::vector<float> rest{cellOf(1, 6), cellOf(1, 6), cellOf(1, 6), cellOf(1, 6)};
     ScriptedDraws draws;
     Vaddi1State s;
-    for (const auto& [direction, wanted] :
-         {std::pair{0.0F, 1}, {std::nextafter(0.26F, 0.0F), 1}, {0.26F, -1}, {kLargestDraw, -1}}) {
+    for (const auto& [direction, wanted] : {std::pair{0.0F, Direction::Rising},
+                                            {std::nextafter(0.26F, 0.0F), Direction::Rising},
+                                            {0.26F, Direction::Falling},
+                                            {kLargestDraw, Direction::Falling}}) {
         draws.append({direction});
         draws.append(rest);
         drawTask(s, draws);
@@ -121,7 +123,7 @@ TEST(Vaddi1Generator, DrawsTheDirectionAnewOnEveryPass) {
     ScriptedDraws draws(scriptOf({1, 0, 3, 0, 7}) + scriptOf(kFalling));
     Vaddi1State s;
     drawTask(s, draws);
-    EXPECT_EQ(s.direction, -1);
+    EXPECT_EQ(s.direction, Direction::Falling);
 }
 
 TEST(Vaddi1Generator, ReachesEveryTaskAboutAQuarterOfThemRising) {
@@ -133,7 +135,7 @@ TEST(Vaddi1Generator, ReachesEveryTaskAboutAQuarterOfThemRising) {
         Vaddi1State s;
         drawTask(s, draws);
         reached.insert(nameOf(taskOf(s)));
-        rising += s.direction == 1 ? 1 : 0;
+        rising += s.direction == Direction::Rising ? 1 : 0;
     }
     EXPECT_EQ(reached.size(), 2400U);
     EXPECT_NEAR(static_cast<double>(rising) / kDrawn, 0.26, 0.01);

@@ -90,14 +90,16 @@ TEST(Vaddi2Draw, TakesTheDirectionThenSlopeAndInterceptOfEachFunction) {
     newExercise(state, draws);
     EXPECT_TRUE(draws.isUsedUp());
     EXPECT_EQ(draws.randomized(), 1);
-    EXPECT_EQ(state.direction, -1);
+    EXPECT_EQ(state.direction, Direction::Falling);
     EXPECT_EQ(state.slope, (std::array<double, 3>{-1, -3, -4}));
     EXPECT_EQ(state.intercept, (std::array<double, 3>{7, 9, 5}));
 }
 
 TEST(Vaddi2Draw, RisesBelowAQuarter) {
-    for (const auto& [draw, direction] :
-         {std::pair{0.0F, 1}, {std::nextafter(0.25F, 0.0F), 1}, {0.25F, -1}, {kLargestDraw, -1}}) {
+    for (const auto& [draw, direction] : {std::pair{0.0F, Direction::Rising},
+                                          {std::nextafter(0.25F, 0.0F), Direction::Rising},
+                                          {0.25F, Direction::Falling},
+                                          {kLargestDraw, Direction::Falling}}) {
         ScriptedDraws draws{draw, 0.2F, 0.4F, 0.6F, 0.8F, 0.9F, 0.1F};
         Vaddi2State state;
         newExercise(state, draws);
@@ -110,8 +112,8 @@ TEST(Vaddi2Draw, ReachesFourInSizeAndInterceptsByTheDirection) {
         ScriptedDraws draws{direction, kLargestDraw, 0, 0.2F, kLargestDraw, kLargestDraw, kLargestDraw};
         Vaddi2State state;
         newExercise(state, draws);
-        EXPECT_EQ(state.slope,
-                  (std::array{4.0 * state.direction, 1.0 * state.direction, 4.0 * state.direction}));
+        const int factor = factorOf(state.direction);
+        EXPECT_EQ(state.slope, (std::array{4.0 * factor, 1.0 * factor, 4.0 * factor}));
         EXPECT_EQ(state.intercept, (std::array{lowest + 0.0, lowest + 4.0, lowest + 4.0}));
     }
 }
@@ -145,7 +147,7 @@ TEST_P(Vaddi2Rejects, AndDrawsTheFunctionsAgainButNotTheDirection) {
     newExercise(state, draws);
     EXPECT_TRUE(draws.isUsedUp());
     EXPECT_EQ(draws.randomized(), 1);
-    EXPECT_EQ(state.direction, direction);
+    EXPECT_EQ(factorOf(state.direction), direction);
     for (std::size_t f = 0; f < 3; ++f) {
         EXPECT_EQ(state.slope[f], accepted[f].slope);
         EXPECT_EQ(state.intercept[f], accepted[f].intercept);
@@ -322,7 +324,7 @@ TEST(Vaddi2UpperEnd, IsNotAskedAgainAfterAnExerciseThatHasOne) {
 
 TEST(Vaddi2Table, ShowsAThousandAsUnbounded) {
     Vaddi2State state;
-    state.direction = -1;
+    state.direction = Direction::Falling;
     state.slope = {-0.009, -1, -0.00900005};
     state.intercept = {9, 9, 9};
     solve(state);
@@ -334,7 +336,7 @@ TEST(Vaddi2Table, ShowsAThousandAsUnbounded) {
 TEST(Vaddi2Solution, FailsWhereTwoTotalsAreEqual) {
     // Rising functions that start where the table ends; they cannot be drawn.
     Vaddi2State state;
-    state.direction = 1;
+    state.direction = Direction::Rising;
     state.slope = {1, 2, 3};
     state.intercept = {10, 10, 10};
     try {
@@ -543,9 +545,9 @@ TEST(Vaddi2Seeds, PlayOutOfAStreamAsOutOfAScript) {
             functions[f] = {static_cast<int>(state.slope[f]), static_cast<int>(state.intercept[f])};
         }
         ASSERT_TRUE(isDrawable(functions));
-        rising += state.direction == kRising ? 1 : 0;
+        rising += state.direction == Direction::Rising ? 1 : 0;
         if (exercise % 20 == 0) {
-            ASSERT_EQ(flawOf(state, state.direction, functions), "") << "exercise " << exercise;
+            ASSERT_EQ(flawOf(state, factorOf(state.direction), functions), "") << "exercise " << exercise;
         }
     }
     EXPECT_NEAR(rising, 25'000, 800);

@@ -21,6 +21,7 @@
 namespace tavrune {
 namespace {
 
+using enum TableColumn;
 using test::cellOf;
 using test::DecimalMark;
 using test::Exact;
@@ -43,6 +44,17 @@ std::string columnText(const Vaddi3State::Column& column) {
     std::string text;
     for (const TableCell& cell : column) {
         text += (text.empty() ? "" : "|") + cell.text();
+    }
+    return text;
+}
+
+/// "a" for the first part, "b" for the second.
+std::string partsText(const Vaddi3State& s) {
+    const std::map<Parts, std::string> names{
+        {Parts::None, "-"}, {Parts::First, "a"}, {Parts::Second, "b"}, {Parts::Both, "ab"}};
+    std::string text;
+    for (const Parts parts : s.partsOfRows) {
+        text += (text.empty() ? "" : "|") + names.at(parts);
     }
     return text;
 }
@@ -332,7 +344,7 @@ TEST_P(Vaddi3Sum, HasItsPricesAndSegments) {
     const Vaddi3State s = exerciseOf(GetParam().task);
     EXPECT_EQ(sumText(s), GetParam().sum);
     std::string prices;
-    for (const TableCell& cell : s.helpTable[helpColumns(s).price]) {
+    for (const TableCell& cell : s.column(helpColumns(s).price)) {
         prices += cell.isBlank() ? "" : (prices.empty() ? "" : " ") + cell.text();
     }
     EXPECT_EQ(prices, GetParam().prices);
@@ -344,61 +356,61 @@ TEST_P(Vaddi3Sum, HasItsPricesAndSegments) {
 
 TEST(Vaddi3Table, ShiftsByOneColumnWhereFunction1HasOneQuantityAtEveryPrice) {
     const Vaddi3State s = exerciseOf(test::kThreeSegments);
-    EXPECT_EQ(columnText(s.helpTable[0]), " | | | | ");
-    EXPECT_EQ(columnText(s.helpTable[1]), "9|7|5|0| ");
-    EXPECT_EQ(columnText(s.helpTable[2]), "0|4|4|6.5| ");
-    EXPECT_EQ(columnText(s.helpTable[3]), "0|1|2|4.5| ");
-    EXPECT_EQ(columnText(s.helpTable[4]), "0|5|6|11| ");
-    EXPECT_EQ(columnText(s.helpTable[5]), " | | | | ");
+    EXPECT_EQ(columnText(s.column(WidePrice)), " | | | | ");
+    EXPECT_EQ(columnText(s.column(PriceOrPart1Quantity)), "9|7|5|0| ");
+    EXPECT_EQ(columnText(s.column(Function1OrPart2Quantity)), "0|4|4|6.5| ");
+    EXPECT_EQ(columnText(s.column(Function2Quantity)), "0|1|2|4.5| ");
+    EXPECT_EQ(columnText(s.column(TotalOrPart1Total)), "0|5|6|11| ");
+    EXPECT_EQ(columnText(s.column(Part2Total)), " | | | | ");
     EXPECT_EQ(s.upperEnd.text(), "11");
 }
 
 TEST(Vaddi3Table, HasAColumnForEachPartAtAJumpUp) {
     const Vaddi3State s = exerciseOf(test::kFourSegments);
-    EXPECT_EQ(columnText(s.helpTable[0]), "9|6|5|3|0");
-    EXPECT_EQ(columnText(s.helpTable[1]), "0|1|1.33|2|0");
-    EXPECT_EQ(columnText(s.helpTable[2]), "0|2|4|8|14");
-    EXPECT_EQ(columnText(s.helpTable[3]), " | |0|1|2.5");
-    EXPECT_EQ(columnText(s.helpTable[4]), "0|1|1.33|3|2.5");
-    EXPECT_EQ(columnText(s.helpTable[5]), "0|2|4|9|16.5");
-    EXPECT_EQ(columnText(s.helpTable[HelpColumns::kOwner]), "1|2|3|1|2");
+    EXPECT_EQ(columnText(s.column(WidePrice)), "9|6|5|3|0");
+    EXPECT_EQ(columnText(s.column(PriceOrPart1Quantity)), "0|1|1.33|2|0");
+    EXPECT_EQ(columnText(s.column(Function1OrPart2Quantity)), "0|2|4|8|14");
+    EXPECT_EQ(columnText(s.column(Function2Quantity)), " | |0|1|2.5");
+    EXPECT_EQ(columnText(s.column(TotalOrPart1Total)), "0|1|1.33|3|2.5");
+    EXPECT_EQ(columnText(s.column(Part2Total)), "0|2|4|9|16.5");
+    EXPECT_EQ(partsText(s), "a|b|ab|a|b");
     EXPECT_EQ(s.upperEnd.text(), "16.5");
 }
 
 TEST(Vaddi3Table, IsBlankOnlyAboveTheStartOfAFunction) {
     const Vaddi3State above = exerciseOf({KinkKind::JumpUp, 8, -4, 1, -0.5F, 0.5F, -2, 9});
-    EXPECT_EQ(columnText(above.helpTable[1]), " |0|0.38|1|0");
-    EXPECT_EQ(columnText(above.helpTable[2]), " |0|1|6|14");
-    EXPECT_EQ(columnText(above.helpTable[4]), "0|0.5|1.63|3.5|4.5");
+    EXPECT_EQ(columnText(above.column(PriceOrPart1Quantity)), " |0|0.38|1|0");
+    EXPECT_EQ(columnText(above.column(Function1OrPart2Quantity)), " |0|1|6|14");
+    EXPECT_EQ(columnText(above.column(TotalOrPart1Total)), "0|0.5|1.63|3.5|4.5");
     const Vaddi3State below = exerciseOf(test::kTwoSegments);
-    EXPECT_EQ(columnText(below.helpTable[3]), " | |0|1.25| ");
-    EXPECT_EQ(columnText(below.helpTable[4]), "0|4|4|7.75| ");
+    EXPECT_EQ(columnText(below.column(Function2Quantity)), " | |0|1.25| ");
+    EXPECT_EQ(columnText(below.column(TotalOrPart1Total)), "0|4|4|7.75| ");
 }
 
 TEST(Vaddi3Table, HasAnyQuantityBelowALevelFunction) {
     const Vaddi3State s = exerciseOf(test::kTwoOverALevel);
-    EXPECT_EQ(columnText(s.helpTable[1]), "9|7|6|5|0");
-    EXPECT_EQ(columnText(s.helpTable[2]), "0|4|4|4|6.5");
-    EXPECT_EQ(columnText(s.helpTable[3]), " | |0|oo|oo");
-    EXPECT_EQ(columnText(s.helpTable[4]), "0|4|4|oo|oo");
+    EXPECT_EQ(columnText(s.column(PriceOrPart1Quantity)), "9|7|6|5|0");
+    EXPECT_EQ(columnText(s.column(Function1OrPart2Quantity)), "0|4|4|4|6.5");
+    EXPECT_EQ(columnText(s.column(Function2Quantity)), " | |0|oo|oo");
+    EXPECT_EQ(columnText(s.column(TotalOrPart1Total)), "0|4|4|oo|oo");
     const Vaddi3State both = exerciseOf(test::kThreeOverALevel);
-    EXPECT_EQ(columnText(both.helpTable[3]), " | | |0|oo");
-    EXPECT_EQ(columnText(both.helpTable[4]), "0|0.47|1|0|oo");
-    EXPECT_EQ(columnText(both.helpTable[5]), "0|1|5|7.5|oo");
+    EXPECT_EQ(columnText(both.column(Function2Quantity)), " | | |0|oo");
+    EXPECT_EQ(columnText(both.column(TotalOrPart1Total)), "0|0.47|1|0|oo");
+    EXPECT_EQ(columnText(both.column(Part2Total)), "0|1|5|7.5|oo");
 }
 
 TEST(Vaddi3Table, MergesEqualPricesAndBlanksTheRowsThatAreLeft) {
     // The two kink prices and the start of function 2 are one.
     const Vaddi3State three = exerciseOf(test::kFlatter);
-    EXPECT_EQ(columnText(three.helpTable[1]), "9|5|0| | ");
-    EXPECT_EQ(columnText(three.helpTable[4]), "0|1|13.5| | ");
+    EXPECT_EQ(columnText(three.column(PriceOrPart1Quantity)), "9|5|0| | ");
+    EXPECT_EQ(columnText(three.column(TotalOrPart1Total)), "0|1|13.5| | ");
     // A merged row at a jump up stays on both parts.
     const Vaddi3State higher = exerciseOf({KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, -2, 6});
-    EXPECT_EQ(columnText(higher.helpTable[HelpColumns::kOwner]), "1|3|1|2| ");
+    EXPECT_EQ(partsText(higher), "a|ab|a|b|-");
     const Vaddi3State lower = exerciseOf({KinkKind::JumpUp, 9, -4, 1, -0.5F, 0.3F, -2, 5});
-    EXPECT_EQ(columnText(lower.helpTable[HelpColumns::kOwner]), "1|2|3|2| ");
+    EXPECT_EQ(partsText(lower), "a|b|ab|b|-");
     const Vaddi3State start = exerciseOf({KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, -2, 9});
-    EXPECT_EQ(columnText(start.helpTable[HelpColumns::kOwner]), "1|2|1|2| ");
+    EXPECT_EQ(partsText(start), "a|b|a|b|-");
 }
 
 TEST(Vaddi3Table, LosesASegmentToAMergedRow) {
@@ -408,23 +420,23 @@ TEST(Vaddi3Table, LosesASegmentToAMergedRow) {
 
 TEST(Vaddi3Table, SaysOnWhichPartsARowLies) {
     const Vaddi3State up = exerciseOf(test::kFourSegments);
-    const auto parts = [](const Vaddi3State& s, std::size_t part) {
+    const auto parts = [](const Vaddi3State& s, Part part) {
         std::string rows;
         for (std::size_t row = 0; row < 5; ++row) {
             rows += isRowOf(s, row, part) ? '1' : '0';
         }
         return rows;
     };
-    EXPECT_EQ(parts(up, 0), "10110");
-    EXPECT_EQ(parts(up, 1), "01101");
-    EXPECT_EQ(parts(exerciseOf(test::kThreeSegments), 0), "11110");
+    EXPECT_EQ(parts(up, Part::First), "10110");
+    EXPECT_EQ(parts(up, Part::Second), "01101");
+    EXPECT_EQ(parts(exerciseOf(test::kThreeSegments), Part::First), "11110");
 }
 
 TEST(Vaddi3Table, KeepsThePrecisionOfItsNumbers) {
     // 0.525, from a price that is a double: as a single it would come out below the half.
     const Vaddi3State s = exerciseOf({KinkKind::JumpUp, 8, -4, 1, -0.1F, 0.3F, -1, 9});
     ASSERT_EQ(s.secondIntercept, 6);
-    EXPECT_EQ(columnText(s.helpTable[1]), " |0|0.53|1|0");
+    EXPECT_EQ(columnText(s.column(PriceOrPart1Quantity)), " |0|0.53|1|0");
     // 7.125, from singles alone: as doubles they would come out below the half.
     const Vaddi3State singles = exerciseOf({KinkKind::JumpDown, 7, -0.2F, 8, -4, 0.1F, -3, 9});
     EXPECT_EQ(singles.segments[1].piece.intercept, 7.13);
@@ -737,14 +749,14 @@ std::string flawOfTable(const Vaddi3State& s) {
     const HelpColumns columns = helpColumns(s);
     Exact above = 100;
     std::size_t rows = 0;
-    for (; rows < 5 && s.helpTable[columns.price][rows].isNumeric(); ++rows) {
-        const Exact p = exact(s.helpTable[columns.price][rows].number());
-        if (!isNear(s.helpTable[columns.price][rows], p) || !(p < above) || !market.isBreak(p)) {
+    for (; rows < 5 && s.column(columns.price)[rows].isNumeric(); ++rows) {
+        const Exact p = exact(s.column(columns.price)[rows].number());
+        if (!isNear(s.column(columns.price)[rows], p) || !(p < above) || !market.isBreak(p)) {
             return "prices";
         }
         above = p;
-        const auto is = [&s, rows](std::size_t column, std::optional<Exact> quantity) {
-            const TableCell& cell = s.helpTable[column][rows];
+        const auto is = [&s, rows](TableColumn column, std::optional<Exact> quantity) {
+            const TableCell& cell = s.column(column)[rows];
             if (!quantity) {
                 return cell.isBlank();
             }
@@ -767,15 +779,18 @@ std::string flawOfTable(const Vaddi3State& s) {
         }
         for (std::size_t part = 0; part < parts.size(); ++part) {
             const Exact own = isAbove1 ? Exact(0) : parts[part];
-            if (!is(columns.quantities1[part], isAbove1 ? std::nullopt : std::optional(own))) {
+            if (!is(columns.function1[part].quantity, isAbove1 ? std::nullopt : std::optional(own))) {
                 return "quantities of function 1";
             }
-            if (!is(columns.totals[part], own + other.value_or(0))) {
+            if (!is(columns.function1[part].total, own + other.value_or(0))) {
                 return "totals";
             }
         }
     }
     for (std::size_t row = rows; row < 5; ++row) {
+        if (s.partsOfRows[row] != Parts::None) {
+            return "rows that are left";
+        }
         for (const Vaddi3State::Column& column : s.helpTable) {
             if (!column[row].isBlank()) {
                 return "rows that are left";
@@ -897,7 +912,7 @@ TEST(Vaddi3Exercises, AreRightInTheirOwnFieldsButForThreeSegmentsWithAnUpperEnd)
         ++slips;
         const Target target = upperEndField(s)->target;
         EXPECT_FALSE(target.isFit(0)) << "an empty cell gives no right answer, seed " << seed;
-        const TableCell& cell = s.helpTable[2][2];
+        const TableCell& cell = s.column(Function1OrPart2Quantity)[2];
         helpedByTheTable += cell.isNumeric() && target.isFit(cell.number()) ? 1 : 0;
     });
     std::cout << "    " << 100.0 * slips / exercises

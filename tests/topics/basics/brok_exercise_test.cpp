@@ -23,11 +23,11 @@ using test::typedAgain;
 /// The draw that gives this part of a fraction.
 float part(int value) { return cellOf(value + 10, 20); }
 
-enum Type { Minus = 0, Plus = 1, Times = 2, By = 3 };
+using enum Operation;
 
-float type(Type t) { return cellOf(t, 4); }
+float type(Operation t) { return cellOf(static_cast<int>(t), 4); }
 
-BrokState exercise(int a, int b, int c, int d, Type t) {
+BrokState exercise(int a, int b, int c, int d, Operation t) {
     ScriptedDraws draws{part(a), part(b), part(c), part(d), type(t)};
     BrokState state;
     newExercise(state, draws);
@@ -43,16 +43,17 @@ BrokState withResult(double numerator, double denominator) {
 }
 
 TEST(BrokGenerator, DrawsFourPartsThenTheType) {
-    const BrokState s = exercise(-10, 9, 3, -1, Minus);
+    const BrokState s = exercise(-10, 9, 3, -1, Subtract);
     EXPECT_EQ(s.numeratorA, -10);
     EXPECT_EQ(s.denominatorB, 9);
     EXPECT_EQ(s.numeratorC, 3);
     EXPECT_EQ(s.denominatorD, -1);
-    EXPECT_EQ(s.operatorText, "-");
+    EXPECT_EQ(s.operation, Subtract);
 }
 
 TEST(BrokGenerator, DrawsAllFourAgainWithoutReseedingWhileOneIsZero) {
-    ScriptedDraws draws{part(1), part(0), part(3), part(4), part(5), part(6), part(7), part(8), type(Times)};
+    ScriptedDraws draws{part(1), part(0), part(3), part(4),       part(5),
+                        part(6), part(7), part(8), type(Multiply)};
     BrokState s;
     newExercise(s, draws);
     EXPECT_EQ(s.numeratorA, 5);
@@ -62,19 +63,19 @@ TEST(BrokGenerator, DrawsAllFourAgainWithoutReseedingWhileOneIsZero) {
 }
 
 TEST(BrokGenerator, StartsOverWithReseedingWhileTheResultIsZero) {
-    ScriptedDraws draws{part(1), part(2), part(1), part(2), type(Minus),
-                        part(1), part(2), part(1), part(2), type(Plus)};
+    ScriptedDraws draws{part(1), part(2), part(1), part(2), type(Subtract),
+                        part(1), part(2), part(1), part(2), type(Add)};
     BrokState s;
     newExercise(s, draws);
-    EXPECT_EQ(s.operatorText, "+");
+    EXPECT_EQ(s.operation, Add);
     EXPECT_EQ(draws.randomized(), 2);
 }
 
 struct TypeRow {
     const char* name;
-    Type type;
+    Operation type;
     int a, b, c, d;
-    const char* operatorText;
+    const char* sign;
     double numerator, denominator;
 };
 
@@ -83,19 +84,20 @@ class BrokTypes : public testing::TestWithParam<TypeRow> {};
 TEST_P(BrokTypes, StoreTheResultAsComputed) {
     const TypeRow& row = GetParam();
     const BrokState s = exercise(row.a, row.b, row.c, row.d, row.type);
-    EXPECT_EQ(s.operatorText, row.operatorText);
+    EXPECT_EQ(s.operation, row.type);
+    EXPECT_EQ(operatorSign(s.operation), row.sign);
     EXPECT_EQ(s.resultNumerator, row.numerator);
     EXPECT_EQ(s.resultDenominator, row.denominator);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, BrokTypes,
-                         testing::Values(TypeRow{"Difference", Minus, 1, 2, 1, 3, "-", 1, 6},
-                                         TypeRow{"DifferenceWithOneDenominator", Minus, 1, 4, 3, 4, "-", -2,
-                                                 4},
-                                         TypeRow{"Sum", Plus, 1, 2, 1, 3, "+", 5, 6},
-                                         TypeRow{"SumOverOneDenominator", Plus, 1, 2, 1, 2, "+", 2, 2},
-                                         TypeRow{"Product", Times, -2, 3, 4, -5, "*", -8, -15},
-                                         TypeRow{"Quotient", By, 2, 3, 4, 5, "/", 10, 12}),
+                         testing::Values(TypeRow{"Difference", Subtract, 1, 2, 1, 3, "-", 1, 6},
+                                         TypeRow{"DifferenceWithOneDenominator", Subtract, 1, 4, 3, 4, "-",
+                                                 -2, 4},
+                                         TypeRow{"Sum", Add, 1, 2, 1, 3, "+", 5, 6},
+                                         TypeRow{"SumOverOneDenominator", Add, 1, 2, 1, 2, "+", 2, 2},
+                                         TypeRow{"Product", Multiply, -2, 3, 4, -5, "*", -8, -15},
+                                         TypeRow{"Quotient", Divide, 2, 3, 4, 5, "/", 10, 12}),
                          [](const auto& row) { return row.param.name; });
 
 TEST(BrokJudge, TakesAnyFractionOfTheSameValue) {
@@ -151,57 +153,58 @@ TEST(BrokReduction, HoldsSevenFactors) {
 TEST(BrokReduction, TakesAStateWithoutAnExercise) {
     EXPECT_FALSE(reduced(BrokState{}).isNegative);
     EXPECT_EQ(reduced(BrokState{}).numerator, 1);
+    EXPECT_EQ(operatorSign(BrokState{}.operation), "");
 }
 
 TEST(BrokWorked, WritesBracketsRoundNegativesAndTheBlanksOfTheOperator) {
-    const BrokWorked sum = workedSolution(exercise(-1, 2, 3, -4, Plus));
-    EXPECT_EQ(sum.middle.numerator, "(-1)*(-4) + 3*2");
-    EXPECT_EQ(sum.middle.denominator, "2*(-4)");
+    const BrokWorked sum = workedSolution(exercise(-1, 2, 3, -4, Add));
+    EXPECT_EQ(sum.writtenOut.numerator, "(-1)*(-4) + 3*2");
+    EXPECT_EQ(sum.writtenOut.denominator, "2*(-4)");
     EXPECT_EQ(sum.computed.numerator, "10");
     EXPECT_EQ(sum.computed.denominator, "-8");
 
-    const BrokWorked difference = workedSolution(exercise(-1, 2, 3, -4, Minus));
-    EXPECT_EQ(difference.middle.numerator, "(-1)*(-4) - 3*2");
+    const BrokWorked difference = workedSolution(exercise(-1, 2, 3, -4, Subtract));
+    EXPECT_EQ(difference.writtenOut.numerator, "(-1)*(-4) - 3*2");
     EXPECT_EQ(difference.computed.numerator, "-2");
 
-    const BrokWorked product = workedSolution(exercise(-1, 2, 3, -4, Times));
-    EXPECT_EQ(product.middle.numerator, "(-1)*3");
-    EXPECT_EQ(product.middle.denominator, "2*(-4)");
+    const BrokWorked product = workedSolution(exercise(-1, 2, 3, -4, Multiply));
+    EXPECT_EQ(product.writtenOut.numerator, "(-1)*3");
+    EXPECT_EQ(product.writtenOut.denominator, "2*(-4)");
     EXPECT_EQ(product.computed.numerator, "-3");
 
-    const BrokWorked quotient = workedSolution(exercise(-1, 2, 3, -4, By));
-    EXPECT_EQ(quotient.middle.numerator, "(-1)*(-4)");
-    EXPECT_EQ(quotient.middle.denominator, "2*3");
+    const BrokWorked quotient = workedSolution(exercise(-1, 2, 3, -4, Divide));
+    EXPECT_EQ(quotient.writtenOut.numerator, "(-1)*(-4)");
+    EXPECT_EQ(quotient.writtenOut.denominator, "2*3");
     EXPECT_EQ(quotient.computed.numerator, "4");
     EXPECT_EQ(quotient.computed.denominator, "6");
 }
 
 TEST(BrokWorked, DoesNotShowTheShortcutOfTheGenerator) {
-    const BrokWorked worked = workedSolution(exercise(1, 4, 2, 4, Plus));
+    const BrokWorked worked = workedSolution(exercise(1, 4, 2, 4, Add));
     EXPECT_EQ(worked.computed.numerator, "12");
     EXPECT_EQ(worked.computed.denominator, "16");
 }
 
 TEST(BrokWorked, EndsInAWholeNumberAReducedFractionOrNothing) {
-    const LastStep whole = workedSolution(exercise(-4, 1, 2, 1, By)).last;
+    const LastStep whole = workedSolution(exercise(-4, 1, 2, 1, Divide)).last;
     EXPECT_EQ(whole.kind, LastStep::Kind::Whole);
     EXPECT_EQ(whole.numerator, "-2");
 
-    const LastStep one = workedSolution(exercise(1, 2, 1, 2, Plus)).last;
+    const LastStep one = workedSolution(exercise(1, 2, 1, 2, Add)).last;
     EXPECT_EQ(one.kind, LastStep::Kind::Whole);
     EXPECT_EQ(one.numerator, "1");
 
-    EXPECT_EQ(workedSolution(exercise(1, 2, 1, 3, Plus)).last.kind, LastStep::Kind::Irreducible);
-    EXPECT_EQ(workedSolution(exercise(-1, 2, 1, 7, Times)).last.kind, LastStep::Kind::Irreducible);
+    EXPECT_EQ(workedSolution(exercise(1, 2, 1, 3, Add)).last.kind, LastStep::Kind::Irreducible);
+    EXPECT_EQ(workedSolution(exercise(-1, 2, 1, 7, Multiply)).last.kind, LastStep::Kind::Irreducible);
 
-    const LastStep reducible = workedSolution(exercise(-2, 3, 1, 4, Times)).last;
+    const LastStep reducible = workedSolution(exercise(-2, 3, 1, 4, Multiply)).last;
     EXPECT_EQ(reducible.kind, LastStep::Kind::Reduced);
     EXPECT_EQ(reducible.numerator, "-1");
     EXPECT_EQ(reducible.denominator, "6");
 }
 
 TEST(BrokWorked, MovesTheSignOutOfANegativeDenominator) {
-    const LastStep last = workedSolution(exercise(1, -2, 1, 7, Times)).last;
+    const LastStep last = workedSolution(exercise(1, -2, 1, 7, Multiply)).last;
     EXPECT_EQ(last.kind, LastStep::Kind::Reduced);
     EXPECT_EQ(last.numerator, "-1");
     EXPECT_EQ(last.denominator, "14");
@@ -209,7 +212,7 @@ TEST(BrokWorked, MovesTheSignOutOfANegativeDenominator) {
 
 struct MethodRow {
     const char* name;
-    const char* operatorText;
+    Operation operation;
     const char* task;
     const char* rule;
     const char* numerator;
@@ -219,7 +222,7 @@ struct MethodRow {
 class BrokMethods : public testing::TestWithParam<MethodRow> {};
 
 TEST_P(BrokMethods, AreOneForEachOperator) {
-    const BrokMethod& method = methodFor(GetParam().operatorText);
+    const BrokMethod& method = methodFor(GetParam().operation);
     EXPECT_STREQ(method.task, GetParam().task);
     EXPECT_STREQ(method.rule, GetParam().rule);
     EXPECT_STREQ(method.numerator, GetParam().numerator);
@@ -229,17 +232,17 @@ TEST_P(BrokMethods, AreOneForEachOperator) {
 INSTANTIATE_TEST_SUITE_P(
     Rows, BrokMethods,
     testing::Values(
-        MethodRow{"Sum", "+", "Her skal du lægge to brøker sammen",
+        MethodRow{"Sum", Add, "Her skal du lægge to brøker sammen",
                   "Find en fællesnævner ved at forlænge begge brøker med den modsatte brøks nævner. Læg "
                   "derefter de to tællere sammen og behold fællesnævneren.",
                   "a*d + c*b", "b*d"},
-        MethodRow{"Difference", "-", "I denne opgave skal du trække én brøk fra en anden",
+        MethodRow{"Difference", Subtract, "I denne opgave skal du trække én brøk fra en anden",
                   "Find en fællesnævner ved at forlænge begge brøker med den modsatte brøks nævner. Træk "
                   "derefter de to tællere fra hinanden og behold fællesnævneren.",
                   "a*d - c*b", "b*d"},
-        MethodRow{"Product", "*", "Her skal du gange to brøker",
+        MethodRow{"Product", Multiply, "Her skal du gange to brøker",
                   "Gang tæller med tæller og nævner med nævner", "a*c", "b*d"},
-        MethodRow{"Quotient", "/", "I denne opgave skal du dividere én brøk med en anden",
+        MethodRow{"Quotient", Divide, "I denne opgave skal du dividere én brøk med en anden",
                   "Man dividerer med en brøk ved at gange med den omvendte: Tæller med nævner og nævner "
                   "med tæller",
                   "a*d", "b*c"}),
@@ -256,8 +259,9 @@ void forEachExercise(Visit visit) {
                     if (a * b * c * d == 0) {
                         continue;
                     }
-                    for (const Type t : {Minus, Plus, Times, By}) {
-                        const bool isZero = (t == Minus && a * d == b * c) || (t == Plus && a * d == -b * c);
+                    for (const Operation t : {Subtract, Add, Multiply, Divide}) {
+                        const bool isZero =
+                            (t == Subtract && a * d == b * c) || (t == Add && a * d == -b * c);
                         if (!isZero) {
                             visit(a, b, c, d, t);
                         }
@@ -285,25 +289,25 @@ bool isShownAs(const BrokState& s, const LastStep& last, double p, double q) {
     return beside && worked;
 }
 
-/// True if the middle fraction of the worked solution inserts these numbers and the next one computes them.
-bool isWorkedOut(const BrokWorked& worked, int a, int b, int c, int d, Type t) {
+/// True if the first fraction of the worked solution inserts these numbers and the next one computes them.
+bool isWorkedOut(const BrokWorked& worked, int a, int b, int c, int d, Operation t) {
     const auto product = [](int x, int y) {
         return bracketed(static_cast<float>(x)) + "*" + bracketed(static_cast<float>(y));
     };
-    const auto shows = [&worked](const std::string& middleTop, const std::string& middleBottom, int top,
+    const auto shows = [&worked](const std::string& writtenTop, const std::string& writtenBottom, int top,
                                  int bottom) {
-        return worked.middle.numerator == middleTop && worked.middle.denominator == middleBottom &&
+        return worked.writtenOut.numerator == writtenTop && worked.writtenOut.denominator == writtenBottom &&
                worked.computed.numerator == std::to_string(top) &&
                worked.computed.denominator == std::to_string(bottom);
     };
     switch (t) {
-        case Times:
+        case Multiply:
             return shows(product(a, c), product(b, d), a * c, b * d);
-        case By:
+        case Divide:
             return shows(product(a, d), product(b, c), a * d, b * c);
-        case Plus:
+        case Add:
             return shows(product(a, d) + " + " + product(c, b), product(b, d), a * d + c * b, b * d);
-        case Minus:
+        case Subtract:
             break;
     }
     return shows(product(a, d) + " - " + product(c, b), product(b, d), a * d - c * b, b * d);
@@ -312,19 +316,19 @@ bool isWorkedOut(const BrokWorked& worked, int a, int b, int c, int d, Type t) {
 TEST(BrokSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
     Proof proof("Brok", 4);
     int visited = 0;
-    forEachExercise([&](int a, int b, int c, int d, Type t) {
+    forEachExercise([&](int a, int b, int c, int d, Operation t) {
         ++visited;
-        proof.visit(Proof::From::WholeSpace, t);
+        proof.visit(Proof::From::WholeSpace, static_cast<int>(t));
         const BrokState s = exercise(a, b, c, d, t);
         const double n = s.resultNumerator;
         const double m = s.resultDenominator;
         // The value by a second way: whole-number arithmetic over the common denominator.
-        int top = t == Times ? a * c : a * d;
-        const int bottom = t == By ? b * c : b * d;
-        if (t == Plus) {
+        int top = t == Multiply ? a * c : a * d;
+        const int bottom = t == Divide ? b * c : b * d;
+        if (t == Add) {
             top += b * c;
         }
-        if (t == Minus) {
+        if (t == Subtract) {
             top -= b * c;
         }
         const int divisor = std::gcd(top, bottom) * (bottom < 0 ? -1 : 1);
@@ -340,7 +344,7 @@ TEST(BrokSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
             // Whole numbers, which look alike with either mark.
             typedAgain(NumberText(n)) == n && typedAgain(NumberText(m)) == m && r.signedNumerator() == p &&
             r.denominator == q && isShownAs(s, worked.last, p, q) && isWorkedOut(worked, a, b, c, d, t);
-        ASSERT_TRUE(holds) << a << "/" << b << " " << s.operatorText << " " << c << "/" << d;
+        ASSERT_TRUE(holds) << a << "/" << b << " " << operatorSign(s.operation) << " " << c << "/" << d;
     });
     // 521,284 exercises less those with a result of 0.
     EXPECT_EQ(visited, 517'539);
@@ -355,9 +359,9 @@ RC_GTEST_PROP(BrokSeeds, GiveEqualTextsForEqualSeeds, (std::uint64_t seed)) {
     newExercise(t, other);
     const BrokWorked ws = workedSolution(s);
     const BrokWorked wt = workedSolution(t);
-    RC_ASSERT(ws.middle.numerator == wt.middle.numerator);
+    RC_ASSERT(ws.writtenOut.numerator == wt.writtenOut.numerator);
     RC_ASSERT(ws.computed.denominator == wt.computed.denominator);
-    RC_ASSERT(s.operatorText == t.operatorText);
+    RC_ASSERT(s.operation == t.operation);
 }
 
 TEST(BrokSeeds, AreFrozenForAllBuildsAndProcessors) {
@@ -366,21 +370,21 @@ TEST(BrokSeeds, AreFrozenForAllBuildsAndProcessors) {
     std::string texts;
     for (int i = 0; i < 5; ++i) {
         newExercise(s, draws);
-        texts += NumberText(s.numeratorA) + "/" + NumberText(s.denominatorB) + s.operatorText +
+        texts += NumberText(s.numeratorA) + "/" + NumberText(s.denominatorB) + operatorSign(s.operation) +
                  NumberText(s.numeratorC) + "/" + NumberText(s.denominatorD) + " ";
     }
     EXPECT_EQ(texts, "4/-2+1/1 5/7--4/-3 -5/1+-1/-7 -2/-8*6/-10 -2/2/8/-3 ");
 }
 
 TEST(BrokSeeds, ReachEveryOperator) {
-    std::set<std::string> operators;
+    std::set<std::optional<Operation>> operations;
     SeededDraws draws(11);
     BrokState s;
     for (int i = 0; i < 200; ++i) {
         newExercise(s, draws);
-        operators.insert(s.operatorText);
+        operations.insert(s.operation);
     }
-    EXPECT_EQ(operators.size(), 4U);
+    EXPECT_EQ(operations.size(), 4U);
 }
 
 }  // namespace

@@ -15,17 +15,17 @@ using test::cellOf;
 using test::FormDriver;
 using test::ScriptedDraws;
 
-enum Type { Minus = 0, Plus = 1, Times = 2, By = 3 };
+using enum Operation;
 
 float part(int value) { return cellOf(value + 10, 20); }
 
 class BrokForm : public testing::Test {
 protected:
-    void script(int a, int b, int c, int d, Type type) {
-        draws.append({part(a), part(b), part(c), part(d), cellOf(type, 4)});
+    void script(int a, int b, int c, int d, Operation type) {
+        draws.append({part(a), part(b), part(c), part(d), cellOf(static_cast<int>(type), 4)});
     }
 
-    FormDriver& open(int a, int b, int c, int d, Type type) {
+    FormDriver& open(int a, int b, int c, int d, Operation type) {
         script(a, b, c, d, type);
         form = std::make_unique<FormDriver>(PageName::Brok, draws);
         return *form;
@@ -55,7 +55,7 @@ TEST_F(BrokForm, IsBlankUntilItsFirstTick) {
 }
 
 TEST_F(BrokForm, LaysTheTaskOutAsTwoFractions) {
-    const FormDriver& f = open(-10, 3, 2, -4, Plus);
+    const FormDriver& f = open(-10, 3, 2, -4, Add);
     EXPECT_EQ(f.caption("firstNumerator"), "-10");
     EXPECT_EQ(f.caption("firstDenominator"), "3");
     EXPECT_EQ(f.caption("operatorSign"), "+");
@@ -68,7 +68,7 @@ TEST_F(BrokForm, LaysTheTaskOutAsTwoFractions) {
 }
 
 TEST_F(BrokForm, MakesTheBarAsWideAsTheWiderNumber) {
-    const FormDriver& f = open(-10, 3, 2, -4, Plus);
+    const FormDriver& f = open(-10, 3, 2, -4, Add);
     const Label& a = f.label("firstNumerator");
     const Label& b = f.label("firstDenominator");
     EXPECT_FALSE(b.isAutoSize());
@@ -87,7 +87,7 @@ TEST_F(BrokForm, MakesTheBarAsWideAsTheWiderNumber) {
 }
 
 TEST_F(BrokForm, TakesAutoSizeFromTheFirstOfTwoEquallyWideNumbers) {
-    const FormDriver& f = open(2, 3, 4, 5, Plus);
+    const FormDriver& f = open(2, 3, 4, 5, Add);
     EXPECT_FALSE(f.label("firstNumerator").isAutoSize());
     EXPECT_TRUE(f.label("firstDenominator").isAutoSize());
     EXPECT_FALSE(f.label("secondNumerator").isAutoSize());
@@ -95,7 +95,7 @@ TEST_F(BrokForm, TakesAutoSizeFromTheFirstOfTwoEquallyWideNumbers) {
 }
 
 TEST_F(BrokForm, IsSolvedByKeysAlone) {
-    const FormDriver& f = open(1, 2, 1, 3, Plus);
+    const FormDriver& f = open(1, 2, 1, 3, Add);
     f.type("numerator", "5");
     f.press("numerator", Qt::Key_Return);
     EXPECT_EQ(f.focus(), "denominator");
@@ -107,7 +107,7 @@ TEST_F(BrokForm, IsSolvedByKeysAlone) {
     EXPECT_EQ(f.label("verdict").backColour(), QColor(0, 130, 0));
     EXPECT_TRUE(f.isShown("verdict"));
     EXPECT_EQ(f.focus(), "newExercise");
-    script(1, 2, 1, 5, Plus);
+    script(1, 2, 1, 5, Add);
     f.press("newExercise", Qt::Key_Return);
     EXPECT_EQ(f.caption("secondDenominator"), "5");
     EXPECT_FALSE(f.isShown("verdict"));
@@ -115,7 +115,7 @@ TEST_F(BrokForm, IsSolvedByKeysAlone) {
 }
 
 TEST_F(BrokForm, MarksBothBoxesOfAWrongAnswer) {
-    const FormDriver& f = open(1, 2, 1, 3, Plus);
+    const FormDriver& f = open(1, 2, 1, 3, Add);
     answer("5", "7");
     EXPECT_EQ(colour("numerator"), kRed);
     EXPECT_EQ(colour("denominator"), kRed);
@@ -127,7 +127,7 @@ TEST_F(BrokForm, MarksBothBoxesOfAWrongAnswer) {
 }
 
 TEST_F(BrokForm, MayBeTriedAgainAndAgain) {
-    const FormDriver& f = open(1, 2, 1, 3, Plus);
+    const FormDriver& f = open(1, 2, 1, 3, Add);
     for (int i = 0; i < 5; ++i) {
         answer(std::to_string(100 + i), "7");
         EXPECT_TRUE(f.isShown("giveAnswer"));
@@ -140,7 +140,7 @@ TEST_F(BrokForm, MayBeTriedAgainAndAgain) {
 }
 
 TEST_F(BrokForm, TellsThatZeroDividesNothing) {
-    const FormDriver& f = open(1, 2, 1, 3, Plus);
+    const FormDriver& f = open(1, 2, 1, 3, Add);
     for (const char* n : {"5", "", "abc", "0"}) {
         for (const char* m : {"0", "", "abc"}) {
             answer(n, m);
@@ -155,7 +155,7 @@ TEST_F(BrokForm, TellsThatZeroDividesNothing) {
 }
 
 TEST_F(BrokForm, LeavesTheVerdictStandingBehindTheMessage) {
-    const FormDriver& f = open(1, 2, 1, 3, Plus);
+    const FormDriver& f = open(1, 2, 1, 3, Add);
     answer("5", "7");
     answer("5", "0");
     EXPECT_EQ(f.answerMessage(), "Du må ikke dividere med nul");
@@ -165,13 +165,13 @@ TEST_F(BrokForm, LeavesTheVerdictStandingBehindTheMessage) {
 }
 
 TEST_F(BrokForm, TakesAnEmptyNumeratorForAWrongZero) {
-    const FormDriver& f = open(1, 2, 1, 3, Plus);
+    const FormDriver& f = open(1, 2, 1, 3, Add);
     answer("", "6");
     EXPECT_EQ(f.caption("verdict"), "FORKERT");
 }
 
 TEST_F(BrokForm, ShowsOneWhereTheResultIsOne) {
-    const FormDriver& f = open(1, 2, 1, 2, Plus);
+    const FormDriver& f = open(1, 2, 1, 2, Add);
     answer("2", "2");
     EXPECT_EQ(f.caption("reducedWholeNumber"), "1");
     EXPECT_TRUE(f.isShown("reducedWholeNumber"));
@@ -180,7 +180,7 @@ TEST_F(BrokForm, ShowsOneWhereTheResultIsOne) {
 }
 
 TEST_F(BrokForm, ShowsTheReducedFormOfAnUnreducedAnswer) {
-    const FormDriver& f = open(1, 2, 1, 4, Plus);  // 6/8
+    const FormDriver& f = open(1, 2, 1, 4, Add);  // 6/8
     answer("6", "8");
     EXPECT_EQ(f.caption("reducedNumerator"), "3");
     EXPECT_EQ(f.caption("reducedDenominator"), "4");
@@ -190,7 +190,7 @@ TEST_F(BrokForm, ShowsTheReducedFormOfAnUnreducedAnswer) {
 }
 
 TEST_F(BrokForm, ShowsNothingMoreForAReducedAnswer) {
-    const FormDriver& f = open(1, 2, 1, 4, Plus);
+    const FormDriver& f = open(1, 2, 1, 4, Add);
     answer("3", "4");
     EXPECT_EQ(f.caption("reducedNumerator"), "");
     EXPECT_FALSE(f.isShown("reducedBar"));
@@ -198,7 +198,7 @@ TEST_F(BrokForm, ShowsNothingMoreForAReducedAnswer) {
 }
 
 TEST_F(BrokForm, ShowsMinusThreeOverFourForThreeOverMinusFour) {
-    const FormDriver& f = open(-3, 2, 1, 2, Times);  // -3/4
+    const FormDriver& f = open(-3, 2, 1, 2, Multiply);  // -3/4
     answer("3", "-4");
     EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
     EXPECT_EQ(f.caption("reducedNumerator"), "-3");
@@ -206,13 +206,13 @@ TEST_F(BrokForm, ShowsMinusThreeOverFourForThreeOverMinusFour) {
 }
 
 TEST_F(BrokForm, ShowsAWholeNumberForMinusTwelveSixths) {
-    const FormDriver& f = open(-4, 2, 3, 3, Times);  // -12/6
+    const FormDriver& f = open(-4, 2, 3, 3, Multiply);  // -12/6
     answer("-12", "6");
     EXPECT_EQ(f.caption("reducedWholeNumber"), "-2");
 }
 
 TEST_F(BrokForm, GivesTheUnreducedAnswerWithTheReducedBesideIt) {
-    const FormDriver& f = open(1, 2, 1, 4, Plus);
+    const FormDriver& f = open(1, 2, 1, 4, Add);
     answer("1", "9");
     f.click("giveAnswer");
     EXPECT_EQ(f.box("numerator").content(), "6");
@@ -228,11 +228,11 @@ TEST_F(BrokForm, GivesTheUnreducedAnswerWithTheReducedBesideIt) {
 }
 
 TEST_F(BrokForm, ForgetsEverythingWithTheNextExercise) {
-    const FormDriver& f = open(1, 2, 1, 4, Plus);
+    const FormDriver& f = open(1, 2, 1, 4, Add);
     answer("6", "8");
     f.click("help");
     f.click("showWorkedSolution");
-    script(1, 2, 1, 3, Plus);
+    script(1, 2, 1, 3, Add);
     f.click("newExercise");
     for (const char* hidden : {"helpPanel", "solutionStep", "reducedWholeNumber", "reducedEquals",
                                "reducedBar", "verdict", "giveAnswer"}) {
@@ -243,7 +243,7 @@ TEST_F(BrokForm, ForgetsEverythingWithTheNextExercise) {
 }
 
 TEST_F(BrokForm, EnterInTheLastBoxDoesNothingOnceSolved) {
-    const FormDriver& f = open(1, 2, 1, 3, Plus);
+    const FormDriver& f = open(1, 2, 1, 3, Add);
     answer("5", "6");
     f.box("denominator").setFocus();
     f.press("denominator", Qt::Key_Return);
@@ -251,7 +251,7 @@ TEST_F(BrokForm, EnterInTheLastBoxDoesNothingOnceSolved) {
 }
 
 TEST_F(BrokForm, OpensTheGeneralMethodOfItsOperator) {
-    const FormDriver& f = open(1, 2, 1, 3, Minus);
+    const FormDriver& f = open(1, 2, 1, 3, Subtract);
     f.click("help");
     EXPECT_TRUE(f.isShown("helpPanel"));
     EXPECT_FALSE(f.isShown("solutionStep"));
@@ -267,7 +267,7 @@ TEST_F(BrokForm, OpensTheGeneralMethodOfItsOperator) {
 }
 
 TEST_F(BrokForm, HasTheHeadingsAndButtonsOfAPanel) {
-    const FormDriver& f = open(1, 2, 1, 3, Minus);
+    const FormDriver& f = open(1, 2, 1, 3, Subtract);
     EXPECT_EQ(f.caption("generalHeading"), "Generel løsning");
     EXPECT_EQ(f.caption("workedHeading"), "Aktuel løsning");
     EXPECT_EQ(f.button("showWorkedSolution").caption(), "Vis");
@@ -281,7 +281,7 @@ TEST_F(BrokForm, HasTheHeadingsAndButtonsOfAPanel) {
 }
 
 TEST_F(BrokForm, WorksTheTaskOutInARow) {
-    const FormDriver& f = open(-1, 2, 3, -4, Plus);  // 10/-8
+    const FormDriver& f = open(-1, 2, 3, -4, Add);  // 10/-8
     f.click("help");
     f.press("showWorkedSolution", Qt::Key_Return);
     EXPECT_TRUE(f.isShown("solutionStep"));
@@ -303,7 +303,7 @@ TEST_F(BrokForm, WorksTheTaskOutInARow) {
 }
 
 TEST_F(BrokForm, EndsTheRowInAWholeNumber) {
-    const FormDriver& f = open(-4, 2, 3, 3, Times);
+    const FormDriver& f = open(-4, 2, 3, 3, Multiply);
     f.click("help");
     f.click("showWorkedSolution");
     EXPECT_EQ(f.caption("workedReducedWholeNumber"), "-2");
@@ -315,7 +315,7 @@ TEST_F(BrokForm, EndsTheRowInAWholeNumber) {
 }
 
 TEST_F(BrokForm, EndsTheRowEarlyWhereNothingCancels) {
-    const FormDriver& f = open(1, 2, 1, 3, Plus);
+    const FormDriver& f = open(1, 2, 1, 3, Add);
     f.click("help");
     f.click("showWorkedSolution");
     for (const char* hidden : {"workedReducedEquals", "workedReducedNumerator", "workedReducedDenominator",
@@ -325,10 +325,10 @@ TEST_F(BrokForm, EndsTheRowEarlyWhereNothingCancels) {
 }
 
 TEST_F(BrokForm, ShowsTheEndOfTheRowAgainAfterAShorterOne) {
-    const FormDriver& f = open(1, 2, 1, 3, Plus);
+    const FormDriver& f = open(1, 2, 1, 3, Add);
     f.click("help");
     f.click("showWorkedSolution");
-    script(1, 2, 1, 4, Plus);
+    script(1, 2, 1, 4, Add);
     f.click("newExercise");
     f.click("help");
     f.click("showWorkedSolution");
@@ -340,7 +340,7 @@ TEST_F(BrokForm, ShowsTheEndOfTheRowAgainAfterAShorterOne) {
 }
 
 TEST_F(BrokForm, ClosesItsHelpAndKeepsWhatWasTyped) {
-    const FormDriver& f = open(1, 2, 1, 3, Plus);
+    const FormDriver& f = open(1, 2, 1, 3, Add);
     f.type("numerator", "4");
     f.click("help");
     f.click("showWorkedSolution");
@@ -351,13 +351,13 @@ TEST_F(BrokForm, ClosesItsHelpAndKeepsWhatWasTyped) {
 }
 
 TEST_F(BrokForm, HasRoomForTheLongestNumbers) {
-    for (const Type type : {Minus, Plus, Times, By}) {
+    for (const Operation type : {Subtract, Add, Multiply, Divide}) {
         const FormDriver& f = open(-10, -10, -10, 9, type);
         answer("1", "1");
         f.click("giveAnswer");
         f.click("help");
         f.click("showWorkedSolution");
-        EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{}) << type;
+        EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{}) << operatorSign(type);
     }
 }
 

@@ -24,15 +24,12 @@ using test::Script;
 using test::ScriptedDraws;
 using test::typedAgain;
 using test::lininter::coordinate;
-using test::lininter::Direction;
 using test::lininter::given;
-using test::lininter::GivenP;
-using test::lininter::GivenQ;
 using test::lininter::points;
 using test::lininter::script;
 
-LininterState exercise(int qa, int pa, int qb, int pb, Direction d, int g) {
-    ScriptedDraws draws(script(qa, pa, qb, pb, d, g));
+LininterState exercise(int qa, int pa, int qb, int pb, Coordinate which, int g) {
+    ScriptedDraws draws(script(qa, pa, qb, pb, which, g));
     LininterState state;
     newExercise(state, draws);
     EXPECT_TRUE(draws.isUsedUp());
@@ -47,7 +44,7 @@ LininterState withTarget(float target) {
 
 /// An exercise whose first points are these; the ones that follow are accepted. True if the first are too.
 bool areAccepted(int qa, int pa, int qb, int pb) {
-    ScriptedDraws draws(points(qa, pa, qb, pb) + script(1, 2, 3, 6, GivenQ, 4));
+    ScriptedDraws draws(points(qa, pa, qb, pb) + script(1, 2, 3, 6, Coordinate::Quantity, 4));
     LininterState s;
     newExercise(s, draws);
     return s.Qa == static_cast<float>(qa) && s.Pa == static_cast<float>(pa) &&
@@ -55,39 +52,39 @@ bool areAccepted(int qa, int pa, int qb, int pb) {
 }
 
 TEST(LininterGenerator, DrawsTheFourCoordinatesThenTheDirectionThenTheGivenOne) {
-    const LininterState s = exercise(1, 2, 3, 6, GivenQ, 4);
+    const LininterState s = exercise(1, 2, 3, 6, Coordinate::Quantity, 4);
     EXPECT_EQ(s.Qa, 1);
     EXPECT_EQ(s.Pa, 2);
     EXPECT_EQ(s.Qb, 3);
     EXPECT_EQ(s.Pb, 6);
     EXPECT_EQ(s.lineSlope, 2);
     EXPECT_EQ(s.lineIntercept, 0);
-    EXPECT_EQ(s.directionDraw, 0.25F);
+    EXPECT_EQ(s.given, Coordinate::Quantity);
     EXPECT_EQ(s.givenQ, 4);
     EXPECT_EQ(s.target, 8);
 }
 
 TEST(LininterGenerator, AsksForQWhereTheDirectionDrawIsAHalfOrMore) {
-    const LininterState s = exercise(1, 2, 3, 6, GivenP, 5);
+    const LininterState s = exercise(1, 2, 3, 6, Coordinate::Price, 5);
     EXPECT_EQ(s.givenP, 5);
     EXPECT_EQ(s.target, 2.5F);
 
     ScriptedDraws atTheHalf{coordinate(1), coordinate(2), coordinate(3), coordinate(6), 0.5F, given(5)};
     LininterState half;
     newExercise(half, atTheHalf);
-    EXPECT_FALSE(isQGiven(half));
+    EXPECT_EQ(half.given, Coordinate::Price);
 
     ScriptedDraws justBelow{coordinate(1), coordinate(2), coordinate(3),
                             coordinate(6), 0.49999997F,   given(5)};
     newExercise(half, justBelow);
-    EXPECT_TRUE(isQGiven(half));
+    EXPECT_EQ(half.given, Coordinate::Quantity);
 }
 
 TEST(LininterGenerator, KeepsTheGivenCoordinateOfTheOtherDirection) {
-    ScriptedDraws draws(script(1, 2, 3, 6, GivenQ, 4));
+    ScriptedDraws draws(script(1, 2, 3, 6, Coordinate::Quantity, 4));
     LininterState s;
     newExercise(s, draws);
-    ScriptedDraws next(script(1, 2, 3, 6, GivenP, 5));
+    ScriptedDraws next(script(1, 2, 3, 6, Coordinate::Price, 5));
     newExercise(s, next);
     EXPECT_EQ(s.givenQ, 4);
     EXPECT_EQ(s.givenP, 5);
@@ -106,14 +103,15 @@ TEST(LininterGenerator, ReachesBothEndsOfEachRange) {
 }
 
 TEST(LininterGenerator, ReseedsBeforeThePointsAndBeforeTheDirection) {
-    ScriptedDraws draws(script(1, 2, 3, 6, GivenQ, 4));
+    ScriptedDraws draws(script(1, 2, 3, 6, Coordinate::Quantity, 4));
     LininterState s;
     newExercise(s, draws);
     EXPECT_EQ(draws.randomized(), 2);
 }
 
 TEST(LininterGenerator, DrawsAllFourAgainWithReseedingWhileACoordinateIsShared) {
-    ScriptedDraws draws(points(3, 2, 3, 6) + points(1, 6, 3, 6) + script(1, 2, 3, 6, GivenQ, 4));
+    ScriptedDraws draws(points(3, 2, 3, 6) + points(1, 6, 3, 6) +
+                        script(1, 2, 3, 6, Coordinate::Quantity, 4));
     LininterState s;
     newExercise(s, draws);
     EXPECT_TRUE(draws.isUsedUp());
@@ -123,7 +121,8 @@ TEST(LininterGenerator, DrawsAllFourAgainWithReseedingWhileACoordinateIsShared) 
 }
 
 TEST(LininterGenerator, DrawsAllFourAgainWithReseedingWhileTheLineIsTooSteepOrTooFlat) {
-    ScriptedDraws draws(points(1, 1, 2, 4) + points(1, 1, 6, 3) + script(1, 2, 3, 6, GivenQ, 4));
+    ScriptedDraws draws(points(1, 1, 2, 4) + points(1, 1, 6, 3) +
+                        script(1, 2, 3, 6, Coordinate::Quantity, 4));
     LininterState s;
     newExercise(s, draws);
     EXPECT_TRUE(draws.isUsedUp());
@@ -147,7 +146,7 @@ TEST(LininterGenerator, RejectsSlopesOfThreeAndOfTwoFifths) {
 
 TEST(LininterGenerator, DrawsOnlyTheGivenCoordinateAgainWhileTheTargetIsSixteenOrMore) {
     // Q = 8 gives 16.
-    ScriptedDraws draws(script(1, 2, 3, 6, GivenQ, 8) + Script{given(7)});
+    ScriptedDraws draws(script(1, 2, 3, 6, Coordinate::Quantity, 8) + Script{given(7)});
     LininterState s;
     newExercise(s, draws);
     EXPECT_TRUE(draws.isUsedUp());
@@ -158,14 +157,14 @@ TEST(LininterGenerator, DrawsOnlyTheGivenCoordinateAgainWhileTheTargetIsSixteenO
 
 TEST(LininterGenerator, DrawsOnlyTheGivenCoordinateAgainInBothDirectionsAndBelowZero) {
     // Q = 1 gives -16.5.
-    ScriptedDraws draws(script(8, 1, 10, 6, GivenQ, 1) + Script{given(2)});
+    ScriptedDraws draws(script(8, 1, 10, 6, Coordinate::Quantity, 1) + Script{given(2)});
     LininterState s;
     newExercise(s, draws);
     EXPECT_TRUE(draws.isUsedUp());
     EXPECT_EQ(s.target, -14);
 
     // Q = 22 - 2P
-    ScriptedDraws far(script(2, 10, 4, 9, GivenP, 1) + Script{given(3), given(4)});
+    ScriptedDraws far(script(2, 10, 4, 9, Coordinate::Price, 1) + Script{given(3), given(4)});
     newExercise(s, far);
     EXPECT_TRUE(far.isUsedUp());
     EXPECT_EQ(far.randomized(), 2);
@@ -175,11 +174,11 @@ TEST(LininterGenerator, DrawsOnlyTheGivenCoordinateAgainInBothDirectionsAndBelow
 
 TEST(LininterGenerator, TakesATargetJustBelowSixteen) {
     // 16 by whole numbers; singles put it below.
-    EXPECT_EQ(exercise(1, 2, 4, 9, GivenQ, 7).target, 15.999999F);
+    EXPECT_EQ(exercise(1, 2, 4, 9, Coordinate::Quantity, 7).target, 15.999999F);
 }
 
 TEST(LininterGenerator, ComputesInSingles) {
-    const LininterState s = exercise(1, 2, 4, 7, GivenQ, 8);
+    const LininterState s = exercise(1, 2, 4, 7, Coordinate::Quantity, 8);
     const float slope = 5.0F / 3.0F;
     EXPECT_EQ(s.lineSlope, slope);
     EXPECT_EQ(s.lineIntercept, -slope * 1.0F + 2.0F);
@@ -205,14 +204,14 @@ TEST(LininterJudge, TakesNothingTypedForAZero) {
 }
 
 TEST(LininterTexts, NameThePointsAndTheTask) {
-    const LininterState q = exercise(10, 2, 7, 6, GivenQ, 4);
+    const LininterState q = exercise(10, 2, 7, 6, Coordinate::Quantity, 4);
     EXPECT_EQ(textOfA(q), "A : ( 10 ; 2 )");
     EXPECT_EQ(textOfB(q), "B : ( 7 ; 6 )");
     EXPECT_STREQ(task(q).givenLetter, "Q");
     EXPECT_EQ(task(q).given, "4");
     EXPECT_STREQ(task(q).askedLetter, "P");
 
-    const LininterState p = exercise(10, 2, 7, 6, GivenP, 5);
+    const LininterState p = exercise(10, 2, 7, 6, Coordinate::Price, 5);
     EXPECT_STREQ(task(p).givenLetter, "P");
     EXPECT_EQ(task(p).given, "5");
     EXPECT_STREQ(task(p).askedLetter, "Q");
@@ -228,13 +227,13 @@ TEST(LininterTexts, GiveTheAnswerWithTwoDecimalsHalvesAwayFromZero) {
 }
 
 TEST(LininterWorked, BearsTheChangesFromAToB) {
-    const LininterWorked q = workedSolution(exercise(1, 2, 4, 7, GivenQ, 8));
+    const LininterWorked q = workedSolution(exercise(1, 2, 4, 7, Coordinate::Quantity, 8));
     EXPECT_EQ(q.numerator, "7 - 2");
     EXPECT_EQ(q.denominator, "4 - 1");
     EXPECT_EQ(q.ratio, " = 1.67");
     EXPECT_EQ(q.result, "P=2 - ( 1 - 8 )·1.67 = 13.67");
 
-    const LininterWorked p = workedSolution(exercise(1, 2, 4, 7, GivenP, 8));
+    const LininterWorked p = workedSolution(exercise(1, 2, 4, 7, Coordinate::Price, 8));
     EXPECT_EQ(p.numerator, "4 - 1");
     EXPECT_EQ(p.denominator, "7 - 2");
     EXPECT_EQ(p.ratio, " = 0.6");
@@ -242,13 +241,13 @@ TEST(LininterWorked, BearsTheChangesFromAToB) {
 }
 
 TEST(LininterWorked, WritesANegativeRatioInBrackets) {
-    const LininterWorked q = workedSolution(exercise(4, 6, 1, 8, GivenQ, 8));
+    const LininterWorked q = workedSolution(exercise(4, 6, 1, 8, Coordinate::Quantity, 8));
     EXPECT_EQ(q.numerator, "8 - 6");
     EXPECT_EQ(q.denominator, "1 - 4");
     EXPECT_EQ(q.ratio, " = -0.67");
     EXPECT_EQ(q.result, "P=6 - ( 4 - 8 )·(-0.67) = 3.33");
 
-    const LininterWorked p = workedSolution(exercise(4, 6, 1, 8, GivenP, 1));
+    const LininterWorked p = workedSolution(exercise(4, 6, 1, 8, Coordinate::Price, 1));
     EXPECT_EQ(p.numerator, "1 - 4");
     EXPECT_EQ(p.denominator, "8 - 6");
     EXPECT_EQ(p.ratio, " = -1.5");
@@ -257,25 +256,26 @@ TEST(LininterWorked, WritesANegativeRatioInBrackets) {
 
 TEST(LininterWorked, ComputesTheResultFromTheUnroundedRatio) {
     // 2 - (1 - 8) * 1.67 would be 13.69.
-    EXPECT_EQ(workedSolution(exercise(1, 2, 4, 7, GivenQ, 8)).result, "P=2 - ( 1 - 8 )·1.67 = 13.67");
+    EXPECT_EQ(workedSolution(exercise(1, 2, 4, 7, Coordinate::Quantity, 8)).result,
+              "P=2 - ( 1 - 8 )·1.67 = 13.67");
 }
 
 TEST(LininterDrawing, CrossesAtTheTypedValueInTheGivenDirection) {
-    EXPECT_EQ(crossOfTyped(exercise(1, 2, 3, 6, GivenQ, 4), 1.5), crossAt(4, 1.5));
-    EXPECT_EQ(crossOfTyped(exercise(1, 2, 3, 6, GivenP, 5), 1.5), crossAt(1.5, 5));
+    EXPECT_EQ(crossOfTyped(exercise(1, 2, 3, 6, Coordinate::Quantity, 4), 1.5), crossAt(4, 1.5));
+    EXPECT_EQ(crossOfTyped(exercise(1, 2, 3, 6, Coordinate::Price, 5), 1.5), crossAt(1.5, 5));
     const Cross expected{Segment{4 - 0.35, 8, 4 + 0.35, 8}, Segment{4, 8 - 0.35, 4, 8 + 0.35}};
     EXPECT_EQ(crossAt(4, 8), expected);
 }
 
 TEST(LininterDrawing, LeadsGuideLinesFromBothAxesToOnePointOfTheLine) {
     const std::array q{Segment{4, 0, 4, 8}, Segment{0, 8, 4, 8}};
-    EXPECT_EQ(guideLines(exercise(1, 2, 3, 6, GivenQ, 4)), q);
+    EXPECT_EQ(guideLines(exercise(1, 2, 3, 6, Coordinate::Quantity, 4)), q);
     const std::array p{Segment{0, 5, 2.5, 5}, Segment{2.5, 0, 2.5, 5}};
-    EXPECT_EQ(guideLines(exercise(1, 2, 3, 6, GivenP, 5)), p);
+    EXPECT_EQ(guideLines(exercise(1, 2, 3, 6, Coordinate::Price, 5)), p);
 }
 
 TEST(LininterDrawing, EndsGuideLinesOnTheLineWhereSinglesPutItBesideTheGivenP) {
-    const LininterState s = exercise(1, 1, 4, 3, GivenP, 6);
+    const LininterState s = exercise(1, 1, 4, 3, Coordinate::Price, 6);
     EXPECT_EQ(s.target, 8.499999F);
     const std::array guides{Segment{0, 6, 8.499999F, 5.9999995F},
                             Segment{8.499999F, 0, 8.499999F, 5.9999995F}};
@@ -320,17 +320,20 @@ constexpr Heads kBeside{Segment{kQBeside, 6, kQBeside - kH, kPBeside + kH},
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, LininterHeads,
-    testing::Values(
-        HeadRow{"QGivenTargetAbove", [] { return exercise(1, 2, 3, 6, GivenQ, 4); }, kUp, kUp},
-        HeadRow{"QGivenTargetBelow", [] { return exercise(9, 4, 10, 6, GivenQ, 1); }, kAstray, kDown},
-        HeadRow{"PGivenTargetAbove", [] { return exercise(1, 2, 3, 6, GivenP, 5); }, kRightwards,
-                kRightwards},
-        HeadRow{"PGivenTipBesideTheLine", [] { return exercise(1, 1, 4, 3, GivenP, 6); }, kBeside, kBeside},
-        HeadRow{"PGivenTargetBelow", [] { return exercise(2, 6, 4, 7, GivenP, 1); }, kLeftwards, kLeftwards}),
+    testing::Values(HeadRow{"QGivenTargetAbove", [] { return exercise(1, 2, 3, 6, Coordinate::Quantity, 4); },
+                            kUp, kUp},
+                    HeadRow{"QGivenTargetBelow",
+                            [] { return exercise(9, 4, 10, 6, Coordinate::Quantity, 1); }, kAstray, kDown},
+                    HeadRow{"PGivenTargetAbove", [] { return exercise(1, 2, 3, 6, Coordinate::Price, 5); },
+                            kRightwards, kRightwards},
+                    HeadRow{"PGivenTipBesideTheLine",
+                            [] { return exercise(1, 1, 4, 3, Coordinate::Price, 6); }, kBeside, kBeside},
+                    HeadRow{"PGivenTargetBelow", [] { return exercise(2, 6, 4, 7, Coordinate::Price, 1); },
+                            kLeftwards, kLeftwards}),
     [](const auto& row) { return row.param.name; });
 
 TEST(LininterDrawing, TakesAZeroForOneOfTheUpperRows) {
-    const LininterState s = exercise(3, 1, 4, 2, GivenQ, 2);
+    const LininterState s = exercise(3, 1, 4, 2, Coordinate::Quantity, 2);
     ASSERT_EQ(s.target, 0);
     EXPECT_EQ(arrowheads(s, Occasion::Judged).front(), (Segment{2, 0, 2 - kH, -kH}));
 }
@@ -338,7 +341,7 @@ TEST(LininterDrawing, TakesAZeroForOneOfTheUpperRows) {
 /// An exercise of the whole space with its target by whole-number arithmetic, as a fraction.
 struct SpacePoint {
     int qa, pa, qb, pb;
-    Direction direction;
+    Coordinate which;
     int given;
     int numerator;
     int denominator;
@@ -364,8 +367,9 @@ void forEachExercise(Visit visit) {
         const bool isLine = dq != 0 && dp != 0 && 2 * std::abs(dp) <= 5 * std::abs(dq) &&
                             20 * std::abs(dp) >= 9 * std::abs(dq);
         for (int g = 1; isLine && g <= 8; ++g) {
-            for (const SpacePoint& e : {SpacePoint{qa, pa, qb, pb, GivenQ, g, pa * dq + (g - qa) * dp, dq},
-                                        SpacePoint{qa, pa, qb, pb, GivenP, g, qa * dp + (g - pa) * dq, dp}}) {
+            for (const SpacePoint& e :
+                 {SpacePoint{qa, pa, qb, pb, Coordinate::Quantity, g, pa * dq + (g - qa) * dp, dq},
+                  SpacePoint{qa, pa, qb, pb, Coordinate::Price, g, qa * dp + (g - pa) * dq, dp}}) {
                 if (std::abs(e.numerator) <= 16 * std::abs(e.denominator)) {
                     visit(e);
                 }
@@ -388,7 +392,7 @@ Drawing drawingOf(const SpacePoint& e) {
     const float intercept = -slope * single(e.qa) + single(e.pa);
     const auto y = [&](float x) { return slope * x + intercept; };
     const float g = single(e.given);
-    if (e.direction == GivenQ) {
+    if (e.which == Coordinate::Quantity) {
         const float t = y(g);
         const Segment up{0, t, kH, t + kH};
         const Segment down{0, t, kH, t - kH};
@@ -412,7 +416,7 @@ Drawing drawingOf(const SpacePoint& e) {
 
 /// True if the exercise can be drawn, which is then in `s`: singles reject most targets of just 16.
 bool isDrawn(const SpacePoint& e, LininterState& s) {
-    Script all = script(e.qa, e.pa, e.qb, e.pb, e.direction, e.given);
+    Script all = script(e.qa, e.pa, e.qb, e.pb, e.which, e.given);
     const std::size_t own = all.size();
     // One of the eight lies nearer to the points.
     for (int g = 1; g <= 8; ++g) {
@@ -431,7 +435,7 @@ bool isWorkedOut(const LininterState& s, const SpacePoint& e) {
     const LininterWorked worked = workedSolution(s);
     const std::string ofQ = std::to_string(e.qb) + " - " + std::to_string(e.qa);
     const std::string ofP = std::to_string(e.pb) + " - " + std::to_string(e.pa);
-    const bool isQ = e.direction == GivenQ;
+    const bool isQ = e.which == Coordinate::Quantity;
     const double dq = e.qb - e.qa;
     const double dp = e.pb - e.pa;
     return worked.numerator == (isQ ? ofP : ofQ) && worked.denominator == (isQ ? ofQ : ofP) &&
@@ -451,7 +455,8 @@ TEST(LininterSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
             return;
         }
         ++visited;
-        proof.visit(Proof::From::WholeSpace, (isQGiven(s) ? 0 : 2) + (s.target < 0 ? 1 : 0));
+        proof.visit(Proof::From::WholeSpace,
+                    (s.given == Coordinate::Quantity ? 0 : 2) + (s.target < 0 ? 1 : 0));
         const double own = typedAgain(answerText(s));
         const double exact = e.exact();
 
@@ -470,7 +475,7 @@ TEST(LininterSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
                 arrowheads(s, Occasion::Judged) == drawing.judged &&
                 arrowheads(s, Occasion::Given) == drawing.given;
         ASSERT_TRUE(holds) << "A " << e.qa << ";" << e.pa << " B " << e.qb << ";" << e.pb << " given "
-                           << (isQGiven(s) ? "Q " : "P ") << e.given;
+                           << (s.given == Coordinate::Quantity ? "Q " : "P ") << e.given;
     });
     // 78,696, and 8 on the edge.
     EXPECT_EQ(visited, 78'704);
@@ -510,7 +515,7 @@ TEST(LininterSpace, HoldsZerosThatSinglesPutBelowZero) {
             return;
         }
         ++zeros;
-        const LininterState s = exercise(e.qa, e.pa, e.qb, e.pb, e.direction, e.given);
+        const LininterState s = exercise(e.qa, e.pa, e.qb, e.pb, e.which, e.given);
         ASSERT_EQ(answerText(s), "0");
         ASSERT_TRUE(isRight(s, 0));
         if (s.target < 0) {

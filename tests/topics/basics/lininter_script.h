@@ -1,11 +1,10 @@
 #pragma once
 
 #include "support/scripted_draws.h"
+#include "topics/basics/lininter_exercise.h"
 
 /// The draws that give an exercise on the line through two points.
 namespace tavrune::test::lininter {
-
-enum Direction { GivenQ, GivenP };
 
 /// 1 to 10.
 [[nodiscard]] inline float coordinate(int value) { return cellOf(value - 1, 10); }
@@ -13,15 +12,15 @@ enum Direction { GivenQ, GivenP };
 /// 1 to 8.
 [[nodiscard]] inline float given(int value) { return cellOf(value - 1, 8); }
 
-[[nodiscard]] inline float direction(Direction d) { return d == GivenQ ? 0.25F : 0.75F; }
+[[nodiscard]] inline float choice(Coordinate which) { return which == Coordinate::Quantity ? 0.25F : 0.75F; }
 
 /// One try at the points A and B.
 [[nodiscard]] inline Script points(int qa, int pa, int qb, int pb) {
     return {coordinate(qa), coordinate(pa), coordinate(qb), coordinate(pb)};
 }
 
-[[nodiscard]] inline Script script(int qa, int pa, int qb, int pb, Direction d, int g) {
-    return points(qa, pa, qb, pb) + Script{direction(d), given(g)};
+[[nodiscard]] inline Script script(int qa, int pa, int qb, int pb, Coordinate which, int value) {
+    return points(qa, pa, qb, pb) + Script{choice(which), given(value)};
 }
 
 }  // namespace tavrune::test::lininter

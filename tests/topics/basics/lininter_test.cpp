@@ -16,9 +16,6 @@ namespace {
 using test::DecimalMark;
 using test::FormDriver;
 using test::ScriptedDraws;
-using test::lininter::Direction;
-using test::lininter::GivenP;
-using test::lininter::GivenQ;
 
 constexpr test::StrokesIn kGraph{{-7, 16.5, 15, -5}};
 // Two axes, 22 ticks on each of them, and two crosses of two strokes.
@@ -33,21 +30,21 @@ bool isInside(const Stroke& s) {
 
 class LininterForm : public testing::Test {
 protected:
-    void script(int qa, int pa, int qb, int pb, Direction direction, int given) {
-        draws.append(test::lininter::script(qa, pa, qb, pb, direction, given));
+    void script(int qa, int pa, int qb, int pb, Coordinate which, int given) {
+        draws.append(test::lininter::script(qa, pa, qb, pb, which, given));
     }
 
-    FormDriver& open(int qa, int pa, int qb, int pb, Direction direction, int given) {
-        script(qa, pa, qb, pb, direction, given);
+    FormDriver& open(int qa, int pa, int qb, int pb, Coordinate which, int given) {
+        script(qa, pa, qb, pb, which, given);
         form = std::make_unique<FormDriver>(PageName::Lininter, draws);
         return *form;
     }
 
     // One exercise for each row of the table of arrowheads; the line is P = 2Q, P = 2Q - 14 or P = Q/2 + 5.
-    FormDriver& openQAbove() { return open(1, 2, 3, 6, GivenQ, 4); }   // P is 8.
-    FormDriver& openQBelow() { return open(9, 4, 10, 6, GivenQ, 1); }  // P is -12.
-    FormDriver& openPAbove() { return open(1, 2, 3, 6, GivenP, 5); }   // Q is 2.5.
-    FormDriver& openPBelow() { return open(2, 6, 4, 7, GivenP, 1); }   // Q is -8.
+    FormDriver& openQAbove() { return open(1, 2, 3, 6, Coordinate::Quantity, 4); }   // P is 8.
+    FormDriver& openQBelow() { return open(9, 4, 10, 6, Coordinate::Quantity, 1); }  // P is -12.
+    FormDriver& openPAbove() { return open(1, 2, 3, 6, Coordinate::Price, 5); }      // Q is 2.5.
+    FormDriver& openPBelow() { return open(2, 6, 4, 7, Coordinate::Price, 1); }      // Q is -8.
 
     void answer(const std::string& typed) const {
         form->type("askedCoordinate", typed);
@@ -203,7 +200,7 @@ TEST_F(LininterForm, ClearsTheGraphWithEachExercise) {
     const FormDriver& f = openQAbove();
     answer("8");
     EXPECT_GT(graph().strokes().size(), kStrokesOfTask);
-    script(9, 4, 10, 6, GivenQ, 1);
+    script(9, 4, 10, 6, Coordinate::Quantity, 1);
     f.click("newExercise");
     EXPECT_EQ(graph().strokes().size(), kStrokesOfTask);
     EXPECT_EQ(graph().scale(), kGraph.scale);
@@ -218,7 +215,7 @@ TEST_F(LininterForm, IsSolvedByKeysAlone) {
     f.press("ok", Qt::Key_Return);
     EXPECT_TRUE(f.isShown("right"));
     EXPECT_EQ(f.focus(), "newExercise");
-    script(1, 2, 3, 6, GivenQ, 4);
+    script(1, 2, 3, 6, Coordinate::Quantity, 4);
     f.press("newExercise", Qt::Key_Return);
     EXPECT_FALSE(f.isShown("right"));
     EXPECT_EQ(f.caption("givenLetter"), "Q");
@@ -257,17 +254,17 @@ TEST_F(LininterForm, StaysRedUntilTheAnswerIsGivenOrTheNextExercise) {
     const FormDriver& f = openQAbove();
     giveAfter("7");
     EXPECT_EQ(f.box("askedCoordinate").backColour(), kWhite);
-    script(1, 2, 3, 6, GivenQ, 4);
+    script(1, 2, 3, 6, Coordinate::Quantity, 4);
     f.click("newExercise");
     answer("7");
-    script(1, 2, 3, 6, GivenQ, 4);
+    script(1, 2, 3, 6, Coordinate::Quantity, 4);
     f.click("newExercise");
     EXPECT_EQ(f.box("askedCoordinate").backColour(), kWhite);
     EXPECT_FALSE(f.isShown("wrong"));
 }
 
 TEST_F(LininterForm, TakesTheHalfOpenBandRoundTheTarget) {
-    const FormDriver& f = open(2, 4, 10, 9, GivenQ, 1);  // 3.375
+    const FormDriver& f = open(2, 4, 10, 9, Coordinate::Quantity, 1);  // 3.375
     for (const char* wrong : {"3.37", "3.38001", "3.4", "", "abc", "3,4"}) {
         answer(wrong);
         EXPECT_TRUE(f.isShown("wrong")) << wrong;
@@ -275,7 +272,7 @@ TEST_F(LininterForm, TakesTheHalfOpenBandRoundTheTarget) {
     answer("3.37001");
     EXPECT_TRUE(f.isShown("right"));
     for (const char* right : {"3.38", "3.375"}) {
-        script(2, 4, 10, 9, GivenQ, 1);
+        script(2, 4, 10, 9, Coordinate::Quantity, 1);
         f.click("newExercise");
         answer(right);
         EXPECT_TRUE(f.isShown("right")) << right;
@@ -346,7 +343,7 @@ TEST_F(LininterForm, DrawsLineGuidesCrossAndHeadsForPGivenAndATargetBelow) {
 
 TEST_F(LininterForm, DrawsTheHeadAstrayOnTheBoxWhereTheLineIsSeenThere) {
     // P = Q/2 - 3: P is -1 at Q = 4; the line's value at -1 is -3.5.
-    open(8, 1, 10, 2, GivenQ, 4);
+    open(8, 1, 10, 2, Coordinate::Quantity, 4);
     answer("-1");
     const std::vector<Stroke> heads = test::strokesFrom(graph(), kStrokesOfTask + 3);
     const std::vector<Stroke> expected{
@@ -362,7 +359,7 @@ TEST_F(LininterForm, DrawsTheHeadAstrayOnTheBoxWhereTheLineIsSeenThere) {
 }
 
 TEST_F(LininterForm, StandsATargetJustBelowSixteenInsideTheBox) {
-    open(1, 2, 4, 9, GivenQ, 7);
+    open(1, 2, 4, 9, Coordinate::Quantity, 7);
     answer("15.999");
     EXPECT_TRUE(form->isShown("right"));
     const std::vector<Stroke> guidesAndHeads = test::strokesFrom(graph(), kStrokesOfTask + 1);
@@ -377,7 +374,7 @@ TEST_F(LininterForm, DrawsEverythingByTheLineWhereSinglesPutItBesideTheGivenP) {
     // P = 2Q/3 + 1/3: 6 is met at 8.5, and the line's value there is not quite 6.
     constexpr float kQ = 8.499999F;
     constexpr float kP = 5.9999995F;
-    open(1, 1, 4, 3, GivenP, 6);
+    open(1, 1, 4, 3, Coordinate::Price, 6);
     answer("8.5");
     const float slope = 2.0F / 3;
     const float intercept = -slope + 1;
@@ -388,7 +385,7 @@ TEST_F(LininterForm, DrawsEverythingByTheLineWhereSinglesPutItBesideTheGivenP) {
         kGraph.line(kQ, 0, kQ - 0.35, 0.35, kGreen), kGraph.line(kQ, 0, kQ + 0.35, 0.35, kGreen)};
     EXPECT_EQ(drawnLater(),
               (std::vector<Stroke>{through, guides[0], guides[1], heads[0], heads[1], heads[2], heads[3]}));
-    open(1, 1, 4, 3, GivenP, 6);
+    open(1, 1, 4, 3, Coordinate::Price, 6);
     giveAfter("2");
     EXPECT_EQ(form->box("askedCoordinate").content(), "8.5");
     EXPECT_EQ(
@@ -408,7 +405,7 @@ TEST_F(LininterForm, CrossesAtZeroWhereNothingWasTyped) {
 
 TEST_F(LininterForm, GivesTheAnswerInTheLocaleAndCrossesAtWhatWasTypedBefore) {
     const DecimalMark danish(",");
-    const FormDriver& f = open(1, 2, 4, 7, GivenQ, 8);  // 13.666...
+    const FormDriver& f = open(1, 2, 4, 7, Coordinate::Quantity, 8);  // 13.666...
     giveAfter("13,6");
     EXPECT_EQ(f.box("askedCoordinate").content(), "13,67");
     EXPECT_EQ(drawnLater()[3], kGraph.line(7.65, 13.6, 8.35, 13.6, kRed));
@@ -428,7 +425,7 @@ TEST_F(LininterForm, TakesAnyTypedText) {
         f.click("giveAnswer");
         EXPECT_FALSE(f.page().grab().isNull());
         EXPECT_EQ(f.box("askedCoordinate").content(), "8");
-        script(1, 2, 3, 6, GivenQ, 4);
+        script(1, 2, 3, 6, Coordinate::Quantity, 4);
         f.click("newExercise");
     }
 }
@@ -452,7 +449,7 @@ TEST_F(LininterForm, OpensOnlyTheSolutionOfItsDirection) {
     EXPECT_EQ(q.caption("workedPrice"), "P=2 - ( 1 - 4 )·2 = 8");
     EXPECT_EQ(q.caption("workedQuantity"), "");
 
-    script(2, 6, 4, 7, GivenP, 1);
+    script(2, 6, 4, 7, Coordinate::Price, 1);
     q.click("newExercise");
     EXPECT_FALSE(q.button("showPriceSolution").isEnabled());
     EXPECT_FALSE(q.button("showQuantitySolution").isEnabled());
@@ -470,7 +467,7 @@ TEST_F(LininterForm, LeavesTheOtherSolutionFromBeforeUnderItsCover) {
     const FormDriver& f = openQAbove();
     f.click("help");
     f.click("showPriceSolution");
-    script(2, 6, 4, 7, GivenP, 1);
+    script(2, 6, 4, 7, Coordinate::Price, 1);
     f.click("newExercise");
     f.click("help");
     EXPECT_EQ(f.caption("workedPrice"), "P=2 - ( 1 - 4 )·2 = 8");
@@ -510,7 +507,7 @@ TEST_F(LininterForm, CoversTheSolutionsAgainWithTheNextExercise) {
     const FormDriver& f = openQAbove();
     f.click("help");
     f.click("showPriceSolution");
-    script(1, 2, 3, 6, GivenQ, 4);
+    script(1, 2, 3, 6, Coordinate::Quantity, 4);
     f.click("newExercise");
     EXPECT_FALSE(f.isShown("helpPanel"));
     EXPECT_TRUE(f.isShown("priceSolutionCover"));
@@ -536,7 +533,7 @@ TEST_F(LininterForm, LeavesThePanelOpenWhileTheExerciseGoesOn) {
 }
 
 TEST_F(LininterForm, CoversTheWholeSolutionAndNothingElse) {
-    const FormDriver& f = open(10, 10, 7, 3, GivenQ, 3);
+    const FormDriver& f = open(10, 10, 7, 3, Coordinate::Quantity, 3);
     f.click("help");
     const QRect left = f.find("priceSolutionCover").geometry();
     const QRect right = f.find("quantitySolutionCover").geometry();
@@ -558,9 +555,10 @@ TEST_F(LininterForm, CoversTheWholeSolutionAndNothingElse) {
 
 TEST_F(LininterForm, HasRoomForTheLongestNumbers) {
     const DecimalMark danish(",");
-    for (const Direction direction : {GivenQ, GivenP}) {
-        const bool isQ = direction == GivenQ;
-        const FormDriver& f = isQ ? open(10, 10, 7, 3, GivenQ, 3) : open(3, 10, 10, 6, GivenP, 8);
+    for (const Coordinate which : {Coordinate::Quantity, Coordinate::Price}) {
+        const bool isQ = which == Coordinate::Quantity;
+        const FormDriver& f =
+            isQ ? open(10, 10, 7, 3, Coordinate::Quantity, 3) : open(3, 10, 10, 6, Coordinate::Price, 8);
         giveAfter("-123456.75");
         f.click("help");
         f.click(isQ ? "showPriceSolution" : "showQuantitySolution");

@@ -25,15 +25,15 @@ using test::ScriptedDraws;
 using test::tomto::Coefficients;
 using test::tomto::Explicit;
 using test::tomto::Implicit;
-using test::tomto::Kind;
 using test::tomto::script;
 
 using Generator = void (*)(TomtoState&, Draws&);
 
 /// Draws one exercise on top of `state`. A try that is rejected asks for more draws than there are and
 /// throws.
-TomtoState exercise(const Coefficients& k, Kind kind, TomtoState state = {}, Generator make = newExercise) {
-    ScriptedDraws draws(script(k, kind));
+TomtoState exercise(const Coefficients& k, LineForm form, TomtoState state = {},
+                    Generator make = newExercise) {
+    ScriptedDraws draws(script(k, form));
     make(state, draws);
     EXPECT_TRUE(draws.isUsedUp());
     return state;
@@ -58,8 +58,7 @@ TEST(TomtoGenerator, DrawsA1C1B1A2C2B2ThenTheKind) {
     EXPECT_EQ(s.a2, 3);
     EXPECT_EQ(s.c2, 9);
     EXPECT_EQ(s.b2, -5);
-    EXPECT_EQ(s.formKind, 0);
-    EXPECT_EQ(s.formTag, "a");
+    EXPECT_EQ(s.form, Explicit);
     EXPECT_EQ(s.relation, Relation::Crossing);
     EXPECT_EQ(s.solutionQ, 2.6);
     EXPECT_EQ(s.solutionP, 2.8);
@@ -67,8 +66,7 @@ TEST(TomtoGenerator, DrawsA1C1B1A2C2B2ThenTheKind) {
 
 TEST(TomtoGenerator, SolvesLinesOfThreeTerms) {
     const TomtoState s = exercise({-9, -10, 9, -10, -9, 9}, Implicit);
-    EXPECT_EQ(s.formKind, 1);
-    EXPECT_EQ(s.formTag, "b");
+    EXPECT_EQ(s.form, Implicit);
     EXPECT_EQ(s.relation, Relation::Crossing);
     EXPECT_EQ(s.solutionQ, 0.47);
     EXPECT_EQ(s.solutionP, 0.47);
@@ -127,8 +125,8 @@ TEST(TomtoGenerator, SetsQToATruthValueWhereLinesOfTwoTermsDoNotCross) {
 }
 
 /// How many tries the generator makes with these coefficients before a crossing that stands.
-int triesWith(const Coefficients& k, Kind kind, TomtoState state = {}) {
-    ScriptedDraws draws(script(k, kind) + script(kCrossing, Explicit));
+int triesWith(const Coefficients& k, LineForm form, TomtoState state = {}) {
+    ScriptedDraws draws(script(k, form) + script(kCrossing, Explicit));
     newExercise(state, draws);
     return draws.randomized();
 }
@@ -241,7 +239,7 @@ TEST(TomtoTexts, LeaveNothingBetweenSignAndNumberOfASlope) {
 
 TEST(TomtoTexts, LeaveOutAnInterceptOfZero) {
     TomtoState s;
-    s.formKind = Explicit;
+    s.form = Explicit;
     s.a1 = 1;
     s.a2 = -1;
     s.b2 = 4;
@@ -368,8 +366,8 @@ struct WholeLine {
 };
 
 WholeLine wholeLine(const TomtoState& s, float c, float a, float b) {
-    const int sign = s.formKind == Explicit ? -1 : 1;
-    return {s.formKind == Explicit ? 1 : static_cast<int>(c), sign * static_cast<int>(a),
+    const int sign = s.form == Explicit ? -1 : 1;
+    return {s.form == Explicit ? 1 : static_cast<int>(c), sign * static_cast<int>(a),
             sign * static_cast<int>(b)};
 }
 
@@ -393,7 +391,7 @@ bool isRoundedQuotient(double rounded, int n, int m, Halves halves) {
 bool isWorkedOut(const TomtoState& s) {
     const std::string q = "= " + NumberText(s.solutionQ);
     const std::string p = "= " + NumberText(s.solutionP);
-    if (s.formKind == Explicit) {
+    if (s.form == Explicit) {
         const ExplicitWorked worked = workedExplicit(s);
         return endsIn(worked.q, q) && endsIn(worked.p, p);
     }
@@ -421,7 +419,7 @@ bool holds(const TomtoState& s) {
                 !isRight(s, Relation::Crossing, q + 0.001, p) &&
                 !isRight(s, Relation::Crossing, q, p - 0.001) && readsAsItself(q) && readsAsItself(p) &&
                 isWorkedOut(s);
-    } else if (s.formKind == Explicit) {
+    } else if (s.form == Explicit) {
         sound = sound && (s.relation == Relation::Coinciding) == (s.b1 == s.b2);
     } else {
         sound = sound && (s.relation == Relation::Coinciding) == (s.b1 == -s.b2);
@@ -439,7 +437,9 @@ std::string described(const TomtoState& s) {
     return l + ", " + m + " (" + NumberText(s.solutionQ) + ";" + NumberText(s.solutionP) + ")";
 }
 
-int kindOf(const TomtoState& s) { return 3 * s.formKind + static_cast<int>(s.relation); }
+int kindOf(const TomtoState& s) {
+    return 3 * static_cast<int>(s.form.value()) + static_cast<int>(s.relation);
+}
 
 void provePairsOfTwoTerms(Proof& proof) {
     // The c's are drawn and not used, so 160,000 of the draws are all there is.
@@ -481,7 +481,7 @@ void provePairsOfTwoTerms(Proof& proof) {
 void proveSeeded(Proof& proof, Generator make, bool onOneForm, ProofDraws::Ends ends) {
     ProofDraws draws(2004, ends);
     TomtoState s;
-    std::map<std::pair<int, Relation>, int> counts;
+    std::map<std::pair<LineForm, Relation>, int> counts;
     int beyondTen = 0;
     for (int i = 0; i < test::lotSize(25'000, 500'000); ++i) {
         if (!onOneForm) {
@@ -490,15 +490,15 @@ void proveSeeded(Proof& proof, Generator make, bool onOneForm, ProofDraws::Ends 
         draws.beginExercise();
         make(s, draws);
         proof.visit(Proof::From::Seeds, kindOf(s));
-        ++counts[{s.formKind, s.relation}];
+        ++counts[{s.form.value(), s.relation}];
         beyondTen += rangeFor(s) == 100 ? 1 : 0;
         ASSERT_TRUE(holds(s)) << i << ": " << described(s);
     }
     if (ends != ProofDraws::Ends::None) {
         return;
     }
-    for (const int kind : {Explicit, Implicit}) {
-        EXPECT_GT((counts[{kind, Relation::Crossing}]), 2'500);
+    for (const LineForm form : {Explicit, Implicit}) {
+        EXPECT_GT((counts[{form, Relation::Crossing}]), 2'500);
     }
     EXPECT_GT(beyondTen, 250);
     if (onOneForm) {

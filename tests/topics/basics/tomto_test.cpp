@@ -22,7 +22,6 @@ using test::ScriptedDraws;
 using test::tomto::Coefficients;
 using test::tomto::Explicit;
 using test::tomto::Implicit;
-using test::tomto::Kind;
 
 constexpr test::StrokesIn kToTen{{0, 10, 10, 0}};
 constexpr test::StrokesIn kToAHundred{{0, 100, 100, 0}};
@@ -30,7 +29,7 @@ constexpr int kThick = 3;
 
 struct Task {
     Coefficients coefficients;
-    Kind kind;
+    LineForm form;
 };
 
 constexpr Task kCrossing{{-2, 1, 8, 3, 1, -5}, Explicit};             // (2.6; 2.8)
@@ -46,7 +45,7 @@ constexpr Task kCoincidingOfThree{{2, 3, 4, 4, 6, -4}, Implicit};
 
 class TomtoForm : public testing::Test {
 protected:
-    void script(const Task& t) { draws.append(test::tomto::script(t.coefficients, t.kind)); }
+    void script(const Task& t) { draws.append(test::tomto::script(t.coefficients, t.form)); }
 
     FormDriver& open(const Task& task) {
         script(task);

@@ -52,21 +52,13 @@ std::size_t thrownAway(const Script& tried) {
     return draws.isUsedUp() ? tried.size() : 0;
 }
 
-std::string withBars(const IntegRow& row) {
-    std::string text;
-    for (const std::string& piece : row) {
-        text += (&piece == row.data() ? "" : "|") + piece;
-    }
-    return text;
+/// The pieces of a row, with this between them.
+std::string joined(const IntegRow& row, const std::string& between = "") {
+    return row.cubicTerm + between + row.cube + between + row.quadraticTerm + between + row.square + between +
+           row.linearTerm;
 }
 
-std::string joined(const IntegRow& row) {
-    std::string text;
-    for (const std::string& piece : row) {
-        text += piece;
-    }
-    return text;
-}
+std::string withBars(const IntegRow& row) { return joined(row, "|"); }
 
 std::string replaced(std::string text, const std::string& what, const std::string& by) {
     for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size()) {

@@ -1,5 +1,6 @@
 #include "topics/economics/afsaet_exercise.h"
 
+#include <array>
 #include <cfenv>
 #include <cmath>
 #include <optional>
@@ -37,7 +38,22 @@ using test::afsaet::samples;
 
 using Kind = AfsaetKind;
 
-constexpr std::array<bool, 4> kAllRight{true, true, true, true};
+/// A number of the answer, and whether it is right.
+struct Field {
+    double AfsaetAnswer::*number;
+    bool AfsaetFields<bool>::*isRight;
+};
+
+constexpr std::array kFields{
+    Field{&AfsaetAnswer::a, &AfsaetFields<bool>::a}, Field{&AfsaetAnswer::b, &AfsaetFields<bool>::b},
+    Field{&AfsaetAnswer::Qlo, &AfsaetFields<bool>::Qlo}, Field{&AfsaetAnswer::Qhi, &AfsaetFields<bool>::Qhi}};
+
+/// All are right but that one.
+AfsaetFields<bool> allRightBut(const Field& wrong) {
+    AfsaetFields<bool> right = kAfsaetAllRight;
+    right.*wrong.isRight = false;
+    return right;
+}
 
 /// The exercise that comes of just these draws.
 AfsaetState exercise(const Script& script) {
@@ -53,7 +69,8 @@ AfsaetState exercise(const char* name) { return exercise(sample(name).script());
 std::vector<std::string> stepTexts(const AfsaetState& state) {
     std::vector<std::string> texts;
     for (const AfsaetStep& step : workedSteps(state, helpFor(state))) {
-        if (step.hasFraction()) {
+        EXPECT_EQ(step.numerator.empty(), step.denominator.empty());
+        if (!step.denominator.empty()) {
             texts.push_back(step.numerator);
             texts.push_back(step.denominator);
         }
@@ -78,7 +95,7 @@ TEST_P(AfsaetSamples, ComeOfJustTheirDraws) {
     EXPECT_EQ(task.firstFact, row.firstFact);
     EXPECT_EQ(task.secondFact, row.secondFact);
     EXPECT_EQ(task.range, row.range);
-    EXPECT_EQ(judge(s, row.answer), kAllRight);
+    EXPECT_EQ(judge(s, row.answer), kAfsaetAllRight);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, AfsaetSamples, testing::ValuesIn(samples()),
@@ -328,23 +345,21 @@ TEST(AfsaetGenerator, CutsTheSlopeOfAnEighthAwayFromZero) {
 TEST(AfsaetJudge, WantsEachOfTheFourToTheLastDecimal) {
     const AfsaetState s = exercise("ElasticityAtOtherPriceInPrices");
     const AfsaetAnswer own{Val("-1.33"), Val("9.33"), Val(".25"), Val("4.00")};
-    EXPECT_EQ(judge(s, own), kAllRight);
-    for (std::size_t i = 0; i < own.size(); ++i) {
+    EXPECT_EQ(judge(s, own), kAfsaetAllRight);
+    for (const Field& field : kFields) {
         for (const double nudge : {0.01, -0.01, 0.001, 1e-9}) {
             AfsaetAnswer typed = own;
-            typed[i] += nudge;
-            std::array<bool, 4> expected = kAllRight;
-            expected[i] = false;
-            EXPECT_EQ(judge(s, typed), expected) << i << " by " << nudge;
+            typed.*field.number += nudge;
+            EXPECT_EQ(judge(s, typed), allRightBut(field)) << own.*field.number << " by " << nudge;
         }
     }
 }
 
 TEST(AfsaetJudge, TakesNothingTypedForALowerBoundOfZero) {
     const AfsaetState s = exercise("TwoElasticitiesInPrices");
-    EXPECT_EQ(judge(s, {-2, 8, Val(""), 3.5}), kAllRight);
-    EXPECT_EQ(judge(s, {-2, 8, Val("-0"), 3.5}), kAllRight);
-    EXPECT_EQ(judge(s, {0, 0, 0, 0}), (std::array<bool, 4>{false, false, true, false}));
+    EXPECT_EQ(judge(s, {-2, 8, Val(""), 3.5}), kAfsaetAllRight);
+    EXPECT_EQ(judge(s, {-2, 8, Val("-0"), 3.5}), kAfsaetAllRight);
+    EXPECT_EQ(judge(s, {0, 0, 0, 0}), (AfsaetFields<bool>{false, false, true, false}));
 }
 
 struct SentenceRow {
@@ -442,6 +457,14 @@ TEST(AfsaetWorked, IsWrittenStepByStep) {
     }
 }
 
+TEST(AfsaetWorked, IsFoundByWhatAStepFinds) {
+    const AfsaetState s = exercise("TwoElasticitiesInPrices");
+    EXPECT_EQ(workedStep(s, AfsaetHelp::TwoElasticities, AfsaetUnknown::MaxPrice).text,
+              "Pmax = 6 - 6/-3 = -24/-3 = 8");
+    EXPECT_EQ(workedStep(s, AfsaetHelp::TwoElasticities, AfsaetUnknown::Slope).text, "a = -8/4 = -2");
+    EXPECT_EQ(workedStep(s, AfsaetHelp::TwoElasticities, AfsaetUnknown::Quantity).text, "");
+}
+
 /// What the student is told, read back from the texts: enough to fix a line, two facts of any kind.
 struct Facts {
     std::vector<std::pair<double, double>> points;  // P; Q
@@ -512,8 +535,8 @@ AfsaetAnswer solved(const AfsaetTask& task) {
 TEST(AfsaetReader, SolvesTheTextsOfEverySample) {
     for (const Sample& row : samples()) {
         const AfsaetAnswer found = solved({"", row.firstFact, row.secondFact, row.range});
-        for (std::size_t i = 0; i < found.size(); ++i) {
-            EXPECT_NEAR(found[i], row.answer[i], 0.00501) << row.name;
+        for (const Field& field : kFields) {
+            EXPECT_NEAR(found.*field.number, row.answer.*field.number, 0.00501) << row.name;
         }
     }
 }
@@ -529,11 +552,11 @@ const char* flawOf(const AfsaetState& s) {
     const AfsaetAnswer told = solved(task);
     // What single precision makes of a bound where the line is flattest is less than this.
     constexpr double kSlack = 1e-4;
-    for (std::size_t i = 0; i < answer.size(); ++i) {
-        if (!std::isfinite(answer[i]) || std::abs(answer[i] - told[i]) > 0.005 + kSlack) {
+    for (const auto& [number, isRight] : kFields) {
+        if (!std::isfinite(answer.*number) || std::abs(answer.*number - told.*number) > 0.005 + kSlack) {
             return "the texts do not determine the answer";
         }
-        if (!hasTwoDecimals(answer[i])) {
+        if (!hasTwoDecimals(answer.*number)) {
             return "the answer is not rounded";
         }
     }
@@ -557,19 +580,17 @@ const char* flawOf(const AfsaetState& s) {
             return "an elasticity or slope is out of its range";
         }
     }
-    if (judge(s, answer) != kAllRight) {
+    if (judge(s, answer) != kAfsaetAllRight) {
         return "the answer is judged wrong";
     }
-    for (std::size_t i = 0; i < answer.size(); ++i) {
-        if (!readsAsItself(answer[i])) {
+    for (const Field& field : kFields) {
+        if (!readsAsItself(answer.*field.number)) {
             return "the answer does not read as itself";
         }
         for (const double beside : {-0.001, 0.001}) {
             AfsaetAnswer nudged = answer;
-            nudged[i] += beside;
-            std::array<bool, 4> expected = kAllRight;
-            expected[i] = false;
-            if (judge(s, nudged) != expected) {
+            nudged.*field.number += beside;
+            if (judge(s, nudged) != allRightBut(field)) {
                 return "another number is judged right, or not it alone wrong";
             }
         }
@@ -620,10 +641,10 @@ TEST(AfsaetProperties, TellAnAnswerThatIsTypedAsItIsShown) {
     for (int i = 0; i < 20'000; ++i) {
         newExercise(s, draws);
         AfsaetAnswer typed = answerOf(s);
-        for (double& number : typed) {
-            number = Val(NumberText(number));
+        for (const Field& field : kFields) {
+            typed.*field.number = Val(NumberText(typed.*field.number));
         }
-        ASSERT_EQ(judge(s, typed), kAllRight);
+        ASSERT_EQ(judge(s, typed), kAfsaetAllRight);
     }
 }
 

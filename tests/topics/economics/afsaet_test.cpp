@@ -62,7 +62,7 @@ protected:
     void answerRight() const {
         const AfsaetAnswer right = answerOf(dynamic_cast<const Afsaet&>(form->page()).state());
         const DecimalMark point(".");
-        answer({NumberText(right[0]), NumberText(right[1]), NumberText(right[2]), NumberText(right[3])});
+        answer({NumberText(right.a), NumberText(right.b), NumberText(right.Qlo), NumberText(right.Qhi)});
     }
 
     [[nodiscard]] std::vector<QColor> colours() const {

@@ -33,6 +33,17 @@ using test::gtm::Numbers;
 using test::gtm::script;
 using test::gtm::Tvc;
 
+using Right = GtmTerms<bool>;
+
+/// A coefficient, and whether it is right.
+struct Term {
+    double GtmCoefficients::*coefficient;
+    bool Right::*isRight;
+};
+
+constexpr std::array kTerms{Term{&GtmCoefficients::a, &Right::a}, Term{&GtmCoefficients::b, &Right::b},
+                            Term{&GtmCoefficients::c, &Right::c}};
+
 using Generator = void (*)(GtmState&, Draws&);
 
 GtmState made(Generator generate, const Script& draws) {
@@ -121,9 +132,9 @@ TEST(GtmGenerator, DrawsCoinThenAThenBThenCThenOneForNothingThenTheKind) {
 
 TEST(GtmGenerator, TossesAFairCoinForA) {
     GtmState s = made(newExercise, Script{0.5F, cellOf(2, 10), 0, cellOf(4, 10), 0, 0});
-    EXPECT_EQ(s.avc[0], 1);
+    EXPECT_EQ(s.avc.a, 1);
     s = made(newExercise, Script{0.49999F, 0, cellOf(4, 10), 0, 0});
-    EXPECT_EQ(s.avc[0], 0);
+    EXPECT_EQ(s.avc.a, 0);
 }
 
 TEST(GtmGenerator, CanDrawAZeroForAAlthoughTheCoinAllowsMore) {
@@ -213,12 +224,12 @@ TEST(GtmFirstExercise, DrawsTheConstantOfALineAnewFromTwoToSeven) {
         firstExercise(s, draws);
         EXPECT_EQ(draws.used(), 6U);
         EXPECT_EQ(s.avc, (GtmCoefficients{0, 0, static_cast<double>(c)}));
-        constants.insert(s.avc[2]);
+        constants.insert(s.avc.c);
     }
     EXPECT_EQ(constants.size(), 6U);
 }
 
-TEST(GtmFirstExercise, KeepsTheConstantOfAParabola) { EXPECT_EQ(first({1, 0, 9}, Avc).avc[2], 9); }
+TEST(GtmFirstExercise, KeepsTheConstantOfAParabola) { EXPECT_EQ(first({1, 0, 9}, Avc).avc.c, 9); }
 
 TEST(GtmFirstExercise, TakesAFallingLineOnlyAsMc) {
     EXPECT_FALSE(isAcceptedFirst({0, -3, 5}, Avc));
@@ -352,11 +363,11 @@ TEST(GtmSpace, IsRejectedAtTheFirstTickJustWhereWholeNumbersSaySo) {
 }
 
 /// The three functions, found from the texts of the given one in whole numbers.
-GtmState solved(GtmFunction given, const std::array<std::string, 3>& texts) {
-    const auto halves = [&](std::size_t i) { return std::lround(2 * Val(texts.at(i))); };
-    const long a = halves(0);
-    const long b = halves(1);
-    const long c = halves(2);
+GtmState solved(GtmFunction given, const GtmTerms<std::string>& texts) {
+    const auto halves = [](const std::string& text) { return std::lround(2 * Val(text)); };
+    const long a = halves(texts.a);
+    const long b = halves(texts.b);
+    const long c = halves(texts.c);
     const auto half = [](long x) { return static_cast<double>(x) / 2; };
     GtmState s;
     s.given = given;
@@ -387,7 +398,7 @@ bool isOneProduct(const GtmState& s) {
             (2 * h);
         const double rounding = s.given == GtmFunction::Marginal ? 3 * 0.00501 * q * q : 0;
         const double marginal = heightAt(GtmFunction::Marginal, s.mc, q);
-        holds = holds && std::abs(chord - s.tvc[0] * h * h - marginal) < rounding + 1e-6;
+        holds = holds && std::abs(chord - s.tvc.a * h * h - marginal) < rounding + 1e-6;
     }
     return holds;
 }
@@ -398,14 +409,14 @@ bool isJudged(const GtmState& s) {
     bool holds = true;
     for (const GtmFunction function : kGtmFunctions) {
         const GtmCoefficients& right = s.of(function);
-        holds = holds && judge(s, function, right) == std::array{true, true, true};
-        for (std::size_t i = 0; i < right.size(); ++i) {
-            holds = holds && std::isfinite(right[i]) && readsAsItself(right[i]);
+        holds = holds && judge(s, function, right) == kGtmAllRight;
+        for (const auto& [coefficient, isRight] : kTerms) {
+            holds = holds && std::isfinite(right.*coefficient) && readsAsItself(right.*coefficient);
             for (const double beside : {-0.001, 0.001}) {
                 GtmCoefficients typed = right;
-                typed[i] += beside;
-                std::array expected{true, true, true};
-                expected[i] = false;
+                typed.*coefficient += beside;
+                Right expected = kGtmAllRight;
+                expected.*isRight = false;
                 holds = holds && judge(s, function, typed) == expected;
             }
         }
@@ -448,9 +459,9 @@ TEST_P(GtmSeeds, AreSolvedFromTheTextsOfTheGivenFunction) {
         ASSERT_EQ(s, solved(s.given, taskTexts(s.of(s.given)))) << i;
         for (const GtmFunction function : kGtmFunctions) {
             GtmCoefficients typed = s.of(function);
-            ASSERT_EQ(judge(s, function, typed), (std::array{true, true, true})) << i;
-            typed[static_cast<std::size_t>(i % 3)] += 0.01;
-            ASSERT_NE(judge(s, function, typed), (std::array{true, true, true})) << i;
+            ASSERT_EQ(judge(s, function, typed), kGtmAllRight) << i;
+            typed.*kTerms.at(static_cast<std::size_t>(i % 3)).coefficient += 0.01;
+            ASSERT_NE(judge(s, function, typed), kGtmAllRight) << i;
         }
     }
     EXPECT_EQ(kinds.size(), 3U);
@@ -470,7 +481,7 @@ TEST_P(GtmSeeds, GiveProductAndDerivativeUpToTheRounding) {
             (heightAt(GtmFunction::Total, s.tvc, q + h) - heightAt(GtmFunction::Total, s.tvc, q - h)) /
             (2 * h);
         const double rounding = s.given == GtmFunction::Marginal ? 3 * 0.00501 * q * q : 0;
-        ASSERT_NEAR(chord - s.tvc[0] * h * h, heightAt(GtmFunction::Marginal, s.mc, q), rounding + 1e-6) << i;
+        ASSERT_NEAR(chord - s.tvc.a * h * h, heightAt(GtmFunction::Marginal, s.mc, q), rounding + 1e-6) << i;
     }
 }
 
@@ -483,10 +494,10 @@ TEST_P(GtmSeeds, KeepMcOffTheAxisWhereAnotherFunctionIsGiven) {
             const auto& [a, b, c] = s.mc;
             ASSERT_LE(b * b - 4 * a * c, 0) << i;
         }
-        ASSERT_GE(s.mc[2], 0);
-        ASSERT_LE(s.mc[2], 9);
-        ASSERT_LE(s.mc[1], 0);
-        ASSERT_GE(s.mc[1], -18);
+        ASSERT_GE(s.mc.c, 0);
+        ASSERT_LE(s.mc.c, 9);
+        ASSERT_LE(s.mc.b, 0);
+        ASSERT_GE(s.mc.b, -18);
     }
 }
 
@@ -496,7 +507,7 @@ INSTANTIATE_TEST_SUITE_P(Generators, GtmSeeds,
 
 TEST(GtmTaskTexts, WriteAWithThePointInEveryLocale) {
     const DecimalMark danish(",");
-    using Texts = std::array<std::string, 3>;
+    using Texts = GtmTerms<std::string>;
     EXPECT_EQ(taskTexts({0.5, -3, 9}), (Texts{"0.5", "-3", "9"}));
     EXPECT_EQ(taskTexts({1.5, 0, 0}), (Texts{"1.5", "0", "0"}));
     EXPECT_EQ(taskTexts({4.5, -9, 1}), (Texts{"4.5", "-9", "1"}));
@@ -507,27 +518,27 @@ TEST(GtmTaskTexts, WriteAWithThePointInEveryLocale) {
 TEST(GtmJudge, WantsTheRoundedThirdToTheDigit) {
     const GtmState s = next({0.5, -4, 9}, Mc);
     for (const GtmFunction function : {GtmFunction::Average, GtmFunction::Total}) {
-        EXPECT_TRUE(judge(s, function, {Val("0.17"), Val("-2"), Val("9")})[0]);
-        EXPECT_TRUE(judge(s, function, {Val(".170"), Val("-2"), Val("9")})[0]);
-        EXPECT_FALSE(judge(s, function, {Val("0.1667"), Val("-2"), Val("9")})[0]);
-        EXPECT_FALSE(judge(s, function, {Val("0.16"), Val("-2"), Val("9")})[0]);
+        EXPECT_TRUE(judge(s, function, {Val("0.17"), Val("-2"), Val("9")}).a);
+        EXPECT_TRUE(judge(s, function, {Val(".170"), Val("-2"), Val("9")}).a);
+        EXPECT_FALSE(judge(s, function, {Val("0.1667"), Val("-2"), Val("9")}).a);
+        EXPECT_FALSE(judge(s, function, {Val("0.16"), Val("-2"), Val("9")}).a);
     }
-    EXPECT_TRUE(judge(s, GtmFunction::Marginal, {Val("0.5"), Val("-4"), Val("9")})[0]);
-    EXPECT_FALSE(judge(s, GtmFunction::Marginal, {Val("0.51"), Val("-4"), Val("9")})[0]);
+    EXPECT_TRUE(judge(s, GtmFunction::Marginal, {Val("0.5"), Val("-4"), Val("9")}).a);
+    EXPECT_FALSE(judge(s, GtmFunction::Marginal, {Val("0.51"), Val("-4"), Val("9")}).a);
 }
 
 TEST(GtmJudge, TellsTheThreeCoefficientsApart) {
     const GtmState s = next(kPlain, Avc);
-    EXPECT_EQ(judge(s, GtmFunction::Marginal, {3, -4, 4}), (std::array{true, true, true}));
-    EXPECT_EQ(judge(s, GtmFunction::Marginal, {1, -4, 4}), (std::array{false, true, true}));
-    EXPECT_EQ(judge(s, GtmFunction::Marginal, {3, -2, 4}), (std::array{true, false, true}));
-    EXPECT_EQ(judge(s, GtmFunction::Marginal, {3, -4, 3}), (std::array{true, true, false}));
+    EXPECT_EQ(judge(s, GtmFunction::Marginal, {3, -4, 4}), kGtmAllRight);
+    EXPECT_EQ(judge(s, GtmFunction::Marginal, {1, -4, 4}), (Right{false, true, true}));
+    EXPECT_EQ(judge(s, GtmFunction::Marginal, {3, -2, 4}), (Right{true, false, true}));
+    EXPECT_EQ(judge(s, GtmFunction::Marginal, {3, -4, 3}), (Right{true, true, false}));
 }
 
 TEST(GtmJudge, JudgesTheGivenFunctionToo) {
     const GtmState s = next(kPlain, Tvc);
-    EXPECT_EQ(judge(s, GtmFunction::Total, {1, -2, 4}), (std::array{true, true, true}));
-    EXPECT_EQ(judge(s, GtmFunction::Total, {1, -2, 5}), (std::array{true, true, false}));
+    EXPECT_EQ(judge(s, GtmFunction::Total, {1, -2, 4}), kGtmAllRight);
+    EXPECT_EQ(judge(s, GtmFunction::Total, {1, -2, 5}), (Right{true, true, false}));
 }
 
 constexpr std::size_t pieces(const GtmCurve& curve) { return curve.empty() ? 0 : curve.size() - 1; }
@@ -698,19 +709,24 @@ TEST(GtmCurves, SeekTheFirstPointForTenThousandStepsAndNoMore) {
 }
 
 /// Numbers that a task does not reckon with, a hundred rows of nine.
-std::vector<std::array<GtmCoefficients, 3>> hostileRows() {
+std::vector<GtmEach<GtmCoefficients>> hostileRows() {
     const std::array hostile{1e308,  -1e308, kLargestTyped, 1e300,  -1e39,  3.5e38, 1e20,
                              -1e15,  1e9,    400.0,         -400.0, 1e-308, 5e5,    -123456.75,
                              2000.0, 0.0,    1e154,         -1e103, 1999.9, -200.0};
-    std::vector<std::array<GtmCoefficients, 3>> rows;
+    std::vector<GtmEach<GtmCoefficients>> rows;
     for (std::size_t row = 0; row < 100; ++row) {
         const auto pick = [&](std::size_t i) { return hostile[(row * (2 * i + 1) + i * 7 + row / 20) % 20]; };
         rows.push_back(
-            {{{pick(0), pick(1), pick(2)}, {pick(3), pick(4), pick(5)}, {pick(6), pick(7), pick(8)}}});
+            {{pick(0), pick(1), pick(2)}, {pick(3), pick(4), pick(5)}, {pick(6), pick(7), pick(8)}});
     }
-    for (std::size_t box = 0; box < 9; ++box) {
-        rows.at(box) = {{{1, -2, 4}, {1, -2, 4}, {3, -4, 4}}};
-        rows.at(box).at(box / 3).at(box % 3) = 1e308;
+    std::size_t row = 0;
+    for (auto function : {&GtmEach<GtmCoefficients>::average, &GtmEach<GtmCoefficients>::total,
+                          &GtmEach<GtmCoefficients>::marginal}) {
+        for (const Term& term : kTerms) {
+            rows.at(row) = {{1, -2, 4}, {1, -2, 4}, {3, -4, 4}};
+            rows.at(row).*function.*term.coefficient = 1e308;
+            ++row;
+        }
     }
     return rows;
 }
@@ -721,7 +737,7 @@ TEST(GtmCurves, AreBoundedWhateverIsTyped) {
     ASSERT_EQ(rows.size(), 100U);
     for (const auto& row : rows) {
         for (const GtmFunction function : kGtmFunctions) {
-            const GtmCurve curve = curveOfTry(function, row.at(static_cast<std::size_t>(function)));
+            const GtmCurve curve = curveOfTry(function, row.of(function));
             ASSERT_LE(curve.size(), 231U);
             for (const GtmPoint& p : curve) {
                 ASSERT_TRUE(std::abs(p.y) <= kLargestSingle) << p.y;

@@ -5,8 +5,14 @@
 
 #include <gtest/gtest.h>
 
+#include "support/scripted_draws.h"
+
 namespace tavrune {
 namespace {
+
+using test::cellOf;
+using test::kLargestDraw;
+using test::ScriptedDraws;
 
 struct PatternRow {
     int patternCase;
@@ -42,6 +48,17 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(PolynomialText, WritesACoefficientOfOneOut) {
     EXPECT_EQ(polynomialText(patternOf(1), {1, 1, 1}), "1Q²+1Q+1");
     EXPECT_EQ(polynomialText(patternOf(15), {1, 1, 1}), "-1Q²");
+}
+
+TEST(Polynomials, AreDrawnWithSizesUpToFiveAndOneOfEighteenPatterns) {
+    ScriptedDraws draws{0, cellOf(2, 5), kLargestDraw, 0, kLargestDraw};
+    const Polynomial drawn = drawSizes(draws);
+    EXPECT_EQ(drawn.a, 1);
+    EXPECT_EQ(drawn.b, 3);
+    EXPECT_EQ(drawn.c, 5);
+    EXPECT_EQ(&drawPattern(draws), &patternOf(1));
+    EXPECT_EQ(&drawPattern(draws), &patternOf(18));
+    EXPECT_TRUE(draws.isUsedUp());
 }
 
 TEST(Polynomials, HaveTheirRootsWhereTheyAreZero) {
