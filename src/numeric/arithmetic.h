@@ -30,7 +30,7 @@ private:
 /// ArithmeticFailure where b is 0: Overflow for 0/0, otherwise DivisionByZero. A quotient beyond the largest
 /// number is an infinity.
 template <class A, class B>
-[[nodiscard]] auto Divide(A a, B b) {
+[[nodiscard]] auto divide(A a, B b) {
     using Quotient = std::common_type_t<A, B>;
     static_assert(std::is_floating_point_v<Quotient>, "whole numbers divide as doubles here");
     if (b == 0) {
@@ -40,8 +40,8 @@ template <class A, class B>
     return static_cast<Quotient>(a) / static_cast<Quotient>(b);
 }
 
-/// x to the n, always a double. Power(0.5F, 2) -> 0.25
-[[nodiscard]] inline double Power(double x, int n) { return std::pow(x, n); }
+/// x to the n, always a double. power(0.5F, 2) -> 0.25
+[[nodiscard]] inline double power(double x, int n) { return std::pow(x, n); }
 
 /// The largest whole number not above x, in the kind of x. Int(-0.5) -> -1
 [[nodiscard]] inline float Int(float x) { return std::floor(x); }

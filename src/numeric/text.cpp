@@ -172,7 +172,7 @@ std::string NumberText(float x) { return generalText(x, 7); }
 std::string NumberText(double x) { return generalText(x, 15); }
 std::string NumberText(int x) { return std::to_string(x); }
 
-std::string FixedPointText(double x) {
+std::string fixedPointText(double x) {
     const std::string whole = std::to_string(static_cast<long long>(Int(x)));
     return x == Int(x) ? whole : whole + ".5";
 }

@@ -33,8 +33,8 @@ void setDecimalMark(std::string_view mark);
 [[nodiscard]] std::string NumberText(int x);
 
 /// A number >= 0 in half steps with the point as its mark in every locale, so that `Val` reads it back.
-/// FixedPointText(2.5) -> "2.5", FixedPointText(0.5) -> "0.5", FixedPointText(3) -> "3"
-[[nodiscard]] std::string FixedPointText(double x);
+/// fixedPointText(2.5) -> "2.5", fixedPointText(0.5) -> "0.5", fixedPointText(3) -> "3"
+[[nodiscard]] std::string fixedPointText(double x);
 
 /// The number, in brackets if it is negative. bracketed(-7) -> "(-7)", bracketed(0) -> "0"
 template <class Number>

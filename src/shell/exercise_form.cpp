@@ -130,7 +130,7 @@ std::vector<QWidget*> ExerciseForm::after(LastBox last) const {
     return {buttons_.ok, buttons_.newExercise};
 }
 
-void ExerciseForm::firstTick() {
+void ExerciseForm::opened() {
     giveFinalWrongColour();
     newExercise();
 }
@@ -241,13 +241,13 @@ void ExerciseForm::openPanel(QWidget* panel, QWidget* firstVis) {
 
 void ExerciseForm::showEvent(QShowEvent* event) {
     Page::showEvent(event);
-    if (hasTicked_) {
+    if (hasOpened_) {
         return;
     }
-    hasTicked_ = true;
+    hasOpened_ = true;
     loadStep();
     // The first exercise sets the focus, and that needs a form on screen.
-    QTimer::singleShot(0, this, [this] { run([this] { firstTick(); }); });
+    QTimer::singleShot(0, this, [this] { run([this] { opened(); }); });
 }
 
 }  // namespace tavrune

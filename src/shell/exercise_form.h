@@ -46,7 +46,7 @@ enum class LastBox { OkOrStay, OkOrNewExercise };
 /// until the first exercise | | `helpPanel`, `closeHelp` | the help and its "Luk", where a form has one help
 /// for all its exercises |
 ///
-///     Loaded --first tick--> Asking --judge--> Wrong or Solved; --give the answer--> Given
+///     Loaded --opening--> Asking --judge--> Wrong or Solved; --give the answer--> Given
 ///
 /// "&Ny opgave" leads from every state to Asking. Panels are open or closed beside all of this.
 class ExerciseForm : public Page {
@@ -96,7 +96,7 @@ protected:
     virtual void loadStep() {}
     /// Once, as soon as the form is on screen. The base gives "FORKERT" its final colour, then the first
     /// exercise.
-    virtual void firstTick();
+    virtual void opened();
     virtual void newExercise() = 0;
     virtual void judge() = 0;
     virtual void giveAnswer() = 0;
@@ -155,7 +155,7 @@ private:
     QWidget* helpPanel_ = nullptr;
     /// The verdict that the last judging has shown.
     enum class Verdict { None, Right, Wrong } shown_ = Verdict::None;
-    bool hasTicked_ = false;
+    bool hasOpened_ = false;
 };
 
 }  // namespace tavrune

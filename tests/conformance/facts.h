@@ -15,8 +15,8 @@ struct FormFacts {
     PageName page;
     /// One label for both verdicts.
     bool hasOneLabel;
-    /// "FORKERT" starts in a darker red, until the first tick.
-    bool darkUntilFirstTick;
+    /// "FORKERT" starts in a darker red, until the opening.
+    bool darkUntilTheOpening;
     /// Enter in the last box goes on to "&Ny opgave" where "&OK" is hidden.
     bool lastBoxGoesOn;
     std::string lastBox;

@@ -149,7 +149,7 @@ TEST_P(EveryForm, HasTheFourButtonsAtTheSamePlace) {
     }
 }
 
-TEST_P(EveryForm, GivesTheWrongVerdictItsFinalColourAtTheFirstTick) {
+TEST_P(EveryForm, GivesTheWrongVerdictItsFinalColourAtTheOpening) {
     if (facts().hasOneLabel) {
         const FormDriver form = open();
         answerWrongly(form);
@@ -159,7 +159,7 @@ TEST_P(EveryForm, GivesTheWrongVerdictItsFinalColourAtTheFirstTick) {
     SeededDraws seeded(1);
     FormDriver form = FormDriver::unshown(facts().page, seeded);
     EXPECT_EQ(form.label(facts().wrong()).backColour(),
-              facts().darkUntilFirstTick ? QColor(192, 0, 0) : kRed);
+              facts().darkUntilTheOpening ? QColor(192, 0, 0) : kRed);
     EXPECT_EQ(form.label(facts().right()).backColour(), kRightOfTwo);
     EXPECT_EQ(form.caption(facts().wrong()), "FORKERT");
     EXPECT_EQ(form.caption(facts().right()), "RIGTIGT");
@@ -168,7 +168,7 @@ TEST_P(EveryForm, GivesTheWrongVerdictItsFinalColourAtTheFirstTick) {
     EXPECT_EQ(form.label(facts().wrong()).place(), form.label(facts().right()).place());
 }
 
-TEST_P(EveryForm, AsksAtItsFirstTick) {
+TEST_P(EveryForm, AsksAtItsOpening) {
     const FormDriver form = open();
     EXPECT_TRUE(form.isShown("newExercise"));
     EXPECT_FALSE(form.isShown("giveAnswer"));

@@ -37,13 +37,13 @@ TEST(Arithmetic, KeepsTheKindOfItsOperands) {
     static_assert(std::is_same_v<decltype(1.5F * 1.5F), float>);
     static_assert(std::is_same_v<decltype(1.5F + 1.0), double>);
     static_assert(std::is_same_v<decltype(1.5F / 3), float>);
-    static_assert(std::is_same_v<decltype(Divide(1.0F, 3.0F)), float>);
-    static_assert(std::is_same_v<decltype(Divide(1.0F, 3)), float>);
-    static_assert(std::is_same_v<decltype(Divide(1.0F, 3.0)), double>);
-    static_assert(std::is_same_v<decltype(Power(1.5F, 2)), double>);
-    EXPECT_EQ(Power(0.1F, 2), static_cast<double>(0.1F) * 0.1F);
-    EXPECT_EQ(Divide(1.0F, 3.0F), 1.0F / 3.0F);
-    EXPECT_EQ(Divide(1.0, 3.0), 1.0 / 3.0);
+    static_assert(std::is_same_v<decltype(divide(1.0F, 3.0F)), float>);
+    static_assert(std::is_same_v<decltype(divide(1.0F, 3)), float>);
+    static_assert(std::is_same_v<decltype(divide(1.0F, 3.0)), double>);
+    static_assert(std::is_same_v<decltype(power(1.5F, 2)), double>);
+    EXPECT_EQ(power(0.1F, 2), static_cast<double>(0.1F) * 0.1F);
+    EXPECT_EQ(divide(1.0F, 3.0F), 1.0F / 3.0F);
+    EXPECT_EQ(divide(1.0, 3.0), 1.0 / 3.0);
 }
 
 struct DrawIdiom {
@@ -98,7 +98,7 @@ TEST(DrawIdioms, FiveKindsWithTheRareZero) {
 
 TEST(Divide, ThrowsWhereTheDenominatorIsZero) {
     try {
-        static_cast<void>(Divide(1.0, 0.0));
+        static_cast<void>(divide(1.0, 0.0));
         FAIL() << "no failure";
     } catch (const ArithmeticFailure& failure) {
         EXPECT_EQ(failure.kind(), Kind::DivisionByZero);
@@ -108,7 +108,7 @@ TEST(Divide, ThrowsWhereTheDenominatorIsZero) {
 
 TEST(Divide, CallsZeroByZeroAnOverflow) {
     try {
-        static_cast<void>(Divide(0.0F, 0.0F));
+        static_cast<void>(divide(0.0F, 0.0F));
         FAIL() << "no failure";
     } catch (const ArithmeticFailure& failure) {
         EXPECT_EQ(failure.kind(), Kind::Overflow);

@@ -136,16 +136,16 @@ RC_GTEST_PROP(NumberText, IsReadBackByValWithAPoint, (int hundredths)) {
 
 TEST(FixedPointText, KeepsThePointInEveryLocale) {
     const DecimalMark comma(",");
-    EXPECT_EQ(FixedPointText(2.5), "2.5");
-    EXPECT_EQ(FixedPointText(0.5), "0.5");
-    EXPECT_EQ(FixedPointText(3), "3");
-    EXPECT_EQ(FixedPointText(0), "0");
+    EXPECT_EQ(fixedPointText(2.5), "2.5");
+    EXPECT_EQ(fixedPointText(0.5), "0.5");
+    EXPECT_EQ(fixedPointText(3), "3");
+    EXPECT_EQ(fixedPointText(0), "0");
 }
 
 TEST(FixedPointText, IsReadBackInHalfSteps) {
     const DecimalMark comma(",");
     for (int halves = 0; halves < 40; ++halves) {
-        EXPECT_EQ(Val(FixedPointText(halves / 2.0)), halves / 2.0);
+        EXPECT_EQ(Val(fixedPointText(halves / 2.0)), halves / 2.0);
     }
 }
 

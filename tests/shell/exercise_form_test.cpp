@@ -111,7 +111,7 @@ protected:
 
 using Calls = std::vector<std::string>;
 
-TEST_F(LifeCycle, LoadsThenTicksOnce) {
+TEST_F(LifeCycle, LoadsThenOpensOnce) {
     Sample& s = open();
     EXPECT_EQ(s.calls, (Calls{"load", "new"}));
     s.hide();
@@ -199,7 +199,7 @@ TEST_F(LifeCycle, TwoLabelsHaveFixedCaptionsAndColours) {
     EXPECT_EQ(s.wrong.backColour(), QColor(255, 0, 0));
 }
 
-TEST_F(LifeCycle, TheDarkWrongLabelGetsItsFinalColourAtTheFirstTick) {
+TEST_F(LifeCycle, TheDarkWrongLabelGetsItsFinalColourAtTheOpening) {
     const Sample unshown(draws, VerdictKind::TwoDark, LastBox::OkOrStay);
     EXPECT_EQ(unshown.wrong.backColour(), QColor(192, 0, 0));
     EXPECT_EQ(open(VerdictKind::TwoDark).wrong.backColour(), QColor(255, 0, 0));

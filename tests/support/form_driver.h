@@ -23,7 +23,7 @@ namespace tavrune::test {
 /// clicks. A control that is not there fails the test at once.
 class FormDriver {
 public:
-    /// Makes the page, shows it, and lets its first tick pass.
+    /// Makes the page, shows it, and lets it open.
     FormDriver(PageName name, Draws& draws);
 
     /// Makes the page without showing it: its design state.
@@ -32,7 +32,7 @@ public:
     ~FormDriver();
     FormDriver(FormDriver&&) = default;
 
-    /// Shows the page and lets its first tick pass.
+    /// Shows the page and lets it open.
     void show();
 
     [[nodiscard]] Page& page() const { return *page_; }

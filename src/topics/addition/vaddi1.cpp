@@ -31,7 +31,7 @@ Vaddi1::Vaddi1(Draws& draws) : ExerciseForm(PageName::Vaddi1, draws), ui_(std::m
 
 Vaddi1::~Vaddi1() = default;
 
-void Vaddi1::firstTick() {
+void Vaddi1::opened() {
     newExercise();
     ui_->openingBlank->hide();
     giveFinalWrongColour();

@@ -24,7 +24,7 @@ public:
     [[nodiscard]] const Vaddi1State& state() const { return state_; }
 
 protected:
-    void firstTick() override;
+    void opened() override;
     void newExercise() override;
     void judge() override;
     void giveAnswer() override;

@@ -86,10 +86,10 @@ void solveSloping(Vaddi1State& s) {
     const double sum = atEnd1 + atEnd2;
     // The line goes through the rounded kink.
     if (s.direction == Direction::Rising) {
-        s.secondSlope = Divide(kTopPrice - inner, sum - kink);
+        s.secondSlope = divide(kTopPrice - inner, sum - kink);
         s.secondIntercept = kTopPrice - s.secondSlope * sum;
     } else {
-        s.secondSlope = Divide(inner, kink - sum);
+        s.secondSlope = divide(inner, kink - sum);
         s.secondIntercept = -(s.secondSlope * sum);
     }
 

@@ -57,8 +57,8 @@ void Vaddi2::chainBoxes() {
     enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
 }
 
-void Vaddi2::firstTick() {
-    ExerciseForm::firstTick();
+void Vaddi2::opened() {
+    ExerciseForm::opened();
     ui_->openingBlank->hide();
 }
 

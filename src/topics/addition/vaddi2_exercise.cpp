@@ -126,7 +126,7 @@ void joinRows(Vaddi2State& s) {
         const TableCell& to = s.tableQtotal[row + 1];
         double slope = 0;
         if (!to.isUnbounded()) {
-            slope = Divide(fromP - s.tableP[row + 1].number(), fromQ - to.number());
+            slope = divide(fromP - s.tableP[row + 1].number(), fromQ - to.number());
         }
         s.segmentSlope[row] = slope;
         s.segmentIntercept[row] = fromP - slope * fromQ;

@@ -60,8 +60,8 @@ void Vaddi3::bindEnter() {
     enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
 }
 
-void Vaddi3::firstTick() {
-    ExerciseForm::firstTick();
+void Vaddi3::opened() {
+    ExerciseForm::opened();
     ui_->openingBlank->hide();
 }
 

@@ -21,7 +21,7 @@ public:
     friend Carried operator+(Carried a, Carried b) { return {a.value_ + b.value_, a, b}; }
     friend Carried operator-(Carried a, Carried b) { return {a.value_ - b.value_, a, b}; }
     friend Carried operator*(Carried a, Carried b) { return {a.value_ * b.value_, a, b}; }
-    friend Carried operator/(Carried a, Carried b) { return {Divide(a.value_, b.value_), a, b}; }
+    friend Carried operator/(Carried a, Carried b) { return {divide(a.value_, b.value_), a, b}; }
 
     friend bool operator==(Carried a, Carried b) { return a.value_ == b.value_; }
     friend bool operator<(Carried a, Carried b) { return a.value_ < b.value_; }
@@ -96,7 +96,7 @@ float flatSlope(Draws& draws) { return Int(draws.Rnd() * -8) / 10; }
 bool drawFirstPart(Vaddi3State& s, Draws& draws) {
     s.firstIntercept = Int(draws.Rnd() * 5) + 5;
     s.firstSlope = startsFlat(s) ? flatSlope(draws) : Int(draws.Rnd() * -3) - 2;
-    const float zero = Divide(-s.firstIntercept, s.firstSlope);
+    const float zero = divide(-s.firstIntercept, s.firstSlope);
     const float nearest = startsFlat(s) ? 2 : 1;
     const float farthest = s.kinkKind == KinkKind::JumpDown ? 50 : 8;
     if (zero <= nearest || zero > farthest) {

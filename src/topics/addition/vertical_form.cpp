@@ -32,8 +32,8 @@ void VerticalForm::bindGraphsAndRows() {
     rows_ = AnswerRows::of(*design());
 }
 
-void VerticalForm::firstTick() {
-    ExerciseForm::firstTick();
+void VerticalForm::opened() {
+    ExerciseForm::opened();
     design()->findChild<Label*>("openingBlank")->hide();
 }
 

@@ -18,7 +18,7 @@ double drawSlope(Draws& draws, bool isFalling) {
     return isFalling ? Fix(draws.Rnd() * -5) : Int(draws.Rnd() * 5);
 }
 
-double zeroOf(const Piece& piece) { return Divide(-piece.intercept, piece.slope); }
+double zeroOf(const Piece& piece) { return divide(-piece.intercept, piece.slope); }
 
 Piece addedUp(const Piece& one, const Piece& other) {
     return {one.slope + other.slope, one.intercept + other.intercept};

@@ -105,7 +105,7 @@ Dlinie::Dlinie(Draws& draws) : ExerciseForm(PageName::Dlinie, draws), ui_(std::m
 
 Dlinie::~Dlinie() = default;
 
-void Dlinie::firstTick() {
+void Dlinie::opened() {
     ui_->graph->Scale(-kEnd, kEnd, kEnd, -kEnd);
     // Kept: the first exercise alone may have a slope of 0.
     ask(ZeroSlope::Allowed);

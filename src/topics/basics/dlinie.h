@@ -22,7 +22,7 @@ public:
     [[nodiscard]] const DlinieState& state() const { return state_; }
 
 protected:
-    void firstTick() override;
+    void opened() override;
     void newExercise() override;
     void judge() override;
     void giveAnswer() override;

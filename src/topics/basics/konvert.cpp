@@ -210,7 +210,7 @@ void Konvert::layOutWorkedSolution() {
     };
     const KonvertWorked worked = workedSolution(state_);
     const WorkedFraction slope = WorkedFraction::of(*design(), "workedSlope");
-    ui_->workedPriceEquals->setCaption(worked.opening);
+    ui_->workedPriceEquals->setCaption(worked.priceEquals);
     slope.denominator->setCaption(worked.squaredFactor);
     placeAfter(ui_->workedPriceEquals, kGap, slope.denominator);
     ui_->workedTimesConvertedUnitPlus->setCaption("K + ");

@@ -48,7 +48,7 @@ struct KonvertGiven {
 
 /// The parts of P = slope/(factor · factor) K + constant/factor = result.
 struct KonvertWorked {
-    std::string opening;
+    std::string priceEquals;
     std::string slope;
     std::string squaredFactor;
     std::string constant;

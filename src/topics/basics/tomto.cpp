@@ -38,7 +38,7 @@ std::array<Tomto::Field, 2> Tomto::fields() const {
     return {{{ui_->crossingPointQuantity, state_.solutionQ}, {ui_->crossingPointPrice, state_.solutionP}}};
 }
 
-void Tomto::firstTick() {
+void Tomto::opened() {
     markMiddles(kShortAxis);
     prepare();
     firstExercise(state_, draws());

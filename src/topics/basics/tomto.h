@@ -25,7 +25,7 @@ public:
     [[nodiscard]] const TomtoState& state() const { return state_; }
 
 protected:
-    void firstTick() override;
+    void opened() override;
     void newExercise() override;
     void judge() override;
     void giveAnswer() override;

@@ -54,7 +54,7 @@ double slopeOf(const DiffState& s) {
     if (isQuadratic(s.patternCase)) {
         return 2 * s.coefficientA * s.pointQ + s.coefficientB;
     }
-    return 3 * s.coefficientA * Power(s.pointQ, 2) + 2 * s.coefficientB * s.pointQ + s.coefficientC;
+    return 3 * s.coefficientA * power(s.pointQ, 2) + 2 * s.coefficientB * s.pointQ + s.coefficientC;
 }
 
 void drawPolynomial(DiffState& s, Draws& draws) {
@@ -207,9 +207,9 @@ bool hasParabola(const DiffState& state) { return state.patternCase <= kLastWith
 
 double curveAt(const DiffState& s, double q) {
     if (hasParabola(s)) {
-        return s.coefficientA * Power(q, 2) + s.coefficientB * q + s.coefficientC;
+        return s.coefficientA * power(q, 2) + s.coefficientB * q + s.coefficientC;
     }
-    return s.coefficientA * Power(q, 3) + s.coefficientB * Power(q, 2) + s.coefficientC * q + s.coefficientD;
+    return s.coefficientA * power(q, 3) + s.coefficientB * power(q, 2) + s.coefficientC * q + s.coefficientD;
 }
 
 double tangentAt(const DiffState& s, double slope, double q) {

@@ -67,7 +67,7 @@ void hatchSegments(GraphBox& graph, const Integ2State& state, const QColor& firs
 }
 
 /// Kept: what a term of the last sum shows depends on what it has shown so far, over all exercises. An
-/// integral that is not above 0 never shows; what stood there gets one more pair of brackets at each opening.
+/// integral that is not above 0 never shows; what stood there gets one more pair of brackets each time.
 void showSummand(Label* term, double integral) { term->setCaption(summandText(integral, term->caption())); }
 
 /// Lays out a term of the last sum and gives its right edge. Bracketed too often to fit, it shows its middle.

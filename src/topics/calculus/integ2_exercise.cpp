@@ -99,7 +99,7 @@ Try tryFamily(Family family, Integ2State& s, Draws& draws) {
 }
 
 double primitiveAt(double q, const Integ2Segment& segment) {
-    return segment.slope / 2 * Power(q, 2) + segment.intercept * q;
+    return segment.slope / 2 * power(q, 2) + segment.intercept * q;
 }
 
 double integralOf(const Integ2Segment& segment) {

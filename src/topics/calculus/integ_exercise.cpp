@@ -108,16 +108,16 @@ std::string integrandTail(const IntegState& s) {
     return text + ")";
 }
 
-/// The terms of P at `at`, the first one behind `opening`.
-IntegRow terms(const IntegState& s, const std::string& opening, const std::string& at) {
+/// The terms of P at `at`, the first one behind `lead`.
+IntegRow terms(const IntegState& s, const std::string& lead, const std::string& at) {
     IntegRow row;
     const bool bIsFirst = s.a == 0;
     if (s.a != 0) {
-        row.cubicTerm = opening + "(" + NumberText(s.a) + "/3)·" + at;
+        row.cubicTerm = lead + "(" + NumberText(s.a) + "/3)·" + at;
         row.cube = "³";
     }
     if (s.b != 0) {
-        row.quadraticTerm = bIsFirst ? opening + "(" + NumberText(s.b) : signOf(s.b) + "(" + sizeText(s.b);
+        row.quadraticTerm = bIsFirst ? lead + "(" + NumberText(s.b) : signOf(s.b) + "(" + sizeText(s.b);
         row.quadraticTerm += "/2)·" + at;
         row.square = "²";
     }
@@ -130,8 +130,8 @@ IntegRow terms(const IntegState& s, const std::string& opening, const std::strin
 bool isConstant(const IntegState& s) { return s.a == 0 && s.b == 0; }
 
 /// P at a limit, in brackets.
-IntegRow bracketedTerms(const IntegState& s, const std::string& opening, const std::string& at) {
-    IntegRow row = terms(s, opening, at);
+IntegRow bracketedTerms(const IntegState& s, const std::string& lead, const std::string& at) {
+    IntegRow row = terms(s, lead, at);
     if (closesBeforeRaised(s)) {
         (s.b != 0 ? row.quadraticTerm : row.cubicTerm) += ")";
     } else {
@@ -141,9 +141,9 @@ IntegRow bracketedTerms(const IntegState& s, const std::string& opening, const s
 }
 
 /// "(3·w)" and "-(3·v)", or "((-3)·w)" and "- ((-3)·v)".
-std::string constantAt(const IntegState& s, const char* openingIfPositive, const char* openingIfNegative,
+std::string constantAt(const IntegState& s, const char* leadIfPositive, const char* leadIfNegative,
                        const std::string& at) {
-    return (s.c < 0 ? openingIfNegative : openingIfPositive) + bracketed(s.c) + "·" + at + ")";
+    return (s.c < 0 ? leadIfNegative : leadIfPositive) + bracketed(s.c) + "·" + at + ")";
 }
 
 IntegRow upperAt(const IntegState& s, const std::string& at) {
@@ -184,7 +184,7 @@ bool drawFunctionAndLimits(IntegState& s, Draws& draws) {
 }
 
 double primitiveAt(const IntegState& s, float q) {
-    return s.a / 3 * Power(q, 3) + s.b / 2 * Power(q, 2) + s.c * q;
+    return s.a / 3 * power(q, 3) + s.b / 2 * power(q, 2) + s.c * q;
 }
 
 }  // namespace
@@ -195,7 +195,7 @@ void newExercise(IntegState& state, Draws& draws) {
     state.integral = primitiveAt(state, state.w) - primitiveAt(state, state.v);
 }
 
-double valueAt(const IntegState& s, double q) { return s.a * Power(q, 2) + s.b * q + s.c; }
+double valueAt(const IntegState& s, double q) { return s.a * power(q, 2) + s.b * q + s.c; }
 
 bool isRight(const IntegState& state, double typed) { return isHalfOpenNear(typed, state.integral); }
 

@@ -115,11 +115,11 @@ QList<LineControl*> Gtm::linesOf(const QString& prefix) const {
     return design()->findChildren<LineControl*>(QRegularExpression('^' + prefix));
 }
 
-void Gtm::firstTick() {
+void Gtm::opened() {
     ui_->graph->Scale(0, kHighestCost, kLargestQuantity, 0);
     prepare();
     firstExercise(state_, draws());
-    showTask(GtmReach::FirstTick);
+    showTask(GtmReach::Opening);
 }
 
 void Gtm::newExercise() {

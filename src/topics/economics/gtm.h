@@ -25,7 +25,7 @@ public:
     ~Gtm() override;
 
 protected:
-    void firstTick() override;
+    void opened() override;
     void newExercise() override;
     void judge() override;
     void giveAnswer() override;

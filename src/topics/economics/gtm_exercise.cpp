@@ -31,10 +31,10 @@ Drawn drawCoefficients(Draws& draws) {
 }
 
 /// Above 0 where aQ² + bQ + c crosses the axis.
-double discriminantOf(float a, float b, float c) { return Power(b, 2) - 4 * a * c; }
+double discriminantOf(float a, float b, float c) { return power(b, 2) - 4 * a * c; }
 
 /// Kept: the quarter of b² is multiplied by a, where the height of a vertex wants a division.
-double lowestOf(float a, float b, float c) { return -Power(b, 2) / 4 * a + c; }
+double lowestOf(float a, float b, float c) { return -power(b, 2) / 4 * a + c; }
 
 /// Draws which function is given and makes the other two of it. False if they are rejected.
 bool completeExercise(GtmState& s, const Drawn& drawn, Draws& draws) {
@@ -208,7 +208,7 @@ void firstExercise(GtmState& s, Draws& draws) {
 
 GtmTerms<std::string> taskTexts(const GtmCoefficients& given) {
     const auto& [a, b, c] = given;
-    return {FixedPointText(a), NumberText(b), NumberText(c)};
+    return {fixedPointText(a), NumberText(b), NumberText(c)};
 }
 
 GtmTerms<bool> judge(const GtmState& s, GtmFunction function, const GtmCoefficients& typed) {
@@ -219,13 +219,13 @@ GtmTerms<bool> judge(const GtmState& s, GtmFunction function, const GtmCoefficie
 double heightAt(GtmFunction function, const GtmCoefficients& coefficients, double q) {
     const auto& [a, b, c] = coefficients;
     if (function == GtmFunction::Total) {
-        return a * Power(q, 3) + b * Power(q, 2) + c * q;
+        return a * power(q, 3) + b * power(q, 2) + c * q;
     }
-    return a * Power(q, 2) + b * q + c;
+    return a * power(q, 2) + b * q + c;
 }
 
 GtmCurve curveOfTask(const GtmState& s, GtmReach reach) {
-    const Plot& parabola = reach == GtmReach::FirstTick ? kParabolaOfFirstTask : kParabolaOfTask;
+    const Plot& parabola = reach == GtmReach::Opening ? kParabolaOfFirstTask : kParabolaOfTask;
     return pointsOf(s.given, s.of(s.given), s.given == GtmFunction::Total ? kCubicOfTask : parabola);
 }
 

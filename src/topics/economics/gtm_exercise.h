@@ -65,7 +65,7 @@ struct GtmState {
 /// with it.
 void newExercise(GtmState& s, Draws& draws);
 
-/// The exercise of the first tick. It is drawn by looser rules: only here can MC fall for ever, and c be
+/// The exercise of the opening. It is drawn by looser rules: only here can MC fall for ever, and c be
 /// drawn a second time.
 void firstExercise(GtmState& s, Draws& draws);
 
@@ -89,8 +89,8 @@ struct GtmPoint {
 /// A curve as the points that are joined: none, or a single one, is nothing to draw.
 using GtmCurve = std::vector<GtmPoint>;
 
-/// How far the curve of the task runs: a parabola of the first tick runs farther than later ones.
-enum class GtmReach { FirstTick, Later };
+/// How far the curve of the task runs: a parabola of the opening runs farther than later ones.
+enum class GtmReach { Opening, Later };
 
 [[nodiscard]] GtmCurve curveOfTask(const GtmState& s, GtmReach reach);
 

@@ -56,9 +56,9 @@ std::string polynomialText(const Pattern& pattern, const Polynomial& drawn) {
            laterTerm(pattern.c, drawn.c, "");
 }
 
-double valueAt(const Polynomial& p, double q) { return p.a * Power(q, 2) + p.b * q + p.c; }
+double valueAt(const Polynomial& p, double q) { return p.a * power(q, 2) + p.b * q + p.c; }
 
-double discriminantOf(const Polynomial& p) { return Power(p.b, 2) - 4 * p.a * p.c; }
+double discriminantOf(const Polynomial& p) { return power(p.b, 2) - 4 * p.a * p.c; }
 
 Roots rootsOf(const Polynomial& p) {
     const double root = std::sqrt(discriminantOf(p));

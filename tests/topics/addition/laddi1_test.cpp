@@ -73,7 +73,7 @@ TEST_F(Laddi1Form, StartsWithoutHelpAndVerdict) {
     EXPECT_TRUE(unshown.isShown("openingBlank"));
 }
 
-TEST_F(Laddi1Form, HidesItsEmptyLabelAtTheFirstTick) { EXPECT_FALSE(openRising().isShown("openingBlank")); }
+TEST_F(Laddi1Form, HidesItsEmptyLabelAtTheOpening) { EXPECT_FALSE(openRising().isShown("openingBlank")); }
 
 TEST_F(Laddi1Form, HasItsFixedTexts) {
     const FixedText texts[]{

@@ -123,7 +123,7 @@ TEST_F(Laddi2Form, StartsWithoutHelpAndVerdict) {
     EXPECT_TRUE(unshown.isShown("openingBlank"));
 }
 
-TEST_F(Laddi2Form, HidesItsEmptyLabelAtTheFirstTick) { EXPECT_FALSE(openTwo().isShown("openingBlank")); }
+TEST_F(Laddi2Form, HidesItsEmptyLabelAtTheOpening) { EXPECT_FALSE(openTwo().isShown("openingBlank")); }
 
 TEST_F(Laddi2Form, HasItsFixedTexts) {
     const FixedText texts[]{

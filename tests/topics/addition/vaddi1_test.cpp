@@ -176,7 +176,7 @@ TEST_F(Vaddi1Form, StartsWithoutAnswerAndWithItsEmptyLabels) {
     EXPECT_EQ(unshown.label("wrong").backColour(), QColor(192, 0, 0));
 }
 
-TEST_F(Vaddi1Form, HidesTheOneEmptyLabelAndFinishesTheRedOfForkertAtItsFirstTick) {
+TEST_F(Vaddi1Form, HidesTheOneEmptyLabelAndFinishesTheRedOfForkertAtItsOpening) {
     const FormDriver& f = open(kFalling);
     EXPECT_FALSE(f.isShown("openingBlank"));
     EXPECT_TRUE(f.isShown("spareBlank"));
@@ -1089,7 +1089,7 @@ TEST_F(Vaddi1Form, TellsOfTheOverflowAndEndsTheProgramWithStatusOne) {
     EXPECT_EQ(f.focus(), "price1");
 }
 
-TEST_F(Vaddi1Form, MayOverflowAtItsFirstTickBeforeTheRestOfIt) {
+TEST_F(Vaddi1Form, MayOverflowAtItsOpeningBeforeTheRestOfIt) {
     const FormDriver& f = open(kOverflow);
     EXPECT_EQ(f.caption("function2Intercept"), "10");
     EXPECT_EQ(f.focus(), "price1");

@@ -330,7 +330,7 @@ TEST_F(Vaddi2Form, UnderlinesTheSignsOfAtLeast) {
     }
 }
 
-TEST_F(Vaddi2Form, HidesTheBlankLabelAtItsFirstTick) {
+TEST_F(Vaddi2Form, HidesTheBlankLabelAtItsOpening) {
     const FormDriver& f = open(kThree);
     EXPECT_FALSE(f.isShown("openingBlank"));
 }

@@ -43,7 +43,7 @@ protected:
     std::unique_ptr<FormDriver> form;
 };
 
-TEST_F(BrokForm, IsBlankUntilItsFirstTick) {
+TEST_F(BrokForm, IsBlankUntilItsOpening) {
     const FormDriver unshown = FormDriver::unshown(PageName::Brok, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Brøker");
     EXPECT_EQ(unshown.caption("task"), "Løs opgaven");

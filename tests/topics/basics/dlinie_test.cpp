@@ -89,7 +89,7 @@ protected:
     std::unique_ptr<FormDriver> form;
 };
 
-TEST_F(DlinieForm, IsBlankUntilItsFirstTick) {
+TEST_F(DlinieForm, IsBlankUntilItsOpening) {
     const FormDriver unshown = FormDriver::unshown(PageName::Dlinie, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Den rette linie");
     for (const char* empty : {"task", "firstFact", "secondFact"}) {
@@ -131,10 +131,10 @@ TEST_F(DlinieForm, DrawsAxesAndDotsInItsScale) {
     EXPECT_EQ(graph.strokes(), axes());
     EXPECT_EQ(graph.strokes().size(), 2U + 20U + 19U);
     next(LineTask::BothCrosses);
-    EXPECT_EQ(graph.strokes(), axes()) << "drawn anew, in the scale of the first tick";
+    EXPECT_EQ(graph.strokes(), axes()) << "drawn anew, in the scale of the opening";
 }
 
-TEST_F(DlinieForm, HasItsScaleFromTheFirstTickOnly) {
+TEST_F(DlinieForm, HasItsScaleFromTheOpeningOnly) {
     open(LineTask::TwoPoints);
     auto& graph = form->find<GraphBox>("graph");
     graph.Scale(0, 1, 1, 0);
@@ -318,7 +318,7 @@ TEST_F(DlinieForm, WithoutAKindKeepsTheTaskOnScreenAndHasNoHelp) {
     EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
 }
 
-TEST_F(DlinieForm, WithoutAKindAtItsFirstTickIsBlankAndAnsweredByZeros) {
+TEST_F(DlinieForm, WithoutAKindAtItsOpeningIsBlankAndAnsweredByZeros) {
     const FormDriver& f = open(LineTask::None);
     EXPECT_EQ(f.caption("task") + f.caption("firstFact") + f.caption("secondFact"), "");
     answer("1", "0");

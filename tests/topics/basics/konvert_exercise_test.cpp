@@ -163,7 +163,7 @@ TEST(KonvertTexts, TellAWholeFactor) {
     EXPECT_EQ(givenTexts(s).conversion, "1 Q svarer til 4 K");
     const DecimalMark danish(",");
     const KonvertWorked worked = workedSolution(s);
-    EXPECT_EQ(worked.opening, "P= ");
+    EXPECT_EQ(worked.priceEquals, "P= ");
     EXPECT_EQ(worked.slope, "-3");
     EXPECT_EQ(worked.squaredFactor, "4 · 4");
     EXPECT_EQ(worked.constant, "5");
@@ -177,7 +177,7 @@ TEST(KonvertTexts, TellAFractionUnreduced) {
     EXPECT_EQ(taskText(s), " For den viste funktion gælder, at 1 Q svarer til 6/4 K. Udtryk funktionen i K");
     EXPECT_EQ(givenTexts(s).conversion, "1 Q svarer til 6/4 K");
     const KonvertWorked worked = workedSolution(s);
-    EXPECT_EQ(worked.opening, "P=");
+    EXPECT_EQ(worked.priceEquals, "P=");
     EXPECT_EQ(worked.squaredFactor, "(6/4) · (6/4)");
     EXPECT_EQ(worked.factor, "6/4");
     EXPECT_EQ(worked.result, "= 0.889 K + 4.667");

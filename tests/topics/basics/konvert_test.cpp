@@ -146,7 +146,7 @@ TEST_F(KonvertForm, BearsItsFixedTexts) {
                                  "P = -1Q + 10, og at hvert styk tager 2 timer at producere."));
 }
 
-TEST_F(KonvertForm, IsBlankUntilItsFirstTick) {
+TEST_F(KonvertForm, IsBlankUntilItsOpening) {
     const FormDriver unshown = FormDriver::unshown(PageName::Konvert, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Funktionskonvertering");
     EXPECT_EQ(unshown.caption("task") + unshown.caption("givenFunction"), "");

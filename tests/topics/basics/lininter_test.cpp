@@ -67,7 +67,7 @@ protected:
     std::unique_ptr<FormDriver> form;
 };
 
-TEST_F(LininterForm, IsBlankUntilItsFirstTick) {
+TEST_F(LininterForm, IsBlankUntilItsOpening) {
     const FormDriver unshown = FormDriver::unshown(PageName::Lininter, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Lineær interpolation/ekstrapolation");
     for (const char* blank : {"pointA", "pointB", "givenLetter", "givenCoordinate", "askedLetter",

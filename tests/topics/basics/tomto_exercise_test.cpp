@@ -85,7 +85,7 @@ TEST(TomtoGenerator, ReplacesZerosDrawnByTheButton) {
     EXPECT_EQ(s.solutionP, 5.33);
 }
 
-TEST(TomtoGenerator, ReplacesZerosDrawnByTheFirstTickByOthers) {
+TEST(TomtoGenerator, ReplacesZerosDrawnByTheOpeningByOthers) {
     // 3Q + 2 and Q + 5: Q = 3/2, P = 13/2.
     const TomtoState s = exercise({0, 0, 0, 0, 0, 0}, Explicit, {}, firstExercise);
     EXPECT_EQ(s.a1, 3);

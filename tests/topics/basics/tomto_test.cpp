@@ -168,7 +168,7 @@ constexpr test::FixedText kFixedTexts[]{
     {"closeImplicitHelp", "&Luk"},
 };
 
-TEST_F(TomtoForm, StandsReadyBeforeItsFirstTick) {
+TEST_F(TomtoForm, StandsReadyBeforeItsOpening) {
     const FormDriver f = FormDriver::unshown(PageName::Tomto, draws);
     EXPECT_EQ(f.page().windowTitle().toStdString(), "Tavrune - 2 ligninger med 2 ubekendte");
     EXPECT_EQ(f.caption("givenEquation1") + f.caption("givenEquation2"), "");

@@ -312,7 +312,7 @@ TEST_F(Integ2Form, LeavesTheFocusWhereItWasIfThePlotLeavesTheGraph) {
     EXPECT_EQ(form->focus(), "integral");
 }
 
-TEST_F(Integ2Form, LeavesTheFocusWhereItWasAtTheFirstTickToo) {
+TEST_F(Integ2Form, LeavesTheFocusWhereItWasAtTheOpeningToo) {
     script(kFall, kSteep);
     FormDriver f = FormDriver::unshown(PageName::Integ2, draws);
     f.button("help").setFocus();
@@ -321,7 +321,7 @@ TEST_F(Integ2Form, LeavesTheFocusWhereItWasAtTheFirstTickToo) {
     EXPECT_EQ(f.focus(), "help");
 }
 
-TEST_F(Integ2Form, TakesTheFocusAtTheFirstTickIfThePlotStaysOnTheGraph) {
+TEST_F(Integ2Form, TakesTheFocusAtTheOpeningIfThePlotStaysOnTheGraph) {
     script(kFall, kPlain);
     FormDriver f = FormDriver::unshown(PageName::Integ2, draws);
     f.button("help").setFocus();

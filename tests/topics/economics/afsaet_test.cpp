@@ -100,7 +100,7 @@ protected:
 const std::vector<QColor> kAllWhite(4, kWhite);
 const std::vector<QColor> kAllRed(4, kRed);
 
-TEST_F(AfsaetForm, IsBlankUntilItsFirstTick) {
+TEST_F(AfsaetForm, IsBlankUntilItsOpening) {
     const FormDriver unshown = FormDriver::unshown(PageName::Afsaet, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Afsætningsfunktioner");
     for (const char* empty : {"task", "firstFact", "secondFact", "givenRange"}) {

@@ -139,7 +139,7 @@ TEST(GtmGenerator, TossesAFairCoinForA) {
 
 TEST(GtmGenerator, CanDrawAZeroForAAlthoughTheCoinAllowsMore) {
     EXPECT_EQ(made(newExercise, Script{0.5F, 0, 0, cellOf(4, 10), 0, 0}).avc, (GtmCoefficients{0, 0, 4}));
-    // The first tick then draws c anew, as for any other a of 0.
+    // The opening then draws c anew, as for any other a of 0.
     EXPECT_EQ(made(firstExercise, Script{0.5F, 0, 0, cellOf(9, 10), 0, cellOf(3, 6), 0}).avc,
               (GtmCoefficients{0, 0, 5}));
 }
@@ -344,7 +344,7 @@ TEST(GtmSpace, IsRejectedJustWhereWholeNumbersSaySo) {
     EXPECT_EQ(accepted, (std::map<Kind, int>{{Avc, 517}, {Tvc, 517}, {Mc, 554}}));
 }
 
-TEST(GtmSpace, IsRejectedAtTheFirstTickJustWhereWholeNumbersSaySo) {
+TEST(GtmSpace, IsRejectedAtTheOpeningJustWhereWholeNumbersSaySo) {
     std::map<Kind, int> accepted;
     forEachDraw([&](int twiceA, int b, int c, Kind kind) {
         if (twiceA == 0 && (c < 2 || c > 7)) {
@@ -543,14 +543,14 @@ TEST(GtmJudge, JudgesTheGivenFunctionToo) {
 
 constexpr std::size_t pieces(const GtmCurve& curve) { return curve.empty() ? 0 : curve.size() - 1; }
 
-TEST(GtmCurves, RunTheParabolaOfATaskToElevenAndThatOfTheFirstTickToFifteen) {
+TEST(GtmCurves, RunTheParabolaOfATaskToElevenAndThatOfTheOpeningToFifteen) {
     for (const Kind kind : {Avc, Mc}) {
         const GtmState s = next(kPlain, kind);
         const GtmCurve later = curveOfTask(s, GtmReach::Later);
         EXPECT_EQ(pieces(later), 131U);
         EXPECT_EQ(later.front().q, -2);
         EXPECT_NEAR(later.back().q, 11.1, 1e-9);
-        const GtmCurve atFirst = curveOfTask(s, GtmReach::FirstTick);
+        const GtmCurve atFirst = curveOfTask(s, GtmReach::Opening);
         EXPECT_EQ(pieces(atFirst), 171U);
         EXPECT_NEAR(atFirst.back().q, 15.1, 1e-9);
     }
@@ -559,7 +559,7 @@ TEST(GtmCurves, RunTheParabolaOfATaskToElevenAndThatOfTheFirstTickToFifteen) {
 TEST(GtmCurves, RunTheCubicOfATaskToFifteenAndEndItBeforeFourHundred) {
     const GtmState level = next({0, 0, 5}, Tvc);
     const GtmState steep = next({4.5, 0, 5}, Tvc);
-    for (const GtmReach reach : {GtmReach::FirstTick, GtmReach::Later}) {
+    for (const GtmReach reach : {GtmReach::Opening, GtmReach::Later}) {
         EXPECT_EQ(pieces(curveOfTask(level, reach)), 171U);
         const GtmCurve curve = curveOfTask(steep, reach);
         EXPECT_EQ(curve.front().q, -2);
@@ -613,7 +613,7 @@ TEST(GtmCurves, EndTheAnswerOfMcWithThePieceThatPassesOneHundredAndTen) {
     EXPECT_EQ(mc.front().q, -2);
     EXPECT_GT(mc.back().y, 110);
     EXPECT_LE(mc.at(mc.size() - 2).y, 110);
-    // Below the axis as above it: the falling MC of a first tick.
+    // Below the axis as above it: the falling MC of an opening.
     const GtmCurve falling = curveOfAnswer(first({0, -9, 5}, Mc), GtmFunction::Marginal);
     EXPECT_LT(falling.back().y, -110);
     EXPECT_GE(falling.at(falling.size() - 2).y, -110);

@@ -27,7 +27,7 @@ struct Numbers {
     return coefficients(k) + Script{cellOf(kind, 3)};
 }
 
-/// For the first tick, which draws the c of a straight line a second time, from 2 to 7.
+/// For the opening, which draws the c of a straight line a second time, from 2 to 7.
 [[nodiscard]] inline Script firstScript(const Numbers& k, Kind kind) {
     if (k.a != 0) {
         return script(k, kind);

@@ -289,7 +289,7 @@ TEST_F(GtmForm, LeavesNoTextOfARejectedFirstTryBehind) {
     EXPECT_EQ(graph().strokes().size(), 171U);
 }
 
-TEST_F(GtmForm, PlotsAGivenParabolaToFifteenAtTheFirstTickAndToElevenLater) {
+TEST_F(GtmForm, PlotsAGivenParabolaToFifteenAtTheOpeningAndToElevenLater) {
     for (const Kind kind : {Avc, Mc}) {
         const Numbers k{1, -2, 4};
         const auto height = [&](double q) { return parabola(k, q); };
@@ -313,7 +313,7 @@ TEST_F(GtmForm, PlotsAGivenCubicUpToFourHundredEachTime) {
     expectAlike(graph().strokes(), expected);
 }
 
-TEST_F(GtmForm, KeepsTheScaleOfTheFirstTick) {
+TEST_F(GtmForm, KeepsTheScaleOfTheOpening) {
     EXPECT_NE(FormDriver::unshown(PageName::Gtm, draws).find<GraphBox>("graph").scale(), kGraph.scale);
     openPlain();
     EXPECT_EQ(graph().scale(), kGraph.scale);

@@ -200,7 +200,7 @@ protected:
     std::unique_ptr<FormDriver> form;
 };
 
-TEST_F(RoedderForm, HidesWhatIsNotAskedForUntilItsFirstTick) {
+TEST_F(RoedderForm, HidesWhatIsNotAskedForUntilItsOpening) {
     FormDriver unshown = FormDriver::unshown(PageName::Roedder, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Andengradspolynomiet - Rødder");
     for (const char* hidden : {"ok", "newExercise", "giveAnswer", "right", "wrong", "helpPanel", "rootOne",

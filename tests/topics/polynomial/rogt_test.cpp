@@ -179,7 +179,7 @@ protected:
     std::unique_ptr<FormDriver> form;
 };
 
-TEST_F(RogtForm, StandsReadyBeforeItsFirstTick) {
+TEST_F(RogtForm, StandsReadyBeforeItsOpening) {
     const FormDriver f = FormDriver::unshown(PageName::Rogt, draws);
     EXPECT_EQ(f.page().windowTitle().toStdString(), "Tavrune - Andengradspolynomiet - Rødder og toppunkt");
     EXPECT_EQ(f.caption("task"), "Bestem rødder og toppunktet i følgende andengradspolynomium");
