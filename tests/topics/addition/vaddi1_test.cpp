@@ -13,10 +13,10 @@
 #include "support/decimal_mark.h"
 #include "support/fixed_texts.h"
 #include "support/form_driver.h"
-#include "support/lines.h"
 #include "support/scripted_draws.h"
 #include "support/strokes.h"
 #include "topics/addition/axis_texts.h"
+#include "topics/addition/step_sentences.h"
 #include "topics/addition/vaddi1_tasks.h"
 
 namespace tavrune {
@@ -237,15 +237,7 @@ TEST_F(Vaddi1Form, TellsTheMethodInThreeSteps) {
 }
 
 TEST_F(Vaddi1Form, BeginsEachSentenceOfItsStepsOnALineOfItsOwn) {
-    const FormDriver& f = open(kFalling);
-    for (const auto& [step, sentence] : {std::pair{"pricesStepText", "Bestem P-værdierne"},
-                                         {"pricesStepText", "Hvis funktionerne er voksende"},
-                                         {"pricesStepText", "Hvis der er en vandret linie"},
-                                         {"quantitiesStepText", "Bestem for hver P-værdi"},
-                                         {"quantitiesStepText", "Hvis der er en vandret linie"},
-                                         {"sumStepText", "Beregn den eller de"}}) {
-        EXPECT_TRUE(test::hasALineThatBegins(f.label(step), sentence)) << sentence;
-    }
+    test::expectSentencesOnLinesOfTheirOwn(open(kFalling), test::kSharedStepSentences);
 }
 
 TEST_F(Vaddi1Form, StandsAtItsPlacesToTheUnit) {

@@ -13,10 +13,10 @@
 #include "support/decimal_mark.h"
 #include "support/fixed_texts.h"
 #include "support/form_driver.h"
-#include "support/lines.h"
 #include "support/looks.h"
 #include "support/scripted_draws.h"
 #include "support/strokes.h"
+#include "topics/addition/step_sentences.h"
 
 namespace tavrune {
 namespace {
@@ -272,15 +272,7 @@ TEST_F(Vaddi2Form, TellsTheMethodInItsHelp) {
 }
 
 TEST_F(Vaddi2Form, BeginsEachSentenceOfItsStepsOnALineOfItsOwn) {
-    const FormDriver& f = open(kThree);
-    for (const auto& [step, sentence] : {std::pair{"pricesStepText", "Bestem P-værdierne"},
-                                         {"pricesStepText", "Hvis funktionerne er voksende"},
-                                         {"pricesStepText", "Hvis der er en vandret linie"},
-                                         {"quantitiesStepText", "Bestem for hver P-værdi"},
-                                         {"quantitiesStepText", "Hvis der er en vandret linie"},
-                                         {"sumStepText", "Beregn den eller de"}}) {
-        EXPECT_TRUE(test::hasALineThatBegins(f.label(step), sentence)) << sentence;
-    }
+    test::expectSentencesOnLinesOfTheirOwn(open(kThree), test::kSharedStepSentences);
 }
 
 TEST_F(Vaddi2Form, StandsAtItsPlacesToTheUnit) {

@@ -9,10 +9,10 @@
 #include "support/decimal_mark.h"
 #include "support/fixed_texts.h"
 #include "support/form_driver.h"
-#include "support/lines.h"
 #include "support/looks.h"
 #include "support/strokes.h"
 #include "topics/addition/addition_graphs.h"
+#include "topics/addition/step_sentences.h"
 #include "topics/addition/vaddi3_tasks.h"
 
 namespace tavrune {
@@ -763,12 +763,10 @@ TEST_F(Vaddi3Form, TellsItsStepsInTheWordsOfTheFirstLevelWhereTheyAreTrueOfIt) {
     EXPECT_TRUE(sentences(f, "quantitiesStepText")
                     .starts_with(quantities.substr(0, quantities.find(" Hvis der er en vandret linie"))));
     EXPECT_EQ(sentences(f, "sumStepText"), sentences(first, "sumStepText"));
-    for (const auto& [step, beginning] : {std::pair{"pricesStepText", "Hvis funktionerne er voksende"},
-                                          {"pricesStepText", "Ens P-værdier"},
-                                          {"jumpUpQuantitiesStepText", "Hvis der er en vandret linie"},
-                                          {"quantitiesStepText", "Hvis der er en vandret linie"}}) {
-        EXPECT_TRUE(test::hasALineThatBegins(f.label(step), beginning)) << step << ": " << beginning;
-    }
+    test::expectSentencesOnLinesOfTheirOwn(f, {{"pricesStepText", "Hvis funktionerne er voksende"},
+                                               {"pricesStepText", "Ens P-værdier"},
+                                               {"jumpUpQuantitiesStepText", "Hvis der er en vandret linie"},
+                                               {"quantitiesStepText", "Hvis der er en vandret linie"}});
 }
 
 TEST_F(Vaddi3Form, HelpsWithTheTextOfTheKind) {
