@@ -94,7 +94,7 @@ void measureStart(SpeedTable& table, const Effort& effort, const std::string& ou
 
 void measurePages(SpeedTable& table, const Effort& effort) {
     std::vector<std::unique_ptr<MeasuredPage>> pages;
-    for (const test::FormFacts& facts : test::builtForms()) {
+    for (const test::FormFacts& facts : test::allForms()) {
         pages.push_back(std::make_unique<MeasuredPage>(facts));
     }
     for (int round = 0; round < effort.rounds; ++round) {
@@ -158,7 +158,7 @@ int idle(int place) {
     QApplication::setCursorFlashTime(0);
     ClockDraws draws;
     Program program(draws);
-    program.open(test::builtForms().at(static_cast<std::size_t>(place)).page);
+    program.open(test::allForms().at(static_cast<std::size_t>(place)).page);
     long long before = 0;
     QTimer::singleShot(kSettlingSeconds * 1000, [&] { before = waits(); });
     QTimer::singleShot((kSettlingSeconds + kIdleSeconds) * 1000, [&] {
@@ -171,7 +171,7 @@ int idle(int place) {
 }
 
 void measureIdling(SpeedTable& table, const std::string& self) {
-    const std::vector<test::FormFacts> forms = test::builtForms();
+    const std::vector<test::FormFacts> forms = test::allForms();
     std::string all = "for i in $(seq 0 " + std::to_string(forms.size() - 1) + "); do (echo $i $(" + self +
                       " --idle $i)) & done; wait";
     std::istringstream told(outputOf(all));

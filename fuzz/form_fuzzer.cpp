@@ -42,7 +42,7 @@ private:
 };
 
 tavrune::PageName chosenPage(int byte) {
-    static const std::vector<tavrune::PageName> pages = tavrune::builtPages();
+    static const std::vector<tavrune::PageName> pages = tavrune::allPages();
     return pages[static_cast<std::size_t>(byte) % pages.size()];
 }
 

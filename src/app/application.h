@@ -6,8 +6,7 @@
 #include <QPointer>
 #include <QTranslator>
 
-#include "numeric/arithmetic.h"
-#include "shell/exercise_form.h"
+#include "shell/failure.h"
 
 namespace tavrune {
 

@@ -8,12 +8,10 @@
 
 namespace tavrune {
 
-/// The pages that are built, in no particular order. The about box is none: it has no menu.
-[[nodiscard]] std::vector<PageName> builtPages();
+/// All pages, the exercise forms in the order of the topic menu. The about box is none: it has no menu.
+[[nodiscard]] std::vector<PageName> allPages();
 
-[[nodiscard]] bool isBuilt(PageName name);
-
-/// A new page in its design state, not yet shown. Precondition: `isBuilt(name)`.
+/// A new page in its design state, not yet shown; null for the about box.
 [[nodiscard]] std::unique_ptr<Page> makePage(PageName name, Draws& draws);
 
 }  // namespace tavrune

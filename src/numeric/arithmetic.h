@@ -16,15 +16,12 @@ public:
 
     [[nodiscard]] Kind kind() const { return kind_; }
 
-    /// English, for a debugger; the user is told in Danish by `messageFor`.
+    /// English, for a debugger; what the user is told is no matter of the numbers.
     [[nodiscard]] const char* what() const noexcept override;
 
 private:
     Kind kind_;
 };
-
-/// The Danish sentence that tells the user what happened, in UTF-8.
-[[nodiscard]] const char* messageFor(ArithmeticFailure::Kind kind);
 
 /// a / b: a single of two singles or of a single and a whole literal, a double with a double involved. Throws
 /// ArithmeticFailure where b is 0: Overflow for 0/0, otherwise DivisionByZero. A quotient beyond the largest

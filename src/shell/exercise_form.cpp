@@ -5,7 +5,6 @@
 #include <tuple>
 
 #include <QAccessible>
-#include <QCoreApplication>
 #include <QTimer>
 
 namespace tavrune {
@@ -20,19 +19,6 @@ void styleVerdict(Label* label) {
     label->setTextColour(kWhite);
     label->setVerdict(true);
     label->hide();
-}
-
-/// Runs an action of a form. A failure ends it; it is thrown on only where no application object takes it.
-void run(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const ArithmeticFailure& failure) {
-        auto* const handler = dynamic_cast<FailureHandler*>(QCoreApplication::instance());
-        if (handler == nullptr) {
-            throw;
-        }
-        handler->endAfter(failure.kind());
-    }
 }
 
 }  // namespace
@@ -91,7 +77,18 @@ void ExerciseForm::bindVerdict() {
 }
 
 void ExerciseForm::onClick(QAbstractButton* button, std::function<void()> action) {
-    connect(button, &QAbstractButton::clicked, this, [done = std::move(action)] { run(done); });
+    connect(button, &QAbstractButton::clicked, this, [this, done = std::move(action)] { run(done); });
+}
+
+void ExerciseForm::run(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const ArithmeticFailure& failure) {
+        if (failureHandler_ == nullptr) {
+            throw;
+        }
+        failureHandler_->endAfter(failure.kind());
+    }
 }
 
 void ExerciseForm::enterChain(const std::vector<AnswerBox*>& boxes, LastBox last) {

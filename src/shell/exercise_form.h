@@ -8,8 +8,8 @@
 #include "controls/answer_box.h"
 #include "controls/button.h"
 #include "controls/label.h"
-#include "numeric/arithmetic.h"
 #include "numeric/draws.h"
+#include "shell/failure.h"
 #include "shell/page.h"
 
 namespace tavrune {
@@ -18,19 +18,6 @@ namespace tavrune {
 void showAll(std::initializer_list<QWidget*> widgets);
 void hideAll(std::initializer_list<QWidget*> widgets);
 void setShown(bool shown, std::initializer_list<QWidget*> widgets);
-
-/// The application object, where it tells the user of a failure of the arithmetic and ends the program. A
-/// failure does not travel to it as an exception, since Qt's widgets, through which that would pass, leave
-/// half-done work behind then.
-class FailureHandler {
-public:
-    FailureHandler() = default;
-    FailureHandler(const FailureHandler&) = delete;
-    FailureHandler& operator=(const FailureHandler&) = delete;
-    virtual ~FailureHandler() = default;
-
-    virtual void endAfter(ArithmeticFailure::Kind kind) = 0;
-};
 
 /// What Enter does in the last box of a chain: "&OK" if it is shown; else nothing, or "&Ny opgave".
 enum class LastBox { OkOrStay, OkOrNewExercise };
@@ -54,6 +41,10 @@ class ExerciseForm : public Page {
 
 public:
     ExerciseForm(PageName name, Draws& draws);
+
+    /// Who is told of a failure of the arithmetic that ends an action, for as long as the form lives. It is
+    /// thrown on while there is none, as at first, or it is null.
+    void setFailureHandler(FailureHandler* handler) { failureHandler_ = handler; }
 
 signals:
     /// A verdict has come, in the words that screen readers say: with the names of the fields that are wrong.
@@ -111,7 +102,7 @@ protected:
     /// "&OK" on, "&Giv svaret" off, no verdict.
     void showAsking();
     void hideVerdict();
-    /// "RIGTIGT" is shown; "FORKERT" is not hidden by it in a two-label form.
+    /// "RIGTIGT" is shown. Kept (shell-forkert-behind): "FORKERT" is not hidden by it in a two-label form.
     void showRight();
     void showWrong();
     /// Right: the verdict, no "&OK" and no "&Giv svaret", focus to "&Ny opgave".
@@ -132,6 +123,8 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// Runs an action of the form. A failure ends it.
+    void run(const std::function<void()>& action);
     [[nodiscard]] bool hasOneLabel() const { return right_ == wrong_; }
     /// The control of a role. Throws std::logic_error where there is none.
     template <class Widget>
@@ -144,6 +137,7 @@ private:
     [[nodiscard]] QStringList wrongFields() const;
 
     Draws& draws_;
+    FailureHandler* failureHandler_ = nullptr;
     struct {
         Button* newExercise = nullptr;
         Button* ok = nullptr;

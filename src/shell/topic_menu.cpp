@@ -12,7 +12,6 @@
 namespace tavrune {
 namespace {
 
-using Entry = MenuEntry;
 using Name = PageName;
 
 struct Wording {
@@ -21,85 +20,84 @@ struct Wording {
     std::string_view caption;
 };
 
-// The pages' menus were written one by one. What differs from the tree stays as it is, slips included.
+// The pages' menus were written one by one. Kept (shell-menu-wordings): what differs from the tree stays as
+// it is, slips included.
 constexpr std::array kWordings{
-    Wording{Name::Topp, Entry::Andengradspolynomiet, "Andengradspolynomier"},
-    Wording{Name::Topp, Entry::IntegralNiveau2, "Niveau 2: Mestemt integrale af lineære funktioner med knæk"},
-    Wording{Name::Rogt, Entry::Andengradspolynomiet, "Andengradspolynomier"},
-    Wording{Name::Diff, Entry::Andengradspolynomiet, "Andengradspolynomier"},
-    Wording{Name::Diff, Entry::IntegralNiveau2, "Niveau 2: Bestent integrale af lineære funktioner med knæk"},
-    Wording{Name::Integ, Entry::Andengradspolynomiet, "Andengradspolynomier"},
-    Wording{Name::Integ, Entry::VandretNiveau3,
-            "Niveau 3: : Addering af to lineære funktioner, den ene med knæk"},
-    Wording{Name::Integ2, Entry::Andengradspolynomiet, "Andengradspolynomier"},
-    Wording{Name::Integ2, Entry::IntegralNiveau1,
+    Wording{Name::Topp, Subject::Andengradspolynomiet, "Andengradspolynomier"},
+    Wording{Name::Topp, Name::Integ2, "Niveau 2: Mestemt integrale af lineære funktioner med knæk"},
+    Wording{Name::Rogt, Subject::Andengradspolynomiet, "Andengradspolynomier"},
+    Wording{Name::Diff, Subject::Andengradspolynomiet, "Andengradspolynomier"},
+    Wording{Name::Diff, Name::Integ2, "Niveau 2: Bestent integrale af lineære funktioner med knæk"},
+    Wording{Name::Integ, Subject::Andengradspolynomiet, "Andengradspolynomier"},
+    Wording{Name::Integ, Name::Vaddi3, "Niveau 3: : Addering af to lineære funktioner, den ene med knæk"},
+    Wording{Name::Integ2, Subject::Andengradspolynomiet, "Andengradspolynomier"},
+    Wording{Name::Integ2, Name::Integ,
             "Niveau 1: Betsemt integrale af lineære funktioner og andengradspolynomier"},
-    Wording{Name::Integ2, Entry::ToLigninger, "2 linier med 2 ubekendte"},
-    Wording{Name::Konvert, Entry::VandretNiveau3,
-            "Niveau 3: : Addering af to lineære funktioner, den ene med knæk"},
-    Wording{Name::Laddi1, Entry::ToLigninger, "2 ligninger med to ubekendte"},
-    Wording{Name::Laddi2, Entry::IntegralNiveau2, "Niveau 2: Bestemt integale af lineære funktioner "},
-    Wording{Name::Laddi2, Entry::VandretNiveau1, "Niveau1: Addering af to lineære funktioner"},
-    Wording{Name::Laddi2, Entry::VandretNiveau2, "Niveau2: Addering af tre lineære funktioner"},
-    Wording{Name::Laddi2, Entry::VandretNiveau3,
-            "Niveau3: Addering af to lineære funktioner, den ene med knæk"},
-    Wording{Name::Lininter, Entry::ToLigninger, "2 linier med 2 ubekendte"},
-    Wording{Name::Roedder, Entry::IntegralNiveau1,
+    Wording{Name::Integ2, Name::Tomto, "2 linier med 2 ubekendte"},
+    Wording{Name::Konvert, Name::Vaddi3, "Niveau 3: : Addering af to lineære funktioner, den ene med knæk"},
+    Wording{Name::Laddi1, Name::Tomto, "2 ligninger med to ubekendte"},
+    Wording{Name::Laddi2, Name::Integ2, "Niveau 2: Bestemt integale af lineære funktioner "},
+    Wording{Name::Laddi2, Name::Vaddi1, "Niveau1: Addering af to lineære funktioner"},
+    Wording{Name::Laddi2, Name::Vaddi2, "Niveau2: Addering af tre lineære funktioner"},
+    Wording{Name::Laddi2, Name::Vaddi3, "Niveau3: Addering af to lineære funktioner, den ene med knæk"},
+    Wording{Name::Lininter, Name::Tomto, "2 linier med 2 ubekendte"},
+    Wording{Name::Roedder, Name::Integ,
             "Niveau 1: Bestemt integrale af lineære funktioner og andengradaspolynomier"},
-    Wording{Name::Vaddi2, Entry::Differentialregning, "Differrentialregning"},
-    Wording{Name::Vaddi2, Entry::LodretAddition, "Lodret adddition"},
-    Wording{Name::Vaddi3, Entry::IntegralNiveau1, "Niveau 1"},
-    Wording{Name::Vaddi3, Entry::IntegralNiveau2, "Niveau 2"},
-    Wording{Name::Tomto, Entry::LineaerInterpolation, "Lineær interpolation"},
-    Wording{Name::Tomto, Entry::LodretNiveau2, "Niveau 2: Addering af tre lineære funktioner"},
-    Wording{Name::Form1, Entry::Funktionskonvertering, "Fuktionskonvertering"},
-    Wording{Name::Form1, Entry::IntegralNiveau1,
+    Wording{Name::Vaddi2, Name::Diff, "Differrentialregning"},
+    Wording{Name::Vaddi2, Subject::LodretAddition, "Lodret adddition"},
+    Wording{Name::Vaddi3, Name::Integ, "Niveau 1"},
+    Wording{Name::Vaddi3, Name::Integ2, "Niveau 2"},
+    Wording{Name::Tomto, Name::Lininter, "Lineær interpolation"},
+    Wording{Name::Tomto, Name::Laddi2, "Niveau 2: Addering af tre lineære funktioner"},
+    Wording{Name::Form1, Name::Konvert, "Fuktionskonvertering"},
+    Wording{Name::Form1, Name::Integ,
             "Niveau 1: Bestemet integrale af lineære funktioner og andengradspolynomier"},
-    Wording{Name::Form1, Entry::IntegralNiveau2,
-            "Niveau 2: Bestemet integrale af lineære funktioner med knæk"},
-    Wording{Name::Form2, Entry::IntegralNiveau1,
+    Wording{Name::Form1, Name::Integ2, "Niveau 2: Bestemet integrale af lineære funktioner med knæk"},
+    Wording{Name::Form2, Name::Integ,
             "Niveau 1: Bestemet integrale af lineære funktioner og andenegradspolynomier"},
-    Wording{Name::Form2, Entry::IntegralNiveau2,
-            "Niveau 2: Bestemet integrale af lineære funktioner med knæk"},
-    Wording{Name::Form2, Entry::LineaerInterpolation, "Lineær interpolaton/ekstrapolation"},
+    Wording{Name::Form2, Name::Integ2, "Niveau 2: Bestemet integrale af lineære funktioner med knæk"},
+    Wording{Name::Form2, Name::Lininter, "Lineær interpolaton/ekstrapolation"},
 };
+
+std::string_view captionOf(Subject subject) {
+    switch (subject) {
+        case Subject::None:
+            break;
+        case Subject::Andengradspolynomiet:
+            return "Andengradspolynomiet";
+        case Subject::Integralregning:
+            return "Integralregning";
+        case Subject::LodretAddition:
+            return "Lodret addition";
+        case Subject::VandretAddition:
+            return "Vandret addition";
+    }
+    return "";
+}
 
 }  // namespace
 
 const std::vector<MenuLine>& topicTree() {
-    static const std::vector<MenuLine> tree{
-        {Entry::Hjaelp, {}, "&Hjælp", Name::Form1},
-        {Entry::Afsaetningsfunktioner, {}, "Afsætningsfunktioner", Name::Afsaet, true},
-        {Entry::Andengradspolynomiet, {}, "Andengradspolynomiet", {}},
-        {Entry::Roedder, Entry::Andengradspolynomiet, "Rødder", Name::Roedder},
-        {Entry::Toppunkt, Entry::Andengradspolynomiet, "Toppunkt", Name::Topp},
-        {Entry::RoedderOgToppunkt, Entry::Andengradspolynomiet, "Rødder og toppunkt", Name::Rogt},
-        {Entry::Broekregning, {}, "Brøkregning", Name::Brok},
-        {Entry::DenRetteLinie, {}, "Den rette linie", Name::Dlinie},
-        {Entry::Differentialregning, {}, "Differentialregning", Name::Diff},
-        {Entry::Funktionskonvertering, {}, "Funktionskonvertering", Name::Konvert},
-        {Entry::GennemsnitTotalMarginal, {}, "Gennemsnit-total-marginal", Name::Gtm},
-        {Entry::Integralregning, {}, "Integralregning", {}},
-        {Entry::IntegralNiveau1, Entry::Integralregning,
-         "Niveau 1: Bestemt integrale af lineære funktioner og andengradspolynomier", Name::Integ},
-        {Entry::IntegralNiveau2, Entry::Integralregning,
-         "Niveau 2: Bestemt integrale af lineære funktioner med knæk", Name::Integ2},
-        {Entry::LineaerInterpolation, {}, "Lineær interpolation/ekstrapolation", Name::Lininter},
-        {Entry::LodretAddition, {}, "Lodret addition", {}},
-        {Entry::LodretNiveau1, Entry::LodretAddition, "Niveau 1: Addering af to lineære funktioner",
-         Name::Laddi1},
-        {Entry::LodretNiveau2, Entry::LodretAddition, "Niveau 2: Addering af to lineære funktioner med knæk",
-         Name::Laddi2},
-        {Entry::VandretAddition, {}, "Vandret addition", {}},
-        {Entry::VandretNiveau1, Entry::VandretAddition, "Niveau 1: Addering af to lineære funktioner",
-         Name::Vaddi1},
-        {Entry::VandretNiveau2, Entry::VandretAddition, "Niveau 2: Addering af tre lineære funktioner",
-         Name::Vaddi2},
-        {Entry::VandretNiveau3, Entry::VandretAddition,
-         "Niveau 3: Addering af to lineære funktioner, den ene med knæk", Name::Vaddi3},
-        {Entry::ToLigninger, {}, "2 ligninger med 2 ubekendte", Name::Tomto},
-        {Entry::Luk, {}, "Luk", {}, true},
+    struct FormLine {
+        PageName page;
+        Subject subject;
+        std::string_view caption;
     };
+#define TAVRUNE_LINE(form, text, subject, caption) FormLine{PageName::form, Subject::subject, caption},
+    static constexpr std::array kForms{TAVRUNE_EXERCISES(TAVRUNE_LINE)};
+#undef TAVRUNE_LINE
+    static const std::vector<MenuLine> tree = [] {
+        std::vector<MenuLine> lines{{PageName::Form1, Subject::None, "&Hjælp"}};
+        for (const auto& [page, subject, caption] : kForms) {
+            if (subject != Subject::None && lines.back().parent != subject) {
+                lines.push_back({subject, Subject::None, captionOf(subject)});
+            }
+            // The topics stand between two lines.
+            lines.push_back({page, subject, caption, page == kForms.front().page});
+        }
+        lines.push_back({{}, Subject::None, "Luk", true});
+        return lines;
+    }();
     return tree;
 }
 
@@ -117,35 +115,27 @@ bool isOwnEntry(PageName page, PageName target) {
 TopicMenu::TopicMenu(QMenuBar& bar, PageName page, const Handlers& handlers)
     : menu_(bar.addMenu("&Indhold")) {
     menu_->setObjectName("Indhold");
-    std::map<MenuEntry, QMenu*> subjects;
+    std::map<Subject, QMenu*> subjects{{Subject::None, menu_}};
     for (const MenuLine& line : topicTree()) {
-        QMenu* const parent = line.parent ? subjects.at(*line.parent) : menu_;
+        QMenu* const parent = subjects.at(line.parent);
         if (line.separatorBefore) {
             parent->addSeparator();
         }
         const QString caption = fromUtf8(captionOn(page, line));
-        if (line.opens) {
+        if (line.entry.page) {
             QAction* const action = parent->addAction(caption);
-            const PageName target = *line.opens;
+            const PageName target = *line.entry.page;
             action->setObjectName(fromUtf8(textOf(target)));
             action->setEnabled(!isOwnEntry(page, target));
             QObject::connect(action, &QAction::triggered, &bar,
                              [open = handlers.open, target] { open(target); });
             leaves_.push_back({target, action});
-        } else if (line.entry == MenuEntry::Luk) {
+        } else if (line.entry.isWayOut()) {
             QAction* const action = parent->addAction(caption);
             action->setObjectName("Luk");
             QObject::connect(action, &QAction::triggered, &bar, handlers.close);
         } else {
-            subjects[line.entry] = parent->addMenu(caption);
-        }
-    }
-}
-
-void TopicMenu::disableUnbuilt(const std::function<bool(PageName)>& isBuilt) {
-    for (const Leaf& leaf : leaves_) {
-        if (!isBuilt(leaf.target)) {
-            leaf.action->setEnabled(false);
+            subjects[line.entry.subject] = parent->addMenu(caption);
         }
     }
 }

@@ -11,39 +11,24 @@
 
 namespace tavrune {
 
-/// Every line of the topic menu that can be named: the subjects, their levels, and the way out.
-enum class MenuEntry {
-    Hjaelp,
-    Afsaetningsfunktioner,
-    Andengradspolynomiet,
-    Roedder,
-    Toppunkt,
-    RoedderOgToppunkt,
-    Broekregning,
-    DenRetteLinie,
-    Differentialregning,
-    Funktionskonvertering,
-    GennemsnitTotalMarginal,
-    Integralregning,
-    IntegralNiveau1,
-    IntegralNiveau2,
-    LineaerInterpolation,
-    LodretAddition,
-    LodretNiveau1,
-    LodretNiveau2,
-    VandretAddition,
-    VandretNiveau1,
-    VandretNiveau2,
-    VandretNiveau3,
-    ToLigninger,
-    Luk,
+/// What a line of the topic menu stands for: a page that it opens, a subject with a submenu, or the way out.
+struct MenuEntry {
+    std::optional<PageName> page;
+    Subject subject = Subject::None;
+
+    constexpr MenuEntry() = default;
+    constexpr MenuEntry(PageName opened) : page(opened) {}
+    constexpr MenuEntry(Subject with) : subject(with) {}
+
+    [[nodiscard]] constexpr bool isWayOut() const { return !page && subject == Subject::None; }
+    constexpr bool operator==(const MenuEntry&) const = default;
 };
 
 struct MenuLine {
     MenuEntry entry;
-    std::optional<MenuEntry> parent;
+    /// The subject in whose submenu the line stands.
+    Subject parent = Subject::None;
     std::string_view caption;
-    std::optional<PageName> opens;
     bool separatorBefore = false;
 };
 
@@ -65,9 +50,6 @@ public:
     };
 
     TopicMenu(QMenuBar& bar, PageName page, const Handlers& handlers);
-
-    /// Disables the entries whose page `isBuilt` denies.
-    void disableUnbuilt(const std::function<bool(PageName)>& isBuilt);
 
     /// The action of an entry; null for a subject that only opens a submenu.
     [[nodiscard]] QAction* actionFor(PageName target) const;

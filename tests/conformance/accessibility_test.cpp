@@ -91,7 +91,7 @@ private:
     std::unique_ptr<SeededDraws> draws_;
 };
 
-INSTANTIATE_TEST_SUITE_P(Forms, EveryFormInWords, testing::ValuesIn(test::builtForms()), test::asciiName);
+INSTANTIATE_TEST_SUITE_P(Forms, EveryFormInWords, testing::ValuesIn(test::allForms()), test::asciiName);
 
 TEST_P(EveryFormInWords, HasNamesOfSenseInEveryState) {
     const FormDriver form = open(7);

@@ -136,7 +136,7 @@ protected:
     int tried_ = 0;
 };
 
-INSTANTIATE_TEST_SUITE_P(Forms, BlindStudentOn, testing::ValuesIn(test::builtForms()), test::asciiName);
+INSTANTIATE_TEST_SUITE_P(Forms, BlindStudentOn, testing::ValuesIn(test::allForms()), test::asciiName);
 
 TEST_P(BlindStudentOn, SolvesItByWhatIsTold) {
     for (const std::uint64_t seed : {31U, 32U, 33U}) {

@@ -1,11 +1,11 @@
 #include "conformance/facts.h"
 
-#include "app/pages.h"
-
 namespace tavrune::test {
 namespace {
 
 using Name = PageName;
+
+}  // namespace
 
 const std::vector<FormFacts>& allForms() {
     static const std::vector<FormFacts> forms{
@@ -29,18 +29,6 @@ const std::vector<FormFacts>& allForms() {
         {Name::Diff, false, false, false, "derivative", "derivative", "", true},
     };
     return forms;
-}
-
-}  // namespace
-
-std::vector<FormFacts> builtForms() {
-    std::vector<FormFacts> built;
-    for (const FormFacts& form : allForms()) {
-        if (isBuilt(form.page)) {
-            built.push_back(form);
-        }
-    }
-    return built;
 }
 
 std::string asciiNameOf(PageName page) {

@@ -39,8 +39,8 @@ struct FormFacts {
 
 inline void PrintTo(const FormFacts& facts, std::ostream* out) { *out << textOf(facts.page); }
 
-/// The forms that are built.
-[[nodiscard]] std::vector<FormFacts> builtForms();
+/// A row for every exercise form.
+[[nodiscard]] const std::vector<FormFacts>& allForms();
 
 /// A page's name as the names of tests can hold it: "afsaet".
 [[nodiscard]] std::string asciiNameOf(PageName page);

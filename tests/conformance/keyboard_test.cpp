@@ -111,9 +111,9 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Pages, EveryPage, testing::ValuesIn(builtPages()),
+INSTANTIATE_TEST_SUITE_P(Pages, EveryPage, testing::ValuesIn(allPages()),
                          [](const auto& row) { return test::asciiNameOf(row.param); });
-INSTANTIATE_TEST_SUITE_P(Forms, Keyboard, testing::ValuesIn(test::builtForms()), test::asciiName);
+INSTANTIATE_TEST_SUITE_P(Forms, Keyboard, testing::ValuesIn(test::allForms()), test::asciiName);
 
 TEST_P(EveryPage, OpensWithAnAccessKeyForEachThing) {
     SeededDraws draws(1);

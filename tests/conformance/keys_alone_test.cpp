@@ -194,7 +194,7 @@ protected:
     bool ended = false;
 };
 
-INSTANTIATE_TEST_SUITE_P(Forms, KeysAlone, testing::ValuesIn(test::builtForms()), test::asciiName);
+INSTANTIATE_TEST_SUITE_P(Forms, KeysAlone, testing::ValuesIn(test::allForms()), test::asciiName);
 
 TEST_P(KeysAlone, DoForAWholeSession) {
     constexpr int kSessions = 3;

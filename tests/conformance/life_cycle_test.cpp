@@ -103,13 +103,13 @@ protected:
     std::unique_ptr<SeededDraws> draws;
 };
 
-INSTANTIATE_TEST_SUITE_P(Forms, EveryForm, testing::ValuesIn(test::builtForms()), test::asciiName);
+INSTANTIATE_TEST_SUITE_P(Forms, EveryForm, testing::ValuesIn(test::allForms()), test::asciiName);
 
 /// The forms with one main panel whatever the exercise.
 class EveryPanel : public EveryForm {};
 
 std::vector<FormFacts> formsWithAPanel() {
-    std::vector<FormFacts> forms = test::builtForms();
+    std::vector<FormFacts> forms = test::allForms();
     forms.erase(std::remove_if(forms.begin(), forms.end(), [](const FormFacts& f) { return !f.hasOnePanel; }),
                 forms.end());
     return forms;

@@ -232,7 +232,7 @@ protected:
     int boxesMoved = 0;
 };
 
-INSTANTIATE_TEST_SUITE_P(Forms, TypedAnswers, testing::ValuesIn(test::builtForms()), test::asciiName);
+INSTANTIATE_TEST_SUITE_P(Forms, TypedAnswers, testing::ValuesIn(test::allForms()), test::asciiName);
 
 TEST_P(TypedAnswers, AreRightWithCommaAndPointAndWrongPastTheirToleranceInTheBoxThatTurnsRed) {
     const auto seeds = static_cast<std::uint64_t>(test::lotSize(7, 150));

@@ -19,7 +19,7 @@ constexpr long long kEventsASeed = 1'000;
 long long eventsAPage() {
     constexpr long long kOrdinary = 10'000;
     constexpr long long kFull = 1'000'000;
-    const auto pages = static_cast<long long>(builtPages().size());
+    const auto pages = static_cast<long long>(allPages().size());
     return test::numberFromEnvironment("TAVRUNE_PROOF_EVENTS",
                                        test::isFullProof() ? (kFull + pages - 1) / pages : kOrdinary);
 }
@@ -68,7 +68,7 @@ std::string pageName(const testing::TestParamInfo<PageName>& page) {
     return name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, EveryPage, testing::ValuesIn(builtPages()), pageName);
+INSTANTIATE_TEST_SUITE_P(Pages, EveryPage, testing::ValuesIn(allPages()), pageName);
 
 TEST_P(EveryPage, StandsRoughHands) {
     const auto first = static_cast<std::uint64_t>(test::numberFromEnvironment("TAVRUNE_PROOF_SEED", 1));

@@ -15,7 +15,7 @@
 
 #include "app/pages.h"
 #include "controls/option_button.h"
-#include "numeric/arithmetic.h"
+#include "shell/failure.h"
 #include "support/form_driver.h"
 
 namespace tavrune::test {

@@ -61,7 +61,7 @@ protected:
     int round() {
         draws.restart();
         int switches = 0;
-        for (const PageName target : builtPages()) {
+        for (const PageName target : allPages()) {
             QAction* const entry = program.page()->topicMenu().actionFor(target);
             if (entry == nullptr || !entry->isEnabled()) {
                 continue;

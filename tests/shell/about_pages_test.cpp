@@ -5,7 +5,6 @@
 
 #include "numeric/draws.h"
 #include "shell/frm_about.h"
-#include "shell/how_to_use.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
 

@@ -129,6 +129,23 @@ TEST_F(LifeCycle, StandsStillBeforeItIsOnScreen) {
     EXPECT_TRUE(s.right.isHidden());
 }
 
+TEST_F(LifeCycle, HandsTheFailureOfAnActionToItsHandlerAndStands) {
+    class Handler : public FailureHandler {
+    public:
+        void endAfter(ArithmeticFailure::Kind kind) override { told.push_back(kind); }
+        std::vector<ArithmeticFailure::Kind> told;
+    };
+    Handler handler;
+    Sample& s = open();
+    s.setFailureHandler(&handler);
+    s.judging = [](Sample& /*judged*/) { throw ArithmeticFailure(ArithmeticFailure::Kind::Overflow); };
+    s.calls.clear();
+    s.ok.click();
+    EXPECT_EQ(handler.told, std::vector{ArithmeticFailure::Kind::Overflow});
+    s.helpButton.click();
+    EXPECT_EQ(s.calls, (Calls{"judge", "help"}));
+}
+
 TEST_F(LifeCycle, RunsEachButtonsRole) {
     Sample& s = open();
     s.calls.clear();

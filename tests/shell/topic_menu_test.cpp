@@ -13,7 +13,6 @@
 namespace tavrune {
 namespace {
 
-using Entry = MenuEntry;
 using Name = PageName;
 
 const MenuLine& line(MenuEntry entry) {
@@ -85,9 +84,9 @@ TEST(TopicTree, HasTwentyWorkingEntries) {
     int working = 0;
     std::set<PageName> targets;
     for (const MenuLine& l : topicTree()) {
-        if (l.opens) {
+        if (l.entry.page) {
             ++working;
-            targets.insert(*l.opens);
+            targets.insert(*l.entry.page);
         }
     }
     EXPECT_EQ(working + 1, 20);  // and "Luk"
@@ -100,8 +99,8 @@ TEST(TopicTree, HasTwentyWorkingEntries) {
 TEST(TopicTree, AsksForThePageOfEachEntry) {
     MenuOf start(Name::Opstart);
     for (const MenuLine& l : topicTree()) {
-        if (l.opens) {
-            start.menu.actionFor(*l.opens)->trigger();
+        if (l.entry.page) {
+            start.menu.actionFor(*l.entry.page)->trigger();
         }
     }
     EXPECT_EQ(start.opened.size(), 19U);
@@ -124,52 +123,49 @@ TEST_P(Wordings, AreKeptAsThePageHasThem) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, Wordings,
-    testing::Values(WordingRow{"Topp1", Name::Topp, Entry::Andengradspolynomiet, "Andengradspolynomier"},
-                    WordingRow{"Topp2", Name::Topp, Entry::IntegralNiveau2,
-                               "Niveau 2: Mestemt integrale af lineære funktioner med knæk"},
-                    WordingRow{"Rogt", Name::Rogt, Entry::Andengradspolynomiet, "Andengradspolynomier"},
-                    WordingRow{"Diff1", Name::Diff, Entry::Andengradspolynomiet, "Andengradspolynomier"},
-                    WordingRow{"Diff2", Name::Diff, Entry::IntegralNiveau2,
-                               "Niveau 2: Bestent integrale af lineære funktioner med knæk"},
-                    WordingRow{"Integ1", Name::Integ, Entry::Andengradspolynomiet, "Andengradspolynomier"},
-                    WordingRow{"Integ2", Name::Integ, Entry::VandretNiveau3,
-                               "Niveau 3: : Addering af to lineære funktioner, den ene med knæk"},
-                    WordingRow{"Integ2a", Name::Integ2, Entry::Andengradspolynomiet, "Andengradspolynomier"},
-                    WordingRow{"Integ2b", Name::Integ2, Entry::IntegralNiveau1,
-                               "Niveau 1: Betsemt integrale af lineære funktioner og andengradspolynomier"},
-                    WordingRow{"Integ2c", Name::Integ2, Entry::ToLigninger, "2 linier med 2 ubekendte"},
-                    WordingRow{"Konvert", Name::Konvert, Entry::VandretNiveau3,
-                               "Niveau 3: : Addering af to lineære funktioner, den ene med knæk"},
-                    WordingRow{"Laddi1", Name::Laddi1, Entry::ToLigninger, "2 ligninger med to ubekendte"},
-                    WordingRow{"Laddi2a", Name::Laddi2, Entry::IntegralNiveau2,
-                               "Niveau 2: Bestemt integale af lineære funktioner "},
-                    WordingRow{"Laddi2b", Name::Laddi2, Entry::VandretNiveau1,
-                               "Niveau1: Addering af to lineære funktioner"},
-                    WordingRow{"Laddi2c", Name::Laddi2, Entry::VandretNiveau2,
-                               "Niveau2: Addering af tre lineære funktioner"},
-                    WordingRow{"Laddi2d", Name::Laddi2, Entry::VandretNiveau3,
-                               "Niveau3: Addering af to lineære funktioner, den ene med knæk"},
-                    WordingRow{"Lininter", Name::Lininter, Entry::ToLigninger, "2 linier med 2 ubekendte"},
-                    WordingRow{"Roedder", Name::Roedder, Entry::IntegralNiveau1,
-                               "Niveau 1: Bestemt integrale af lineære funktioner og andengradaspolynomier"},
-                    WordingRow{"Vaddi2a", Name::Vaddi2, Entry::Differentialregning, "Differrentialregning"},
-                    WordingRow{"Vaddi2b", Name::Vaddi2, Entry::LodretAddition, "Lodret adddition"},
-                    WordingRow{"Vaddi3a", Name::Vaddi3, Entry::IntegralNiveau1, "Niveau 1"},
-                    WordingRow{"Vaddi3b", Name::Vaddi3, Entry::IntegralNiveau2, "Niveau 2"},
-                    WordingRow{"Tomto1", Name::Tomto, Entry::LineaerInterpolation, "Lineær interpolation"},
-                    WordingRow{"Tomto2", Name::Tomto, Entry::LodretNiveau2,
-                               "Niveau 2: Addering af tre lineære funktioner"},
-                    WordingRow{"Form1a", Name::Form1, Entry::Funktionskonvertering, "Fuktionskonvertering"},
-                    WordingRow{"Form1b", Name::Form1, Entry::IntegralNiveau1,
-                               "Niveau 1: Bestemet integrale af lineære funktioner og andengradspolynomier"},
-                    WordingRow{"Form1c", Name::Form1, Entry::IntegralNiveau2,
-                               "Niveau 2: Bestemet integrale af lineære funktioner med knæk"},
-                    WordingRow{"Form2a", Name::Form2, Entry::IntegralNiveau1,
-                               "Niveau 1: Bestemet integrale af lineære funktioner og andenegradspolynomier"},
-                    WordingRow{"Form2b", Name::Form2, Entry::IntegralNiveau2,
-                               "Niveau 2: Bestemet integrale af lineære funktioner med knæk"},
-                    WordingRow{"Form2c", Name::Form2, Entry::LineaerInterpolation,
-                               "Lineær interpolaton/ekstrapolation"}),
+    testing::Values(
+        WordingRow{"Topp1", Name::Topp, Subject::Andengradspolynomiet, "Andengradspolynomier"},
+        WordingRow{"Topp2", Name::Topp, Name::Integ2,
+                   "Niveau 2: Mestemt integrale af lineære funktioner med knæk"},
+        WordingRow{"Rogt", Name::Rogt, Subject::Andengradspolynomiet, "Andengradspolynomier"},
+        WordingRow{"Diff1", Name::Diff, Subject::Andengradspolynomiet, "Andengradspolynomier"},
+        WordingRow{"Diff2", Name::Diff, Name::Integ2,
+                   "Niveau 2: Bestent integrale af lineære funktioner med knæk"},
+        WordingRow{"Integ1", Name::Integ, Subject::Andengradspolynomiet, "Andengradspolynomier"},
+        WordingRow{"Integ2", Name::Integ, Name::Vaddi3,
+                   "Niveau 3: : Addering af to lineære funktioner, den ene med knæk"},
+        WordingRow{"Integ2a", Name::Integ2, Subject::Andengradspolynomiet, "Andengradspolynomier"},
+        WordingRow{"Integ2b", Name::Integ2, Name::Integ,
+                   "Niveau 1: Betsemt integrale af lineære funktioner og andengradspolynomier"},
+        WordingRow{"Integ2c", Name::Integ2, Name::Tomto, "2 linier med 2 ubekendte"},
+        WordingRow{"Konvert", Name::Konvert, Name::Vaddi3,
+                   "Niveau 3: : Addering af to lineære funktioner, den ene med knæk"},
+        WordingRow{"Laddi1", Name::Laddi1, Name::Tomto, "2 ligninger med to ubekendte"},
+        WordingRow{"Laddi2a", Name::Laddi2, Name::Integ2,
+                   "Niveau 2: Bestemt integale af lineære funktioner "},
+        WordingRow{"Laddi2b", Name::Laddi2, Name::Vaddi1, "Niveau1: Addering af to lineære funktioner"},
+        WordingRow{"Laddi2c", Name::Laddi2, Name::Vaddi2, "Niveau2: Addering af tre lineære funktioner"},
+        WordingRow{"Laddi2d", Name::Laddi2, Name::Vaddi3,
+                   "Niveau3: Addering af to lineære funktioner, den ene med knæk"},
+        WordingRow{"Lininter", Name::Lininter, Name::Tomto, "2 linier med 2 ubekendte"},
+        WordingRow{"Roedder", Name::Roedder, Name::Integ,
+                   "Niveau 1: Bestemt integrale af lineære funktioner og andengradaspolynomier"},
+        WordingRow{"Vaddi2a", Name::Vaddi2, Name::Diff, "Differrentialregning"},
+        WordingRow{"Vaddi2b", Name::Vaddi2, Subject::LodretAddition, "Lodret adddition"},
+        WordingRow{"Vaddi3a", Name::Vaddi3, Name::Integ, "Niveau 1"},
+        WordingRow{"Vaddi3b", Name::Vaddi3, Name::Integ2, "Niveau 2"},
+        WordingRow{"Tomto1", Name::Tomto, Name::Lininter, "Lineær interpolation"},
+        WordingRow{"Tomto2", Name::Tomto, Name::Laddi2, "Niveau 2: Addering af tre lineære funktioner"},
+        WordingRow{"Form1a", Name::Form1, Name::Konvert, "Fuktionskonvertering"},
+        WordingRow{"Form1b", Name::Form1, Name::Integ,
+                   "Niveau 1: Bestemet integrale af lineære funktioner og andengradspolynomier"},
+        WordingRow{"Form1c", Name::Form1, Name::Integ2,
+                   "Niveau 2: Bestemet integrale af lineære funktioner med knæk"},
+        WordingRow{"Form2a", Name::Form2, Name::Integ,
+                   "Niveau 1: Bestemet integrale af lineære funktioner og andenegradspolynomier"},
+        WordingRow{"Form2b", Name::Form2, Name::Integ2,
+                   "Niveau 2: Bestemet integrale af lineære funktioner med knæk"},
+        WordingRow{"Form2c", Name::Form2, Name::Lininter, "Lineær interpolaton/ekstrapolation"}),
     [](const auto& row) { return row.param.name; });
 
 TEST(Wordings, DifferFromTheTreeInThirtyPlacesAndNoMore) {
@@ -198,13 +194,6 @@ TEST(TopicMenu, DisablesHelpOnBothHowToUsePages) {
     EXPECT_FALSE(MenuOf(Name::Form1).menu.actionFor(Name::Form1)->isEnabled());
     EXPECT_FALSE(MenuOf(Name::Form2).menu.actionFor(Name::Form1)->isEnabled());
     EXPECT_TRUE(MenuOf(Name::Opstart).menu.actionFor(Name::Form1)->isEnabled());
-}
-
-TEST(TopicMenu, DisablesWhatIsNotBuiltYet) {
-    MenuOf start(Name::Opstart);
-    start.menu.disableUnbuilt([](PageName name) { return name == Name::Brok; });
-    EXPECT_TRUE(start.menu.actionFor(Name::Brok)->isEnabled());
-    EXPECT_FALSE(start.menu.actionFor(Name::Vaddi3)->isEnabled());
 }
 
 }  // namespace

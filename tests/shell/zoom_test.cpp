@@ -10,7 +10,8 @@
 
 #include "app/program.h"
 #include "graph/graph_box.h"
-#include "shell/how_to_use.h"
+#include "shell/form1.h"
+#include "shell/form2.h"
 #include "shell/opstart.h"
 #include "support/form_driver.h"
 #include "support/looks.h"

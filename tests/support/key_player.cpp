@@ -30,7 +30,7 @@ QMenu* menuInSight() { return qobject_cast<QMenu*>(QApplication::activePopupWidg
 const MenuLine& lineOf(std::optional<PageName> target) {
     const std::vector<MenuLine>& tree = topicTree();
     return *std::find_if(tree.begin(), tree.end(), [target](const MenuLine& line) {
-        return target ? line.opens == target : line.entry == MenuEntry::Luk;
+        return target ? line.entry.page == target : line.entry.isWayOut();
     });
 }
 
@@ -89,10 +89,10 @@ void KeyPlayer::chooseInMenu(const Page& page, std::optional<PageName> target) {
     press(Qt::Key_F10);
     ASSERT_NE(menuInSight(), nullptr);
     const MenuLine& line = lineOf(target);
-    if (line.parent) {
+    if (line.parent != Subject::None) {
         const std::vector<MenuLine>& tree = topicTree();
         const auto subject = std::find_if(
-            tree.begin(), tree.end(), [&line](const MenuLine& other) { return other.entry == *line.parent; });
+            tree.begin(), tree.end(), [&line](const MenuLine& other) { return other.entry == line.parent; });
         goToEntry(*menuInSight(), captionOn(page.name(), *subject));
         press(Qt::Key_Right);
         ASSERT_NE(menuInSight(), nullptr);

@@ -83,16 +83,16 @@ enum class Direction { Rising, Falling };
 
 /// How a typed value is tested against its target, for the verdict and for the red mark.
 enum class Rule {
-    /// target - 0.005 < typed <= target + 0.005. Kept: a value just at the lower end is wrong and stays
-    /// white.
+    /// target - 0.005 < typed <= target + 0.005. Kept (addition-white-lower-end): a value just at the lower
+    /// end is wrong and stays white.
     Near,
     /// As `Near`, and a value just at the lower end turns red as well.
     NearAllMarked,
     /// Both ends fit.
     NearClosed,
     Exactly,
-    /// Kept: the verdict compares the truth of target - 0.005 < typed, as -1 or 0, with target + 0.005, so
-    /// that any value fits a target above 0. The mark goes by the true bounds.
+    /// Kept (addition-any-break): the verdict compares the truth of target - 0.005 < typed, as -1 or 0, with
+    /// target + 0.005, so that any value fits a target above 0. The mark goes by the true bounds.
     Chained,
 };
 

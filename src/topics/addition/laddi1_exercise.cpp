@@ -11,7 +11,7 @@ namespace {
 constexpr float kFallingShare = 0.5F;
 const std::string kQuantity = "Q";
 
-/// Kept: a falling line through the origin counts as never ending.
+/// Kept (laddi1-origin): a falling line through the origin counts as never ending.
 double endOf(const Piece& function) {
     const double zero = function.slope == 0 ? kNeverEnds : zeroOf(function);
     return zero <= 0 ? kNeverEnds : zero;
@@ -23,7 +23,7 @@ void drawFunctions(Laddi1State& s, Draws& draws) {
         s.slope1 = drawSlope(draws, draws.Rnd() < kFallingShare);
         s.intercept1 = Int(draws.Rnd() * 5);
     } while (isOnEdge(s.function1()));
-    // Kept: function 2 is taken as it comes, the axis P = 0 too.
+    // Kept (laddi1-axis): function 2 is taken as it comes, the axis P = 0 too.
     s.slope2 = drawSlope(draws, draws.Rnd() < kFallingShare);
     s.intercept2 = Int(draws.Rnd() * 5);
 }

@@ -20,14 +20,16 @@ struct Laddi1State {
     /// The sum of both functions, whole numbers.
     double firstSlope = 0;
     double firstIntercept = 0;
-    /// The function that goes on after the kink. Kept: a lone segment leaves it as it was.
+    /// The function that goes on after the kink. Kept (laddi1-stale-segment): a lone segment leaves it as it
+    /// was.
     double secondSlope = 0;
     double secondIntercept = 0;
     /// 0 with one segment. Unrounded until the first step of the help.
     double kinkQuantity = 0;
     /// Both functions fall.
     bool upperEndAsked = false;
-    /// Unrounded. Kept: it is written with the answer of every later exercise, unseen where there is none.
+    /// Unrounded. Kept (addition-unseen-end): it is written with the answer of every later exercise, unseen
+    /// where there is none.
     double upperEnd = 0;
 
     [[nodiscard]] Piece function1() const { return {slope1, intercept1}; }
@@ -41,7 +43,8 @@ void newExercise(Laddi1State& state, Draws& draws);
 
 [[nodiscard]] VerticalSum sumOf(const Laddi1State& state);
 
-/// To the two decimals that the help shows. Kept: judging and drawing go by the rounded kink from then on.
+/// To the two decimals that the help shows. Kept (laddi1-rounded-kink): judging and drawing go by the rounded
+/// kink from then on.
 void roundKink(Laddi1State& state);
 
 /// "P= -3Q + 4"

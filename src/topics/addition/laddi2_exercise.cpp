@@ -40,8 +40,8 @@ void drawFunctions(KinkedFunction& function1, KinkedFunction& function2, Draws& 
     do {
         function1.before = drawBefore(draws);
     } while (endsBeforeItsKink(function1) || isOnEdge(function1.before));
-    // Kept: where function 2 ends before its kink the second piece of function 1 is drawn again with it,
-    // where it is the axis it alone is.
+    // Kept (laddi2-drawn-back): where function 2 ends before its kink the second piece of function 1 is drawn
+    // again with it, where it is the axis it alone is.
     do {
         function1.after = drawAfter(function1.kink, draws);
         do {

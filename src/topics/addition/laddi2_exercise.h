@@ -32,7 +32,8 @@ struct Laddi2State {
     /// four.
     std::vector<double> breakPoints;
     /// A segment up to each break point; the last goes on for good where one function does. The upper end is
-    /// rounded. Kept: it is written with the answer of every later exercise, unseen where there is none.
+    /// rounded. Kept (addition-unseen-end): it is written with the answer of every later exercise, unseen
+    /// where there is none.
     VerticalSum sum;
 };
 

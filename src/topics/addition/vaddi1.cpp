@@ -84,7 +84,7 @@ void Vaddi1::judge() {
     rows_.whiten();
     const std::vector<AnswerField> fields = answerFields(state_);
     if (rows_.areFit(fields)) {
-        // Kept: "FORKERT" of a wrong try is not hidden; "RIGTIGT" lies in front of it.
+        // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
         solved();
         drawSum();
         return;
@@ -123,7 +123,7 @@ void Vaddi1::fillTable() {
 
 void Vaddi1::drawTypedSum() {
     GraphBox& box = *ui_->resultGraph;
-    // Kept: with one segment too, from what stands in the hidden row.
+    // Kept (vaddi1-hidden-row): with one segment too, from what stands in the hidden row.
     drawPiece(box, kTopPrice, rows_.typedSegment(kFirstRow), 0, rows_.typed(kFirstRow, Slot::End), kRed);
     const double end = state_.upperEndAsked ? rows_.typed(kSecondRow, Slot::End) : kLastSumQ;
     drawPiece(box, kTopPrice, rows_.typedSegment(kSecondRow), rows_.typed(kSecondRow, Slot::Start), end,
@@ -141,7 +141,7 @@ void Vaddi1::fillAnswer() {
     rows_.write(kFirstRow, Slot::End, state_.kinkQuantity);
     rows_.write(kSecondRow, Slot::End, state_.upperEnd);
     rows_.whiten();
-    // Kept: always as two segments, of which the first collapses to a dot with one.
+    // Kept (vaddi1-lone-dot): always as two segments, of which the first collapses to a dot with one.
     drawPiece(*ui_->resultGraph, kTopPrice, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
     drawPiece(*ui_->resultGraph, kTopPrice, state_.secondSegment(), state_.kinkQuantity, kLastSumQ,
               kSumGreen);
@@ -190,7 +190,7 @@ void Vaddi1::showSum() {
     ui_->ok->hide();
     focusOn(ui_->closeHelp);
     drawStack(Vaddi1State::kMiddleRow);
-    // Kept: a blank price is not the top one either, and fails.
+    // Kept (vaddi1-blank-price): a blank price is not the top one either, and fails.
     if (state_.tableP[Vaddi1State::kLastRow] != TableCell(kTopPrice)) {
         drawStack(Vaddi1State::kLastRow);
     }
@@ -208,7 +208,7 @@ void Vaddi1::drawStack(std::size_t row) {
             drawBand(box, first.number(), first.number() + second.number(), price, kBandGreen);
         }
     } else if (state_.tableQ2[Vaddi1State::kLastRow].isNumeric()) {
-        // Kept: the middle row asks for the cell below its own.
+        // Kept (vaddi1-cell-below): the middle row asks for the cell below its own.
         drawBand(box, 0, second.number(), price, kBandGreen);
     }
 }

@@ -35,7 +35,7 @@ void solveLevelSecond(Vaddi1State& s) {
     s.tableP = {s.intercept2, s.intercept2, kBlank};
     s.tableQ1 = {beside, beside, kBlank};
     s.tableQ2 = {0.0, kUnbounded, kBlank};
-    // Kept: the second cell is the third one of the exercise before.
+    // Kept (vaddi1-stale-total): the second cell is the third one of the exercise before.
     s.tableQtotal = {0.0, s.tableQtotal[Vaddi1State::kLastRow], kBlank};
 }
 

@@ -28,10 +28,10 @@ struct Vaddi1State {
     Column tableP;
     Column tableQ1;
     Column tableQ2;
-    /// Kept: its third cell reaches into the next exercise with a level second function.
+    /// Kept (vaddi1-stale-total): its third cell reaches into the next exercise with a level second function.
     Column tableQtotal;
 
-    /// From Q = 0 to the kink. Kept: a lone segment leaves it as it was.
+    /// From Q = 0 to the kink. Kept (vaddi1-stale-segment): a level lone segment leaves it as it was.
     double firstSlope = 0;
     double firstIntercept = 0;
     /// 0 with one segment.
@@ -42,8 +42,8 @@ struct Vaddi1State {
     int segmentCount = 1;
     /// Where a falling sum meets P = 0.
     TableCell upperEnd;
-    /// Kept: it stays set after the first exercise that has an upper end, so every later one is judged with
-    /// it.
+    /// Kept (vaddi1-latch): it stays set after the first exercise that has an upper end, so every later one
+    /// is judged with it.
     bool upperEndAsked = false;
 
     [[nodiscard]] Piece function1() const { return {slope1, intercept1}; }
@@ -62,8 +62,8 @@ void drawTask(Vaddi1State& state, Draws& draws);
 /// True if the sum of the drawn functions ends at P = 0.
 [[nodiscard]] bool hasUpperEnd(const Vaddi1State& state);
 
-/// Fills the help table and the answer. Kept: for two rising functions, the second from 10, whose kink is
-/// exact to two decimals, this fails with an overflow.
+/// Fills the help table and the answer. Kept (vaddi1-overflow): for two rising functions, the second from 10,
+/// whose kink is exact to two decimals, this fails with an overflow.
 void solve(Vaddi1State& state);
 
 /// The fields that are judged; the help table is not among them.

@@ -108,7 +108,7 @@ void Vaddi2::judge() {
     rows_.whiten();
     const std::vector<AnswerField> fields = answerFields(state_);
     if (rows_.areFit(fields)) {
-        // Kept: "FORKERT" of a wrong try is not hidden; "RIGTIGT" lies in front of it.
+        // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
         solved();
         drawSum(kLastSumQ);
         return;
@@ -142,7 +142,8 @@ void Vaddi2::drawTypedSum() {
     };
     if (state_.segmentCount == 1) {
         const Piece typed = rows_.typedSegment(kLoneRow);
-        // Kept: the far end takes its intercept from the row below, which is hidden and blank.
+        // Kept (vaddi2-far-end): the far end takes its intercept from the row below, which is hidden and
+        // blank.
         const Piece atFarEnd{typed.slope, rows_.typed(kThirdRow, Slot::Intercept)};
         const double from = rows_.typed(kLoneRow, Slot::Start);
         const double to = typedEnd(kLoneRow, true);
@@ -199,7 +200,7 @@ void Vaddi2::showPrices() {
             if (state_.slope[f] == 0) {
                 drawMark(box, TableCell::unbounded(), price);
             }
-            // Kept: the mark on the edge stands at the first quantity, not at the last.
+            // Kept (vaddi2-edge-mark): the mark on the edge stands at the first quantity, not at the last.
             if (!state_.isAnyLevel()) {
                 drawMark(box, quantities[row], edge);
             }

@@ -182,7 +182,7 @@ void Vaddi3::judge() {
     rows_.whiten();
     std::vector<AnswerField> fields = answerFields(state_);
     if (rows_.areFit(fields) && isUpperEndRight()) {
-        // Kept: "FORKERT" of a wrong try is not hidden; "RIGTIGT" lies in front of it.
+        // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
         solved();
         drawSum();
         return;
@@ -200,7 +200,8 @@ bool Vaddi3::isUpperEndRight() const {
     if (!asked) {
         return true;
     }
-    // Kept: with three segments the verdict reads a box of the help table; the red mark goes by the field.
+    // Kept (vaddi3-help-cell): with three segments the verdict reads a box of the help table; the red mark
+    // goes by the field.
     const AnswerBox* const read =
         state_.segmentCount() == 3 ? ui_->function1OrPart2Quantity3 : rows_.box(asked->row, asked->slot);
     return asked->target.isFit(read->value());

@@ -95,8 +95,8 @@ struct HelpColumns {
 
 [[nodiscard]] HelpColumns helpColumns(const Vaddi3State& state);
 
-/// Draws the two functions and adds them. A slope of function 1 that comes out as 0, which only a draw of
-/// just 0 gives, ends in a division by zero.
+/// Draws the two functions and adds them. Kept (vaddi3-zero-slope): a slope of function 1 that comes out as
+/// 0, which only a draw of just 0 gives, ends in a division by zero.
 void newExercise(Vaddi3State& state, Draws& draws);
 
 /// True if row `row` of the help table is filled, and lies, at a jump up, on this part of function 1.

@@ -6,7 +6,8 @@
 namespace tavrune {
 namespace {
 
-/// The sum as the answer shows it. Kept: the upper end is written whether it is asked for or not.
+/// The sum as the answer shows it. Kept (addition-unseen-end): the upper end is written whether it is asked
+/// for or not.
 void write(const AnswerRows& rows, const VerticalSum& sum) {
     for (std::size_t segment = 0; segment < sum.segments.size(); ++segment) {
         const int row = sum.rowOfSegment(segment);

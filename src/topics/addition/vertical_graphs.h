@@ -25,8 +25,8 @@ void drawUprights(GraphBox& box, const std::vector<double>& quantities);
 /// The segments of the right sum, in its green, the last to Q = 10 whether it has an upper end or not.
 void drawSum(GraphBox& box, const VerticalSum& sum);
 
-/// In red, what is typed in the rows down to the one of the last segment. Kept: the rows above a lone segment
-/// too, from what stands in their hidden boxes.
+/// In red, what is typed in the rows down to the one of the last segment. Kept (addition-hidden-row): the
+/// rows above a lone segment too, from what stands in their hidden boxes.
 void drawTypedSum(GraphBox& box, const AnswerRows& rows, const VerticalSum& sum);
 
 }  // namespace tavrune

@@ -179,12 +179,12 @@ void Brok::help() {
 }
 
 void Brok::showWorkedSolution() {
-    ui_->solutionStep->show();
+    ui_->workedSolution->show();
     const WorkedRow row = WorkedRow::of(*design());
     row.write(state_);
     row.layOut();
 }
 
-void Brok::closeHelp() { hideAll({ui_->solutionStep, ui_->helpPanel}); }
+void Brok::closeHelp() { hideAll({ui_->workedSolution, ui_->helpPanel}); }
 
 }  // namespace tavrune

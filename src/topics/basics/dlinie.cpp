@@ -107,7 +107,7 @@ Dlinie::~Dlinie() = default;
 
 void Dlinie::opened() {
     ui_->graph->Scale(-kEnd, kEnd, kEnd, -kEnd);
-    // Kept: the first exercise alone may have a slope of 0.
+    // Kept (dlinie-level-first): the first exercise alone may have a slope of 0.
     ask(ZeroSlope::Allowed);
 }
 
@@ -141,7 +141,7 @@ void Dlinie::drawAxes() {
     GraphBox& graph = *ui_->graph;
     graph.Line(0, kEnd, 0, -kEnd);
     graph.Line(-kEnd, 0, kEnd, 0);
-    // Kept: the far ends go without a dot, and the Y axis without its lowest.
+    // Kept (dlinie-missing-dots): the far ends go without a dot, and the Y axis without its lowest.
     drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd}, {kOffXAxis});
     drawTicksAlongY(graph, {.from = -kEnd + 1, .before = kEnd}, {kOffYAxis});
     for (const auto& [name, x, y] : kAxisMarks) {

@@ -9,7 +9,7 @@ namespace tavrune {
 
 /// What is known of the line.
 enum class LineTask {
-    /// A draw in 5000: nothing is asked anew.
+    /// Kept (dlinie-no-kind): a draw in 5000, and nothing is asked anew.
     None = 0,
     TwoPoints,
     SlopeAndPoint,

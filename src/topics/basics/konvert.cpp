@@ -148,14 +148,14 @@ void Konvert::judge() {
         return;
     }
     solved();
-    // Kept: the task text stays away where help was open; it comes back with "Luk" or the
-    // next exercise.
+    // Kept (konvert-task-away): the task text stays away where help was open; it comes back with "Luk" or
+    // the next exercise.
     ui_->helpPanel->hide();
     drawFunction(state_.newSlope, state_.newConstant, kLightGreen);
 }
 
 void Konvert::giveAnswer() {
-    // Kept: the task text stays away here too.
+    // Kept (konvert-task-away): here too.
     ui_->helpPanel->hide();
     drawFunction(ui_->slope->value(), ui_->intercept->value(), kRed);
     drawFunction(state_.newSlope, state_.newConstant, kLightGreen);

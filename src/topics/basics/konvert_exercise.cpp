@@ -50,7 +50,7 @@ void newExercise(KonvertState& state, Draws& draws) {
 }
 
 void roundSolution(KonvertState& state) {
-    // Kept: halves go away from zero in the slope and up in the constant.
+    // Kept (konvert-two-roundings): halves go away from zero in the slope and up in the constant.
     state.newSlope = RoundSigned3(state.newSlope);
     state.newConstant = RoundUp3(state.newConstant);
 }

@@ -161,8 +161,8 @@ std::array<Segment, 4> arrowheads(const LininterState& s, Occasion occasion) {
     Point onAxis{s.target, 0};
     Barbs toAxis = kDown;
     if (isQGiven(s)) {
-        // Kept: where a right answer below 0 is judged, the head stands over the target instead of the given
-        // Q, away from the guide line.
+        // Kept (lininter-astray-head): where a right answer below 0 is judged, the head stands over the
+        // target instead of the given Q, away from the guide line.
         const bool isAstray = isNegative && occasion == Occasion::Judged;
         const float x = isAstray ? s.target : s.givenQ;
         onLine = base = {x, lineAt(s, x)};

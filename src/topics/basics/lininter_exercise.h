@@ -36,7 +36,8 @@ void newExercise(LininterState& state, Draws& draws);
 
 [[nodiscard]] bool isRight(const LininterState& state, double typed);
 
-/// The target with two decimals, as the student is shown it.
+/// The target with two decimals, as the student is shown it. Kept (lininter-negative-halves): a negative half
+/// is rounded away from zero, which typed in is wrong.
 [[nodiscard]] std::string answerText(const LininterState& state);
 
 /// "A : ( 3 ; 4 )"

@@ -18,7 +18,7 @@ constexpr double kGap = 4;
 
 Tomto::Tomto(Draws& draws) : ExerciseForm(PageName::Tomto, draws), ui_(std::make_unique<Ui::Tomto>()) {
     setUp(*ui_);
-    // Kept: from the right-hand field to the left one, against the layout.
+    // Kept (tomto-right-to-left): from the right-hand field to the left one, against the layout.
     enterChain({ui_->crossingPointPrice, ui_->crossingPointQuantity}, LastBox::OkOrStay);
     options_ = {{ui_->crossing, Relation::Crossing},
                 {ui_->parallel, Relation::Parallel},
@@ -63,7 +63,7 @@ void Tomto::prepare() {
     ui_->graph->DrawWidth(kThin);
     clearBoxes({ui_->crossingPointQuantity, ui_->crossingPointPrice});
     ui_->graph->Cls();
-    // Kept: the numbers on the axes are left as they are.
+    // Kept (tomto-axis-numbers): the numbers on the axes are left as they are.
     ui_->graph->Scale(0, kShortAxis, kShortAxis, 0);
     options_.resetColours();
     ui_->equationsBackground->show();
@@ -115,9 +115,9 @@ void Tomto::judge() {
 
 void Tomto::giveAnswer() {
     whiten({ui_->crossingPointQuantity, ui_->crossingPointPrice});
-    // Kept: the scale is the judge's; without a judgement it still ends at 10.
+    // Kept (tomto-unjudged-scale): the scale is the judge's; without a judgement it still ends at 10.
     setRange();
-    // Kept: the width stays wide until the next exercise.
+    // Kept (tomto-wide-pen): the width stays wide until the next exercise.
     drawLines(kGreen);
     options_.choose(state_.relation);
     options_.colour(state_.relation, kGreen);

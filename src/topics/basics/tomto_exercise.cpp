@@ -56,7 +56,8 @@ void drawCoefficients(TomtoState& s, Draws& draws, const ZeroReplacements& zeros
 void solveExplicit(TomtoState& s) {
     const float d = s.a2 - s.a1;
     if (d == 0) {
-        // Kept: Q is not cleared, it becomes a truth value: -1 where the old P is 0, which forces a new draw.
+        // Kept (tomto-truth-q): Q is not cleared, it becomes a truth value: -1 where the old P is 0, which
+        // forces a new draw.
         s.solutionQ = s.solutionP == 0 ? -1 : 0;
         const bool differ = s.a1 / s.a2 - s.b1 / s.b2 != 0;
         s.relation = differ ? Relation::Parallel : Relation::Coinciding;
@@ -70,8 +71,8 @@ void solveExplicit(TomtoState& s) {
 void solveImplicit(TomtoState& s) {
     const float d = s.a1 * s.c2 - s.a2 * s.c1;
     if (d == 0) {
-        // Kept: the comparison is chained, so b2/b1 is compared with a truth value, -1 for true. Lines count
-        // as coinciding only where b2 = -b1, whatever they truly are.
+        // Kept (tomto-opposite-constants): the comparison is chained, so b2/b1 is compared with a truth
+        // value, -1 for true. Lines count as coinciding only where b2 = -b1, whatever they truly are.
         const float truth = s.a2 / s.a1 == s.c2 / s.c1 ? -1 : 0;
         s.relation = truth == s.b2 / s.b1 ? Relation::Coinciding : Relation::Parallel;
         return;
@@ -81,9 +82,9 @@ void solveImplicit(TomtoState& s) {
     s.solutionQ = (s.c1 * s.b2 - s.c2 * s.b1) / d;
 }
 
-/// Kept: Q goes through a rounding of its own before the one that both share. In doubles, (x + 0.005) * 100
-/// can fall short of the whole number that x * 100 + 0.5 reaches, so a half may go down in Q and up in
-/// P: 1.125 is 1.12 as Q and 1.13 as P. What is stored is what is judged.
+/// Kept (tomto-q-rounded-twice): Q goes through a rounding of its own before the one that both share. In
+/// doubles, (x + 0.005) * 100 can fall short of the whole number that x * 100 + 0.5 reaches, so a half may go
+/// down in Q and up in P: 1.125 is 1.12 as Q and 1.13 as P. What is stored is what is judged.
 void roundSolution(TomtoState& s) {
     const double r = s.solutionQ < 0 ? 0.004999 : 0.005;
     s.solutionQ = Int((s.solutionQ + r) * 100) / 100;

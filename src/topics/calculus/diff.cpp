@@ -92,7 +92,7 @@ void Diff::judge() {
     const double typed = ui_->derivative->value();
     const bool right = isRight(state_, typed);
     ui_->derivative->mark(!right);
-    // Kept: no verdict is hidden first, so "FORKERT" stays behind a later "RIGTIGT".
+    // Kept (shell-forkert-behind): no verdict is hidden first, so "FORKERT" stays behind a later "RIGTIGT".
     if (right) {
         solved();
         drawRightTangent();
@@ -114,7 +114,7 @@ void Diff::giveAnswer() {
 
 void Diff::help() {
     ui_->generalFunction->setCaption("P = aQ³ + bQ² + cQ + d");
-    // Kept: the power of the first term, though 2 would be right.
+    // Kept (diff-cube-in-help): the power of the first term, though 2 would be right.
     ui_->generalDerivative->setCaption("P'= 3aQ³ + 2bQ + c");
     openPanel(ui_->helpPanel, ui_->showDerivative);
 }
@@ -130,7 +130,7 @@ void Diff::showDerivativeAtPoint() {
 }
 
 void Diff::closeHelp() {
-    // Kept: the steps that have been shown stay shown until the next exercise.
+    // Kept (diff-steps-stay): the steps that have been shown stay shown until the next exercise.
     ui_->helpPanel->hide();
     ui_->generalRule->show();
     focusOn(ui_->derivative);

@@ -15,7 +15,7 @@ constexpr int kLargestAOfSteepPatterns = 2;
 constexpr int kLargestB = 4;
 constexpr int kLargestOther = 5;
 constexpr int kLastQuadratic = 16;
-// Kept: the first two cubics count as quadratics wherever the curve is concerned.
+// Kept (diff-cubics-as-parabolas): the first two cubics count as quadratics wherever the curve is concerned.
 constexpr int kLastWithParabola = 18;
 /// What the curve may be at the point, in size.
 constexpr int kReach = 60;
@@ -40,7 +40,7 @@ constexpr std::array kPatterns{
     DiffPattern{P, O, P, M}, DiffPattern{P, M, O, P}, DiffPattern{P, M, M, P}, DiffPattern{P, M, P, M},
     DiffPattern{M, P, P, M}, DiffPattern{M, P, P, O}, DiffPattern{M, P, M, M}, DiffPattern{M, P, M, P},
     DiffPattern{M, P, O, P}, DiffPattern{M, P, O, O}, DiffPattern{M, O, O, O}, DiffPattern{M, P, O, M},
-    // Kept: the second of these is in the list twice.
+    // Kept (diff-pattern-twice): the second of these is in the list twice.
     DiffPattern{M, M, O, O}, DiffPattern{M, P, P, O}, DiffPattern{M, M, M, M}, DiffPattern{M, P, P, P},
 };
 // clang-format on
@@ -98,7 +98,7 @@ constexpr int kCubePlusCMinusD = 35;
 /// The cubics from here on, of which this is aQ³-bQ²+d, write the derivative as the quadratics do.
 constexpr int kFirstCubicWithBApart = 36;
 
-// Kept: the slips of single patterns.
+// Kept (diff-uneven-blanks): the slips of single patterns.
 Blanks blanksOf(int patternCase) {
     Blanks blanks;
     if (isQuadratic(patternCase) || patternCase >= kFirstCubicWithBApart) {

@@ -66,8 +66,9 @@ void hatchSegments(GraphBox& graph, const Integ2State& state, const QColor& firs
     hatchSegment(graph, secondSegment(state), second);
 }
 
-/// Kept: what a term of the last sum shows depends on what it has shown so far, over all exercises. An
-/// integral that is not above 0 never shows; what stood there gets one more pair of brackets each time.
+/// Kept (integ2-brackets): what a term of the last sum shows depends on what it has shown so far, over all
+/// exercises. An integral that is not above 0 never shows; what stood there gets one more pair of brackets
+/// each time.
 void showSummand(Label* term, double integral) { term->setCaption(summandText(integral, term->caption())); }
 
 /// Lays out a term of the last sum and gives its right edge. Bracketed too often to fit, it shows its middle.
@@ -109,7 +110,8 @@ void Integ2::newExercise() {
     fillHelp(kWorkedFirst, firstSegment(state_));
     fillHelp(kWorkedSecond, secondSegment(state_));
     plotSegments(*ui_->graph, state_);
-    // Kept: where the second segment leaves the graph upwards, the focus stays where it is.
+    // Kept (integ2-focus-left): where the second segment leaves the graph upwards, the focus stays where it
+    // is.
     if (plotSegments(*ui_->helpGraph, state_) == LastDot::AtItsEnd) {
         focusOn(ui_->integral);
     }

@@ -35,7 +35,7 @@ void drawLimits(Integ2State& s, Draws& draws) {
     s.w = s.k + drawUpTo(kLargestReach, draws);
 }
 
-// Kept, though of the three only v < 0 can be drawn.
+// Kept (integ2-idle-limits), though of the three only v < 0 can be drawn.
 bool areLimitsOutside(const Integ2State& s) { return s.v >= s.w || s.v < 0 || s.w > kLargestLimit; }
 
 bool isTooHigh(const Integ2State& s) { return std::abs(s.a2 * s.k + s.b2) > kLargestHeight; }
@@ -63,7 +63,7 @@ Try tryRiseThenFall(Integ2State& s, Draws& draws) {
     }
     drawKink(s, draws);
     drawLimits(s, draws);
-    // Kept: the height is that of the segment before it is made to fall.
+    // Kept (integ2-height-as-rise): the height is that of the segment before it is made to fall.
     if (areLimitsOutside(s) || isTooHigh(s)) {
         return Try::Again;
     }
@@ -82,7 +82,7 @@ Try tryTwoFalls(Integ2State& s, Draws& draws) {
     if (areLimitsOutside(s) || isOneLine) {
         return Try::Again;
     }
-    // Kept, though no two falls come that high.
+    // Kept (integ2-idle-height), though no two falls come that high.
     return isTooHigh(s) ? Try::LeftForFallThenRise : Try::Taken;
 }
 

@@ -42,14 +42,15 @@ constexpr int kShapeCount = kShapes.size();
 
 // Where single shapes leave the rules of the texts below.
 
-/// Kept: the help shows bQ+c with blanks round its sign, and no other shape; nor bQ+c without any minus.
+/// Kept (integ-blanks-in-help): the help shows bQ+c with blanks round its sign, and no other shape; nor bQ+c
+/// without any minus.
 bool hasBlanks(const IntegState& s) { return s.a == 0 && s.b != 0 && s.c != 0 && (s.b < 0 || s.c < 0); }
 
-/// Kept: in aQ² and aQ²+bQ without any minus the closing bracket stands before the raised 2 or 3 of the last
-/// term, not behind it.
+/// Kept (integ-early-bracket): in aQ² and aQ²+bQ without any minus the closing bracket stands before the
+/// raised 2 or 3 of the last term, not behind it.
 bool closesBeforeRaised(const IntegState& s) { return s.a > 0 && s.b >= 0 && s.c == 0; }
 
-/// Kept: no blank and no bracket of its own for a positive constant.
+/// Kept (integ-bare-constant): no blank and no bracket of its own for a positive constant.
 constexpr const char* kLowerOfPositiveConstant = "-(";
 
 /// The term that a sum begins with carries its own sign; a later one prints its size behind a sign.

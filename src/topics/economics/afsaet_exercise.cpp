@@ -100,7 +100,7 @@ Outcome fromTwoPoints(Attempt& t, Draws& draws) {
         tellInPricesWithinGraph(t);
     } else {
         const float Qlo = t.Q1 - Int(draws.Rnd() * t.Q1);
-        // Kept: the draw has no say, the bound is always one above the point.
+        // Kept (afsaet-idle-draw): the draw has no say, the bound is always one above the point.
         draws.Rnd();
         tellInQuantities(t, Qlo, t.Q2 + 1);
     }
@@ -231,7 +231,7 @@ Outcome tellWithSlope(Attempt& t, Draws& draws) {
     }
     const double Qlo = Int(draws.Rnd() + 0.5);
     const float Qhi = Int(t.cappedQCross());
-    // Kept: where the line meets the axis below 1, "1<Q<0" can be told.
+    // Kept (afsaet-empty-interval): where the line meets the axis below 1, "1<Q<0" can be told.
     tellInQuantities(t, Qlo == Qhi ? 0 : Qlo, Qhi);
     return t.Qlo == t.Qhi ? Outcome::Rejected : Outcome::Accepted;
 }
@@ -260,7 +260,7 @@ constexpr int kKinds = static_cast<int>(kWays.size());
 
 float drawCoordinate(Draws& draws) { return Int(draws.Rnd() * kEnd); }
 
-// Kept: -1 only from a draw of 0.
+// Kept (afsaet-rare-minus-one): -1 only from a draw of 0.
 float drawNegative(Draws& draws) { return Int(-draws.Rnd() * 5) - 1; }
 
 /// The numbers that all kinds draw.
@@ -275,7 +275,7 @@ Attempt drawAttempt(Draws& draws) {
     t.Ep = drawNegative(draws);
     t.Ep2 = drawNegative(draws);
     t.slope = drawNegative(draws);
-    // Kept: Q1 can become 0 again when the two change places.
+    // Kept (afsaet-q1-zero): Q1 can become 0 again when the two change places.
     if (t.Q1 == 0) {
         t.Q1 = 1;
     }
@@ -375,7 +375,7 @@ std::string secondFact(const AfsaetState& s) {
         case AfsaetKind::PointAndElasticityAtPrice:
             return "Ep. = " + NumberText(s.Ep) + "   P2 = " + NumberText(s.P2);
         case AfsaetKind::PointAndElasticityAtQuantity:
-            // Kept: without the point behind "Ep".
+            // Kept (afsaet-ep-without-point): without the point behind "Ep".
             return "Ep = " + NumberText(s.Ep) + "   Q2 = " + NumberText(s.Q2);
         case AfsaetKind::TwoElasticities:
             return "Ep. =  " + NumberText(s.Ep2) + "   Q = " + NumberText(s.Q1);

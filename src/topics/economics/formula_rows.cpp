@@ -20,8 +20,8 @@ constexpr double kDenominator = 8;
 /// Labels of one formula, made from left to right.
 class Row {
 public:
-    Row(Panel& box, double top, double exponentOffset)
-        : box_(box), top_(top), exponentOffset_(exponentOffset) {}
+    Row(Panel& box, const FormulaPlace& place)
+        : box_(box), top_(place.top), exponentOffset_(place.exponentOffset) {}
 
     void add(const FormulaPiece& piece) {
         const double left = next_;
@@ -43,7 +43,7 @@ public:
                 break;
         }
         if (!piece.exponent.empty()) {
-            addLabel(piece.exponent, left + fromTwips(exponentOffset_), top_ - kExponentRise, kExponentSize);
+            addLabel(piece.exponent, left + exponentOffset_, top_ - kExponentRise, kExponentSize);
         }
     }
 
@@ -80,12 +80,12 @@ private:
 
 }  // namespace
 
-void showFormulas(Panel& box, const std::vector<Formula>& formulas, std::span<const double> tops) {
-    Q_ASSERT(formulas.size() == tops.size());
+void showFormulas(Panel& box, const std::vector<Formula>& formulas, std::span<const FormulaPlace> places) {
+    Q_ASSERT(formulas.size() == places.size());
     qDeleteAll(box.findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
     for (std::size_t i = 0; i < formulas.size(); ++i) {
-        Row row(box, tops[i], formulas[i].exponentOffset);
-        for (const FormulaPiece& piece : formulas[i].pieces) {
+        Row row(box, places[i]);
+        for (const FormulaPiece& piece : formulas[i]) {
             row.add(piece);
         }
     }

@@ -8,8 +8,15 @@
 
 namespace tavrune {
 
-/// Writes formulas into a box, the top of each at its one of `tops`, in units, in place of all that stood
-/// there. Each label begins where the one before it ends; exponents are raised and take no room of their own.
-void showFormulas(Panel& box, const std::vector<Formula>& formulas, std::span<const double> tops);
+/// Where a formula stands in its box, in units.
+struct FormulaPlace {
+    double top = 0;
+    /// From the left of a Q to the left of its exponent.
+    double exponentOffset = fromTwips(120);
+};
+
+/// Writes formulas into a box, each at its one of `places`, in place of all that stood there. Each label
+/// begins where the one before it ends; exponents are raised and take no room of their own.
+void showFormulas(Panel& box, const std::vector<Formula>& formulas, std::span<const FormulaPlace> places);
 
 }  // namespace tavrune

@@ -30,17 +30,19 @@ const Colours& coloursOf(GtmFunction function) {
 constexpr double kLargestQuantity = 10;
 constexpr double kHighestCost = 20;
 
-// The tops of the formulas of a step, in units: level with the rows of the general solution.
-constexpr std::array kTwoRows{8.0, 30.0};
-constexpr std::array kDerivativeRows{8.0, 52.0, 72.0};
-constexpr std::array kIntegralRows{8.0, 32.0, 60.0};
+// The formulas of a step: level with the rows of the general solution. In two of them exponents stand nearer.
+constexpr double kNearExponent = fromTwips(100);
+constexpr std::array kTwoRows{FormulaPlace{8}, FormulaPlace{30}};
+constexpr std::array kDerivativeRows{FormulaPlace{8}, FormulaPlace{52}, FormulaPlace{72}};
+constexpr std::array kIntegralRows{FormulaPlace{8}, FormulaPlace{32, kNearExponent}, FormulaPlace{60}};
+constexpr std::array kQuotientOfIntegralRows{FormulaPlace{8, kNearExponent}, FormulaPlace{30}};
 
 /// What a step of the help leads from and to, and what it shows.
 struct Plan {
     GtmFunction from = GtmFunction::Average;
     GtmFunction to = GtmFunction::Average;
     std::vector<Formula> (*worked)(const GtmState&) = nullptr;
-    std::span<const double> tops{};
+    std::span<const FormulaPlace> places{};
 };
 
 /// The steps where a function is given.
@@ -50,7 +52,8 @@ constexpr GtmEach<std::array<Plan, 2>> kPlans{
     .total = {Plan{GtmFunction::Total, GtmFunction::Average, workedQuotient, kTwoRows},
               Plan{GtmFunction::Total, GtmFunction::Marginal, workedDerivative, kDerivativeRows}},
     .marginal = {Plan{GtmFunction::Marginal, GtmFunction::Total, workedIntegral, kIntegralRows},
-                 Plan{GtmFunction::Total, GtmFunction::Average, workedQuotientOfIntegral, kTwoRows}},
+                 Plan{GtmFunction::Total, GtmFunction::Average, workedQuotientOfIntegral,
+                      kQuotientOfIntegralRows}},
 };
 
 // What the controls of a function are called after: those of the diagram by the word, all others by the
@@ -94,7 +97,7 @@ Gtm::Function Gtm::bind(GtmFunction function) {
         auto* const box = design()->findChild<Panel*>(given + to + "Step");
         onClick(vis, [this, box, &plan] {
             // The box comes last: labels are made faster where nothing is seen.
-            showFormulas(*box, plan.worked(state_), plan.tops);
+            showFormulas(*box, plan.worked(state_), plan.places);
             box->show();
         });
         found.steps.push_back({vis, box, linesOf("wayFrom" + wordFor(plan.from) + "To" + wordFor(plan.to))});
@@ -191,7 +194,7 @@ void Gtm::giveAnswer() {
 }
 
 void Gtm::help() {
-    // Kept: what an earlier exercise has left red stays red.
+    // Kept (gtm-red-left): what an earlier exercise has left red stays red.
     const Function& given = functions_.of(state_.given);
     given.name->setTextColour(kRed);
     for (const Step& step : given.steps) {
@@ -218,7 +221,7 @@ void Gtm::hideSteps() {
     }
 }
 
-// Kept: the name of the given function stays red where AVC or TVC is given.
+// Kept (gtm-red-name): the name of the given function stays red where AVC or TVC is given.
 void Gtm::closeHelp() {
     hideSteps();
     for (LineControl* line : linesOf("wayFrom")) {

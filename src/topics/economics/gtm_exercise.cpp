@@ -25,7 +25,7 @@ Drawn drawCoefficients(Draws& draws) {
     }
     d.b = -Int(draws.Rnd() * 10);
     d.c = Int(draws.Rnd() * 10);
-    // Kept: a draw that nothing uses. It keeps the stream as it is.
+    // Kept (gtm-idle-draw): a draw that nothing uses. It keeps the stream as it is.
     static_cast<void>(draws.Rnd());
     return d;
 }
@@ -33,7 +33,7 @@ Drawn drawCoefficients(Draws& draws) {
 /// Above 0 where aQ² + bQ + c crosses the axis.
 double discriminantOf(float a, float b, float c) { return power(b, 2) - 4 * a * c; }
 
-/// Kept: the quarter of b² is multiplied by a, where the height of a vertex wants a division.
+/// Kept (gtm-times-a): the quarter of b² is multiplied by a, where the height of a vertex wants a division.
 double lowestOf(float a, float b, float c) { return -power(b, 2) / 4 * a + c; }
 
 /// Draws which function is given and makes the other two of it. False if they are rejected.
@@ -150,23 +150,16 @@ public:
         return power > 2 ? text("Q") : *this;
     }
 
-    FormulaWriter& exponentOffset(double twips) {
-        formula_.exponentOffset = twips;
-        return *this;
-    }
-
     operator Formula() const { return formula_; }
 
 private:
     FormulaWriter& add(FormulaPiece piece) {
-        formula_.pieces.push_back(std::move(piece));
+        formula_.push_back(std::move(piece));
         return *this;
     }
 
     Formula formula_;
 };
-
-constexpr double kNearExponent = 100;
 
 }  // namespace
 
@@ -299,13 +292,12 @@ std::vector<Formula> workedIntegral(const GtmState& s) {
                 .text("* " + NumberText(b))
                 .q(2)
                 .text(withSign(c))
-                .text("Q")
-                .exponentOffset(kNearExponent),
+                .text("Q"),
             FormulaWriter().text("=").text(" ").chain(s.tvc, 3)};
 }
 
 std::vector<Formula> workedQuotientOfIntegral(const GtmState& s) {
-    return {FormulaWriter().text("AVC=").text(" (").chain(s.avc, 3).text(")/Q").exponentOffset(kNearExponent),
+    return {FormulaWriter().text("AVC=").text(" (").chain(s.avc, 3).text(")/Q"),
             FormulaWriter().text("=").text(" ").chain(s.avc, 2)};
 }
 

@@ -65,8 +65,8 @@ struct GtmState {
 /// with it.
 void newExercise(GtmState& s, Draws& draws);
 
-/// The exercise of the opening. It is drawn by looser rules: only here can MC fall for ever, and c be
-/// drawn a second time.
+/// The exercise of the opening. Kept (gtm-looser-opening): it is drawn by looser rules: only here can MC fall
+/// for ever, and c be drawn a second time.
 void firstExercise(GtmState& s, Draws& draws);
 
 /// The coefficients as a task shows them: a with the point in every locale, so that the box can be read back.
@@ -120,11 +120,7 @@ struct FormulaPiece {
 };
 
 /// A row of labels side by side.
-struct Formula {
-    std::vector<FormulaPiece> pieces;
-    /// From the left of a Q to the left of its exponent, in twips.
-    double exponentOffset = 120;
-};
+using Formula = std::vector<FormulaPiece>;
 
 // The steps of the worked solutions, formula by formula.
 /// From AVC to TVC.

@@ -90,7 +90,7 @@ void Roedder::newExercise() {
     drawAxes();
     options_.resetColours();
     options_.chooseNone();
-    // Kept: the boxes hold text and colour until an option is picked.
+    // Kept (roedder-old-answer): the boxes hold text and colour until an option is picked.
     hideAnswer();
     ui_->ok->hide();
 
@@ -142,7 +142,8 @@ void Roedder::askForTwoRoots() {
 void Roedder::askForDoubleRoot() {
     hideAnswer();
     whiten({ui_->rootOne, ui_->rootTwo});
-    // Kept: the first box is hidden with what it holds, and still decides which box is marked.
+    // Kept (roedder-hidden-box): the first box is hidden with what it holds, and still decides which box is
+    // marked.
     ui_->rootTwo->setContent("");
     nameSecondBox(RootCount::Double);
     showAll({ui_->rootTwo, ui_->doubleRootCaption, ui_->ok});
@@ -250,7 +251,8 @@ void Roedder::fillWorkedDoubleRoot() {
 void Roedder::clearWorkedSolution() {
     for (const WorkedPart& part : kWorkedParts) {
         const WorkedControls controls = WorkedControls::of(*design(), part.name);
-        // Kept: the places of the numbers are emptied and stay; the rest is hidden until help is asked for.
+        // Kept (roedder-empty-places): the places of the numbers are emptied and stay; the rest is hidden
+        // until help is asked for.
         for (Label* number : controls.numbers) {
             number->setCaption("");
         }

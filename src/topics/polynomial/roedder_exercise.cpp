@@ -15,7 +15,7 @@ struct Spacing {
     const char* beforeD;
 };
 
-// Kept: none, one, and two or three negative numbers have blanks of their own.
+// Kept (roedder-uneven-blanks): none, one, and two or three negative numbers have blanks of their own.
 constexpr std::array kSpacing{
     Spacing{" ² - 4 ·", "·", "="},
     Spacing{" ² - 4· ", " · ", " = "},

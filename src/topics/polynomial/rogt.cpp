@@ -17,7 +17,8 @@ constexpr double kHalfTick = 0.5;
 
 Rogt::Rogt(Draws& draws) : ExerciseForm(PageName::Rogt, draws), ui_(std::make_unique<Ui::Rogt>()) {
     setUp(*ui_);
-    // Kept: the vertex is walked from its right-hand box to the left one, against the layout.
+    // Kept (rogt-right-to-left): the vertex is walked from its right-hand box to the left one, against the
+    // layout.
     enterChain({ui_->rootOne, ui_->rootTwo, ui_->vertexPrice, ui_->vertexQuantity}, LastBox::OkOrStay);
     options_ = {{ui_->twoRoots, RootCount::Two},
                 {ui_->doubleRoot, RootCount::Double},
@@ -44,7 +45,7 @@ std::vector<AnswerBox*> Rogt::chosenRootBoxes() const {
 }
 
 void Rogt::colourRightOption() {
-    // Kept: two roots get no green.
+    // Kept (rogt-no-green): two roots get no green.
     switch (rootCountOf(state_.discriminant)) {
         case RootCount::Two:
             break;

@@ -38,8 +38,8 @@ struct VertexMatch {
 
 /// What "&Giv svaret" writes, to 2 decimals; a double root is in both, and without roots they are empty.
 ///
-/// Kept: a negative half such as -0.125 is shown as -0.13, which typed in would be wrong, since the tolerance
-/// is open below.
+/// Kept (rogt-negative-halves): a negative half such as -0.125 is shown as -0.13, which typed in would be
+/// wrong, since the tolerance is open below.
 struct RogtAnswer {
     std::string root1;
     std::string root2;

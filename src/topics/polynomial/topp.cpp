@@ -19,7 +19,7 @@ constexpr double kGap = 4;
 
 Topp::Topp(Draws& draws) : ExerciseForm(PageName::Topp, draws), ui_(std::make_unique<Ui::Topp>()) {
     setUp(*ui_);
-    // Kept: from the right-hand box to the left-hand one.
+    // Kept (topp-right-to-left): from the right-hand box to the left-hand one.
     enterChain({ui_->vertexPrice, ui_->vertexQuantity}, LastBox::OkOrStay);
     onClick(ui_->showWorkedSolution, &Topp::showWorkedSolution);
 }

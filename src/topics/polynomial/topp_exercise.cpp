@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kLargestA = 3;
 constexpr int kLargestBOrC = 10;
-/// The twelfth pattern is never drawn.
+/// Kept (topp-twelfth-pattern): the twelfth is never drawn.
 constexpr int kPatternsDrawn = 11;
 constexpr int kReach = 15;
 
@@ -31,7 +31,7 @@ constexpr std::array kPatterns{
     asShown(P, M, O),
     asShown(P, M, M),
     asShown(M, P, P),
-    // Kept: the task shows -bQ, and the vertex wanted is that of +bQ.
+    // Kept (topp-minus-b): the task shows -bQ, and the vertex wanted is that of +bQ.
     ToppPattern{.shown = {M, M, O}, .stored = {M, P, O}},
     asShown(M, P, M),
     asShown(M, O, P),
@@ -54,7 +54,7 @@ void drawPolynomial(ToppState& s, Draws& draws) {
 std::string discriminantText(const ToppState& s) {
     const auto& [a, b, c] = s.polynomial;
     const bool isAnyNegative = a < 0 || b < 0 || c < 0;
-    // Kept: only without any brackets the square stands apart from its base.
+    // Kept (topp-square-apart): only without any brackets the square stands apart from its base.
     const char* const square = isAnyNegative ? "²" : " ²";
     return "d = " + bracketed(b) + square + " - 4 · " + bracketed(a) + " · " + bracketed(c) + " = " +
            NumberText(s.discriminant);

@@ -45,7 +45,8 @@ struct ToppVerdict {
 
 [[nodiscard]] ToppVerdict judge(const ToppState& state, double typedQ, double typedP);
 
-/// The coordinates with two decimals, as the student is shown them.
+/// The coordinates with two decimals, as the student is shown them. Kept (topp-negative-halves): a negative
+/// half is rounded away from zero, which typed in is wrong.
 [[nodiscard]] std::string answerTextOfQ(const ToppState& state);
 [[nodiscard]] std::string answerTextOfP(const ToppState& state);
 

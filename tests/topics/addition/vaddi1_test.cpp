@@ -8,8 +8,8 @@
 
 #include "app/program.h"
 #include "graph/graph_box.h"
-#include "numeric/arithmetic.h"
 #include "numeric/text.h"
+#include "shell/failure.h"
 #include "support/decimal_mark.h"
 #include "support/fixed_texts.h"
 #include "support/form_driver.h"

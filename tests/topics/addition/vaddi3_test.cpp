@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "numeric/arithmetic.h"
 #include "numeric/text.h"
+#include "shell/failure.h"
 #include "support/decimal_mark.h"
 #include "support/fixed_texts.h"
 #include "support/form_driver.h"

@@ -49,7 +49,7 @@ TEST_F(BrokForm, IsBlankUntilItsOpening) {
     EXPECT_EQ(unshown.caption("task"), "Løs opgaven");
     EXPECT_EQ(unshown.caption("firstNumerator"), "");
     for (const char* hidden : {"giveAnswer", "verdict", "reducedEquals", "reducedBar", "reducedWholeNumber",
-                               "helpPanel", "solutionStep"}) {
+                               "helpPanel", "workedSolution"}) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
 }
@@ -234,7 +234,7 @@ TEST_F(BrokForm, ForgetsEverythingWithTheNextExercise) {
     f.click("showWorkedSolution");
     script(1, 2, 1, 3, Add);
     f.click("newExercise");
-    for (const char* hidden : {"helpPanel", "solutionStep", "reducedWholeNumber", "reducedEquals",
+    for (const char* hidden : {"helpPanel", "workedSolution", "reducedWholeNumber", "reducedEquals",
                                "reducedBar", "verdict", "giveAnswer"}) {
         EXPECT_FALSE(f.isShown(hidden)) << hidden;
     }
@@ -254,7 +254,7 @@ TEST_F(BrokForm, OpensTheGeneralMethodOfItsOperator) {
     const FormDriver& f = open(1, 2, 1, 3, Subtract);
     f.click("help");
     EXPECT_TRUE(f.isShown("helpPanel"));
-    EXPECT_FALSE(f.isShown("solutionStep"));
+    EXPECT_FALSE(f.isShown("workedSolution"));
     EXPECT_EQ(f.focus(), "showWorkedSolution");
     EXPECT_EQ(f.caption("generalOperatorSign"), "-");
     EXPECT_EQ(f.caption("generalTask"), "I denne opgave skal du trække én brøk fra en anden");
@@ -284,7 +284,7 @@ TEST_F(BrokForm, WorksTheTaskOutInARow) {
     const FormDriver& f = open(-1, 2, 3, -4, Add);  // 10/-8
     f.click("help");
     f.press("showWorkedSolution", Qt::Key_Return);
-    EXPECT_TRUE(f.isShown("solutionStep"));
+    EXPECT_TRUE(f.isShown("workedSolution"));
     std::string row;
     for (const char* piece : {"workedFirstNumerator", "workedFirstDenominator", "workedOperatorSign",
                               "workedSecondNumerator", "workedSecondDenominator", "workedWrittenOutEquals",
@@ -346,7 +346,7 @@ TEST_F(BrokForm, ClosesItsHelpAndKeepsWhatWasTyped) {
     f.click("showWorkedSolution");
     f.click("closeHelp");
     EXPECT_FALSE(f.isShown("helpPanel"));
-    EXPECT_FALSE(f.isShown("solutionStep"));
+    EXPECT_FALSE(f.isShown("workedSolution"));
     EXPECT_EQ(f.box("numerator").content(), "4");
 }
 

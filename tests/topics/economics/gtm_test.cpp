@@ -796,6 +796,31 @@ TEST_F(GtmForm, RaisesExponentsBehindTheirQ) {
     EXPECT_EQ(exponentOffsets(StepText(f.find("tvcGivenAvcStep"))), (std::vector<double>{120, 120, 120}));
 }
 
+TEST_F(GtmForm, SetsExponentsNearerInTwoRows) {
+    struct Step {
+        Kind given;
+        const char* vis;
+        const char* box;
+        std::vector<double> offsets;
+    };
+    // Of each row: two exponents in a cubic, one in a parabola.
+    const std::vector<double> twoRows{120, 120, 120};
+    const std::vector<double> derivative{120, 120, 120, 120};
+    const FormDriver& f = openPlain();
+    for (const auto& [given, vis, box, offsets] :
+         {Step{Avc, "showAvcGivenTvc", "avcGivenTvcStep", twoRows},
+          Step{Avc, "showAvcGivenMc", "avcGivenMcStep", derivative},
+          Step{Tvc, "showTvcGivenAvc", "tvcGivenAvcStep", twoRows},
+          Step{Tvc, "showTvcGivenMc", "tvcGivenMcStep", derivative},
+          Step{Mc, "showMcGivenTvc", "mcGivenTvcStep", {120, 100, 100, 120, 120}},
+          Step{Mc, "showMcGivenAvc", "mcGivenAvcStep", {100, 100, 120}}}) {
+        next({0.5, -3, 9}, given);
+        f.click("help");
+        f.click(vis);
+        EXPECT_EQ(exponentOffsets(StepText(f.find(box))), offsets) << vis;
+    }
+}
+
 TEST_F(GtmForm, SetsItsFractionsWithBarsIntoTheRow) {
     const FormDriver& f = open({1.5, -3, 8}, Mc);
     f.click("help");

@@ -37,8 +37,8 @@ using Names = std::vector<std::string>;
 /// Everything of the current solution but the numbers in it.
 const Names kPieces{"workedTwoRootsConclusion",  "workedDoubleRootConclusion", "workedNoRootsConclusion",
                     "workedTwoRootsCase",        "workedRootOneEquals",        "workedRootOneLeadingMinus",
-                    "workedRootOnePlusRoot",     "workedRootOneResultEquals",  "workedRootTwoEquals",
-                    "workedRootTwoLeadingMinus", "workedRootTwoMinusRoot",     "workedRootTwoResultEquals",
+                    "workedRootOnePlus",     "workedRootOneResultEquals",  "workedRootTwoEquals",
+                    "workedRootTwoLeadingMinus", "workedRootTwoMinus",     "workedRootTwoResultEquals",
                     "workedDoubleRootCase",      "workedDoubleRootEquals",     "workedDoubleRootResultEquals",
                     "workedNoRootsCase",         "workedNoRootsText",          "workedRootOneRootSignHook",
                     "workedRootOneRootSignRise", "workedRootOneRootSignBar",   "workedRootOneBar",
@@ -52,8 +52,8 @@ const Names kNumbers{"workedRootOneCoefficientB",   "workedRootOneDiscriminant",
 /// Those of them that stand with two roots, a double root and none.
 const Names kPiecesOfTwo{
     "workedTwoRootsConclusion",  "workedTwoRootsCase",        "workedRootOneEquals",
-    "workedRootOneLeadingMinus", "workedRootOnePlusRoot",     "workedRootOneResultEquals",
-    "workedRootTwoEquals",       "workedRootTwoLeadingMinus", "workedRootTwoMinusRoot",
+    "workedRootOneLeadingMinus", "workedRootOnePlus",     "workedRootOneResultEquals",
+    "workedRootTwoEquals",       "workedRootTwoLeadingMinus", "workedRootTwoMinus",
     "workedRootTwoResultEquals", "workedRootOneRootSignHook", "workedRootOneRootSignRise",
     "workedRootOneRootSignBar",  "workedRootOneBar",          "workedRootTwoRootSignHook",
     "workedRootTwoRootSignRise", "workedRootTwoRootSignBar",  "workedRootTwoBar"};
@@ -688,10 +688,10 @@ TEST_F(RoedderForm, WorksOutTwoRoots) {
                                 "workedRootTwoDenominator 2 · (-5)", "workedRootTwoResult 0,62"}));
     EXPECT_EQ(f.caption("workedRootOneEquals"), "Rod 1=");
     EXPECT_EQ(f.caption("workedRootOneLeadingMinus"), "-");
-    EXPECT_EQ(f.caption("workedRootOnePlusRoot"), "+");
+    EXPECT_EQ(f.caption("workedRootOnePlus"), "+");
     EXPECT_EQ(f.caption("workedRootTwoEquals"), "Rod 2=");
     EXPECT_EQ(f.caption("workedRootTwoLeadingMinus"), "-");
-    EXPECT_EQ(f.caption("workedRootTwoMinusRoot"), "-");
+    EXPECT_EQ(f.caption("workedRootTwoMinus"), "-");
     EXPECT_EQ(f.caption("workedRootOneResultEquals"), "=");
     EXPECT_EQ(f.caption("workedRootTwoResultEquals"), "=");
 }

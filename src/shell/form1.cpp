@@ -1,7 +1,6 @@
-#include "shell/how_to_use.h"
+#include "shell/form1.h"
 
 #include "shell/ui_form1.h"
-#include "shell/ui_form2.h"
 
 namespace tavrune {
 namespace {
@@ -100,13 +99,6 @@ Form1::Form1() : Page(PageName::Form1) {
 
     connect(ui.nextPage, &Button::clicked, this, [this] { emit chosen(PageName::Form2); });
     ui.nextPage->setFocus();
-}
-
-Form2::Form2() : Page(PageName::Form2) {
-    Ui::Form2 ui;
-    setUp(ui);
-    connect(ui.previousPage, &Button::clicked, this, [this] { emit chosen(PageName::Form1); });
-    ui.previousPage->setFocus();
 }
 
 }  // namespace tavrune

@@ -4,14 +4,6 @@
 
 namespace tavrune {
 
-/// The first how-to-use page: what the program is and what its buttons do.
-class Form1 : public Page {
-    Q_OBJECT
-
-public:
-    Form1();
-};
-
 /// The second how-to-use page: the twelve topics.
 class Form2 : public Page {
     Q_OBJECT
