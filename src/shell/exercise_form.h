@@ -68,8 +68,8 @@ protected:
     /// says.
     void enterChainWhileShown(const std::vector<AnswerBox*>& boxes, LastBox last);
 
-    /// Enter goes from `box` to the first of `candidates` that is shown, or nowhere. A later call for the same
-    /// box replaces an earlier one.
+    /// Enter goes from `box` to the first of `candidates` that is shown, or nowhere. A later call for the
+    /// same box replaces an earlier one.
     void enterGoes(AnswerBox* box, std::vector<QWidget*> candidates);
 
     /// The targets of a last box.
