@@ -37,8 +37,8 @@ using Names = std::vector<std::string>;
 /// Everything of the current solution but the numbers in it.
 const Names kPieces{"workedTwoRootsConclusion",  "workedDoubleRootConclusion", "workedNoRootsConclusion",
                     "workedTwoRootsCase",        "workedRootOneEquals",        "workedRootOneLeadingMinus",
-                    "workedRootOnePlus",     "workedRootOneResultEquals",  "workedRootTwoEquals",
-                    "workedRootTwoLeadingMinus", "workedRootTwoMinus",     "workedRootTwoResultEquals",
+                    "workedRootOnePlus",         "workedRootOneResultEquals",  "workedRootTwoEquals",
+                    "workedRootTwoLeadingMinus", "workedRootTwoMinus",         "workedRootTwoResultEquals",
                     "workedDoubleRootCase",      "workedDoubleRootEquals",     "workedDoubleRootResultEquals",
                     "workedNoRootsCase",         "workedNoRootsText",          "workedRootOneRootSignHook",
                     "workedRootOneRootSignRise", "workedRootOneRootSignBar",   "workedRootOneBar",
@@ -52,7 +52,7 @@ const Names kNumbers{"workedRootOneCoefficientB",   "workedRootOneDiscriminant",
 /// Those of them that stand with two roots, a double root and none.
 const Names kPiecesOfTwo{
     "workedTwoRootsConclusion",  "workedTwoRootsCase",        "workedRootOneEquals",
-    "workedRootOneLeadingMinus", "workedRootOnePlus",     "workedRootOneResultEquals",
+    "workedRootOneLeadingMinus", "workedRootOnePlus",         "workedRootOneResultEquals",
     "workedRootTwoEquals",       "workedRootTwoLeadingMinus", "workedRootTwoMinus",
     "workedRootTwoResultEquals", "workedRootOneRootSignHook", "workedRootOneRootSignRise",
     "workedRootOneRootSignBar",  "workedRootOneBar",          "workedRootTwoRootSignHook",
