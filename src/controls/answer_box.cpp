@@ -50,15 +50,14 @@ double AnswerBox::value() const { return Val(content()); }
 
 void AnswerBox::setContent(std::string_view content) { setText(fromUtf8(content)); }
 
-void AnswerBox::setBackColour(const QColor& colour) {
-    if (backColour() != colour) {
-        setPaletteColour(QPalette::Base, colour);
+void AnswerBox::mark(bool wrong) {
+    if (isMarked_ == wrong) {
+        return;
     }
+    isMarked_ = wrong;
+    setPaletteColour(QPalette::Base, wrong ? kRed : kWhite);
     // What the colour says to the eye.
-    const QString words = colour == kRed ? "forkert" : "";
-    if (accessibleDescription() != words) {
-        setAccessibleDescription(words);
-    }
+    setAccessibleDescription(wrong ? "forkert" : "");
 }
 
 void AnswerBox::fontHasChanged() {

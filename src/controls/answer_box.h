@@ -26,11 +26,12 @@ public:
     /// UTF-8; nothing is converted.
     void setContent(std::string_view content);
 
-    void setBackColour(const QColor& colour);
-    [[nodiscard]] QColor backColour() const { return palette().color(QPalette::Base); }
+    /// Marks the answer as wrong, or takes the mark away. The box is red then, otherwise neutral white, and
+    /// screen readers are told.
+    void mark(bool wrong);
+    [[nodiscard]] bool isMarked() const { return isMarked_; }
 
-    /// Red, if the answer is wrong, otherwise neutral white.
-    void mark(bool wrong) { setBackColour(wrong ? kRed : kWhite); }
+    [[nodiscard]] QColor backColour() const { return palette().color(QPalette::Base); }
 
 signals:
     void enterPressed();
@@ -39,6 +40,9 @@ protected:
     void fontHasChanged() override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+
+private:
+    bool isMarked_ = false;
 };
 
 }  // namespace tavrune

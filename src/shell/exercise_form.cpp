@@ -215,7 +215,7 @@ void ExerciseForm::announce(Label* verdict, const QString& words) {
 
 QStringList ExerciseForm::wrongFields() const {
     QList<AnswerBox*> boxes = design()->findChildren<AnswerBox*>();
-    boxes.removeIf([](const AnswerBox* box) { return !box->isVisible() || box->backColour() != kRed; });
+    boxes.removeIf([](const AnswerBox* box) { return !box->isVisible() || !box->isMarked(); });
     const auto place = [this](const AnswerBox* box) {
         const QPoint corner = box->mapTo(design(), QPoint(0, 0));
         return std::tuple(corner.y(), corner.x());

@@ -133,7 +133,7 @@ private:
     /// Judges, and announces the verdict, if there is one.
     void judgeAloud();
     void announce(Label* verdict, const QString& words);
-    /// The names of the boxes that are red for all to see, in reading order.
+    /// The names of the boxes that are marked as wrong for all to see, in reading order.
     [[nodiscard]] QStringList wrongFields() const;
 
     Draws& draws_;

@@ -108,6 +108,13 @@ TEST(Arrows, KeepQtOutOfNumbersAndExercises) {
     }
 }
 
+TEST(Arrows, KeepJudgingOutOfForms) {
+    for (const Include& include : allIncludes()) {
+        EXPECT_FALSE(include.room.rfind("form/", 0) == 0 && include.header == "numeric/judging.h")
+            << include.file << " includes " << include.header;
+    }
+}
+
 TEST(Arrows, ForbidWhatTheyShould) {
     EXPECT_FALSE(mayInclude("numeric", "graph"));
     EXPECT_FALSE(mayInclude("shell", "form/basics"));

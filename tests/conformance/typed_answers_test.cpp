@@ -43,7 +43,7 @@ Names visibleBoxes(const FormDriver& form) {
 Names redBoxes(const FormDriver& form) {
     Names red;
     for (const std::string& name : visibleBoxes(form)) {
-        if (form.box(name).backColour() == kRed) {
+        if (form.box(name).isMarked()) {
             red.insert(name);
         }
     }

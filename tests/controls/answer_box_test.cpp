@@ -111,6 +111,7 @@ TEST(AnswerBox, IsWhiteUntilItIsMarkedWrong) {
     AnswerBox box;
     EXPECT_EQ(box.backColour(), kWhite);
     box.mark(true);
+    EXPECT_TRUE(box.isMarked());
     EXPECT_EQ(box.backColour(), QColor(255, 0, 0));
     box.mark(false);
     EXPECT_EQ(box.backColour(), kWhite);

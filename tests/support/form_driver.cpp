@@ -55,10 +55,11 @@ std::set<std::string> FormDriver::redBoxes() const {
     std::set<std::string> red;
     for (const AnswerBox* box : page_->findChildren<AnswerBox*>()) {
         const std::string name = box->objectName().toStdString();
-        if (box->backColour() == kRed) {
+        if (box->isMarked()) {
             red.insert(name);
-        } else if (box->backColour() != kWhite) {
-            throw std::logic_error(name + " is neither red nor white");
+        }
+        if (box->backColour() != (box->isMarked() ? kRed : kWhite)) {
+            throw std::logic_error(name + " has not the colour of its mark");
         }
     }
     return red;

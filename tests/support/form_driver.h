@@ -64,7 +64,8 @@ public:
         return page_->findChild<AnswerBox*>(QString::fromStdString(focus()));
     }
 
-    /// The names of the answer boxes that are red. Throws if one is neither red nor white.
+    /// The names of the answer boxes that are marked as wrong. Throws if one is not red then, or not white
+    /// else.
     [[nodiscard]] std::set<std::string> redBoxes() const;
 
     /// Sets the texts of boxes, by their names, without a key.

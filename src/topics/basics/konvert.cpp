@@ -3,7 +3,6 @@
 #include <array>
 #include <utility>
 
-#include "numeric/judging.h"
 #include "numeric/text.h"
 #include "topics/basics/ui_konvert.h"
 
@@ -135,14 +134,10 @@ void Konvert::drawFunction(double slope, double constant, const QColor& colour) 
 void Konvert::judge() {
     hideVerdict();
     ui_->giveAnswer->hide();
-    bool allRight = true;
-    for (const auto& [box, target] :
-         {std::pair{ui_->slope, state_.newSlope}, {ui_->intercept, state_.newConstant}}) {
-        const bool isRight = isClosedNear(box->value(), target);
-        box->mark(!isRight);
-        allRight = allRight && isRight;
-    }
-    if (!allRight) {
+    const KonvertJudgement judgement = tavrune::judge(state_, ui_->slope->value(), ui_->intercept->value());
+    ui_->slope->mark(!judgement.slopeIsRight);
+    ui_->intercept->mark(!judgement.constantIsRight);
+    if (!judgement.isSolved()) {
         failed();
         focusOn(ui_->slope);
         return;

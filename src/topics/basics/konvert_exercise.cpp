@@ -1,6 +1,7 @@
 #include "topics/basics/konvert_exercise.h"
 
 #include "numeric/arithmetic.h"
+#include "numeric/judging.h"
 #include "numeric/rounding.h"
 #include "numeric/text.h"
 
@@ -47,6 +48,11 @@ void newExercise(KonvertState& state, Draws& draws) {
         state.newSlope = state.givenSlope / (state.factor * state.factor);
         state.newConstant = state.givenConstant / state.factor;
     } while (state.newSlope < -kSteepest || state.newSlope > kSteepest);
+}
+
+KonvertJudgement judge(const KonvertState& state, double slope, double constant) {
+    return {.slopeIsRight = isClosedNear(slope, state.newSlope),
+            .constantIsRight = isClosedNear(constant, state.newConstant)};
 }
 
 void roundSolution(KonvertState& state) {

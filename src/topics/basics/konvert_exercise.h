@@ -26,6 +26,17 @@ struct KonvertState {
 /// Draws until the new slope lies from -50 to 50.
 void newExercise(KonvertState& state, Draws& draws);
 
+/// Which of the two numbers are right.
+struct KonvertJudgement {
+    bool slopeIsRight;
+    bool constantIsRight;
+
+    [[nodiscard]] bool isSolved() const { return slopeIsRight && constantIsRight; }
+};
+
+/// Judges the typed numbers: within 0.005 of the solution as it is stored, both ends included.
+[[nodiscard]] KonvertJudgement judge(const KonvertState& state, double slope, double constant);
+
 /// Rounds the solution where it is stored: from then on it is judged and drawn with 3 decimals.
 void roundSolution(KonvertState& state);
 

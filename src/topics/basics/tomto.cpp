@@ -3,7 +3,6 @@
 #include "controls/frame.h"
 #include "controls/panel.h"
 #include "graph/graph_box.h"
-#include "numeric/judging.h"
 #include "numeric/text.h"
 #include "topics/basics/ui_tomto.h"
 
@@ -33,10 +32,6 @@ Tomto::Tomto(Draws& draws) : ExerciseForm(PageName::Tomto, draws), ui_(std::make
 }
 
 Tomto::~Tomto() = default;
-
-std::array<Tomto::Field, 2> Tomto::fields() const {
-    return {{{ui_->crossingPointQuantity, state_.solutionQ}, {ui_->crossingPointPrice, state_.solutionP}}};
-}
 
 void Tomto::opened() {
     markMiddles(kShortAxis);
@@ -97,8 +92,9 @@ void Tomto::judge() {
     setRange();
     const float max = state_.graphMax;
     ui_->graph->Scale(0, max, max, 0);
-    if (isRight(state_, options_.chosen(), ui_->crossingPointQuantity->value(),
-                ui_->crossingPointPrice->value())) {
+    const TomtoJudgement judgement = tavrune::judge(
+        state_, options_.chosen(), ui_->crossingPointQuantity->value(), ui_->crossingPointPrice->value());
+    if (judgement.isSolved) {
         whiten({ui_->crossingPointQuantity, ui_->crossingPointPrice});
         solved();
         drawLines(state_.form == LineForm::Implicit ? kBlack : kGreen);
@@ -108,9 +104,8 @@ void Tomto::judge() {
     focusOn(ui_->crossingPointPrice);
     failed();
     // Hidden fields too, whatever is chosen.
-    for (const auto& [box, target] : fields()) {
-        box->mark(!isExactly(box->value(), target));
-    }
+    ui_->crossingPointQuantity->mark(!judgement.qIsRight);
+    ui_->crossingPointPrice->mark(!judgement.pIsRight);
 }
 
 void Tomto::giveAnswer() {
@@ -122,9 +117,8 @@ void Tomto::giveAnswer() {
     options_.choose(state_.relation);
     options_.colour(state_.relation, kGreen);
     if (state_.relation == Relation::Crossing) {
-        for (const auto& [box, target] : fields()) {
-            box->setContent(NumberText(target));
-        }
+        ui_->crossingPointQuantity->setContent(NumberText(state_.solutionQ));
+        ui_->crossingPointPrice->setContent(NumberText(state_.solutionP));
         showAll({ui_->crossingPoint, ui_->crossingPointEquals});
     }
     given();

@@ -32,13 +32,6 @@ protected:
     void help() override;
 
 private:
-    struct Field {
-        AnswerBox* box;
-        double target;
-    };
-
-    [[nodiscard]] std::array<Field, 2> fields() const;
-
     void prepare();
     void showTask();
     void askForCrossing();

@@ -142,11 +142,12 @@ std::array<std::string, 2> lineTexts(const TomtoState& s) {
     return {explicitText("l", s.a1, s.b1), explicitText("m", s.a2, s.b2)};
 }
 
-bool isRight(const TomtoState& state, std::optional<Relation> chosen, double q, double p) {
-    if (chosen != state.relation) {
-        return false;
-    }
-    return chosen != Relation::Crossing || (isExactly(q, state.solutionQ) && isExactly(p, state.solutionP));
+TomtoJudgement judge(const TomtoState& state, std::optional<Relation> chosen, double q, double p) {
+    const bool qIsRight = isExactly(q, state.solutionQ);
+    const bool pIsRight = isExactly(p, state.solutionP);
+    return {.isSolved = chosen == state.relation && (chosen != Relation::Crossing || (qIsRight && pIsRight)),
+            .qIsRight = qIsRight,
+            .pIsRight = pIsRight};
 }
 
 float rangeFor(const TomtoState& state) {

@@ -47,9 +47,18 @@ void newExercise(TomtoState& state, Draws& draws);
 /// The two lines of the task as they are written.
 [[nodiscard]] std::array<std::string, 2> lineTexts(const TomtoState& state);
 
-/// True if the relation is the chosen one and, for crossing lines, both typed numbers are the rounded
-/// coordinates. Nothing is right as long as nothing is chosen.
-[[nodiscard]] bool isRight(const TomtoState& state, std::optional<Relation> chosen, double q, double p);
+/// What is right of an answer.
+struct TomtoJudgement {
+    /// The relation is the chosen one and, for crossing lines, both typed numbers are the rounded
+    /// coordinates. Nothing is right as long as nothing is chosen.
+    bool isSolved;
+    /// The typed numbers by themselves, whatever is chosen.
+    bool qIsRight;
+    bool pIsRight;
+};
+
+[[nodiscard]] TomtoJudgement judge(const TomtoState& state, std::optional<Relation> chosen, double q,
+                                   double p);
 
 /// The upper end of axes that the crossing is seen on.
 [[nodiscard]] float rangeFor(const TomtoState& state);

@@ -169,9 +169,9 @@ bool Rogt::judgeVertex() {
 }
 
 void Rogt::focusOnWrongBox() {
-    // The last of these that is red and shown gets it; without one the focus stays.
+    // The last of these that is marked and shown gets it; without one the focus stays.
     for (AnswerBox* box : {ui_->vertexQuantity, ui_->vertexPrice, ui_->rootTwo, ui_->rootOne}) {
-        if (box->backColour() == kRed && box->isShown()) {
+        if (box->isMarked() && box->isShown()) {
             focusOn(box);
         }
     }

@@ -129,7 +129,7 @@ protected:
     [[nodiscard]] Names redBoxes() const {
         Names red;
         for (const std::string& name : kAnswerBoxes) {
-            if (form->box(name).backColour() == kRed) {
+            if (form->box(name).isMarked()) {
                 red.push_back(name);
             }
         }

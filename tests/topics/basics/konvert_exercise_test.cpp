@@ -311,5 +311,19 @@ TEST(KonvertSeeds, GiveEachKindAboutAsOften) {
     EXPECT_LT(fractions, 5'500);
 }
 
+TEST(KonvertJudge, TakesBothEndsOfTheToleranceOfEachNumber) {
+    KonvertState s;
+    s.newSlope = -0.25;
+    s.newConstant = 5;
+    EXPECT_TRUE(judge(s, -0.25, 5).isSolved());
+    EXPECT_TRUE(judge(s, -0.255, 5).slopeIsRight);
+    EXPECT_TRUE(judge(s, -0.245, 5).slopeIsRight);
+    EXPECT_FALSE(judge(s, -0.2551, 5).slopeIsRight);
+    EXPECT_TRUE(judge(s, -0.2551, 5).constantIsRight);
+    EXPECT_TRUE(judge(s, -0.25, 5.005).constantIsRight);
+    EXPECT_FALSE(judge(s, -0.25, 4.9949).constantIsRight);
+    EXPECT_FALSE(judge(s, -0.25, 4.9949).isSolved());
+}
+
 }  // namespace
 }  // namespace tavrune

@@ -17,6 +17,10 @@
 namespace tavrune {
 namespace {
 
+bool isRight(const TomtoState& state, std::optional<Relation> chosen, double q, double p) {
+    return judge(state, chosen, q, p).isSolved;
+}
+
 using test::endsIn;
 using test::Proof;
 using test::ProofDraws;
@@ -251,6 +255,20 @@ TEST(TomtoTexts, SetLinesOfThreeTermsEqualToZero) {
     const auto [first, second] = lineTexts(exercise({-9, -10, 9, -10, -9, 9}, Implicit));
     EXPECT_EQ(first, "-10P - 9Q + 9 =  0");
     EXPECT_EQ(second, "-9P - 10Q + 9 =  0");
+}
+
+TEST(TomtoJudge, TellsOfEachNumberByItselfWhateverIsChosen) {
+    TomtoState s;
+    s.relation = Relation::Crossing;
+    s.solutionQ = 2.6;
+    s.solutionP = 2.8;
+    for (const std::optional<Relation> chosen :
+         {std::optional<Relation>(), std::optional(Relation::Crossing), std::optional(Relation::Parallel)}) {
+        const TomtoJudgement judgement = judge(s, chosen, 2.6, 2.81);
+        EXPECT_TRUE(judgement.qIsRight);
+        EXPECT_FALSE(judgement.pIsRight);
+        EXPECT_FALSE(judgement.isSolved);
+    }
 }
 
 TEST(TomtoJudge, TakesACrossingByItsExactRoundedCoordinates) {

@@ -177,7 +177,7 @@ protected:
     [[nodiscard]] Names redBoxes() const {
         Names names;
         for (const char* name : {"rootOne", "rootTwo"}) {
-            if (form->box(name).backColour() == kRed) {
+            if (form->box(name).isMarked()) {
                 names.emplace_back(name);
             } else {
                 EXPECT_EQ(form->box(name).backColour(), kWhite) << name;
