@@ -77,7 +77,7 @@ enum class Direction { Rising, Falling };
 [[nodiscard]] constexpr int factorOf(Direction direction) { return direction == Direction::Rising ? 1 : -1; }
 
 /// The edge of the graph at which the sum ends, unless a level function ends it before.
-[[nodiscard]] constexpr double lastPriceOf(Direction direction) {
+[[nodiscard]] constexpr double endPrice(Direction direction) {
     return direction == Direction::Rising ? kTopPrice : 0;
 }
 

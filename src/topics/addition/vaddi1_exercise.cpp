@@ -80,7 +80,7 @@ void solveSloping(Vaddi1State& s) {
     const auto quantity = [](double price, const Piece& f) { return (price - f.intercept) / f.slope; };
     const double atKink1 = quantity(inner, s.function1());
     const double atKink2 = quantity(inner, s.function2());
-    const double end = lastPriceOf(s.direction);
+    const double end = endPrice(s.direction);
     const double atEnd1 = quantity(end, s.function1());
     const double atEnd2 = quantity(end, s.function2());
     const double sum = atEnd1 + atEnd2;

@@ -186,7 +186,7 @@ void Vaddi2::closePanel() {
 void Vaddi2::showPrices() {
     focusOn(ui_->showQuantities);
     writeColumn(columnP_, state_.tableP);
-    const double edge = lastPriceOf(state_.direction);
+    const double edge = endPrice(state_.direction);
     for (std::size_t f = 0; f < given_.size(); ++f) {
         const Vaddi2State::Column& quantities = state_.tableQ[f];
         GraphBox& box = *given_[f].graph.box;

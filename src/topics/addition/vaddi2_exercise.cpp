@@ -109,7 +109,7 @@ void fillTable(Vaddi2State& s, const std::vector<Start>& starts) {
     const auto rows = static_cast<std::size_t>(s.segmentCount) + 1;
     for (std::size_t row = 0; row < s.tableP.size(); ++row) {
         if (row < rows) {
-            fillRow(s, row, row < starts.size() ? starts[row].price : lastPriceOf(s.direction));
+            fillRow(s, row, row < starts.size() ? starts[row].price : endPrice(s.direction));
         } else {
             s.tableP[row] = s.tableQtotal[row] = kBlank;
             for (Vaddi2State::Column& column : s.tableQ) {

@@ -42,7 +42,7 @@ Vaddi3::~Vaddi3() = default;
 void Vaddi3::bindBoxes() {
     rows_ = AnswerRows::of(*design());
     std::size_t place = 0;
-    for (const char* name : {"wideTablePrice", "priceOrPart1Quantity", "function1OrPart2Quantity",
+    for (const char* name : {"wideTablePrice", "part1QuantityOrPrice", "function1OrPart2Quantity",
                              "function2Quantity", "totalOrPart1TotalQuantity", "part2TotalQuantity"}) {
         table_.at(place++) = helpColumnOf(*design(), name);
     }
@@ -175,7 +175,7 @@ void Vaddi3::drawGivenFunctions() {
 }
 
 void Vaddi3::focusOnTable() {
-    focusOn(state_.isJumpUp() ? ui_->wideTablePrice1 : ui_->priceOrPart1Quantity1);
+    focusOn(state_.isJumpUp() ? ui_->wideTablePrice1 : ui_->part1QuantityOrPrice1);
 }
 
 void Vaddi3::judge() {

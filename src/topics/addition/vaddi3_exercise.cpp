@@ -314,11 +314,11 @@ HelpColumns helpColumns(const Vaddi3State& s) {
     using enum TableColumn;
     if (s.isJumpUp()) {
         return {WidePrice,
-                {{Part::First, PriceOrPart1Quantity, TotalOrPart1Total},
+                {{Part::First, Part1QuantityOrPrice, TotalOrPart1Total},
                  {Part::Second, Function1OrPart2Quantity, Part2Total}},
                 Function2Quantity};
     }
-    return {PriceOrPart1Quantity,
+    return {Part1QuantityOrPrice,
             {{Part::First, Function1OrPart2Quantity, TotalOrPart1Total}},
             Function2Quantity};
 }

@@ -23,7 +23,7 @@ enum class Parts { None, First, Second, Both };
 /// quantity and its own total; otherwise the outer columns are blank, and the price moves one to the right.
 enum class TableColumn {
     WidePrice,
-    PriceOrPart1Quantity,
+    Part1QuantityOrPrice,
     Function1OrPart2Quantity,
     Function2Quantity,
     TotalOrPart1Total,

@@ -97,8 +97,8 @@ TEST(Piece, HasAPriceAtEachQuantity) {
 TEST(Direction, HasAFactorAndAnEdgeWhereTheSumEnds) {
     EXPECT_EQ(factorOf(Direction::Rising), 1);
     EXPECT_EQ(factorOf(Direction::Falling), -1);
-    EXPECT_EQ(lastPriceOf(Direction::Rising), 10);
-    EXPECT_EQ(lastPriceOf(Direction::Falling), 0);
+    EXPECT_EQ(endPrice(Direction::Rising), 10);
+    EXPECT_EQ(endPrice(Direction::Falling), 0);
 }
 
 constexpr double above(double x) { return x + 1e-9; }

@@ -357,7 +357,7 @@ TEST_P(Vaddi3Sum, HasItsPricesAndSegments) {
 TEST(Vaddi3Table, ShiftsByOneColumnWhereFunction1HasOneQuantityAtEveryPrice) {
     const Vaddi3State s = exerciseOf(test::kThreeSegments);
     EXPECT_EQ(columnText(s.column(WidePrice)), " | | | | ");
-    EXPECT_EQ(columnText(s.column(PriceOrPart1Quantity)), "9|7|5|0| ");
+    EXPECT_EQ(columnText(s.column(Part1QuantityOrPrice)), "9|7|5|0| ");
     EXPECT_EQ(columnText(s.column(Function1OrPart2Quantity)), "0|4|4|6.5| ");
     EXPECT_EQ(columnText(s.column(Function2Quantity)), "0|1|2|4.5| ");
     EXPECT_EQ(columnText(s.column(TotalOrPart1Total)), "0|5|6|11| ");
@@ -368,7 +368,7 @@ TEST(Vaddi3Table, ShiftsByOneColumnWhereFunction1HasOneQuantityAtEveryPrice) {
 TEST(Vaddi3Table, HasAColumnForEachPartAtAJumpUp) {
     const Vaddi3State s = exerciseOf(test::kFourSegments);
     EXPECT_EQ(columnText(s.column(WidePrice)), "9|6|5|3|0");
-    EXPECT_EQ(columnText(s.column(PriceOrPart1Quantity)), "0|1|1.33|2|0");
+    EXPECT_EQ(columnText(s.column(Part1QuantityOrPrice)), "0|1|1.33|2|0");
     EXPECT_EQ(columnText(s.column(Function1OrPart2Quantity)), "0|2|4|8|14");
     EXPECT_EQ(columnText(s.column(Function2Quantity)), " | |0|1|2.5");
     EXPECT_EQ(columnText(s.column(TotalOrPart1Total)), "0|1|1.33|3|2.5");
@@ -379,7 +379,7 @@ TEST(Vaddi3Table, HasAColumnForEachPartAtAJumpUp) {
 
 TEST(Vaddi3Table, IsBlankOnlyAboveTheStartOfAFunction) {
     const Vaddi3State above = exerciseOf({KinkKind::JumpUp, 8, -4, 1, -0.5F, 0.5F, -2, 9});
-    EXPECT_EQ(columnText(above.column(PriceOrPart1Quantity)), " |0|0.38|1|0");
+    EXPECT_EQ(columnText(above.column(Part1QuantityOrPrice)), " |0|0.38|1|0");
     EXPECT_EQ(columnText(above.column(Function1OrPart2Quantity)), " |0|1|6|14");
     EXPECT_EQ(columnText(above.column(TotalOrPart1Total)), "0|0.5|1.63|3.5|4.5");
     const Vaddi3State below = exerciseOf(test::kTwoSegments);
@@ -389,7 +389,7 @@ TEST(Vaddi3Table, IsBlankOnlyAboveTheStartOfAFunction) {
 
 TEST(Vaddi3Table, HasAnyQuantityBelowALevelFunction) {
     const Vaddi3State s = exerciseOf(test::kTwoOverALevel);
-    EXPECT_EQ(columnText(s.column(PriceOrPart1Quantity)), "9|7|6|5|0");
+    EXPECT_EQ(columnText(s.column(Part1QuantityOrPrice)), "9|7|6|5|0");
     EXPECT_EQ(columnText(s.column(Function1OrPart2Quantity)), "0|4|4|4|6.5");
     EXPECT_EQ(columnText(s.column(Function2Quantity)), " | |0|oo|oo");
     EXPECT_EQ(columnText(s.column(TotalOrPart1Total)), "0|4|4|oo|oo");
@@ -402,7 +402,7 @@ TEST(Vaddi3Table, HasAnyQuantityBelowALevelFunction) {
 TEST(Vaddi3Table, MergesEqualPricesAndBlanksTheRowsThatAreLeft) {
     // The two kink prices and the start of function 2 are one.
     const Vaddi3State three = exerciseOf(test::kFlatter);
-    EXPECT_EQ(columnText(three.column(PriceOrPart1Quantity)), "9|5|0| | ");
+    EXPECT_EQ(columnText(three.column(Part1QuantityOrPrice)), "9|5|0| | ");
     EXPECT_EQ(columnText(three.column(TotalOrPart1Total)), "0|1|13.5| | ");
     // A merged row at a jump up stays on both parts.
     const Vaddi3State higher = exerciseOf({KinkKind::JumpUp, 9, -3, 2, -0.5F, 0.5F, -2, 6});
@@ -436,7 +436,7 @@ TEST(Vaddi3Table, KeepsThePrecisionOfItsNumbers) {
     // 0.525, from a price that is a double: as a single it would come out below the half.
     const Vaddi3State s = exerciseOf({KinkKind::JumpUp, 8, -4, 1, -0.1F, 0.3F, -1, 9});
     ASSERT_EQ(s.secondIntercept, 6);
-    EXPECT_EQ(columnText(s.column(PriceOrPart1Quantity)), " |0|0.53|1|0");
+    EXPECT_EQ(columnText(s.column(Part1QuantityOrPrice)), " |0|0.53|1|0");
     // 7.125, from singles alone: as doubles they would come out below the half.
     const Vaddi3State singles = exerciseOf({KinkKind::JumpDown, 7, -0.2F, 8, -4, 0.1F, -3, 9});
     EXPECT_EQ(singles.segments[1].piece.intercept, 7.13);

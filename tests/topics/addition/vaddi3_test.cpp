@@ -72,8 +72,8 @@ Stroke piece(double slope, double intercept, double from, double to, const QColo
 
 const std::array<Names, 6> kTable{
     {{"wideTablePrice1", "wideTablePrice2", "wideTablePrice3", "wideTablePrice4", "wideTablePrice5"},
-     {"priceOrPart1Quantity1", "priceOrPart1Quantity2", "priceOrPart1Quantity3", "priceOrPart1Quantity4",
-      "priceOrPart1Quantity5"},
+     {"part1QuantityOrPrice1", "part1QuantityOrPrice2", "part1QuantityOrPrice3", "part1QuantityOrPrice4",
+      "part1QuantityOrPrice5"},
      {"function1OrPart2Quantity1", "function1OrPart2Quantity2", "function1OrPart2Quantity3",
       "function1OrPart2Quantity4", "function1OrPart2Quantity5"},
      {"function2Quantity1", "function2Quantity2", "function2Quantity3", "function2Quantity4",
@@ -261,7 +261,7 @@ TEST_F(Vaddi3Form, ShowsTheWideTableOnlyForAJumpUp) {
         EXPECT_EQ(shownOf(kTable[0]), Names{});
         EXPECT_EQ(shownOf(kTable[5]), Names{});
         EXPECT_EQ(shownOf(kTable[1]), kTable[1]);
-        EXPECT_EQ(f.focus(), "priceOrPart1Quantity1");
+        EXPECT_EQ(f.focus(), "part1QuantityOrPrice1");
     }
 }
 
@@ -391,10 +391,10 @@ TEST_P(Vaddi3Rows, AreWalkedByEnter) {
     }
     expected.insert(expected.end(), GetParam().boxes.begin(), GetParam().boxes.end());
     expected.emplace_back("ok");
-    EXPECT_EQ(walkFrom(isWide ? "wideTablePrice1" : "priceOrPart1Quantity1"), expected);
+    EXPECT_EQ(walkFrom(isWide ? "wideTablePrice1" : "part1QuantityOrPrice1"), expected);
     f.click("showSum");
     expected.back() = "newExercise";
-    EXPECT_EQ(walkFrom(isWide ? "wideTablePrice1" : "priceOrPart1Quantity1"), expected);
+    EXPECT_EQ(walkFrom(isWide ? "wideTablePrice1" : "part1QuantityOrPrice1"), expected);
 }
 
 TEST_P(Vaddi3Rows, AreFilledAndWhiteAfterTheAnswer) {
@@ -785,7 +785,7 @@ TEST_F(Vaddi3Form, HelpsWithTheTextOfTheKind) {
         EXPECT_FALSE(f.isShown("jumpUpQuantitiesStepText"));
         EXPECT_TRUE(f.isShown("quantitiesStepText"));
         f.click("closeHelp");
-        EXPECT_EQ(f.focus(), "priceOrPart1Quantity1");
+        EXPECT_EQ(f.focus(), "part1QuantityOrPrice1");
     }
 }
 
