@@ -1,5 +1,5 @@
 # Tavrune on a virtual display, played by real keys; sourced after common.sh, not run. `program` is what is
-# started, `errors` the file that gets its messages.
+# started, `errors` the file that gets its messages, `list_pages` the program that lists the pages.
 
 # Words before the program: what it runs under. Words after it: there is none that it takes.
 under=()
@@ -48,23 +48,81 @@ stop() {
     wait "$tavrune" 2>/dev/null || true
 }
 
-# The entries of the menu that can be chosen, in order; those of pages that are not built are passed over by the
-# arrow keys.
-menu=(hjaelp afsaet andengradspolynomiet brok dlinie diff konvert gtm integralregning lininter lodret vandret
-    tomto luk)
+# Reads what `list_pages` prints of the pages, and how they are played; each line of the latter has to be a page's, or
+# a kind's.
+know_pages() {
+    pages=$("$list_pages" 2>/dev/null) || fail "The pages could not be listed: $list_pages"
+    walks=$(grep '^[a-z]' tests/tour.txt)
+    local page
+    while read -r page _; do
+        grep -q "^$page \|^[a-z]* $page " <<<"$pages" || fail "tests/tour.txt tells of $page, which is no page."
+    done <<<"$walks"
+}
 
-# Chooses an entry of the menu; for a subject with levels, the place in its submenu is the second argument.
-# A third one is the entry that the page has disabled: its own.
-choose() {
-    local entry=$1 sub=${2:-} own=${3:-} candidate
-    keys F10
-    for candidate in "${menu[@]}"; do
-        [ "$candidate" = "$entry" ] && break
-        [ "$candidate" = "$own" ] || keys Down
+# One word of what is known of a page: told_of PAGE WORD, where WORD is as the list of pages calls it, in small letters.
+told_of() {
+    local kind file place subplace boxes steps name title
+    while read -r kind file place subplace boxes steps name title; do
+        [ "$file" != "$1" ] || { say "${!2}" && return; }
+    done <<<"$pages"
+    fail "There is no page $1."
+}
+
+# The words of a page in the tour; fails if there are none.
+walk_of() {
+    sed -n "s/^$1 \+//p" <<<"$walks" | grep . || sed -n "s/^$(told_of "$1" kind) \+//p" <<<"$walks" | grep .
+}
+
+pages_to_play() {
+    local page
+    while read -r _ page _; do
+        ! walk_of "$page" >/dev/null || say "$page"
+    done <<<"$pages"
+}
+
+# A wrong number in so many boxes, and "OK".
+answer() {
+    local box
+    for box in $(seq "$1"); do
+        typed "9$box,31"
+        keys Return
     done
     keys Return
-    if [ -n "$sub" ]; then
-        for _ in $(seq 2 "$sub"); do keys Down; done
+}
+
+# Plays an open page as the tour tells. `picture` is the caller's.
+play() {
+    local page=$1 word many
+    for word in $(walk_of "$page"); do
+        many=${word#*:}
+        case $word in
+            @*) word=${word#@} && picture "${word//%/$page}" ;;
+            answer) answer "$(told_of "$page" boxes)" ;;
+            answer:*) answer "$many" ;;
+            vis) press_steps "$(told_of "$page" steps)" ;;
+            vis:*) press_steps "$many" ;;
+            wait) sleep 1 ;;
+            *) keys "$word" ;;
+        esac
+    done
+}
+
+press_steps() { for _ in $(seq "$1"); do keys Return; done; }
+
+# Chooses a page in the menu, or "luk", the way out. The second argument is the page that stands open, where its own
+# entry stands before: that is disabled, and the arrow keys pass over it.
+choose() {
+    local place subplace own=-1 at
+    place=$(told_of "$1" place)
+    subplace=$(told_of "$1" subplace)
+    [ -z "${2:-}" ] || own=$(told_of "$2" place)
+    keys F10
+    for ((at = 0; at < place; at++)); do
+        [ "$at" -eq "$own" ] || keys Down
+    done
+    keys Return
+    if [ "$subplace" -gt 0 ]; then
+        for _ in $(seq 2 "$subplace"); do keys Down; done
         keys Return
     fi
     sleep 0.4
