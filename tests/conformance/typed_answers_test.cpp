@@ -1,7 +1,6 @@
 // The answer that a form gives, typed into a second one with the same exercise.
 
 #include <array>
-#include <iostream>
 #include <map>
 #include <optional>
 #include <set>
@@ -12,6 +11,7 @@
 #include "support/form_driver.h"
 #include "support/lot.h"
 #include "support/proof.h"
+#include "support/record.h"
 
 namespace tavrune {
 namespace {
@@ -254,9 +254,11 @@ TEST_P(TypedAnswers, AreRightWithCommaAndPointAndWrongPastTheirToleranceInTheBox
             ASSERT_EQ(isJudgedRight(form, answer), expected);
         });
     }
-    std::cout << "typed | " << textOf(facts().page) << " | " << test::grouped(typed) << " | "
-              << test::grouped(boxesMoved) << " | " << exceptions.text(typed) << " | "
-              << test::failuresSoFar() << std::endl;
+    test::record({{"form", std::string(textOf(facts().page))},
+                  {"typed", test::grouped(typed)},
+                  {"moved", test::grouped(boxesMoved)},
+                  {"exceptions", exceptions.text(typed)},
+                  {"failures", std::to_string(test::failuresSoFar())}});
 }
 
 }  // namespace

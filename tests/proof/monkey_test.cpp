@@ -1,14 +1,13 @@
 // Rough hands on every page. TAVRUNE_PROOF=full throws a million events at them all; TAVRUNE_PROOF_EVENTS
 // says how many at each, TAVRUNE_PROOF_SEED which.
 
-#include <iostream>
-
 #include <gtest/gtest.h>
 
 #include "app/pages.h"
 #include "proof/counts.h"
 #include "proof/rough_hands.h"
 #include "proof/watchdog.h"
+#include "support/record.h"
 
 namespace tavrune {
 namespace {
@@ -79,8 +78,11 @@ TEST_P(EveryPage, StandsRoughHands) {
             return;
         }
     }
-    std::cout << "hands | " << textOf(GetParam()) << " | " << all << " | " << openings << " | "
-              << knownFailures << " | " << watchdog.longest().count() << std::endl;
+    test::record({{"page", std::string(textOf(GetParam()))},
+                  {"events", std::to_string(all)},
+                  {"openings", std::to_string(openings)},
+                  {"knownFailures", std::to_string(knownFailures)},
+                  {"longestEvent", std::to_string(watchdog.longest().count())}});
     EXPECT_TRUE(knownFailures == 0 || GetParam() == PageName::Vaddi1 || openings > 1);
 }
 

@@ -1,6 +1,5 @@
 // A student who changes the topic all day long.
 
-#include <iostream>
 #include <malloc.h>
 
 #include <QApplication>
@@ -12,6 +11,7 @@
 #include "app/program.h"
 #include "proof/counts.h"
 #include "support/form_driver.h"
+#include "support/record.h"
 
 namespace tavrune {
 namespace {
@@ -98,8 +98,10 @@ TEST_F(Switches, LeaveNothingBehind) {
     const long long growth = allocatedBytes() - bytesBefore;
     const long long moreObjects = objects() - objectsBefore;
     const auto moreWindows = QApplication::topLevelWidgets().size() - windowsBefore;
-    std::cout << "switches | " << switches << " | " << moreObjects << " | " << moreWindows << " | " << growth
-              << '\n';
+    test::record({{"switches", std::to_string(switches)},
+                  {"moreObjects", std::to_string(moreObjects)},
+                  {"moreWindows", std::to_string(moreWindows)},
+                  {"moreBytes", std::to_string(growth)}});
     EXPECT_EQ(moreObjects, 0);
     EXPECT_EQ(moreWindows, 0);
     EXPECT_LT(growth, kGrowthASwitch * switches);

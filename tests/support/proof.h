@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <iomanip>
-#include <iostream>
 #include <map>
 #include <set>
 #include <sstream>
@@ -19,6 +18,7 @@
 #include "numeric/judging.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/record.h"
 #include "support/scripted_draws.h"
 
 /// What the proofs of all forms have in common: each shows of one form that every exercise can be solved.
@@ -121,9 +121,9 @@ private:
     return failed;
 }
 
-/// Keeps the book of a proof and prints it in one line at the end, for script/prove to collect:
-/// "proof | Brok | 517,539 whole | 4 of 4 kinds | none | 0": what was visited, the whole space or seeded
-/// draws; how many kinds were reached; what can't be solved, on purpose; failures.
+/// Keeps the book of a proof and records it at the end, for script/prove to collect: what was visited, the
+/// whole space or seeded draws ("517,539 whole"); how many kinds were reached ("4 of 4"); what can't be
+/// solved, on purpose; failures.
 class Proof {
 public:
     enum class From { WholeSpace, Seeds };
@@ -135,9 +135,12 @@ public:
 
     ~Proof() {
         EXPECT_EQ(kinds_.size(), allKinds_) << form_;
-        std::cout << "proof | " << form_ << " | " << visitedText() << " | " << kinds_.size() << " of "
-                  << allKinds_ << " kinds | " << unsolvable_.text(whole_ + seeded_) << " | "
-                  << failuresSoFar() << std::endl;
+        const std::string kinds = std::to_string(kinds_.size()) + " of " + std::to_string(allKinds_);
+        record({{"form", form_},
+                {"visited", visitedText()},
+                {"kinds", kinds},
+                {"unsolvable", unsolvable_.text(whole_ + seeded_)},
+                {"failures", std::to_string(failuresSoFar())}});
     }
 
     void visit(From from, int kind) {
