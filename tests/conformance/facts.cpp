@@ -1,13 +1,14 @@
 #include "conformance/facts.h"
 
+#include <algorithm>
+
 namespace tavrune::test {
 namespace {
 
 using Name = PageName;
 
-}  // namespace
-
-const std::vector<FormFacts>& allForms() {
+/// The forms with particulars.
+const std::vector<FormFacts>& toldForms() {
     static const std::vector<FormFacts> forms{
         {Name::Brok, true, false, false, "denominator", "numerator", "", true},
         {Name::Dlinie, true, false, false, "intercept", "slope", "", false},
@@ -29,6 +30,21 @@ const std::vector<FormFacts>& allForms() {
         {Name::Diff, false, false, false, "derivative", "derivative", "", true},
     };
     return forms;
+}
+
+}  // namespace
+
+const std::vector<FormFacts>& allForms() {
+    static const std::vector<FormFacts> all = [] {
+        std::vector<FormFacts> forms = toldForms();
+        for (const PageName page : kExercisePages) {
+            if (std::ranges::find(forms, page, &FormFacts::page) == forms.end()) {
+                forms.push_back({page});
+            }
+        }
+        return forms;
+    }();
+    return all;
 }
 
 std::string asciiNameOf(PageName page) {

@@ -10,22 +10,27 @@
 
 namespace tavrune::test {
 
-/// What is told of every exercise form alike: how its controls act that have the same names on all.
+/// In place of a box's name: the first, or the last, of those that are shown, in the order of the designer
+/// file.
+inline constexpr const char* kByOrder = "(by its order)";
+
+/// What is told of every exercise form alike: how its controls act that have the same names on all. The
+/// defaults are those of a form without particulars.
 struct FormFacts {
     PageName page;
     /// One label for both verdicts.
-    bool hasOneLabel;
+    bool hasOneLabel = true;
     /// "FORKERT" starts in a darker red, until the opening.
-    bool darkUntilTheOpening;
+    bool darkUntilTheOpening = false;
     /// Enter in the last box goes on to "&Ny opgave" where "&OK" is hidden.
-    bool lastBoxGoesOn;
-    std::string lastBox;
+    bool lastBoxGoesOn = false;
+    std::string lastBox = kByOrder;
     /// The box that has the focus after a new exercise; empty where the exercise decides.
-    std::string firstBox;
+    std::string firstBox = kByOrder;
     /// The option to choose before there is anything to judge; empty if there is none.
-    std::string option;
+    std::string option{};
     /// One help panel whatever the exercise, with a close button.
-    bool hasOnePanel;
+    bool hasOnePanel = true;
     /// The boxes that the exercise itself fills, to tell what is given.
     int filledBoxes = 0;
 
@@ -39,7 +44,7 @@ struct FormFacts {
 
 inline void PrintTo(const FormFacts& facts, std::ostream* out) { *out << textOf(facts.page); }
 
-/// A row for every exercise form.
+/// A row for every exercise form; one without particulars has the defaults.
 [[nodiscard]] const std::vector<FormFacts>& allForms();
 
 /// A page's name as the names of tests can hold it: "afsaet".

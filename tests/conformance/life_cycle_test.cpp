@@ -174,7 +174,9 @@ TEST_P(EveryForm, AsksAtItsOpening) {
     EXPECT_FALSE(form.isShown("giveAnswer"));
     EXPECT_FALSE(form.isShown(facts().right()));
     EXPECT_FALSE(form.isShown(facts().wrong()));
-    if (!facts().firstBox.empty()) {
+    if (facts().firstBox == test::kByOrder) {
+        EXPECT_EQ(form.focus(), visibleBoxes(form).front()->objectName().toStdString());
+    } else if (!facts().firstBox.empty()) {
         EXPECT_EQ(form.focus(), facts().firstBox);
     }
     chooseOption(form);
@@ -286,7 +288,8 @@ TEST_P(EveryForm, WalksByEnterThroughAllItsBoxesToOk) {
 
 TEST_P(EveryForm, EndsItsEnterChainByItsKind) {
     const FormDriver form = open();
-    AnswerBox& last = form.box(facts().lastBox);
+    AnswerBox& last =
+        facts().lastBox == test::kByOrder ? *visibleBoxes(form).back() : form.box(facts().lastBox);
     // Not every exercise asks for it.
     for (int exercise = 0; exercise < 100 && !last.isVisible(); ++exercise) {
         form.click("newExercise");
@@ -296,8 +299,9 @@ TEST_P(EveryForm, EndsItsEnterChainByItsKind) {
     answerWrongly(form);
     form.click("giveAnswer");
     last.setFocus();
-    form.press(facts().lastBox, Qt::Key_Return);
-    EXPECT_EQ(form.focus(), facts().lastBoxGoesOn ? std::string("newExercise") : facts().lastBox);
+    const std::string name = last.objectName().toStdString();
+    form.press(name, Qt::Key_Return);
+    EXPECT_EQ(form.focus(), facts().lastBoxGoesOn ? "newExercise" : name);
 }
 
 TEST_P(EveryForm, TakesEmptyBoxesForZeros) {
