@@ -17,12 +17,12 @@
 namespace tavrune {
 namespace {
 
-/// In kilobytes. The style keeps the pictures of buttons under keys that die with their page: more room would
-/// only fill up with what nobody asks for any more.
+/// In kilobytes. The style caches pictures of buttons under keys that are never used again once their page is
+/// gone: a larger cache would only fill up with these.
 constexpr int kPictureCache = 1024;
 
-/// The colours that the pages are drawn for, on a dark desktop too: graphs and help panels are white, and
-/// what right and wrong look like is told.
+/// Light colours, on a dark desktop too, since graphs and help panels are white, and right and wrong have
+/// given colours.
 QPalette lightPalette() {
     QPalette palette(QColor(239, 239, 239));
     palette.setColor(QPalette::Highlight, QColor(48, 140, 198));
@@ -37,7 +37,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setStyle(new DesignStyle);
     setPalette(lightPalette());
     QPixmapCache::setCacheLimit(kPictureCache);
-    // While the desktop is busy placing the first window.
+    // Later, while the desktop places the first window: loading it here would delay that.
     QTimer::singleShot(0, this, &Application::showIcon);
     setDesktopFileName("org.tavrune.Tavrune");
     QAccessible::installFactory(accessibleControl);
@@ -55,7 +55,7 @@ void Application::showIcon() {
 }
 
 void Application::speakDanish() {
-    // Qt's own words: the buttons of message boxes, the context menus of boxes.
+    // For the texts that Qt itself shows: buttons of message boxes, context menus of fields.
     if (danish_.load("qtbase_da", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         installTranslator(&danish_);
     }
@@ -78,7 +78,7 @@ void Application::endAfter(ArithmeticFailure::Kind kind) {
     if (!message_.isNull()) {
         return;
     }
-    // The exit status says that something was wrong, and this what, where nobody sees the box.
+    // For whoever runs the program where nobody sees the message box.
     std::fprintf(stderr, "Tavrune: %s\n", messageFor(kind));
     message_ = new QMessageBox(QMessageBox::Critical, "Tavrune", QString::fromUtf8(messageFor(kind)),
                                QMessageBox::Ok);

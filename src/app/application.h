@@ -10,22 +10,22 @@
 
 namespace tavrune {
 
-/// The application object: the looks that all pages stand on, the decimal mark of the user's locale, and the
-/// one place where a failure of the arithmetic ends up.
+/// The application object. It sets the style and colours of all pages and the decimal mark of the user's
+/// locale, and ends the program after a failure of the arithmetic.
 class Application : public QApplication, public FailureHandler {
     Q_OBJECT
 
 public:
     Application(int& argc, char** argv);
 
-    /// Tells the user of the failure; after the message the program ends with exit status 1. A failure beside
-    /// a message that still stands adds nothing to it.
+    /// Shows a message about the failure; when the user closes it, the program exits with status 1. Does
+    /// nothing while such a message is shown.
     void endAfter(ArithmeticFailure::Kind kind) override;
 
-    /// Passes an event on. An ArithmeticFailure that comes back ends the program too.
+    /// Passes an event on. An ArithmeticFailure that is thrown meanwhile ends the program, too.
     bool notify(QObject* receiver, QEvent* event) override;
 
-    /// Numbers are shown with the mark of this locale from now on.
+    /// Sets the decimal mark of all numbers that are shown from now on.
     static void useDecimalMarkOf(const QLocale& locale);
 
 private:
@@ -34,7 +34,7 @@ private:
 
     QTranslator danish_;
 
-    /// What tells of a failure, as long as it stands.
+    /// The message about a failure; null if none is shown.
     QPointer<QMessageBox> message_;
 };
 

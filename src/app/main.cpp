@@ -5,7 +5,7 @@
 #include "numeric/draws.h"
 
 int main(int argc, char** argv) {
-    // No arguments: the toolkit would take its own, names of files to read among them.
+    // Without arguments: Qt has some of its own, and would read files that they name.
     int named = std::min(argc, 1);
     const tavrune::Application application(named, argv);
     tavrune::ClockDraws draws;

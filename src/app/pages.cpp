@@ -11,7 +11,7 @@
 namespace tavrune {
 namespace {
 
-/// A failure of its arithmetic goes to the application object, where that takes failures.
+/// Returns a new form. Its failures go to the application object, if that handles failures.
 template <class Form>
 std::unique_ptr<Page> makeForm(Draws& draws) {
     auto form = std::make_unique<Form>(draws);

@@ -19,7 +19,7 @@ void Program::open(PageName name) {
     connect(page, &Page::aboutChosen, this, &Program::openAbout);
     connect(page, &Page::closeChosen, this, &Program::closeChosen);
     connect(page, &Page::zoomed, this, &Program::zoomAll);
-    // A page comes at its own size.
+    // A new page has the size of the design.
     if (zoom_ != page->zoom()) {
         page->setZoom(zoom_);
     }

@@ -10,7 +10,7 @@
 
 namespace tavrune {
 
-/// What stands on the screen: one page at a time, and the about box beside it.
+/// What is on the screen: one page at a time, and perhaps the about box.
 class Program : public QObject {
     Q_OBJECT
 
@@ -18,29 +18,30 @@ public:
     explicit Program(Draws& draws);
     ~Program() override;
 
-    /// From the start page to the end: by "Luk", or with the last window. The program's exit status.
+    /// Opens the start page and runs until the user chooses "Luk" or closes the last window. Returns the exit
+    /// status.
     int run();
 
-    /// Opens a page, maximised, and unloads the one before it. Precondition: the page is built.
+    /// Opens a page, maximised, and deletes the one before it. Precondition: it is not the about box.
     void open(PageName name);
 
-    /// Opens the about box, or raises the one that is there.
+    /// Opens the about box, or raises it if it is open.
     void openAbout();
 
-    /// Null once the user has closed the window that it stands in.
+    /// Null before a page is opened, and once the user has closed the window.
     [[nodiscard]] Page* page() const { return window_.isNull() ? nullptr : window_->page(); }
     [[nodiscard]] Window* window() const { return window_; }
     [[nodiscard]] FrmAbout* about() const { return about_; }
 
 signals:
-    /// "Luk" in any menu: everything is to disappear at once.
+    /// The user has chosen "Luk" in a menu.
     void closeChosen();
 
 private:
     void zoomAll(ZoomStep step);
 
     Draws& draws_;
-    // For every page, until the program ends.
+    // Of every page, until the program ends.
     ZoomStep zoom_;
     QPointer<Window> window_;
     QPointer<FrmAbout> about_;

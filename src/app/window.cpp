@@ -14,7 +14,7 @@ void Window::hold(Page* page) {
     Page* const last = page_;
     page_ = page;
     if (last != nullptr) {
-        // Otherwise the toolkit looks for a place for the focus as it goes.
+        // Otherwise Qt would move the focus from control to control while the page is hidden.
         if (QWidget* const focused = last->focusWidget()) {
             focused->clearFocus();
         }
@@ -23,7 +23,7 @@ void Window::hold(Page* page) {
         last->deleteLater();
     }
     layout()->addWidget(page);
-    // Laid out once, at its final size.
+    // Before it is shown, so that it is laid out only once.
     layout()->activate();
     setWindowTitle(page->windowTitle());
     page->show();

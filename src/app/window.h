@@ -7,20 +7,19 @@
 
 namespace tavrune {
 
-/// The window in which the pages follow each other. It stands as long as the program does: another one for
-/// every page would have to be placed by the desktop each time, and be seen to come and go.
+/// The window that shows the pages, one after the other. It stays open all the time: if every page had a
+/// window of its own, the desktop would place each anew, and the user would see them come and go.
 class Window : public QWidget {
     Q_OBJECT
 
 public:
     Window();
 
-    /// Puts a page into the place of the one before it, which is deleted with the next round of events. The
-    /// page belongs to the window from then on. The focus goes where the page wants it, otherwise to its
-    /// first control.
+    /// Takes ownership of a page and shows it in place of the one before, which is deleted later, since it
+    /// may still be handling an event. Gives the page the focus.
     void hold(Page* page);
 
-    /// Null before the first, and once the window is gone.
+    /// Null before the first page.
     [[nodiscard]] Page* page() const { return page_; }
 
 private:

@@ -5,12 +5,12 @@
 
 namespace tavrune {
 
-/// True if `event` was the button's access key, which has then clicked it: at once, where Qt would hold the
-/// button down for a tenth of a second first. A key that a menu title has too is the button's.
+/// If `event` is the access key of the button, clicks it. Returns whether it did. Qt would hold the button
+/// down for a tenth of a second first, and would do nothing if a menu title has the same key.
 [[nodiscard]] bool clickedByAccessKey(QAbstractButton& button, QEvent* event);
 
-/// True if `event`, which has come to a menu bar, was an access key that a button in `window` has too: it has
-/// clicked the button.
+/// If `event`, sent to a menu bar, is an access key that a button in `window` has too, clicks the button.
+/// Returns whether it did.
 [[nodiscard]] bool clickedInsteadOfMenu(const QWidget& window, QEvent* event);
 
 }  // namespace tavrune

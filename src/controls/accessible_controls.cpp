@@ -14,7 +14,7 @@
 namespace tavrune {
 namespace {
 
-/// A panel or a label that holds nothing: it is there to hide what lies behind it.
+/// Returns whether a panel or label is empty: such a one is a cover for what lies behind it.
 bool isBlank(const QWidget& widget) {
     if (const auto* const label = qobject_cast<const Label*>(&widget)) {
         return label->text().isEmpty();
@@ -34,7 +34,7 @@ bool covers(const QWidget& front, const QWidget& back) {
            (isBlank(front) || (isVerdict(front) && isVerdict(back)));
 }
 
-/// What is there for the eye alone is out of sight for everybody else.
+/// A control that screen readers skip if it is only to be looked at, or if it is covered.
 class AccessibleShape : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;
@@ -84,7 +84,7 @@ protected:
 
 private:
     [[nodiscard]] QString words() const {
-        // Gaps into which numbers are laid are no part of the words.
+        // Captions have wide gaps where other labels with numbers lie.
         const QString caption = label_->text().simplified();
         if (label_->font().underline() && caption == "<") {
             return "≤";
@@ -95,8 +95,8 @@ private:
     Label* label_;
 };
 
-/// A button or an option. Its action is the click itself, at once and with all that a click runs: Qt's own
-/// would only set an option's mark.
+/// A button or an option. Its action is a click; the action that Qt has for an option would choose it without
+/// running what a click runs.
 class AccessibleButton final : public QAccessibleWidget {
 public:
     AccessibleButton(QAbstractButton* button, QAccessible::Role role)
@@ -177,7 +177,7 @@ bool isCovered(const QWidget& control) {
     if (parent == nullptr) {
         return false;
     }
-    // A later sibling lies in front.
+    // Later siblings lie in front.
     const QObjectList& siblings = parent->children();
     const auto self = std::find(siblings.begin(), siblings.end(), &control);
     return self != siblings.end() &&

@@ -5,11 +5,11 @@
 
 namespace tavrune {
 
-/// What a screen reader is told of labels, panels, lines, buttons and options; null for everything else. To
-/// be given to `QAccessible::installFactory`.
+/// Returns what screen readers are told about a label, panel, line, button or option; null for any other
+/// object. For `QAccessible::installFactory`.
 [[nodiscard]] QAccessibleInterface* accessibleControl(const QString& className, QObject* object);
 
-/// True if nobody can see the control, though it is shown: a cover lies in front of it, or another verdict.
+/// Returns whether a cover, or another verdict, lies in front of the control, so that nobody can see it.
 [[nodiscard]] bool isCovered(const QWidget& control);
 
 }  // namespace tavrune

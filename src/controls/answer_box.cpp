@@ -14,19 +14,21 @@
 namespace tavrune {
 namespace {
 
-/// From the edge of a box to its text, in units; the field brings it along for the first zoom alone.
+/// The distance from the edge of a box to its text, in units. QLineEdit leaves as many pixels at every zoom;
+/// what larger zooms need more is a margin.
 constexpr double kTextIndent = 3;
 
 QString withPoints(QString typed) { return typed.replace(',', '.'); }
 
-/// Alt and a character: a way to a button, and no text, where the button is hidden too.
+/// Returns whether the key is Alt with a character. Such a key is no text, even if its button is hidden.
 bool isAccessKey(const QKeyEvent& event) {
     constexpr Qt::KeyboardModifiers kNoMatter = Qt::ShiftModifier | Qt::KeypadModifier;
     return (event.modifiers() & ~kNoMatter) == Qt::AltModifier && !event.text().isEmpty() &&
            event.text().front().isPrint();
 }
 
-/// Whatever the state of a box; pages hand such a palette down to theirs.
+/// Returns whether text is black on white in every state of a box. On a page it is: boxes inherit its
+/// palette.
 bool isBlackOnWhite(const QPalette& palette) {
     constexpr std::array kStates{QPalette::Active, QPalette::Inactive, QPalette::Disabled};
     return std::all_of(kStates.begin(), kStates.end(), [&palette](QPalette::ColorGroup state) {
@@ -56,7 +58,7 @@ void AnswerBox::mark(bool wrong) {
     }
     isMarked_ = wrong;
     setPaletteColour(QPalette::Base, wrong ? kRed : kWhite);
-    // What the colour says to the eye.
+    // For those who cannot see the colour.
     setAccessibleDescription(wrong ? "forkert" : "");
 }
 

@@ -9,25 +9,24 @@
 
 namespace tavrune {
 
-/// A field for a typed number. Takes any text of any length. A typed comma becomes a point before it lands,
-/// whichever way it is typed; pasted text is left alone. Enter is swallowed and told to the form. Access keys
-/// write nothing.
+/// A field for a number. It takes any text of any length. A comma that is typed, on a keyboard or by an input
+/// method, becomes a point, since answers are read with points; pasted text stays as it is. Enter is not
+/// handled here but signalled to the form. Access keys write nothing.
 class AnswerBox : public QLineEdit, public Control {
     Q_OBJECT
 
 public:
     explicit AnswerBox(QWidget* parent = nullptr);
 
-    /// What the text spells, by `Val`: 0 for an empty box.
+    /// Returns the number that the text spells, as `Val` reads it: 0 for an empty box.
     [[nodiscard]] double value() const;
 
     [[nodiscard]] std::string content() const { return text().toStdString(); }
 
-    /// UTF-8; nothing is converted.
+    /// Sets the text, UTF-8. Commas in it stay commas.
     void setContent(std::string_view content);
 
-    /// Marks the answer as wrong, or takes the mark away. The box is red then, otherwise neutral white, and
-    /// screen readers are told.
+    /// Marks the answer as wrong, red, or takes the mark away. Screen readers are told, too.
     void mark(bool wrong);
     [[nodiscard]] bool isMarked() const { return isMarked_; }
 

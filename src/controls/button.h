@@ -8,7 +8,8 @@
 
 namespace tavrune {
 
-/// A command button. Enter presses it when it has the focus, as Space does; a held Enter presses once.
+/// A command button. Enter and Space press it when it has the focus; Enter presses once, however long it is
+/// held.
 class Button : public QPushButton, public Control {
     Q_OBJECT
 

@@ -8,18 +8,19 @@
 namespace tavrune {
 namespace {
 
-/// From this size on letters look the same with or without being fitted to the pixels, which takes its time.
+/// From this size on, hinting does not change how letters look, and only takes time.
 constexpr double kLargeText = 17;
 
-/// Widths are never rounded to whole pixels, whatever the desktop has set: texts grow with their size.
+/// Hints at most vertically, whatever the desktop has set: horizontal hinting would round widths to whole
+/// pixels, and texts would not grow evenly with their size.
 QFont sized(QFont font, double units) {
     font.setPixelSize(qMax(1, qRound(units)));
     font.setHintingPreference(units < kLargeText ? QFont::PreferVerticalHinting : QFont::PreferNoHinting);
     return font;
 }
 
-/// Sizes are whole pixels, and most zooms fall between them: the next smaller one is taken, and the spacing
-/// makes up for the rest. So texts have just the room that they have in the design.
+/// Font sizes are whole pixels, which most zooms are not: the font has the next smaller size, and the letters
+/// are spaced so that a text is as wide as the zoom wants it.
 QFont zoomed(const QFont& design, double zoom) {
     QFont font = design;
     font.setPixelSize(qMax(1, qFloor(design.pixelSize() * zoom)));
@@ -30,7 +31,8 @@ QFont zoomed(const QFont& design, double zoom) {
 }  // namespace
 
 const QFont& designFont() {
-    // Copies share what is found out about it, so there is one, and it outlives all of them.
+    // Copies of a QFont share what Qt looks up for it, so there is one. It is never deleted, so that it
+    // outlives all copies.
     static const QFont* const kFont = [] {
         auto* const font = new QFont(sized(QFont(), kDesignTextSize));
         font->setFamilies({"Arial", "Liberation Sans", "Arimo", "Helvetica"});
@@ -115,7 +117,7 @@ void Control::setPaletteColour(QPalette::ColorRole role, const QColor& colour) {
 }
 
 void Control::applyPlace() {
-    // Edges are rounded, not sizes: what meets in the design meets on the screen.
+    // Edges are rounded, not sizes: controls that touch in the design touch on the screen.
     const QRectF& p = *place_;
     const int left = qRound(p.left() * zoom_);
     const int top = qRound(p.top() * zoom_);
@@ -123,7 +125,6 @@ void Control::applyPlace() {
 }
 
 void Control::wear(const QFont& font) {
-    // Most have it from the page already.
     if (self_->font() != font) {
         self_->setFont(font);
     }
@@ -137,7 +138,7 @@ void Control::applyFont() {
 
 void drawOutline(QPainter& painter, const QRectF& box, double units, const QColor& colour) {
     const double ratio = painter.device()->devicePixelRatioF();
-    // Whole pixels of the screen, or the edges would differ from one another.
+    // Whole pixels of the screen, otherwise the edges would not look alike.
     const double width = qMax(1, qFloor(units * ratio)) / ratio;
     painter.fillRect(QRectF(box.left(), box.top(), box.width(), width), colour);
     painter.fillRect(QRectF(box.left(), box.bottom() - width, box.width(), width), colour);

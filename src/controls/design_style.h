@@ -4,18 +4,18 @@
 
 namespace tavrune {
 
-/// How everything is drawn: the one style that takes the colours of state from the palette on every desktop,
-/// with outlines and the marks of option buttons as large as their zoom asks for.
+/// How everything is drawn: as Qt's Fusion, which takes all colours from the palette on every desktop, but
+/// with outlines and marks of option buttons that grow with the zoom.
 class DesignStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
     DesignStyle();
 
-    /// The outlines of fields are of straight lines, a unit wide; two where the focus stands.
+    /// Draws the outlines of fields as straight lines, one unit wide, two in the field with the focus.
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
-    /// Message boxes have plain words, on their buttons too.
+    /// Leaves the buttons of message boxes without icons; their text cannot be selected.
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;

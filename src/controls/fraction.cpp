@@ -8,7 +8,7 @@ Fraction::Fraction(Label* numerator, LineControl* bar, Label* denominator)
     : numerator_(numerator), bar_(bar), denominator_(denominator) {
     numerator_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     denominator_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    // The numerator says the whole.
+    // Screen readers read the whole fraction at the numerator.
     denominator_->setDecorative(true);
 }
 

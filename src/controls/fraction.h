@@ -7,17 +7,17 @@
 
 namespace tavrune {
 
-/// Two texts over each other with a bar between them, all three as wide as the wider text. It is made of
-/// controls that stand in a designer file, where their heights come from.
+/// A numerator above a bar above a denominator, all three as wide as the wider text. They are controls of a
+/// designer file, which decides at what height they are.
 class Fraction {
 public:
     Fraction(Label* numerator, LineControl* bar, Label* denominator);
 
-    /// What is called `slopeNumerator`, `slopeBar` and `slopeDenominator`, for the prefix "slope". All three
-    /// must be on the page.
+    /// Returns the fraction of `slopeNumerator`, `slopeBar` and `slopeDenominator`, for the prefix "slope".
+    /// Precondition: all three are on the page.
     [[nodiscard]] static Fraction of(const QWidget& page, const QString& prefix);
 
-    /// Sets both texts; the fraction keeps its left edge.
+    /// Sets both texts. The left edge stays where it is.
     void setTexts(std::string_view numerator, std::string_view denominator) const;
 
     void setLeft(double left) const;

@@ -6,7 +6,7 @@
 
 namespace tavrune {
 
-/// A captioned frame round option buttons; those inside one frame exclude one another.
+/// A frame with a caption round option buttons, of which one at a time can be chosen.
 class Frame : public QGroupBox, public Control {
     Q_OBJECT
 

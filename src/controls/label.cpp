@@ -66,7 +66,7 @@ void Label::paintEvent(QPaintEvent* event) {
 void Label::paintHalo() {
     QPainter painter(this);
     painter.setPen(kWhite);
-    // The corners are enough: glyphs are drawn in strokes.
+    // Letters consist of thin strokes, so that copies in four directions surround them.
     for (const double dx : {-1.0, 1.0}) {
         for (const double dy : {-1.0, 1.0}) {
             const QRectF moved = QRectF(contentsRect()).translated(dx * zoom(), dy * zoom());
@@ -80,7 +80,8 @@ void Label::paintLines() {
     QTextOption option(alignment() & Qt::AlignHorizontal_Mask);
     option.setWrapMode(QTextOption::WordWrap);
     layout.setTextOption(option);
-    // The font is of whole pixels, and so are its own lines; those of the design grow evenly.
+    // Not the height of the zoomed font: that is rounded to whole pixels, and lines would drift from the
+    // design.
     const QFontMetricsF design(unzoomedFont());
     const double pitch = (std::ceil(design.ascent()) + std::ceil(design.descent())) * zoom();
     double top = 0;

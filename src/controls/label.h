@@ -8,49 +8,48 @@
 
 namespace tavrune {
 
-/// A caption. Plain text always, from the top left, transparent until it is given a back colour.
+/// A text on a page. It is plain text, begins at the top left, and is transparent until it has a back colour.
 class Label : public QLabel, public Control {
     Q_OBJECT
 
 public:
     explicit Label(QWidget* parent = nullptr);
 
-    /// UTF-8. With auto size on, the label becomes as wide and high as its text.
+    /// Sets the text, UTF-8. With auto size on, the label becomes as wide and high as its text.
     void setCaption(std::string_view caption);
     [[nodiscard]] std::string caption() const { return text().toStdString(); }
 
-    /// As `setCaption`; this is the one that designer files call.
+    /// As `setCaption`, for designer files.
     void setText(const QString& text);
 
-    /// Turning it off keeps the size that the label has.
+    /// Turns auto size on or off. Turned off, the label keeps the size that it has.
     void setAutoSize(bool autoSize);
     [[nodiscard]] bool isAutoSize() const { return autoSize_; }
 
-    /// Makes the label opaque: a cover, if it has no text.
+    /// Makes the label opaque. Without a text it is a cover for what lies behind it.
     void setBackColour(const QColor& colour);
     [[nodiscard]] QColor backColour() const { return palette().color(QPalette::Window); }
     void setTextColour(const QColor& colour);
     [[nodiscard]] QColor textColour() const { return palette().color(QPalette::WindowText); }
 
-    /// For the eye alone: a piece of a picture, or of a text that another label says as a whole. Screen
-    /// readers pass it by.
+    /// Screen readers skip a decorative label: it is a part of a picture, or of a text that they read at
+    /// another label.
     void setDecorative(bool decorative) { decorative_ = decorative; }
     [[nodiscard]] bool isDecorative() const { return decorative_; }
 
-    /// White round the text, a unit wide: on a graph it stays readable over lines and areas.
+    /// Draws a white edge, a unit wide, round the letters, so that they can be read over lines of a graph.
     void setHaloed(bool haloed);
 
-    /// A verdict is announced when it appears.
+    /// Screen readers announce a verdict when it appears.
     void setVerdict(bool verdict) { verdict_ = verdict; }
     [[nodiscard]] bool isVerdict() const { return verdict_; }
 
-    /// Width of the caption in units, in the label's own font.
+    /// Returns the width of the text in units.
     [[nodiscard]] double textWidth() const;
 
 protected:
     void fontHasChanged() override { fit(); }
-    /// The lines of a text stand where the design has them at every zoom: what lies over a gap in it stays
-    /// there.
+    /// Keeps the lines of a text where they are in the design, at every zoom: other labels lie over its gaps.
     void paintEvent(QPaintEvent* event) override;
 
 private:

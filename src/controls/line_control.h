@@ -7,28 +7,28 @@
 
 namespace tavrune {
 
-/// A straight line on a page: fraction bars, root signs, ways in a diagram. Its ends are corners of its
-/// place.
+/// A straight line on a page: a fraction bar, a part of a root sign or of a diagram. It joins two corners of
+/// its place.
 class LineControl : public QWidget, public Control {
     Q_OBJECT
 
 public:
     explicit LineControl(QWidget* parent = nullptr);
 
-    /// True: from the lower left to the upper right corner. False: from the upper left to the lower right.
+    /// Chooses the corners: true for lower left and upper right, false for upper left and lower right.
     void setRising(bool rising);
 
-    /// The ends in units, within the parent.
+    /// Sets both ends, in units within the parent.
     void setEnds(const QLineF& ends);
     [[nodiscard]] QLineF ends() const;
 
-    /// Moves the end of a level line.
+    /// Moves the right end. Precondition: the line is level.
     void setRightEnd(double x);
 
     void setColour(const QColor& colour);
     [[nodiscard]] QColor colour() const { return palette().color(QPalette::WindowText); }
 
-    /// In units, 1 until set.
+    /// Sets the thickness in units, 1 at first.
     void setThickness(double units);
 
 protected:

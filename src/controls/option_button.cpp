@@ -10,13 +10,13 @@ namespace tavrune {
 
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent), Control(this) {
     wear(designFont());
-    // Buttons are filled by another role unless told.
+    // Otherwise buttons are filled with another colour of the palette.
     setBackgroundRole(QPalette::Window);
     resetBackColour();
 }
 
 void OptionButton::setChosen(bool chosen) {
-    // A group that has a choice lets go of it only while it is not exclusive.
+    // An exclusive group does not let its chosen option be cleared.
     setAutoExclusive(chosen);
     setChecked(chosen);
     setAutoExclusive(true);
@@ -28,7 +28,7 @@ void OptionButton::setBackColour(const QColor& colour) {
     coloured.setColor(QPalette::WindowText, kWhite);
     setPalette(coloured);
     setAutoFillBackground(true);
-    // What the colour says to the eye.
+    // For those who cannot see the colour.
     setAccessibleDescription("rigtigt svar");
 }
 
@@ -38,7 +38,7 @@ void OptionButton::resetBackColour() {
     neutral.setColor(QPalette::Window, system.color(QPalette::Button));
     neutral.setColor(QPalette::WindowText, system.color(QPalette::ButtonText));
     setPalette(neutral);
-    // A frame has a shade of its own, which shows through.
+    // A frame is shaded; the option would cover the shade.
     setAutoFillBackground(false);
     setAccessibleDescription("");
 }
@@ -81,7 +81,7 @@ void OptionButton::chooseNeighbour(int step) {
     for (qsizetype at = group.indexOf(this), left = count - 1; left > 0; --left) {
         at = (at + step + count) % count;
         if (group[at]->isVisible() && group[at]->isEnabled()) {
-            // The focus comes first: what the click runs may move it on.
+            // The focus first, since what the click runs may move it further.
             group[at]->setFocus(Qt::TabFocusReason);
             group[at]->click();
             return;

@@ -8,8 +8,7 @@
 
 namespace tavrune {
 
-/// One choice of several. Its back colour is the system's button face until it is coloured as right.
-/// Choosing it by code does not run what a click runs.
+/// One choice of several. It has the colour of buttons until it is coloured as right.
 class OptionButton : public QRadioButton, public Control {
     Q_OBJECT
 
@@ -18,7 +17,7 @@ public:
 
     [[nodiscard]] std::string caption() const { return text().toStdString(); }
 
-    /// Sets or clears the choice; unlike a click, clearing leaves the group without any.
+    /// Chooses the option, or clears the choice so that no option is chosen. What a click runs is not run.
     void setChosen(bool chosen);
     [[nodiscard]] bool isChosen() const { return isChecked(); }
 
@@ -32,7 +31,8 @@ protected:
     void initStyleOption(QStyleOptionButton* option) const override;
 
 private:
-    /// By the arrow keys: the option before or after this one, round the group, with all that a click runs.
+    /// Clicks the next option that is shown in the direction of `step`, -1 or 1; after the last comes the
+    /// first.
     void chooseNeighbour(int step);
 };
 

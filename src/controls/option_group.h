@@ -7,7 +7,7 @@
 
 namespace tavrune {
 
-/// The option buttons of one question, each with what it stands for.
+/// The option buttons of one question, each with its value.
 template <class Value>
 class OptionGroup {
 public:
@@ -19,7 +19,7 @@ public:
     OptionGroup() = default;
     OptionGroup(std::initializer_list<Choice> choices) : choices_(choices) {}
 
-    /// What the chosen option stands for; nothing as long as none is chosen.
+    /// Returns the value of the chosen option, or nothing if none is chosen.
     [[nodiscard]] std::optional<Value> chosen() const {
         for (const auto& [option, value] : choices_) {
             if (option->isChosen()) {
@@ -29,7 +29,7 @@ public:
         return std::nullopt;
     }
 
-    /// By code, so that no click is run.
+    /// Chooses an option without running what a click runs. Precondition: an option has this value.
     void choose(Value value) const { optionFor(value)->setChosen(true); }
     void chooseNone() const {
         for (const auto& [option, value] : choices_) {
@@ -37,6 +37,7 @@ public:
         }
     }
 
+    /// Precondition: an option has this value.
     void colour(Value value, const QColor& colour) const { optionFor(value)->setBackColour(colour); }
     void resetColours() const {
         for (const auto& [option, value] : choices_) {

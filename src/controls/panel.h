@@ -6,15 +6,15 @@
 
 namespace tavrune {
 
-/// A white box that lies over part of a page and holds other controls: a help panel, or a part of one that a
-/// "Vis" button shows. What lies under it is out of the pointer's reach.
+/// A white box over part of a page, with controls in it: a help panel, or a part of one that a button shows.
+/// Clicks do not reach what lies under it.
 class Panel : public QWidget, public Control {
     Q_OBJECT
 
 public:
     explicit Panel(QWidget* parent = nullptr);
 
-    /// A frame round the box: for help panels, not for boxes inside them.
+    /// Draws a frame round the box, for help panels.
     void setFramed(bool framed);
 
     void setBackColour(const QColor& colour);

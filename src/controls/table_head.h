@@ -7,25 +7,25 @@
 
 namespace tavrune {
 
-/// The names of columns, one caption for all: each word stands over the middle of its column.
+/// The names of the columns of a table, in one text: each word is placed over the middle of its column.
 class TableHead : public Label {
     Q_OBJECT
 
 public:
     explicit TableHead(QWidget* parent = nullptr) : Label(parent) {}
 
-    /// The first control of each column, from left to right; they share the parent of the head. Words that
-    /// have no column are not seen.
+    /// Sets the columns, by their first controls, from left to right. Words without a column are not shown.
+    /// Precondition: the controls have the same parent as the head.
     void standOver(const std::vector<const Control*>& columns);
 
-    /// The words with their places within the head, in pixels.
+    /// Returns the words and their places within the head, in pixels.
     [[nodiscard]] std::vector<std::pair<QRectF, QString>> words() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    // In units, from the left of the head.
+    // Units from the left edge of the head.
     std::vector<double> middles_;
 };
 

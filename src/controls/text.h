@@ -6,7 +6,7 @@
 
 namespace tavrune {
 
-/// UTF-8, as exercises give it, to what Qt shows.
+/// Converts a text of an exercise for Qt.
 [[nodiscard]] inline QString fromUtf8(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }

@@ -8,8 +8,8 @@ namespace {
 constexpr int kUnusedBits = 64 - 24;
 constexpr float kStep = 1.0F / (1U << 24U);
 
-/// Spreads every bit of `x` over all 64, so that neighbouring seeds give unlike streams (the finaliser of
-/// SplitMix64).
+/// Returns a number of which every bit depends on all bits of `x` (the finaliser of SplitMix64): otherwise
+/// neighbouring seeds would give similar streams.
 std::uint64_t spread(std::uint64_t x) {
     x += 0x9e3779b97f4a7c15U;
     x = (x ^ (x >> 30U)) * 0xbf58476d1ce4e5b9U;
@@ -33,7 +33,8 @@ void SeededDraws::stir(std::uint64_t seed) { engine_.seed(spread(seed ^ engine_(
 
 ClockDraws::ClockDraws() : SeededDraws(clockTicks()) {}
 
-// The old state is stirred in: a loop that reseeds within one tick of a coarse clock still moves on.
+// `stir` uses the old state too: a loop that reseeds several times within one tick of the clock must not draw
+// the same numbers again.
 void ClockDraws::Randomize() { stir(clockTicks()); }
 
 }  // namespace tavrune

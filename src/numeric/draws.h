@@ -5,8 +5,8 @@
 
 namespace tavrune {
 
-/// The source of chance that every generator is handed. The program has one; tests hand in a script or a
-/// seeded stream.
+/// The random numbers that exercises are made from. The program has one source; tests use a script of draws
+/// or a seeded stream.
 class Draws {
 public:
     Draws() = default;
@@ -14,37 +14,36 @@ public:
     Draws& operator=(const Draws&) = delete;
     virtual ~Draws() = default;
 
-    /// The next draw: a single u with 0 <= u < 1, uniform over the 2^24 multiples of 2^-24.
+    /// Returns the next draw u, 0 <= u < 1: each of the 2^24 multiples of 2^-24 is as likely as any other.
     virtual float Rnd() = 0;
 
-    /// Stirs the clock into the stream, so that no two runs are alike. Nothing depends on a particular
-    /// sequence.
+    /// Reseeds from the clock, so that no two runs are alike.
     virtual void Randomize() = 0;
 };
 
-/// A stream that is the same for the same seed, in every build and on every processor.
+/// A stream that depends on its seed alone: it is the same in every build and on every processor.
 class SeededDraws : public Draws {
 public:
     explicit SeededDraws(std::uint64_t seed);
 
     float Rnd() override;
 
-    /// Does nothing: a seeded stream stays what its seed makes it.
+    /// Does nothing, so that the seed alone decides what is drawn.
     void Randomize() override {}
 
 protected:
-    /// Starts the stream anew from `seed`, mixed with where it stands.
+    /// Reseeds the stream from `seed` and its own next number.
     void stir(std::uint64_t seed);
 
 private:
-    // The multiplier and increment are Knuth's for a modulus of 2^64; only the upper, well-mixed bits are
-    // used.
+    // Multiplier and increment are Knuth's for a modulus of 2^64. Only the upper bits are used, since the
+    // lower ones repeat soon.
     using Engine =
         std::linear_congruential_engine<std::uint64_t, 6364136223846793005U, 1442695040888963407U, 0U>;
     Engine engine_;
 };
 
-/// The program's own source: reseeded from the clock by every `Randomize`.
+/// The source that the program uses: every `Randomize` reseeds it from the clock.
 class ClockDraws final : public SeededDraws {
 public:
     ClockDraws();

@@ -2,10 +2,10 @@
 
 namespace tavrune {
 
-/// What a pattern makes of a drawn coefficient: the sign that it gets, or nothing.
+/// What a pattern does with a drawn coefficient: gives it a sign, or leaves the term out.
 enum class Term { Minus = -1, Absent = 0, Plus = 1 };
 
-/// The drawn size with the sign of the term, 0 for an absent one.
+/// Returns `size` with the sign of the term, or 0 if the term is absent.
 [[nodiscard]] constexpr float withSign(Term term, float size) { return static_cast<float>(term) * size; }
 
 }  // namespace tavrune

@@ -10,30 +10,32 @@
 namespace tavrune {
 namespace {
 
-// No double needs more digits than this to be rounded right; what follows is told by one more digit.
+// The double nearest to a number never depends on more digits than this, except on whether any of the further
+// ones is not 0. One digit more holds that.
 constexpr std::size_t kDigitsKept = 800;
 
-// Beyond these powers of ten every number is cut down to the largest double or is 0.
+// Numbers with larger powers of ten are larger than every double, and those with smaller ones are 0 as
+// doubles.
 constexpr long long kTooLarge = 400;
 constexpr long long kTooSmall = -400;
 
-// Far above what any text can balance with its zeros, far below what overflows.
+// No text has so many zeros that they could make up for such an exponent, and sums with it do not overflow.
 constexpr long long kExponentLimit = 4'000'000'000'000'000'000 / 10;
 
 constexpr bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n'; }
 constexpr bool isDigit(char c) { return '0' <= c && c <= '9'; }
 
-/// Walks over a text and passes the blanks by.
+/// Reads a text character by character and skips blanks.
 class Reader {
 public:
-    explicit Reader(std::string_view text) : text_(text) { passBlanks(); }
+    explicit Reader(std::string_view text) : text_(text) { skipBlanks(); }
 
     [[nodiscard]] char peek() const { return at_ < text_.size() ? text_[at_] : '\0'; }
     [[nodiscard]] bool atDigit() const { return at_ < text_.size() && isDigit(text_[at_]); }
 
     void next() {
         ++at_;
-        passBlanks();
+        skipBlanks();
     }
 
     bool take(char c) {
@@ -45,7 +47,7 @@ public:
     }
 
 private:
-    void passBlanks() {
+    void skipBlanks() {
         while (at_ < text_.size() && isBlank(text_[at_])) {
             ++at_;
         }
@@ -55,7 +57,7 @@ private:
     std::size_t at_ = 0;
 };
 
-/// The digits that count, as 0.d1d2d3... times a power of ten.
+/// The digits without leading zeros: the number is 0.d1d2d3... times ten to the `power`.
 struct Significand {
     std::string digits;
     long long power = 0;

@@ -4,11 +4,11 @@
 
 namespace tavrune {
 
-/// The Danish sentence that tells the user what happened, in UTF-8.
+/// Returns the Danish sentence, in UTF-8, that tells the user what happened.
 [[nodiscard]] const char* messageFor(ArithmeticFailure::Kind kind);
 
-/// Who tells the user of a failure of the arithmetic and ends the program. A failure does not travel there as
-/// an exception, since Qt's widgets, through which that would pass, leave half-done work behind then.
+/// Tells the user of a failure of the arithmetic and ends the program. It is called instead of letting an
+/// exception through: that would pass through Qt's widgets, which do not clean up behind it.
 class FailureHandler {
 public:
     FailureHandler() = default;

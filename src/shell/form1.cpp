@@ -5,7 +5,8 @@
 namespace tavrune {
 namespace {
 
-/// Lays out the running text of `exerciseText` with its gaps, and each bold word in its gap.
+/// Fills a label with text line by line, leaves gaps for the bold words, and places each bold word in its
+/// gap.
 class RunningText {
 public:
     explicit RunningText(Label* text) : text_(text), metrics_(designFont()) {}
@@ -24,7 +25,7 @@ private:
     [[nodiscard]] bool fits(const QString& line) const {
         return metrics_.horizontalAdvance(line) <= text_->place().width();
     }
-    /// From one line to the next, as a label sets them.
+    /// The distance between two lines of a label.
     [[nodiscard]] double linePitch() const {
         const auto height = [this](const QString& text) {
             return metrics_.boundingRect(QRect(0, 0, 1000, 1000), Qt::AlignTop | Qt::TextWordWrap, text)

@@ -35,7 +35,7 @@ void FrmAbout::showEvent(QShowEvent* event) {
 void FrmAbout::paintEvent(QPaintEvent* event) {
     if (!hasOpened_) {
         hasOpened_ = true;
-        // By now the window manager has put its frame round it.
+        // Now the size of the frame of the window manager is known.
         QTimer::singleShot(0, this, &FrmAbout::centre);
     }
     QWidget::paintEvent(event);

@@ -21,15 +21,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// The middle of its frame in the middle of the screen.
+    /// Moves the middle of its frame to the middle of the screen.
     void centre();
 
     QSize designSize_;
-    /// It is centred as it opens, and stays where it is from then on.
+    /// It is centred only as it opens; the user may then move it.
     bool hasOpened_ = false;
 };
 
-/// Where a box of `size` stands to have its middle in the middle of `screen`.
+/// Returns the top left corner of a box of `size` in the middle of `screen`.
 [[nodiscard]] QPoint centredOn(const QRect& screen, QSize size);
 
 }  // namespace tavrune

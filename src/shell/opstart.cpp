@@ -35,7 +35,7 @@ Opstart::Opstart(QSize screen) : Page(PageName::Opstart) {
 
     const ScreenStretch stretch = stretchFor(screen);
     for (Label* label : design()->findChildren<Label*>(Qt::FindDirectChildrenOnly)) {
-        // The texts are dark; the face colour of buttons is what they stand out from.
+        // Dark text cannot be read on the dark page.
         label->setBackColour(palette().color(QPalette::Button));
         const QRectF place = label->place();
         label->setPlace({place.x() * stretch.x, place.y() * stretch.y, place.width() * stretch.x,

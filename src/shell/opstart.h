@@ -10,12 +10,12 @@ namespace tavrune {
 struct ScreenStretch {
     double x;
     double y;
-    /// For the size of the texts. The formula passes its top at x = 3 and would reach 0 at x = 6; from there
-    /// on the design size stays.
+    /// For the size of the texts: largest at x = 3. At x = 6 and above the formula gives 0 or less; then it
+    /// is 1, the size of the design.
     double text;
 };
 
-/// `screen` in units. {800, 600} -> {1.25, 1.25, 1.1875}
+/// Returns the stretch for a screen of a size in units. {800, 600} -> {1.25, 1.25, 1.1875}
 [[nodiscard]] ScreenStretch stretchFor(QSize screen);
 
 /// The start page: a greeting and the way into the topics.

@@ -16,8 +16,8 @@
 namespace tavrune {
 namespace {
 
-/// True if `front` is painted over `behind`, which it does not hold: where the ways up from them meet, its
-/// branch is the later child.
+/// Returns whether `front` is painted over `behind`: of the two children of their common ancestor that lead
+/// to them, the later one is in front. Precondition: `front` does not contain `behind`.
 bool liesInFront(const QWidget& front, const QWidget& behind) {
     const QWidget* branch = &front;
     while (!branch->parentWidget()->isAncestorOf(&behind)) {
@@ -64,14 +64,14 @@ Page::Page(PageName name)
         }
     });
     menuBar()->installEventFilter(this);
-    // As on most desktops, and the way into the menu where a button has its access key.
+    // As on most desktops; and on pages where a button has the access key of the menu, the only key for it.
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, &Page::openMenu);
     setMinimumSize(qRound(kDesignWidth), qRound(kDesignHeight) + menuBar()->sizeHint().height());
 }
 
 void Page::designIsReady() {
     setWindowTitle(design_->windowTitle());
-    // A screen reader tells it as the focus enters the page.
+    // Screen readers say it when the focus enters the page.
     setAccessibleName(windowTitle());
 }
 
@@ -81,7 +81,7 @@ void Page::setZoom(ZoomStep step) {
     zoomMenu();
     QSize size = (QSizeF(kDesignWidth, kDesignHeight) * step.factor()).toSize();
     if (step != ZoomStep()) {
-        // The start page reaches over the design area.
+        // The start page is stretched, and can be larger than the design area.
         const QRect all = design_->childrenRect();
         size = size.expandedTo({all.right() + 1, all.bottom() + 1});
     }
@@ -99,7 +99,7 @@ void Page::takeFocus() {
 void Page::openMenu() {
     QAction* const title = menuBar()->actions().constFirst();
     menuBar()->setActiveAction(title);
-    // As where its access key opens it: at the first entry that can be chosen.
+    // The access key of the menu selects the first entry that can be chosen, too.
     const QList<QAction*> entries = title->menu()->actions();
     const auto first = std::find_if(entries.begin(), entries.end(), [](const QAction* entry) {
         return entry->isEnabled() && !entry->isSeparator();
@@ -111,7 +111,7 @@ void Page::openMenu() {
 
 void Page::zoomMenu() {
     const auto zoom = [this](QWidget& menu) {
-        // The desktop's own font, whose size is told in points or in pixels.
+        // The font of the desktop, whose size is in points or in pixels.
         QFont font = QApplication::font(&menu);
         if (font.pixelSize() > 0) {
             font.setPixelSize(qRound(font.pixelSize() * zoom_.factor()));
@@ -156,10 +156,10 @@ void Page::tell(const QString& message) {
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     box->button(QMessageBox::Ok)->setText("OK");
-    // A button that is polished only after its box was shown has the whole box laid out and painted once
-    // more.
+    // Polished now, since a button that is polished after the box is shown has the box laid out and painted
+    // twice.
     QCoreApplication::sendPostedEvents(box->button(QMessageBox::Ok), QEvent::PolishRequest);
-    // The whole program waits for it, the about box too.
+    // The about box cannot be used either.
     box->setWindowModality(Qt::ApplicationModal);
     box->show();
 }

@@ -14,7 +14,7 @@ namespace tavrune {
 inline constexpr double kDesignWidth = fromTwips(9660);
 inline constexpr double kDesignHeight = fromTwips(6690);
 
-/// A page of the program: the topic menu above a design area that stays at the top left of the window.
+/// A page of the program: the topic menu, and below it a design area at the top left of the window.
 class Page : public QMainWindow {
     Q_OBJECT
 
@@ -24,22 +24,22 @@ public:
     [[nodiscard]] PageName name() const { return name_; }
     [[nodiscard]] TopicMenu& topicMenu() { return topicMenu_; }
 
-    /// The size of the page, which Ctrl with plus, minus or 0 changes. Where the window is too small for it,
-    /// the page can be scrolled, and follows the focus.
+    /// The size of the page; Ctrl with plus, minus or 0 changes it. In a window that is too small for it the
+    /// page can be scrolled, and scrolls by itself to the control with the focus.
     [[nodiscard]] ZoomStep zoom() const { return zoom_; }
     void setZoom(ZoomStep step);
 
-    /// The focus goes where the page has put it, otherwise to its first control.
+    /// Gives the focus to the control that had it last on this page, otherwise to the first one.
     void takeFocus();
 
 signals:
-    /// The user has asked for another size, which the page has now.
+    /// The user has changed the size of the page.
     void zoomed(ZoomStep step);
-    /// A menu entry or a page's own button asks for another page.
+    /// The user has chosen another page, in the menu or by a button.
     void chosen(PageName target);
-    /// The about box is asked for; this page stays.
+    /// The user wants to see the about box; this page stays.
     void aboutChosen();
-    /// "Luk": the program is to end at once.
+    /// The user has chosen "Luk": the program ends at once.
     void closeChosen();
 
 protected:
@@ -52,12 +52,13 @@ protected:
 
     [[nodiscard]] QWidget* design() const { return design_; }
 
-    /// Tab passes by what lies under a panel.
+    /// Tab skips controls that lie under a panel.
     bool focusNextPrevChild(bool next) override;
-    /// A button's access key goes before a menu title's.
+    /// If a button and a menu title have the same access key, it belongs to the button.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /// A message box with the one button "OK". Returns at once; the page waits behind the box.
+    /// Shows a message box with one button, "OK". Returns at once; the page cannot be used until it is
+    /// closed.
     void tell(const QString& message);
 
 private:

@@ -20,7 +20,7 @@ inline constexpr std::array kExercisePages{TAVRUNE_EXERCISES(TAVRUNE_NAME)};
 
 #undef TAVRUNE_NAME
 
-/// The page's own name, in UTF-8: "Brok", "dlinie", "Rødder", "afsæt".
+/// Returns the page's own name, in UTF-8: "Brok", "dlinie", "Rødder", "afsæt".
 [[nodiscard]] std::string_view textOf(PageName name);
 
 }  // namespace tavrune

@@ -7,9 +7,9 @@ enum class Subject { None, Andengradspolynomiet, Integralregning, LodretAddition
 
 }  // namespace tavrune
 
-// The one table of exercise forms, a line each, in the order of the topic menu: what its class and its page
-// name are called in the code, its own name, its subject where that has a submenu, and its entry there. Menu,
-// program, tests, benchmarks and fuzzers go through it. Its title stands in its designer file.
+// All exercise forms, one line each, in the order of the topic menu: the name of its class and of its
+// `PageName`, its own name, its subject if that has a submenu, and the text of its menu entry. Menu, program,
+// tests, benchmarks and fuzzers are made from this table. The title of a form is in its designer file.
 #define TAVRUNE_EXERCISES(FORM)                                                                              \
     FORM(Afsaet, "afsæt", None, "Afsætningsfunktioner")                                                      \
     FORM(Roedder, "Rødder", Andengradspolynomiet, "Rødder")                                                  \

@@ -20,8 +20,7 @@ struct Wording {
     std::string_view caption;
 };
 
-// The pages' menus were written one by one. Kept (shell-menu-wordings): what differs from the tree stays as
-// it is, slips included.
+// Kept (shell-menu-wordings): where a page words an entry in its own way, it stays so, misspelt or not.
 constexpr std::array kWordings{
     Wording{Name::Topp, Subject::Andengradspolynomiet, "Andengradspolynomier"},
     Wording{Name::Topp, Name::Integ2, "Niveau 2: Mestemt integrale af lineære funktioner med knæk"},
@@ -92,7 +91,7 @@ const std::vector<MenuLine>& topicTree() {
             if (subject != Subject::None && lines.back().parent != subject) {
                 lines.push_back({subject, Subject::None, captionOf(subject)});
             }
-            // The topics stand between two lines.
+            // One separator above the topics, one below.
             lines.push_back({page, subject, caption, page == kForms.front().page});
         }
         lines.push_back({{}, Subject::None, "Luk", true});

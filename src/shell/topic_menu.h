@@ -11,7 +11,7 @@
 
 namespace tavrune {
 
-/// What a line of the topic menu stands for: a page that it opens, a subject with a submenu, or the way out.
+/// What a line of the topic menu does: open a page, open the submenu of a subject, or close the program.
 struct MenuEntry {
     std::optional<PageName> page;
     Subject subject = Subject::None;
@@ -26,19 +26,20 @@ struct MenuEntry {
 
 struct MenuLine {
     MenuEntry entry;
-    /// The subject in whose submenu the line stands.
+    /// The subject in whose submenu the line is; none for the menu itself.
     Subject parent = Subject::None;
     std::string_view caption;
     bool separatorBefore = false;
 };
 
-/// The tree, in order, with the wordings that most pages have.
+/// Returns all lines in order, with the wordings that most pages have.
 [[nodiscard]] const std::vector<MenuLine>& topicTree();
 
-/// The wording of one line on one page: the pages differ, and each keeps its own.
+/// Returns the wording of a line on a page.
 [[nodiscard]] std::string_view captionOn(PageName page, const MenuLine& line);
 
-/// True if a page's own menu shows this target as disabled: it is there already.
+/// Returns whether the menu of `page` shows the entry of `target` disabled, because the user is there
+/// already.
 [[nodiscard]] bool isOwnEntry(PageName page, PageName target);
 
 /// Fills the menu bar of `page` with the one menu that every page has.
@@ -51,7 +52,7 @@ public:
 
     TopicMenu(QMenuBar& bar, PageName page, const Handlers& handlers);
 
-    /// The action of an entry; null for a subject that only opens a submenu.
+    /// Returns the action that opens a page; null if no entry does.
     [[nodiscard]] QAction* actionFor(PageName target) const;
     [[nodiscard]] QMenu* menu() const { return menu_; }
 

@@ -22,7 +22,7 @@ void bindZoomKeys(QWidget* window, const std::function<ZoomStep()>& current,
             QObject::connect(shortcut, &QShortcut::activated, window, action);
         }
     };
-    // Where plus is above the equals sign, that key alone is enough.
+    // On keyboards with plus above the equals sign nobody has to hold Shift.
     bind({QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")}, [current, zoom] { zoom(current().larger()); });
     bind({QKeySequence("Ctrl+-")}, [current, zoom] { zoom(current().smaller()); });
     bind({QKeySequence("Ctrl+0")}, [zoom] { zoom(ZoomStep()); });

@@ -10,7 +10,7 @@ namespace tavrune {
 /// The sizes that a page can have, in percent of its design.
 inline constexpr std::array kZoomSteps{100, 125, 150, 175, 200, 250, 300};
 
-/// One of the sizes. It starts at the design's own and stays within the list.
+/// One of the sizes, at first that of the design. The smallest has no smaller one, the largest no larger one.
 class ZoomStep {
 public:
     [[nodiscard]] ZoomStep larger() const {
@@ -31,10 +31,11 @@ private:
     std::size_t index_ = 0;
 };
 
-/// Scales every control below `design`.
+/// Sets the zoom of every control below `design`.
 void zoomControls(const QWidget& design, ZoomStep step);
 
-/// In `window`, Ctrl and plus, minus or 0 run `zoom` with the step that they ask for, counted from `current`.
+/// In `window`, Ctrl with plus, minus or 0 calls `zoom` with the next larger or smaller step after `current`,
+/// or with that of the design.
 void bindZoomKeys(QWidget* window, const std::function<ZoomStep()>& current,
                   const std::function<void(ZoomStep)>& zoom);
 
