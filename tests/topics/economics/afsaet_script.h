@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "support/scripted_draws.h"
 #include "topics/economics/afsaet_exercise.h"
 
@@ -235,5 +237,16 @@ inline void PrintTo(const Sample& sample, std::ostream* out) { *out << sample.na
     }
     throw std::invalid_argument("there is no such sample");
 }
+
+/// The exercise that comes of just these draws.
+[[nodiscard]] inline AfsaetState exercise(const Script& script) {
+    ScriptedDraws draws(script);
+    AfsaetState state;
+    newExercise(state, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    return state;
+}
+
+[[nodiscard]] inline AfsaetState exercise(const char* name) { return exercise(sample(name).script()); }
 
 }  // namespace tavrune::test::afsaet

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "numeric/draws.h"
+
+namespace tavrune {
+
+/// What is known of the demand function.
+enum class AfsaetKind {
+    TwoPoints = 0,
+    PointAndElasticityAtPrice,
+    PointAndElasticityAtQuantity,
+    PointAndSlope,
+    TwoElasticities,
+    ElasticityAtPriceAndSlope,
+    ElasticityAtQuantityAndSlope,
+};
+
+/// Both axes of the graph end here.
+inline constexpr int kAfsaetEnd = 10;
+
+/// How the range of validity is told.
+enum class AfsaetInterval { InPrices, InQuantities };
+
+/// One demand function P = aQ + b with its range of validity.
+///
+/// All numbers are computed as singles (but for two factors, 0.8 and 1.5, which make doubles of what they
+/// meet) and, where they are doubles here, rounded to 2 decimals at the end.
+struct AfsaetState {
+    AfsaetKind kind = AfsaetKind::TwoPoints;
+    AfsaetInterval interval = AfsaetInterval::InPrices;
+    /// The answer, with the bounds of the quantity: a < 0 and 3 <= b <= 10.
+    double a = 0;
+    double b = 0;
+    double Qlo = 0;
+    double Qhi = 0;
+    /// Two points, the first one up and to the left. What a kind neither draws nor computes is of no account.
+    double P1 = 0;
+    double Q1 = 0;
+    double P2 = 0;
+    double Q2 = 0;
+    /// -6 to -2; -1 by a draw of just 0.
+    float Ep = 0;
+    float Ep2 = 0;
+    float slope = 0;
+    /// Whole. Only where the interval is told in prices.
+    float Plo = 0;
+    float Phi = 0;
+    /// Where the line meets the axes, for two elasticities only. Qmax is whole.
+    double Pmax = 0;
+    float Qmax = 0;
+};
+
+/// Draws until a kind, its numbers and its interval go together, with a new kind at each try.
+void newExercise(AfsaetState& state, Draws& draws);
+
+}  // namespace tavrune
