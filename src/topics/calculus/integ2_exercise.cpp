@@ -16,7 +16,6 @@ enum class Family { FallThenRise = 1, RiseThenFall = 2, TwoFalls = 3 };
 enum class Try { Taken, Again, LeftForFallThenRise };
 
 constexpr int kFamilies = 3;
-constexpr int kLargestLimit = 9;
 /// From the kink to either limit.
 constexpr int kLargestReach = 3;
 /// The kink is one of so many whole numbers, from the smallest on.
@@ -35,8 +34,8 @@ void drawLimits(Integ2State& s, Draws& draws) {
     s.w = s.k + drawUpTo(kLargestReach, draws);
 }
 
-// Kept (integ2-idle-limits), though of the three only v < 0 can be drawn.
-bool areLimitsOutside(const Integ2State& s) { return s.v >= s.w || s.v < 0 || s.w > kLargestLimit; }
+/// Whether the limits begin left of the graph. They end on it: no kink is above 6, and w is at most 3 more.
+bool beginOutside(const Integ2State& s) { return s.v < 0; }
 
 bool isTooHigh(const Integ2State& s) { return std::abs(s.a2 * s.k + s.b2) > kLargestHeight; }
 
@@ -50,7 +49,7 @@ Try tryFallThenRise(Integ2State& s, Draws& draws) {
         return Try::Again;
     }
     drawLimits(s, draws);
-    return areLimitsOutside(s) || isTooHigh(s) ? Try::Again : Try::Taken;
+    return beginOutside(s) || isTooHigh(s) ? Try::Again : Try::Taken;
 }
 
 Try tryRiseThenFall(Integ2State& s, Draws& draws) {
@@ -64,7 +63,7 @@ Try tryRiseThenFall(Integ2State& s, Draws& draws) {
     drawKink(s, draws);
     drawLimits(s, draws);
     // Kept (integ2-height-as-rise): the height is that of the segment before it is made to fall.
-    if (areLimitsOutside(s) || isTooHigh(s)) {
+    if (beginOutside(s) || isTooHigh(s)) {
         return Try::Again;
     }
     s.a2 = -s.a2;
@@ -79,11 +78,7 @@ Try tryTwoFalls(Integ2State& s, Draws& draws) {
     drawKink(s, draws);
     drawLimits(s, draws);
     const bool isOneLine = s.a1 == s.a2 && s.b1 == s.b2;
-    if (areLimitsOutside(s) || isOneLine) {
-        return Try::Again;
-    }
-    // Kept (integ2-idle-height), though no two falls come that high.
-    return isTooHigh(s) ? Try::LeftForFallThenRise : Try::Taken;
+    return beginOutside(s) || isOneLine ? Try::Again : Try::Taken;
 }
 
 Try tryFamily(Family family, Integ2State& s, Draws& draws) {
