@@ -58,13 +58,12 @@ TableCell shown(const Quantity& quantity) {
     return quantity->value() > kLargestShown ? TableCell::unbounded() : RoundUp2(quantity->value());
 }
 
-bool isIn(Part part, Parts parts) {
-    return parts == Parts::Both || parts == (part == Part::First ? Parts::First : Parts::Second);
+bool haveCommonPart(Parts one, Parts other) {
+    return (static_cast<unsigned>(one) & static_cast<unsigned>(other)) != 0;
 }
 
-bool haveCommonPart(Parts one, Parts other) {
-    return (isIn(Part::First, one) && isIn(Part::First, other)) ||
-           (isIn(Part::Second, one) && isIn(Part::Second, other));
+bool isIn(Part part, Parts parts) {
+    return haveCommonPart(parts, part == Part::First ? Parts::First : Parts::Second);
 }
 
 struct PriceRow {
@@ -259,9 +258,8 @@ void addSegments(Vaddi3State& s, const std::vector<Point>& points) {
 
 void addUp(Vaddi3State& s, const std::vector<PriceRow>& rows) {
     // At a jump up each part is added to function 2 by itself, over its own prices.
-    const std::vector<Parts> runs =
-        s.isJumpUp() ? std::vector{Parts::First, Parts::Second} : std::vector{Parts::Both};
-    for (const Parts run : runs) {
+    for (const Parts run :
+         s.isJumpUp() ? std::vector{Parts::First, Parts::Second} : std::vector{Parts::Both}) {
         std::vector<Point> points;
         for (const PriceRow& row : rows) {
             if (!haveCommonPart(row.parts, run)) {

@@ -16,8 +16,9 @@ enum class KinkKind { JumpDown = 0, JumpUp = 1, Steeper = 2, Flatter = 3 };
 /// One of the two parts of function 1.
 enum class Part { First, Second };
 
-/// On which parts of function 1 a price lies. Of rows of one price, the last one in this order stays.
-enum class Parts { None, First, Second, Both };
+/// On which parts of function 1 a price lies, a bit for each. Of rows of one price, that with the highest
+/// value stays.
+enum class Parts : unsigned { None = 0, First = 1, Second = 2, Both = First | Second };
 
 /// The columns of the help table as they stand on the form. At a jump up, each part of function 1 has its own
 /// quantity and its own total; otherwise the outer columns are blank, and the price moves one to the right.
