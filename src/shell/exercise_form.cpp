@@ -92,9 +92,13 @@ void ExerciseForm::run(const std::function<void()>& action) {
 }
 
 void ExerciseForm::enterChain(const std::vector<AnswerBox*>& boxes, LastBox last) {
+    enterChain(boxes, after(last));
+}
+
+void ExerciseForm::enterChain(const std::vector<AnswerBox*>& boxes, const std::vector<QWidget*>& candidates) {
     for (auto box = boxes.begin(); box != boxes.end(); ++box) {
         const auto next = box + 1;
-        enterGoes(*box, next == boxes.end() ? after(last) : std::vector<QWidget*>{*next});
+        enterGoes(*box, next == boxes.end() ? candidates : std::vector<QWidget*>{*next});
     }
 }
 
@@ -197,7 +201,7 @@ void ExerciseForm::giveFinalWrongColour() {
 void ExerciseForm::judgeAloud() {
     shown_ = Verdict::None;
     judge();
-    // Fields turn red after the verdict has come, so it is told when all is done.
+    // Forms mark fields after they have shown the verdict; the names of these are only known now.
     if (shown_ == Verdict::Right) {
         announce(right_, right_->text());
     } else if (shown_ == Verdict::Wrong) {
@@ -231,9 +235,9 @@ QStringList ExerciseForm::wrongFields() const {
 
 void ExerciseForm::closeHelp() { helpPanel_->hide(); }
 
-void ExerciseForm::openPanel(QWidget* panel, QWidget* firstVis) {
+void ExerciseForm::openPanel(QWidget* panel, QWidget* firstButton) {
     panel->show();
-    focusOn(firstVis);
+    focusOn(firstButton);
 }
 
 void ExerciseForm::showEvent(QShowEvent* event) {
@@ -242,7 +246,7 @@ void ExerciseForm::showEvent(QShowEvent* event) {
         return;
     }
     hasOpened_ = true;
-    loadStep();
+    buttons_.newExercise->show();
     // The first exercise sets the focus, and that needs a form on screen.
     QTimer::singleShot(0, this, [this] { run([this] { opened(); }); });
 }

@@ -14,45 +14,47 @@
 
 namespace tavrune {
 
-/// Shows, or hides, all of them.
 void showAll(std::initializer_list<QWidget*> widgets);
 void hideAll(std::initializer_list<QWidget*> widgets);
+/// Shows or hides all of them.
 void setShown(bool shown, std::initializer_list<QWidget*> widgets);
 
-/// What Enter does in the last box of a chain: "&OK" if it is shown; else nothing, or "&Ny opgave".
+/// Where Enter leads from the last box of a chain: to "&OK" while that is shown; otherwise the focus stays,
+/// or goes to "&Ny opgave".
 enum class LastBox { OkOrStay, OkOrNewExercise };
 
-/// The life cycle that all exercise forms share. It knows the controls that it moves by their names, which
-/// are the same on every form; a form says, in the hooks, what is particular to it.
+/// The life cycle that all exercise forms share. It finds the controls that it needs by their names, which
+/// are the same on every form:
 ///
-/// | Name | What |
-/// |---|---|
-/// | `newExercise`, `ok`, `giveAnswer`, `help` | the four standing buttons |
-/// | `verdict`, or `right` and `wrong` | one label that gets caption and colour at each judging; or two at
-/// one place with fixed ones, of which judging shows one. A `wrong` that the design gives a colour has it
-/// until the first exercise | | `helpPanel`, `closeHelp` | the help and its "Luk", where a form has one help
-/// for all its exercises |
+/// - `newExercise`, `ok`, `giveAnswer`, `help`: the four standing buttons.
+/// - `verdict`, or `right` and `wrong`: one label, whose caption and colour each judging sets; or two at one
+///   place with fixed captions, of which judging shows one. If the design gives `wrong` a colour, it keeps
+///   that until the first exercise.
+/// - `helpPanel`, `closeHelp`: the help and its "Luk", if the form has one help for all its exercises.
 ///
-///     Loaded --opening--> Asking --judge--> Wrong or Solved; --give the answer--> Given
+/// What differs from form to form is in the hooks. The states:
 ///
-/// "&Ny opgave" leads from every state to Asking. Panels are open or closed beside all of this.
+///     Unopened --on screen--> Asking --judge--> Solved or Failed; --give the answer--> Given
+///
+/// "&Ny opgave" leads from every state to Asking. Panels open and close in any state.
 class ExerciseForm : public Page {
     Q_OBJECT
 
 public:
     ExerciseForm(PageName name, Draws& draws);
 
-    /// Who is told of a failure of the arithmetic that ends an action, for as long as the form lives. It is
-    /// thrown on while there is none, as at first, or it is null.
+    /// Sets who is told when a failure of the arithmetic ends an action. Null, as at first: the failure is
+    /// thrown on. Precondition: the handler outlives the form.
     void setFailureHandler(FailureHandler* handler) { failureHandler_ = handler; }
 
 signals:
-    /// A verdict has come, in the words that screen readers say: with the names of the fields that are wrong.
+    /// There is a verdict. `words` is what screen readers say: the verdict, and the names of the wrong
+    /// fields.
     void announced(const QString& words);
 
 protected:
-    /// Fills the design area from a designer file and binds the roles. Throws std::logic_error with the names
-    /// of the form and the control where one is missing.
+    /// Fills the design area from a designer file and binds the roles. Throws std::logic_error, with the
+    /// names of form and control, if a control is missing.
     template <class Ui>
     void setUp(Ui& ui) {
         Page::setUp(ui);
@@ -61,18 +63,22 @@ protected:
     void bindRoles();
 
     // For the constructor, once the roles are bound.
-    /// Enter goes from each box to the next; from the last as `last` says.
+    /// Enter goes from each box to the next, and from the last one as `last` says.
     void enterChain(const std::vector<AnswerBox*>& boxes, LastBox last);
 
-    /// As `enterChain`, where not all boxes are always shown: before a hidden box, too, Enter goes as `last`
+    /// Enter goes from each box to the next, and from the last one to the first of `candidates` that is
+    /// shown.
+    void enterChain(const std::vector<AnswerBox*>& boxes, const std::vector<QWidget*>& candidates);
+
+    /// As `enterChain`, for boxes that can be hidden: from a box before a hidden one Enter goes as `last`
     /// says.
     void enterChainWhileShown(const std::vector<AnswerBox*>& boxes, LastBox last);
 
-    /// Enter goes from `box` to the first of `candidates` that is shown, or nowhere. A later call for the
-    /// same box replaces an earlier one.
+    /// Enter goes from `box` to the first of `candidates` that is shown, or nowhere. Replaces what an earlier
+    /// call has set for the box.
     void enterGoes(AnswerBox* box, std::vector<QWidget*> candidates);
 
-    /// The targets of a last box.
+    /// Returns where Enter can go from a last box.
     [[nodiscard]] std::vector<QWidget*> after(LastBox last) const;
 
     /// Runs `action` at each click on `button`.
@@ -83,10 +89,8 @@ protected:
     }
 
     // The hooks.
-    /// Before the form is on screen.
-    virtual void loadStep() {}
-    /// Once, as soon as the form is on screen. The base gives "FORKERT" its final colour, then the first
-    /// exercise.
+    /// Called once, as soon as the form is on screen. The base gives "FORKERT" its final colour and asks the
+    /// first exercise.
     virtual void opened();
     virtual void newExercise() = 0;
     virtual void judge() = 0;
@@ -96,26 +100,27 @@ protected:
     virtual void closeHelp();
 
     // Steps that the hooks are made of.
-    /// White and empty.
+    /// Empties the boxes and takes their red away.
     static void clearBoxes(std::initializer_list<AnswerBox*> boxes);
+    /// Takes the red away.
     static void whiten(std::initializer_list<AnswerBox*> boxes);
-    /// "&OK" on, "&Giv svaret" off, no verdict.
+    /// Asking: "&OK" is shown, "&Giv svaret" and the verdict are not.
     void showAsking();
+    /// Solved: "RIGTIGT" is shown, "&OK" and "&Giv svaret" are not. The focus goes to "&Ny opgave".
+    void solved();
+    /// Failed: "FORKERT", "&OK" and "&Giv svaret" are shown. The form says where the focus goes.
+    void failed();
+    /// Given: the verdict, "&OK" and "&Giv svaret" are hidden. The focus goes to "&Ny opgave".
+    void given();
     void hideVerdict();
-    /// "RIGTIGT" is shown. Kept (shell-forkert-behind): "FORKERT" is not hidden by it in a two-label form.
+    /// Shows "RIGTIGT". Kept (shell-forkert-behind): where "FORKERT" is a label of its own, it is not hidden.
     void showRight();
     void showWrong();
-    /// Right: the verdict, no "&OK" and no "&Giv svaret", focus to "&Ny opgave".
-    void solved();
-    /// Wrong: the verdict, "&OK" and "&Giv svaret" shown. The focus is the form's.
-    void failed();
-    /// Given: no verdict, no "&OK" and no "&Giv svaret", focus to "&Ny opgave".
-    void given();
     void giveFinalWrongColour();
 
-    /// Shows a panel and gives the focus to its first "Vis".
-    static void openPanel(QWidget* panel, QWidget* firstVis);
-    /// The help panel, where a form has one.
+    /// Shows a panel and gives the focus to its first button.
+    static void openPanel(QWidget* panel, QWidget* firstButton);
+    /// Null if the form has no help panel of that name.
     [[nodiscard]] QWidget* helpPanel() const { return helpPanel_; }
 
     [[nodiscard]] Draws& draws() { return draws_; }
@@ -123,17 +128,17 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    /// Runs an action of the form. A failure ends it.
+    /// Runs an action of the form. A failure of the arithmetic ends the action and goes to the handler.
     void run(const std::function<void()>& action);
     [[nodiscard]] bool hasOneLabel() const { return right_ == wrong_; }
-    /// The control of a role. Throws std::logic_error where there is none.
+    /// Returns the control of a role. Throws std::logic_error if there is none.
     template <class Widget>
     [[nodiscard]] Widget* role(const char* name) const;
     void bindVerdict();
-    /// Judges, and announces the verdict, if there is one.
+    /// Judges and announces the verdict, if there is one.
     void judgeAloud();
     void announce(Label* verdict, const QString& words);
-    /// The names of the boxes that are marked as wrong for all to see, in reading order.
+    /// Returns the names of the visible boxes that are marked as wrong, in reading order.
     [[nodiscard]] QStringList wrongFields() const;
 
     Draws& draws_;
@@ -143,11 +148,11 @@ private:
         Button* ok = nullptr;
         Button* giveAnswer = nullptr;
     } buttons_;
-    /// One and the same label where there is but one.
+    /// The same label twice if the form has only one.
     Label* right_ = nullptr;
     Label* wrong_ = nullptr;
     QWidget* helpPanel_ = nullptr;
-    /// The verdict that the last judging has shown.
+    /// The verdict that the last judging showed.
     enum class Verdict { None, Right, Wrong } shown_ = Verdict::None;
     bool hasOpened_ = false;
 };

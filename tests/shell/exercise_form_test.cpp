@@ -48,13 +48,13 @@ public:
     using ExerciseForm::clearBoxes;
     using ExerciseForm::design;
     using ExerciseForm::enterGoes;
-    using ExerciseForm::failed;
-    using ExerciseForm::given;
     using ExerciseForm::hideVerdict;
     using ExerciseForm::showAsking;
+    using ExerciseForm::failed;
+    using ExerciseForm::given;
     using ExerciseForm::showRight;
-    using ExerciseForm::showWrong;
     using ExerciseForm::solved;
+    using ExerciseForm::showWrong;
     using ExerciseForm::tell;
 
     [[nodiscard]] std::string focus() const {
@@ -78,7 +78,6 @@ public:
     Button close{&panel};
 
 protected:
-    void loadStep() override { calls.emplace_back("load"); }
     void newExercise() override {
         calls.emplace_back("new");
         focusOn(&first);
@@ -111,14 +110,30 @@ protected:
 
 using Calls = std::vector<std::string>;
 
-TEST_F(LifeCycle, LoadsThenOpensOnce) {
+TEST_F(LifeCycle, OpensOnce) {
     Sample& s = open();
-    EXPECT_EQ(s.calls, (Calls{"load", "new"}));
+    EXPECT_EQ(s.calls, Calls{"new"});
     s.hide();
     s.show();
     settle();
-    EXPECT_EQ(s.calls, (Calls{"load", "new"}));
+    EXPECT_EQ(s.calls, Calls{"new"});
     EXPECT_EQ(s.focus(), "first");
+}
+
+TEST_F(LifeCycle, ShowsTheButtonForNewExercisesBeforeTheFirstOneComes) {
+    Sample s(draws, VerdictKind::One, LastBox::OkOrStay);
+    s.newExerciseButton.hide();
+    s.show();
+    EXPECT_TRUE(s.newExerciseButton.isVisible());
+    EXPECT_TRUE(s.calls.empty());
+}
+
+TEST_F(LifeCycle, LeavesTheButtonForNewExercisesAloneOnceItHasOpened) {
+    Sample& s = open();
+    s.newExerciseButton.hide();
+    s.hide();
+    s.show();
+    EXPECT_FALSE(s.newExerciseButton.isVisible());
 }
 
 TEST_F(LifeCycle, StandsStillBeforeItIsOnScreen) {

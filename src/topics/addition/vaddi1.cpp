@@ -21,8 +21,7 @@ Vaddi1::Vaddi1(Draws& draws) : ExerciseForm(PageName::Vaddi1, draws), ui_(std::m
             boxes.push_back(column[row]);
         }
     }
-    enterChain(boxes, LastBox::OkOrStay);
-    enterGoes(boxes.back(), {ui_->segment1Slope, ui_->segment2Slope});
+    enterChain(boxes, {ui_->segment1Slope, ui_->segment2Slope});
     enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
     onClick(ui_->showPrices, &Vaddi1::showPrices);
     onClick(ui_->showQuantities, &Vaddi1::showQuantities);
@@ -33,7 +32,6 @@ Vaddi1::~Vaddi1() = default;
 
 void Vaddi1::opened() {
     newExercise();
-    ui_->openingBlank->hide();
     giveFinalWrongColour();
 }
 

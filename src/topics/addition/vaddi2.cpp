@@ -50,16 +50,8 @@ void Vaddi2::chainBoxes() {
         }
         table.push_back(columnQtotal_[row]);
     }
-    for (std::size_t i = 0; i + 1 < table.size(); ++i) {
-        enterGoes(table[i], {table[i + 1]});
-    }
-    enterGoes(table.back(), {ui_->segment1Slope, ui_->segment2Slope});
+    enterChain(table, {ui_->segment1Slope, ui_->segment2Slope});
     enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
-}
-
-void Vaddi2::opened() {
-    ExerciseForm::opened();
-    ui_->openingBlank->hide();
 }
 
 void Vaddi2::newExercise() {

@@ -25,7 +25,6 @@ public:
     [[nodiscard]] const Vaddi2State& state() const { return state_; }
 
 protected:
-    void opened() override;
     void newExercise() override;
     void judge() override;
     void giveAnswer() override;

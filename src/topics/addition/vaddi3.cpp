@@ -41,10 +41,9 @@ Vaddi3::~Vaddi3() = default;
 
 void Vaddi3::bindBoxes() {
     rows_ = AnswerRows::of(*design());
-    std::size_t place = 0;
     for (const char* name : {"wideTablePrice", "part1QuantityOrPrice", "function1OrPart2Quantity",
                              "function2Quantity", "totalOrPart1TotalQuantity", "part2TotalQuantity"}) {
-        table_.at(place++) = helpColumnOf(*design(), name);
+        table_.push_back(helpColumnOf(*design(), name));
     }
 }
 
@@ -58,11 +57,6 @@ void Vaddi3::bindEnter() {
         }
     }
     enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
-}
-
-void Vaddi3::opened() {
-    ExerciseForm::opened();
-    ui_->openingBlank->hide();
 }
 
 void Vaddi3::newExercise() {

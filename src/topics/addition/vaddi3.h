@@ -1,7 +1,7 @@
 #pragma once
 
-#include <array>
 #include <memory>
+#include <vector>
 
 #include "graph/graph_box.h"
 #include "shell/exercise_form.h"
@@ -25,7 +25,6 @@ public:
     [[nodiscard]] const Vaddi3State& state() const { return state_; }
 
 protected:
-    void opened() override;
     void newExercise() override;
     void judge() override;
     void giveAnswer() override;
@@ -66,7 +65,7 @@ private:
     std::unique_ptr<Ui::Vaddi3> ui_;
     AnswerRows rows_;
     /// The columns of the help table as they stand on the form.
-    std::array<HelpColumn, kTableColumns> table_;
+    std::vector<HelpColumn> table_;
     Vaddi3State state_;
 };
 

@@ -33,11 +33,6 @@ void VerticalForm::bindGraphsAndRows() {
     rows_ = AnswerRows::of(*design());
 }
 
-void VerticalForm::opened() {
-    ExerciseForm::opened();
-    design()->findChild<Label*>("openingBlank")->hide();
-}
-
 void VerticalForm::judge() {
     rows_.whiten();
     hideVerdict();

@@ -26,7 +26,6 @@ protected:
     /// The sum of the exercise.
     [[nodiscard]] virtual VerticalSum sum() const = 0;
 
-    void opened() override;
     void judge() override;
     void giveAnswer() override;
     void help() override;

@@ -28,8 +28,6 @@ Diff::Diff(Draws& draws) : ExerciseForm(PageName::Diff, draws), ui_(std::make_un
 
 Diff::~Diff() = default;
 
-void Diff::loadStep() { ui_->newExercise->show(); }
-
 void Diff::newExercise() {
     hideAll({ui_->helpPanel, ui_->workedDerivative, ui_->workedDerivativeAtPoint, ui_->workedResult});
     ui_->generalRule->show();

@@ -22,7 +22,6 @@ public:
     [[nodiscard]] const DiffState& state() const { return state_; }
 
 protected:
-    void loadStep() override;
     void newExercise() override;
     void judge() override;
     void giveAnswer() override;

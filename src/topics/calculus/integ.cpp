@@ -52,8 +52,6 @@ Integ::Integ(Draws& draws) : ExerciseForm(PageName::Integ, draws), ui_(std::make
 
 Integ::~Integ() = default;
 
-void Integ::loadStep() { ui_->newExercise->show(); }
-
 void Integ::newExercise() {
     ui_->helpPanel->hide();
     ui_->workedSolutionCover->show();
@@ -65,7 +63,6 @@ void Integ::newExercise() {
     fillHelp();
     clearBoxes({ui_->integral});
     showAsking();
-    ui_->newExercise->show();
     focusOn(ui_->integral);
     drawCurve(kLargestOfTask);
 }
@@ -164,11 +161,7 @@ void Integ::layOutHelp() {
 void Integ::layOutStepWithLetters(double left) {
     layOutFromFirst({ui_->workedLettersIntegrandHead, ui_->workedLettersIntegrandSquare,
                      ui_->workedLettersIntegrandTail, ui_->workedLettersDifferentialEquals});
-    // Four labels that stay empty stand before the upper part.
-    const double afterEmpty = layOutRow({ui_->emptyBeforeCubicTerm, ui_->emptyBeforeCube,
-                                         ui_->emptyBeforeQuadraticTerm, ui_->emptyBeforeSquare},
-                                        left);
-    rows_.lowerWithLetters.layOut(rows_.upperWithLetters.layOut(afterEmpty));
+    rows_.lowerWithLetters.layOut(rows_.upperWithLetters.layOut(left));
 }
 
 void Integ::showWorkedSolution() {

@@ -39,7 +39,6 @@ public:
     [[nodiscard]] const IntegState& state() const { return state_; }
 
 protected:
-    void loadStep() override;
     void newExercise() override;
     void judge() override;
     void giveAnswer() override;

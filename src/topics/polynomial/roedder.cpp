@@ -82,8 +82,6 @@ Roedder::Roedder(Draws& draws)
 
 Roedder::~Roedder() = default;
 
-void Roedder::loadStep() { ui_->newExercise->show(); }
-
 void Roedder::newExercise() {
     showAll({ui_->rootsCover, ui_->rootCountCover, ui_->discriminantCover});
     closeHelp();

@@ -23,7 +23,6 @@ public:
     [[nodiscard]] const RoedderState& state() const { return state_; }
 
 protected:
-    void loadStep() override;
     void newExercise() override;
     void judge() override;
     void giveAnswer() override;

@@ -30,8 +30,6 @@ Rogt::Rogt(Draws& draws) : ExerciseForm(PageName::Rogt, draws), ui_(std::make_un
 
 Rogt::~Rogt() = default;
 
-void Rogt::loadStep() { ui_->newExercise->show(); }
-
 std::vector<AnswerBox*> Rogt::chosenRootBoxes() const {
     switch (options_.chosen().value_or(RootCount::None)) {
         case RootCount::Two:
@@ -100,7 +98,7 @@ void Rogt::beginEntry() {
     hideRootFields();
     hideVerdict();
     ui_->giveAnswer->hide();
-    showAll({ui_->ok, ui_->newExercise});
+    ui_->ok->show();
 }
 
 void Rogt::nameSecondBox(RootCount count) { ui_->rootTwo->setAccessibleName(nameOfSecondRoot(count)); }

@@ -23,7 +23,6 @@ public:
     ~Rogt() override;
 
 protected:
-    void loadStep() override;
     void newExercise() override;
     void judge() override;
     void giveAnswer() override;

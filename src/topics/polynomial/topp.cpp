@@ -26,8 +26,6 @@ Topp::Topp(Draws& draws) : ExerciseForm(PageName::Topp, draws), ui_(std::make_un
 
 Topp::~Topp() = default;
 
-void Topp::loadStep() { ui_->newExercise->show(); }
-
 void Topp::newExercise() {
     ui_->helpPanel->hide();
     ui_->workedSolutionCover->show();

@@ -67,13 +67,10 @@ TEST_F(Laddi1Form, StartsWithoutHelpAndVerdict) {
         EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
     }
     for (const char* blank : {"function1Formula", "function2Formula", "intervalsResult", "loneSegmentResult",
-                              "segment1Result", "openingBlank", "segment2Result"}) {
+                              "segment1Result", "segment2Result"}) {
         EXPECT_EQ(unshown.caption(blank), "") << blank;
     }
-    EXPECT_TRUE(unshown.isShown("openingBlank"));
 }
-
-TEST_F(Laddi1Form, HidesItsEmptyLabelAtTheOpening) { EXPECT_FALSE(openRising().isShown("openingBlank")); }
 
 TEST_F(Laddi1Form, HasItsFixedTexts) {
     const FixedText texts[]{

@@ -117,13 +117,10 @@ TEST_F(Laddi2Form, StartsWithoutHelpAndVerdict) {
     }
     for (const char* blank : {"function1Part1Slope", "function1Part2Intercept", "function2Part2Start",
                               "intervalsHeading", "intervalsResult", "intervalsResultRest", "segment1Result",
-                              "segment2Result", "segment3Result", "segment4Result", "openingBlank"}) {
+                              "segment2Result", "segment3Result", "segment4Result"}) {
         EXPECT_EQ(unshown.caption(blank), "") << blank;
     }
-    EXPECT_TRUE(unshown.isShown("openingBlank"));
 }
-
-TEST_F(Laddi2Form, HidesItsEmptyLabelAtTheOpening) { EXPECT_FALSE(openTwo().isShown("openingBlank")); }
 
 TEST_F(Laddi2Form, HasItsFixedTexts) {
     const FixedText texts[]{

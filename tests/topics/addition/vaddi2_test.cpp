@@ -241,7 +241,6 @@ TEST_F(Vaddi2Form, HasTheTextsOfItsDesign) {
         {"sumStepNumber", "3)"},
         {"quantitiesResult", ""},
         {"quantitiesResultRest", ""},
-        {"openingBlank", ""},
         {"showPrices", "Vis"},
         {"showQuantities", "Vis"},
         {"showSum", "Vis"},
@@ -249,7 +248,6 @@ TEST_F(Vaddi2Form, HasTheTextsOfItsDesign) {
     };
     test::expectTexts(unshown, texts);
     EXPECT_FALSE(unshown.isShown("helpPanel"));
-    EXPECT_TRUE(unshown.isShown("openingBlank"));
 }
 
 TEST_F(Vaddi2Form, TellsTheMethodInItsHelp) {
@@ -320,11 +318,6 @@ TEST_F(Vaddi2Form, UnderlinesTheSignsOfAtLeast) {
                              "segment2EndLessOrEqual", "segment3EndLessOrEqual"}) {
         EXPECT_TRUE(f.label(name).font().underline()) << name;
     }
-}
-
-TEST_F(Vaddi2Form, HidesTheBlankLabelAtItsOpening) {
-    const FormDriver& f = open(kThree);
-    EXPECT_FALSE(f.isShown("openingBlank"));
 }
 
 TEST_F(Vaddi2Form, TellsTheThreeFunctions) {

@@ -40,14 +40,8 @@ constexpr IntegDraws kNegativeConstant{1, 2, 3, 3, 1, 12};
 /// 2Q-3 from 1 to 4: 6.
 constexpr IntegDraws kLine{1, 2, 3, 4, 1, 6};
 
-const Names kUpperWithLetters{"emptyBeforeCubicTerm",
-                              "emptyBeforeCube",
-                              "emptyBeforeQuadraticTerm",
-                              "emptyBeforeSquare",
-                              "workedLettersUpperCubicTerm",
-                              "workedLettersUpperCube",
-                              "workedLettersUpperQuadraticTerm",
-                              "workedLettersUpperSquare",
+const Names kUpperWithLetters{"workedLettersUpperCubicTerm", "workedLettersUpperCube",
+                              "workedLettersUpperQuadraticTerm", "workedLettersUpperSquare",
                               "workedLettersUpperLinearTerm"};
 const Names kLowerWithLetters{"workedLettersLowerCubicTerm", "workedLettersLowerCube",
                               "workedLettersLowerQuadraticTerm", "workedLettersLowerSquare",
