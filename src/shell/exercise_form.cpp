@@ -175,18 +175,18 @@ void ExerciseForm::showWrong() {
     shown_ = Verdict::Wrong;
 }
 
-void ExerciseForm::solved() {
+void ExerciseForm::showSolved() {
     showRight();
     focusOn(buttons_.newExercise);
     hideAll({buttons_.ok, buttons_.giveAnswer});
 }
 
-void ExerciseForm::failed() {
+void ExerciseForm::showFailed() {
     showWrong();
     showAll({buttons_.ok, buttons_.giveAnswer});
 }
 
-void ExerciseForm::given() {
+void ExerciseForm::showGiven() {
     hideVerdict();
     focusOn(buttons_.newExercise);
     hideAll({buttons_.ok, buttons_.giveAnswer});

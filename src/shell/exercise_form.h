@@ -107,11 +107,11 @@ protected:
     /// Asking: "&OK" is shown, "&Giv svaret" and the verdict are not.
     void showAsking();
     /// Solved: "RIGTIGT" is shown, "&OK" and "&Giv svaret" are not. The focus goes to "&Ny opgave".
-    void solved();
+    void showSolved();
     /// Failed: "FORKERT", "&OK" and "&Giv svaret" are shown. The form says where the focus goes.
-    void failed();
+    void showFailed();
     /// Given: the verdict, "&OK" and "&Giv svaret" are hidden. The focus goes to "&Ny opgave".
-    void given();
+    void showGiven();
     void hideVerdict();
     /// Shows "RIGTIGT". Kept (shell-forkert-behind): where "FORKERT" is a label of its own, it is not hidden.
     void showRight();

@@ -50,10 +50,10 @@ public:
     using ExerciseForm::enterGoes;
     using ExerciseForm::hideVerdict;
     using ExerciseForm::showAsking;
-    using ExerciseForm::failed;
-    using ExerciseForm::given;
+    using ExerciseForm::showFailed;
+    using ExerciseForm::showGiven;
     using ExerciseForm::showRight;
-    using ExerciseForm::solved;
+    using ExerciseForm::showSolved;
     using ExerciseForm::showWrong;
     using ExerciseForm::tell;
 
@@ -173,7 +173,7 @@ TEST_F(LifeCycle, RunsEachButtonsRole) {
 
 TEST_F(LifeCycle, AskingShowsOkAlone) {
     Sample& s = open(VerdictKind::Two);
-    s.failed();
+    s.showFailed();
     s.ok.hide();
     s.showAsking();
     EXPECT_TRUE(s.ok.isVisible());
@@ -184,7 +184,7 @@ TEST_F(LifeCycle, AskingShowsOkAlone) {
 
 TEST_F(LifeCycle, WrongKeepsOkAndOffersTheAnswer) {
     Sample& s = open();
-    s.failed();
+    s.showFailed();
     EXPECT_TRUE(s.ok.isVisible());
     EXPECT_TRUE(s.giveAnswerButton.isVisible());
     EXPECT_EQ(s.right.caption(), "FORKERT");
@@ -194,8 +194,8 @@ TEST_F(LifeCycle, WrongKeepsOkAndOffersTheAnswer) {
 
 TEST_F(LifeCycle, SolvedLeavesOnlyTheNextExercise) {
     Sample& s = open();
-    s.failed();
-    s.solved();
+    s.showFailed();
+    s.showSolved();
     EXPECT_FALSE(s.ok.isVisible());
     EXPECT_FALSE(s.giveAnswerButton.isVisible());
     EXPECT_EQ(s.right.caption(), "RIGTIGT");
@@ -206,8 +206,8 @@ TEST_F(LifeCycle, SolvedLeavesOnlyTheNextExercise) {
 
 TEST_F(LifeCycle, GivenShowsNoVerdict) {
     Sample& s = open(VerdictKind::Two);
-    s.failed();
-    s.given();
+    s.showFailed();
+    s.showGiven();
     EXPECT_FALSE(s.ok.isVisible());
     EXPECT_FALSE(s.giveAnswerButton.isVisible());
     EXPECT_FALSE(s.right.isVisible());
@@ -217,7 +217,7 @@ TEST_F(LifeCycle, GivenShowsNoVerdict) {
 
 TEST_F(LifeCycle, EnterOnTheNextExerciseStartsIt) {
     Sample& s = open();
-    s.given();
+    s.showGiven();
     s.calls.clear();
     QTest::keyClick(s.focusWidget(), Qt::Key_Return);
     EXPECT_EQ(s.calls, (Calls{"new"}));
@@ -410,7 +410,7 @@ TEST_F(Announcement, NamesTheFieldsThatTurnRedAfterTheVerdictFromTheTop) {
     for (const VerdictKind kind : {VerdictKind::One, VerdictKind::Two}) {
         Sample& s = openNamed(kind);
         s.judging = [](Sample& judged) {
-            judged.failed();
+            judged.showFailed();
             judged.second.mark(true);
             judged.first.mark(true);
         };
@@ -425,7 +425,7 @@ TEST_F(Announcement, LeavesOutRedFieldsThatAreNotShown) {
     Sample& s = openNamed(VerdictKind::One);
     s.first.mark(true);
     s.first.hide();
-    s.judging = [](Sample& judged) { judged.failed(); };
+    s.judging = [](Sample& judged) { judged.showFailed(); };
     EXPECT_EQ(heard(s), QStringList{"FORKERT"});
 }
 
@@ -433,13 +433,13 @@ TEST_F(Announcement, SaysThatAllIsRightAfterAWrongTry) {
     for (const VerdictKind kind : {VerdictKind::One, VerdictKind::Two}) {
         Sample& s = openNamed(kind);
         s.judging = [](Sample& judged) {
-            judged.failed();
+            judged.showFailed();
             judged.first.mark(true);
         };
         EXPECT_EQ(heard(s), QStringList{"FORKERT: hældning"});
         s.judging = [](Sample& judged) {
             judged.first.mark(false);
-            judged.solved();
+            judged.showSolved();
         };
         EXPECT_EQ(heard(s), QStringList{"RIGTIGT"});
         EXPECT_EQ(s.right.accessibleName(), "RIGTIGT");
@@ -458,7 +458,7 @@ TEST_F(Announcement, TakesTheWrongVerdictWhereBothAreShown) {
 
 TEST_F(Announcement, IsSilentWhereNothingIsJudged) {
     Sample& s = openNamed(VerdictKind::One);
-    s.judging = [](Sample& judged) { judged.failed(); };
+    s.judging = [](Sample& judged) { judged.showFailed(); };
     EXPECT_EQ(heard(s).size(), 1);
     // The verdict of the last try still stands.
     s.judging = nullptr;

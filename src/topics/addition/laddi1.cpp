@@ -24,7 +24,7 @@ void Laddi1::newExercise() {
     tavrune::newExercise(state_, draws());
     showTask();
     showRows();
-    startAsking();
+    askForSum();
 }
 
 void Laddi1::showTask() {

@@ -45,7 +45,7 @@ void Laddi2::newExercise() {
     tavrune::newExercise(state_, draws());
     showTask();
     showRows();
-    startAsking();
+    askForSum();
 }
 
 void Laddi2::showTask() {

@@ -83,11 +83,11 @@ void Vaddi1::judge() {
     const std::vector<AnswerField> fields = answerFields(state_);
     if (rows_.areFit(fields)) {
         // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
-        solved();
+        showSolved();
         drawSum();
         return;
     }
-    failed();
+    showFailed();
     rows_.mark(fields);
     focusOn(ui_->segment1Slope->isShown() ? ui_->segment1Slope : ui_->segment2Slope);
 }
@@ -107,7 +107,7 @@ void Vaddi1::giveAnswer() {
     drawTypedSum();
     fillTable();
     fillAnswer();
-    given();
+    showGiven();
 }
 
 void Vaddi1::fillPrices() { writeColumn(table_.front(), state_.tableP); }

@@ -101,11 +101,11 @@ void Vaddi2::judge() {
     const std::vector<AnswerField> fields = answerFields(state_);
     if (rows_.areFit(fields)) {
         // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
-        solved();
+        showSolved();
         drawSum(kLastSumQ);
         return;
     }
-    failed();
+    showFailed();
     rows_.mark(fields);
     focusOn(state_.segmentCount == 1 ? ui_->segment2Slope : ui_->segment1Slope);
 }
@@ -124,7 +124,7 @@ void Vaddi2::giveAnswer() {
     drawSum(state_.upperEndAsked() ? state_.upperEnd().number() : kBeyondQ);
     fillTable();
     fillAnswer();
-    given();
+    showGiven();
 }
 
 void Vaddi2::drawTypedSum() {

@@ -177,11 +177,11 @@ void Vaddi3::judge() {
     std::vector<AnswerField> fields = answerFields(state_);
     if (rows_.areFit(fields) && isUpperEndRight()) {
         // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
-        solved();
+        showSolved();
         drawSum();
         return;
     }
-    failed();
+    showFailed();
     if (const auto upperEnd = upperEndField(state_)) {
         fields.push_back(*upperEnd);
     }
@@ -227,7 +227,7 @@ void Vaddi3::drawJoins() {
 
 void Vaddi3::giveAnswer() {
     ui_->helpPanel->hide();
-    given();
+    showGiven();
     drawTypedSum();
     fillTable();
     fillAnswer();

@@ -39,11 +39,11 @@ void VerticalForm::judge() {
     const VerticalSum right = sum();
     const std::vector<AnswerField> fields = answerFields(right);
     if (rows_.areFit(fields)) {
-        solved();
+        showSolved();
         drawSum(*result_.box, right);
         return;
     }
-    failed();
+    showFailed();
     rows_.mark(fields);
     focusOnFirstRow();
 }
@@ -55,7 +55,7 @@ void VerticalForm::giveAnswer() {
     rows_.whiten();
     drawSum(*result_.box, right);
     write(rows_, right);
-    given();
+    showGiven();
 }
 
 void VerticalForm::help() { openPanel(helpPanel(), helpPanel()->findChild<Button*>("showIntervals")); }
@@ -69,7 +69,7 @@ void VerticalForm::clearGraphs() {
     }
 }
 
-void VerticalForm::startAsking() {
+void VerticalForm::askForSum() {
     rows_.blank();
     rows_.nameShownBoxes();
     focusOnFirstRow();

@@ -33,7 +33,7 @@ protected:
     /// Ticks on the frames, nothing on the boxes.
     void clearGraphs();
     /// Blank rows that wait for an answer.
-    void startAsking();
+    void askForSum();
     /// To the slope of the first segment that is asked for.
     void focusOnFirstRow();
 

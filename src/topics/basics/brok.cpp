@@ -135,10 +135,10 @@ void Brok::judge() {
         return;
     }
     if (isRight(state_, n, m)) {
-        solved();
+        showSolved();
         showReduction();
     } else {
-        failed();
+        showFailed();
         focusOn(ui_->numerator);
         ui_->numerator->mark(true);
         ui_->denominator->mark(true);
@@ -162,7 +162,7 @@ void Brok::giveAnswer() {
     ui_->denominator->setContent(NumberText(state_.resultDenominator));
     // The verdict is made ready and not shown.
     showRight();
-    given();
+    showGiven();
     showReduction();
 }
 

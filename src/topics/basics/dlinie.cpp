@@ -160,17 +160,17 @@ void Dlinie::judge() {
     ui_->slope->mark(!judgement.slopeIsRight);
     ui_->intercept->mark(!judgement.interceptIsRight);
     if (judgement.isRight()) {
-        solved();
+        showSolved();
         drawLine(state_.slope, state_.intercept, kGreen);
     } else {
         drawLine(slope, intercept, kRed);
-        failed();
+        showFailed();
         focusOn(ui_->slope);
     }
 }
 
 void Dlinie::giveAnswer() {
-    given();
+    showGiven();
     ui_->slope->setContent(NumberText(state_.slope));
     ui_->intercept->setContent(interceptAnswer(state_));
     drawLine(state_.slope, state_.intercept, kGreen);

@@ -138,11 +138,11 @@ void Konvert::judge() {
     ui_->slope->mark(!judgement.slopeIsRight);
     ui_->intercept->mark(!judgement.constantIsRight);
     if (!judgement.isSolved()) {
-        failed();
+        showFailed();
         focusOn(ui_->slope);
         return;
     }
-    solved();
+    showSolved();
     // Kept (konvert-task-away): the task text stays away where help was open; it comes back with "Luk" or
     // the next exercise.
     ui_->helpPanel->hide();
@@ -158,7 +158,7 @@ void Konvert::giveAnswer() {
     roundSolution(state_);
     ui_->slope->setContent(NumberText(state_.newSlope));
     ui_->intercept->setContent(NumberText(state_.newConstant));
-    given();
+    showGiven();
 }
 
 void Konvert::help() {

@@ -78,19 +78,19 @@ void Lininter::drawPoints() {
 void Lininter::judge() {
     hideVerdict();
     if (!isRight(state_, ui_->askedCoordinate->value())) {
-        failed();
+        showFailed();
         focusOn(ui_->askedCoordinate);
         ui_->askedCoordinate->mark(true);
         return;
     }
     whiten({ui_->askedCoordinate});
-    solved();
+    showSolved();
     drawSolution();
     draw(arrowheads(state_, Occasion::Judged), kGreen);
 }
 
 void Lininter::giveAnswer() {
-    given();
+    showGiven();
     const double typed = ui_->askedCoordinate->value();
     ui_->askedCoordinate->setContent(answerText(state_));
     whiten({ui_->askedCoordinate});
@@ -122,15 +122,15 @@ Lininter::Solution Lininter::solution() const {
 void Lininter::help() {
     // Only the solution for the coordinate asked for is filled; what the other column holds stays covered.
     const LininterWorked worked = workedSolution(state_);
-    const auto& [fraction, ratio, result, vis] = solution();
+    const auto& [fraction, ratio, result, button] = solution();
     fraction.setTexts(worked.numerator, worked.denominator);
     ratio->setCaption(worked.ratio);
     ratio->setLeft(fraction.right());
     result->setCaption(worked.result);
 
-    vis->setEnabled(true);
+    button->setEnabled(true);
     ui_->workedSolution->show();
-    openPanel(ui_->helpPanel, vis);
+    openPanel(ui_->helpPanel, button);
 }
 
 void Lininter::showPriceSolution() {

@@ -38,7 +38,7 @@ private:
         Label* ratio;
         Label* result;
         /// The "Vis" that uncovers it.
-        Button* vis;
+        Button* button;
     };
 
     /// That of the coordinate asked for.

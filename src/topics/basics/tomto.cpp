@@ -96,13 +96,13 @@ void Tomto::judge() {
         state_, options_.chosen(), ui_->crossingPointQuantity->value(), ui_->crossingPointPrice->value());
     if (judgement.isSolved) {
         whiten({ui_->crossingPointQuantity, ui_->crossingPointPrice});
-        solved();
+        showSolved();
         drawLines(state_.form == LineForm::Implicit ? kBlack : kGreen);
         ui_->graph->DrawWidth(kThin);
         return;
     }
     focusOn(ui_->crossingPointPrice);
-    failed();
+    showFailed();
     // Hidden fields too, whatever is chosen.
     ui_->crossingPointQuantity->mark(!judgement.qIsRight);
     ui_->crossingPointPrice->mark(!judgement.pIsRight);
@@ -121,7 +121,7 @@ void Tomto::giveAnswer() {
         ui_->crossingPointPrice->setContent(NumberText(state_.solutionP));
         showAll({ui_->crossingPoint, ui_->crossingPointEquals});
     }
-    given();
+    showGiven();
 }
 
 void Tomto::drawLines(const QColor& colour) {

@@ -92,11 +92,11 @@ void Diff::judge() {
     ui_->derivative->mark(!right);
     // Kept (shell-forkert-behind): no verdict is hidden first, so "FORKERT" stays behind a later "RIGTIGT".
     if (right) {
-        solved();
+        showSolved();
         drawRightTangent();
         return;
     }
-    failed();
+    showFailed();
     focusOn(ui_->derivative);
     drawTypedTangent(typed);
 }
@@ -105,7 +105,7 @@ void Diff::giveAnswer() {
     const double typed = ui_->derivative->value();
     whiten({ui_->derivative});
     ui_->derivative->setContent(NumberText(state_.slopeAtPoint));
-    given();
+    showGiven();
     drawRightTangent();
     drawTypedTangent(typed);
 }

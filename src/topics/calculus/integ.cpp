@@ -122,18 +122,18 @@ void Integ::judge() {
     const bool right = isRight(state_, ui_->integral->value());
     ui_->integral->mark(!right);
     if (right) {
-        solved();
+        showSolved();
         hatchArea();
         return;
     }
-    failed();
+    showFailed();
     focusOn(ui_->integral);
 }
 
 void Integ::giveAnswer() {
     ui_->integral->setContent(answerText(state_));
     whiten({ui_->integral});
-    given();
+    showGiven();
     drawCurve(kLargestOfAnswer);
     hatchArea();
 }

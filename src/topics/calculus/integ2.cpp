@@ -170,18 +170,18 @@ void Integ2::judge() {
     const bool right = isRight(state_, ui_->integral->value());
     ui_->integral->mark(!right);
     if (right) {
-        solved();
+        showSolved();
         hatchSegments(*ui_->graph, state_, kBlue, kBlue);
         return;
     }
-    failed();
+    showFailed();
     focusOn(ui_->integral);
 }
 
 void Integ2::giveAnswer() {
     ui_->integral->setContent(answerText(state_));
     whiten({ui_->integral});
-    given();
+    showGiven();
     hatchSegments(*ui_->graph, state_, kBlue, kBlue);
 }
 

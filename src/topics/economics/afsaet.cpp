@@ -75,7 +75,7 @@ Afsaet::Afsaet(Draws& draws) : ExerciseForm(PageName::Afsaet, draws), ui_(std::m
     helps_ = helpPanels();
     for (const HelpPanel& help : helps_) {
         for (const Step& step : help.steps) {
-            onClick(step.vis, [this, &help, &step] { showStep(help, step); });
+            onClick(step.button, [this, &help, &step] { showStep(help, step); });
         }
         onClick(help.close, [this, &help] { closePanel(help); });
     }
@@ -92,7 +92,7 @@ Afsaet::Step Afsaet::stepOf(const QString& prefix, AfsaetUnknown unknown) const 
     auto* const box = design()->findChild<Panel*>(prefix + nameOf(unknown) + "Step");
     return {.unknown = unknown,
             .name = worked,
-            .vis = design()->findChild<Button*>("show" + capitalised(prefix) + nameOf(unknown)),
+            .button = design()->findChild<Button*>("show" + capitalised(prefix) + nameOf(unknown)),
             .text = design()->findChild<Label*>(box != nullptr ? worked + "Result" : worked),
             .box = box};
 }
@@ -146,10 +146,10 @@ void Afsaet::judge() {
     Qlo->mark(!right.Qlo);
     Qhi->mark(!right.Qhi);
     if (right == kAfsaetAllRight) {
-        solved();
+        showSolved();
         drawLine(answerOf(state_), kLightGreen);
     } else {
-        failed();
+        showFailed();
         drawLine(typed, kRed);
         focusOn(boxes_.a);
     }
@@ -164,7 +164,7 @@ void Afsaet::giveAnswer() {
         box->mark(false);
         box->setContent(NumberText(number));
     }
-    given();
+    showGiven();
     drawLine(answer, kLightGreen);
 }
 
@@ -172,7 +172,7 @@ void Afsaet::help() {
     const AfsaetHelp wanted = helpFor(state_);
     const auto help = std::find_if(helps_.begin(), helps_.end(),
                                    [wanted](const HelpPanel& each) { return each.help == wanted; });
-    openPanel(help->panel, help->steps.front().vis);
+    openPanel(help->panel, help->steps.front().button);
 }
 
 void Afsaet::showStep(const HelpPanel& help, const Step& step) {

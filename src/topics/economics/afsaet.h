@@ -36,12 +36,12 @@ private:
         AfsaetUnknown unknown;
         /// What its controls are called: "twoPointsWorkedSlope".
         QString name;
-        Button* vis;
+        Button* button;
         Label* text;
         /// Holds the text and a fraction before it; null where there is none.
         Panel* box;
 
-        /// What its "Vis" shows.
+        /// What its button shows.
         [[nodiscard]] QWidget* shown() const;
     };
 

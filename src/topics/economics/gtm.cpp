@@ -93,14 +93,15 @@ Gtm::Function Gtm::bind(GtmFunction function) {
                    .steps = {}};
     for (const Plan& plan : kPlans.of(function)) {
         const QString to = lettersOf(plan.to);
-        auto* const vis = design()->findChild<Button*>("show" + letters + "Given" + to);
+        auto* const button = design()->findChild<Button*>("show" + letters + "Given" + to);
         auto* const box = design()->findChild<Panel*>(given + to + "Step");
-        onClick(vis, [this, box, &plan] {
+        onClick(button, [this, box, &plan] {
             // The box comes last: labels are made faster where nothing is seen.
             showFormulas(*box, plan.worked(state_), plan.places);
             box->show();
         });
-        found.steps.push_back({vis, box, linesOf("wayFrom" + wordFor(plan.from) + "To" + wordFor(plan.to))});
+        found.steps.push_back(
+            {button, box, linesOf("wayFrom" + wordFor(plan.from) + "To" + wordFor(plan.to))});
     }
     return found;
 }
@@ -171,10 +172,10 @@ void Gtm::judge() {
         draw(curveOfTry(function, typed), isRight ? coloursOf(function).right : coloursOf(function).wrong);
     }
     if (isSolved) {
-        solved();
+        showSolved();
         return;
     }
-    failed();
+    showFailed();
     focusOn(ui_->avcQuadraticCoefficient);
 }
 
@@ -190,7 +191,7 @@ void Gtm::giveAnswer() {
     for (const GtmFunction function : {GtmFunction::Average, GtmFunction::Marginal, GtmFunction::Total}) {
         draw(curveOfAnswer(state_, function), coloursOf(function).right);
     }
-    given();
+    showGiven();
 }
 
 void Gtm::help() {
@@ -206,7 +207,7 @@ void Gtm::help() {
     ui_->diagramStep1Text->setCaption(method.step1);
     ui_->diagramStep2Text->setCaption(method.step2);
     ui_->diagramHelpPanel->show();
-    openPanel(given.help, given.steps.front().vis);
+    openPanel(given.help, given.steps.front().button);
 }
 
 void Gtm::hideSteps() {

@@ -36,7 +36,7 @@ private:
 
     /// A step of the help, from one function to another.
     struct Step {
-        Button* vis = nullptr;
+        Button* button = nullptr;
         /// Where its formulas are shown.
         Panel* box = nullptr;
         /// The lines of its way in the diagram.

@@ -158,12 +158,12 @@ void Roedder::judge() {
     whiten({ui_->rootOne, ui_->rootTwo});
     const TypedRoots typed{.first = ui_->rootOne->value(), .second = ui_->rootTwo->value()};
     if (isRight(state_, options_.chosen(), typed)) {
-        solved();
+        showSolved();
         colourRightOption();
         drawCurve(kNeverMet);
         return;
     }
-    failed();
+    showFailed();
     if (options_.chosen() == RootCount::Two) {
         drawTick(typed.first);
         drawTick(typed.second);
@@ -195,7 +195,7 @@ void Roedder::giveAnswer() {
         ui_->rootTwo->setContent(answer.root1);
     }
     drawCurve(state_.coefficients.a < 0 ? kNeverMetByGivenMaximum : kNeverMet);
-    given();
+    showGiven();
 }
 
 void Roedder::colourRightOption() { options_.colour(rootCountOf(state_.discriminant), kGreen); }

@@ -176,7 +176,7 @@ void Rogt::focusOnWrongBox() {
 }
 
 void Rogt::giveAnswer() {
-    given();
+    showGiven();
     drawCurve();
     options_.resetColours();
     whiten({ui_->rootOne, ui_->rootTwo, ui_->vertexQuantity, ui_->vertexPrice});

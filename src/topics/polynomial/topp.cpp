@@ -89,11 +89,11 @@ void Topp::judge() {
     ui_->vertexQuantity->mark(!right.q);
     ui_->vertexPrice->mark(!right.p);
     if (right.q && right.p) {
-        solved();
+        showSolved();
         drawCurve();
         return;
     }
-    failed();
+    showFailed();
     focusOn(right.p ? ui_->vertexQuantity : ui_->vertexPrice);
 }
 
@@ -103,7 +103,7 @@ void Topp::giveAnswer() {
     whiten({ui_->vertexQuantity, ui_->vertexPrice});
     ui_->vertexQuantity->setContent(answerTextOfQ(state_));
     ui_->vertexPrice->setContent(answerTextOfP(state_));
-    given();
+    showGiven();
     ui_->graph->Line(typedQ - kReach, typedP, typedQ + kReach, typedP, kRed);
     ui_->graph->Line(typedQ, typedP - kReach, typedQ, typedP + kReach, kRed);
     drawCurve();
