@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <limits>
 
 #include <QInputMethodEvent>
@@ -97,6 +98,13 @@ void AnswerBox::inputMethodEvent(QInputMethodEvent* event) {
                              event->replacementLength());
     QLineEdit::inputMethodEvent(&filtered);
     event->setAccepted(filtered.isAccepted());
+}
+
+std::vector<double> valuesOf(const std::vector<AnswerBox*>& boxes) {
+    std::vector<double> values;
+    std::transform(boxes.begin(), boxes.end(), std::back_inserter(values),
+                   [](const AnswerBox* box) { return box->value(); });
+    return values;
 }
 
 }  // namespace tavrune

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <QLineEdit>
 
@@ -43,5 +44,8 @@ protected:
 private:
     bool isMarked_ = false;
 };
+
+/// What they spell, in their order.
+[[nodiscard]] std::vector<double> valuesOf(const std::vector<AnswerBox*>& boxes);
 
 }  // namespace tavrune

@@ -136,14 +136,14 @@ void ExerciseForm::opened() {
     newExercise();
 }
 
-void ExerciseForm::clearBoxes(std::initializer_list<AnswerBox*> boxes) {
+void ExerciseForm::clearBoxes(const std::vector<AnswerBox*>& boxes) {
     whiten(boxes);
     for (AnswerBox* box : boxes) {
         box->setContent("");
     }
 }
 
-void ExerciseForm::whiten(std::initializer_list<AnswerBox*> boxes) {
+void ExerciseForm::whiten(const std::vector<AnswerBox*>& boxes) {
     for (AnswerBox* box : boxes) {
         box->mark(false);
     }
@@ -186,6 +186,22 @@ void ExerciseForm::showFailed() {
     showAll({buttons_.ok, buttons_.giveAnswer});
 }
 
+bool ExerciseForm::showJudgement(const Judgement& judgement, const std::vector<AnswerBox*>& boxes,
+                                 QWidget* focusWhenWrong) {
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        boxes[i]->mark(!judgement.isSolved && !judgement.isRight.at(i));
+    }
+    if (judgement.isSolved) {
+        showSolved();
+        return true;
+    }
+    showFailed();
+    if (focusWhenWrong != nullptr) {
+        focusOn(focusWhenWrong);
+    }
+    return false;
+}
+
 void ExerciseForm::showGiven() {
     hideVerdict();
     focusOn(buttons_.newExercise);
@@ -201,7 +217,7 @@ void ExerciseForm::giveFinalWrongColour() {
 void ExerciseForm::judgeAloud() {
     shown_ = Verdict::None;
     judge();
-    // Forms mark fields after they have shown the verdict; the names of these are only known now.
+    // Told when all is done: until then another verdict, and other marks, may come.
     if (shown_ == Verdict::Right) {
         announce(right_, right_->text());
     } else if (shown_ == Verdict::Wrong) {

@@ -9,6 +9,7 @@
 #include "controls/button.h"
 #include "controls/label.h"
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 #include "shell/failure.h"
 #include "shell/page.h"
 
@@ -101,9 +102,9 @@ protected:
 
     // Steps that the hooks are made of.
     /// Empties the boxes and takes their red away.
-    static void clearBoxes(std::initializer_list<AnswerBox*> boxes);
+    static void clearBoxes(const std::vector<AnswerBox*>& boxes);
     /// Takes the red away.
-    static void whiten(std::initializer_list<AnswerBox*> boxes);
+    static void whiten(const std::vector<AnswerBox*>& boxes);
     /// Asking: "&OK" is shown, "&Giv svaret" and the verdict are not.
     void showAsking();
     /// Solved: "RIGTIGT" is shown, "&OK" and "&Giv svaret" are not. The focus goes to "&Ny opgave".
@@ -116,6 +117,11 @@ protected:
     /// Shows "RIGTIGT". Kept (shell-forkert-behind): where "FORKERT" is a label of its own, it is not hidden.
     void showRight();
     void showWrong();
+    /// Shows what is judged of `boxes`: the marks, then `showSolved`, or `showFailed` and the focus to
+    /// `focusWhenWrong`, which stays where it is for null. Nothing is marked of a solved exercise. Returns
+    /// whether it is solved. Precondition: the values were handed in in the order of the boxes.
+    bool showJudgement(const Judgement& judgement, const std::vector<AnswerBox*>& boxes,
+                       QWidget* focusWhenWrong);
     void giveFinalWrongColour();
 
     /// Shows a panel and gives the focus to its first button.

@@ -2,9 +2,11 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <regex>
 #include <set>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -126,10 +128,95 @@ TEST(Arrows, KeepQtOutOfNumbersAndExercises) {
     }
 }
 
+// The headers of exercises too, which forms include.
 TEST(Arrows, KeepJudgingOutOfForms) {
     for (const Include& include : allIncludes()) {
-        EXPECT_FALSE(include.room.rfind("form/", 0) == 0 && include.header == "numeric/judging.h")
-            << include.file << " includes " << include.header;
+        const bool isForForms = include.room.rfind("form/", 0) == 0 || endsWith(include.file, ".h");
+        EXPECT_FALSE(isForForms && include.header == "numeric/judging.h") << include.file;
+    }
+}
+
+std::string contentOf(const std::string& file) {
+    std::ifstream in(kSource / file);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+/// The files below src/topics whose names end so.
+std::vector<std::string> topicFiles(const std::string& end) {
+    std::vector<std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(kSource / "topics")) {
+        const std::string file = fs::relative(entry.path(), kSource).generic_string();
+        if (endsWith(file, end)) {
+            files.push_back(file);
+        }
+    }
+    return files;
+}
+
+TEST(Judging, IsOneFunctionOfEachExercise) {
+    static const std::regex declaration(R"(Judgement judge\(const \w+State& \w+, const [\w:<>]+& \w+\);)");
+    const std::vector<std::string> exercises = topicFiles("_exercise.h");
+    EXPECT_EQ(exercises.size(), 18U);
+    for (const std::string& file : exercises) {
+        const std::string text = contentOf(file);
+        EXPECT_EQ(std::distance(std::sregex_iterator(text.begin(), text.end(), declaration), {}), 1) << file;
+    }
+}
+
+/// The statements of a form that write into the state of its exercise, or take a way to it by which they
+/// could. Calls of the exercise's own functions do not count.
+std::vector<std::string> writesIn(const std::string& code) {
+    const std::string state = R"(\bstate_(\s*(\.|->)\s*\w+(\([^()]*\))?|\s*\[[^\]]*\])*)";
+    static const std::regex write(
+        state + R"(\s*([-+*/%&|^]|<<|>>)?=(?!=))" + "|" + R"((\+\+|--)\s*)" + state + "|" + state +
+        R"(\s*(\+\+|--))" + "|" + state +
+        R"(\.(push_back|emplace\w*|clear|assign|insert|erase|resize|fill|pop_back|swap|reset)\()");
+    static const std::regex way(R"([\w>]\s*&\s*(\w+|\[[^\]]*\])\s*[=:]\s*)" + state + "|" +
+                                R"([=(,{:[]\s*&\s*)" + state + "|" + R"(\b\w+State\s*&)");
+    static const std::regex readOnly(R"(\bconst\b)");
+    std::string text = std::regex_replace(code, std::regex("//[^\n]*"), "");
+    text = std::regex_replace(text, std::regex("[{}]\\s*\n"), ";");
+    std::vector<std::string> found;
+    std::istringstream statements(text);
+    for (std::string one; std::getline(statements, one, ';');) {
+        if (std::regex_search(one, write) ||
+            (std::regex_search(one, way) && !std::regex_search(one, readOnly))) {
+            found.push_back(one);
+        }
+    }
+    return found;
+}
+
+TEST(States, AreWrittenByTheirExercisesAlone) {
+    std::size_t readers = 0;
+    for (const char* end : {".cpp", ".h"}) {
+        for (const std::string& file : topicFiles(end)) {
+            if (isExercise(file)) {
+                continue;
+            }
+            const std::string text = contentOf(file);
+            readers += text.find("state_") == std::string::npos ? 0 : 1;
+            for (const std::string& write : writesIn(text)) {
+                ADD_FAILURE() << file << ":" << write;
+            }
+        }
+    }
+    EXPECT_GE(readers, 36U) << "the state of a form is called so";
+}
+
+TEST(States, AreSeenToBeWritten) {
+    for (const char* write :
+         {"state_.x = 1;", "state_ = {};", "state_.line.slope += 2;", "state_.row[i] = 0;", "++state_.x;",
+          "state_.x--;", "state_.segments.push_back(s);", "state_.row.at(2) = 1;", "auto& s = state_;",
+          "for (auto& [a, b] : state_.rows) {", "auto* s = &state_;", "state_\n    .x = 1;",
+          "XState& s = state_.inner;", "write(&state_);", "void fill(XState& s);"}) {
+        EXPECT_EQ(writesIn(write).size(), 1U) << write;
+    }
+    for (const char* read :
+         {"x = state_.x;", "if (state_.x == 1) {", "return state_.x <= 1;", "const XState& s = state_;",
+          "state_.x != 2;", "// state_.x = 1\n", "newExercise(state_, draws());", "f(state_.x, y = 2);",
+          "const auto& [a, b] = state_.line;", "other_state_.x = 1;", "a && state_.isJump();"}) {
+        EXPECT_TRUE(writesIn(read).empty()) << read;
     }
 }
 

@@ -107,6 +107,13 @@ TEST_F(AnswerBoxKeys, TakeATextOfAnyLength) {
     EXPECT_EQ(box.content().size(), megabyte.size());
 }
 
+TEST(AnswerBox, IsReadWithOthersInTheirOrder) {
+    AnswerBox one;
+    AnswerBox other;
+    one.setContent("-1.5x");
+    EXPECT_EQ(valuesOf({&other, &one}), (std::vector<double>{0, -1.5}));
+}
+
 TEST(AnswerBox, IsWhiteUntilItIsMarkedWrong) {
     AnswerBox box;
     EXPECT_EQ(box.backColour(), kWhite);

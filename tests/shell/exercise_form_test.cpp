@@ -52,6 +52,7 @@ public:
     using ExerciseForm::showAsking;
     using ExerciseForm::showFailed;
     using ExerciseForm::showGiven;
+    using ExerciseForm::showJudgement;
     using ExerciseForm::showRight;
     using ExerciseForm::showSolved;
     using ExerciseForm::showWrong;
@@ -202,6 +203,34 @@ TEST_F(LifeCycle, SolvedLeavesOnlyTheNextExercise) {
     EXPECT_EQ(s.right.backColour(), QColor(0, 130, 0));
     EXPECT_EQ(s.focus(), "newExercise");
     EXPECT_TRUE(s.helpButton.isVisible());
+}
+
+TEST_F(LifeCycle, AWrongJudgementMarksJustWhatIsNotRightAndMovesTheFocus) {
+    Sample& s = open();
+    s.second.mark(true);
+    EXPECT_FALSE(s.showJudgement({{false, true}, false}, {&s.first, &s.second}, &s.second));
+    EXPECT_TRUE(s.first.isMarked());
+    EXPECT_FALSE(s.second.isMarked());
+    EXPECT_EQ(s.right.caption(), "FORKERT");
+    EXPECT_TRUE(s.ok.isVisible());
+    EXPECT_TRUE(s.giveAnswerButton.isVisible());
+    EXPECT_EQ(s.focus(), "second");
+    EXPECT_FALSE(s.showJudgement({{false, false}, false}, {&s.second, &s.first}, nullptr));
+    EXPECT_TRUE(s.second.isMarked());
+    EXPECT_EQ(s.focus(), "second") << "stays where none is told";
+    EXPECT_FALSE(s.showJudgement({{true}, false}, {&s.first}, nullptr));
+    EXPECT_TRUE(!s.first.isMarked() && s.second.isMarked()) << "what is not asked for stays as it is";
+}
+
+TEST_F(LifeCycle, ASolvedJudgementMarksNothingThatIsNotRightEither) {
+    Sample& s = open();
+    s.first.mark(true);
+    EXPECT_TRUE(s.showJudgement({{false, true}, true}, {&s.first, &s.second}, &s.second));
+    EXPECT_FALSE(s.first.isMarked());
+    EXPECT_FALSE(s.second.isMarked());
+    EXPECT_EQ(s.right.caption(), "RIGTIGT");
+    EXPECT_FALSE(s.ok.isVisible());
+    EXPECT_EQ(s.focus(), "newExercise");
 }
 
 TEST_F(LifeCycle, GivenShowsNoVerdict) {

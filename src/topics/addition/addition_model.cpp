@@ -56,4 +56,13 @@ bool Target::isMarked(double typed) const {
     return marksEveryMiss ? !isFit(typed) : !isClosedNear(typed, value);
 }
 
+Judgement judge(const std::vector<AnswerField>& fields, const std::vector<double>& typed) {
+    Judgement judgement{.isRight = {}, .isSolved = true};
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        judgement.isRight.push_back(!fields[i].target.isMarked(typed.at(i)));
+        judgement.isSolved = judgement.isSolved && fields[i].target.isFit(typed.at(i));
+    }
+    return judgement;
+}
+
 }  // namespace tavrune

@@ -4,6 +4,8 @@
 #include <variant>
 #include <vector>
 
+#include "numeric/judgement.h"
+
 namespace tavrune {
 
 /// A cell of a help table: a number, a blank where there is no value, "oo" where a level line has any
@@ -122,6 +124,10 @@ struct AnswerField {
     Slot slot;
     Target target;
 };
+
+/// Judges what is typed in the fields, in their order: solved where each is fit, right what is not marked.
+/// Precondition: one value for each field.
+[[nodiscard]] Judgement judge(const std::vector<AnswerField>& fields, const std::vector<double>& typed);
 
 /// The row in which a segment, counted from 0, is typed.
 [[nodiscard]] constexpr int rowOf(int segment, int segmentCount) {

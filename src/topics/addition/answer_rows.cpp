@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 #include "controls/text.h"
 
@@ -92,6 +93,13 @@ std::vector<AnswerBox*> AnswerRows::boxes() const {
     return all;
 }
 
+std::vector<AnswerBox*> AnswerRows::boxes(const std::vector<AnswerField>& fields) const {
+    std::vector<AnswerBox*> asked;
+    std::transform(fields.begin(), fields.end(), std::back_inserter(asked),
+                   [this](const AnswerField& field) { return box(field.row, field.slot); });
+    return asked;
+}
+
 AnswerBox* AnswerRows::box(int row, Slot slot) const {
     const Row& found = rows_.at(static_cast<std::size_t>(row));
     switch (slot) {
@@ -144,19 +152,6 @@ void AnswerRows::whiten() const {
 
 void AnswerRows::write(int row, Slot slot, const TableCell& content) const {
     box(row, slot)->setContent(content.text());
-}
-
-bool AnswerRows::areFit(const std::vector<AnswerField>& fields) const {
-    return std::all_of(fields.begin(), fields.end(), [this](const AnswerField& field) {
-        return field.target.isFit(typed(field.row, field.slot));
-    });
-}
-
-void AnswerRows::mark(const std::vector<AnswerField>& fields) const {
-    for (const AnswerField& field : fields) {
-        AnswerBox* asked = box(field.row, field.slot);
-        asked->mark(field.target.isMarked(asked->value()));
-    }
 }
 
 QString wholeFunction(const std::string& slope, const std::string& intercept, const std::string& where) {

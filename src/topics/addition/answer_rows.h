@@ -45,6 +45,8 @@ public:
     [[nodiscard]] int count() const { return static_cast<int>(rows_.size()); }
     /// The boxes in reading order.
     [[nodiscard]] std::vector<AnswerBox*> boxes() const;
+    /// Those of the fields, in their order.
+    [[nodiscard]] std::vector<AnswerBox*> boxes(const std::vector<AnswerField>& fields) const;
 
     /// Every box back to one blank, and white.
     void blank() const;
@@ -52,11 +54,6 @@ public:
     /// For screen readers: "hældning, andet stykke", counted over the rows that are shown.
     void nameShownBoxes() const;
     void write(int row, Slot slot, const TableCell& content) const;
-
-    /// True if each of the fields holds its target.
-    [[nodiscard]] bool areFit(const std::vector<AnswerField>& fields) const;
-    /// Turns those red that are off their target.
-    void mark(const std::vector<AnswerField>& fields) const;
 
 private:
     std::vector<Row> rows_;

@@ -25,6 +25,9 @@ protected:
     void newExercise() override;
     void closeHelp() override;
     [[nodiscard]] VerticalSum sum() const override { return sumOf(state_); }
+    [[nodiscard]] Judgement judged(const std::vector<double>& typed) const override {
+        return tavrune::judge(state_, typed);
+    }
 
 private:
     void showTask();

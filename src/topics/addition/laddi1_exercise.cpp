@@ -71,6 +71,10 @@ VerticalSum sumOf(const Laddi1State& s) {
     return sum;
 }
 
+Judgement judge(const Laddi1State& s, const std::vector<double>& typed) {
+    return judge(answerFields(sumOf(s)), typed);
+}
+
 void roundKink(Laddi1State& s) { s.kinkQuantity = RoundUp2(s.kinkQuantity); }
 
 std::string functionText(const Piece& function) { return "P= " + termsText(function); }

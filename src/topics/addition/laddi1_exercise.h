@@ -1,8 +1,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 #include "topics/addition/addition_model.h"
 #include "topics/addition/vertical_model.h"
 
@@ -42,6 +44,9 @@ struct Laddi1State {
 void newExercise(Laddi1State& state, Draws& draws);
 
 [[nodiscard]] VerticalSum sumOf(const Laddi1State& state);
+
+/// Judges what is typed in the `answerFields` of the sum.
+[[nodiscard]] Judgement judge(const Laddi1State& state, const std::vector<double>& typed);
 
 /// To the two decimals that the help shows. Kept (laddi1-rounded-kink): judging and drawing go by the rounded
 /// kink from then on.

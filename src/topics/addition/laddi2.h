@@ -26,6 +26,9 @@ protected:
     void newExercise() override;
     void closeHelp() override;
     [[nodiscard]] VerticalSum sum() const override { return state_.sum; }
+    [[nodiscard]] Judgement judged(const std::vector<double>& typed) const override {
+        return tavrune::judge(state_, typed);
+    }
 
 private:
     void showTask();

@@ -99,6 +99,10 @@ void newExercise(Laddi2State& s, Draws& draws) {
     solve(s);
 }
 
+Judgement judge(const Laddi2State& s, const std::vector<double>& typed) {
+    return judge(answerFields(s.sum), typed);
+}
+
 std::string secondPieceText(const Piece& piece) {
     return piece.intercept < 0 ? "P=    Q -       for    <Q, P>0" : "P=    Q +      for    <Q, P>0";
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 #include "topics/addition/addition_model.h"
 #include "topics/addition/vertical_model.h"
 
@@ -39,6 +40,9 @@ struct Laddi2State {
 
 /// Draws both functions until no first piece ends before its kink, and adds them up.
 void newExercise(Laddi2State& state, Draws& draws);
+
+/// Judges what is typed in the `answerFields` of the sum.
+[[nodiscard]] Judgement judge(const Laddi2State& state, const std::vector<double>& typed);
 
 /// The line that a second piece's numbers stand in, with their gaps: "P=    Q -       for    <Q, P>0"
 [[nodiscard]] std::string secondPieceText(const Piece& piece);

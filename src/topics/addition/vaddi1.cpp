@@ -79,17 +79,12 @@ void Vaddi1::drawGraphs() {
 }
 
 void Vaddi1::judge() {
-    rows_.whiten();
-    const std::vector<AnswerField> fields = answerFields(state_);
-    if (rows_.areFit(fields)) {
-        // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
-        showSolved();
+    const std::vector<AnswerBox*> boxes = rows_.boxes(answerFields(state_));
+    // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
+    if (showJudgement(tavrune::judge(state_, valuesOf(boxes)), boxes,
+                      ui_->segment1Slope->isShown() ? ui_->segment1Slope : ui_->segment2Slope)) {
         drawSum();
-        return;
     }
-    showFailed();
-    rows_.mark(fields);
-    focusOn(ui_->segment1Slope->isShown() ? ui_->segment1Slope : ui_->segment2Slope);
 }
 
 void Vaddi1::drawSum() {

@@ -173,6 +173,10 @@ std::vector<AnswerField> answerFields(const Vaddi1State& s) {
     return fields;
 }
 
+Judgement judge(const Vaddi1State& s, const std::vector<double>& typed) {
+    return judge(answerFields(s), typed);
+}
+
 std::string pathText(const Vaddi1State& s) {
     const auto stretch = [&s](std::size_t row) {
         return stretchText(s.tableQtotal[row], s.tableP[row], s.tableQtotal[row + 1], s.tableP[row + 1]);

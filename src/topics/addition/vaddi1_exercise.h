@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 #include "topics/addition/addition_model.h"
 
 namespace tavrune {
@@ -68,6 +69,9 @@ void solve(Vaddi1State& state);
 
 /// The fields that are judged; the help table is not among them.
 [[nodiscard]] std::vector<AnswerField> answerFields(const Vaddi1State& state);
+
+/// Judges what is typed in the `answerFields`.
+[[nodiscard]] Judgement judge(const Vaddi1State& state, const std::vector<double>& typed);
 
 /// "Her fra ( 0 ; 10 ) til ( 2.5 ; 5 ) og fra ( 2.5 ; 5 ) til ( 12.5 ; 0 )."
 [[nodiscard]] std::string pathText(const Vaddi1State& state);

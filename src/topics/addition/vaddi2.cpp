@@ -97,17 +97,12 @@ void Vaddi2::drawGraphs() {
 }
 
 void Vaddi2::judge() {
-    rows_.whiten();
-    const std::vector<AnswerField> fields = answerFields(state_);
-    if (rows_.areFit(fields)) {
-        // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
-        showSolved();
+    const std::vector<AnswerBox*> boxes = rows_.boxes(answerFields(state_));
+    // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
+    if (showJudgement(tavrune::judge(state_, valuesOf(boxes)), boxes,
+                      state_.segmentCount == 1 ? ui_->segment2Slope : ui_->segment1Slope)) {
         drawSum(kLastSumQ);
-        return;
     }
-    showFailed();
-    rows_.mark(fields);
-    focusOn(state_.segmentCount == 1 ? ui_->segment2Slope : ui_->segment1Slope);
 }
 
 void Vaddi2::drawSum(double lastQ) {

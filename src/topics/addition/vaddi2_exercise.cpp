@@ -188,6 +188,10 @@ std::vector<AnswerField> answerFields(const Vaddi2State& s) {
     return fields;
 }
 
+Judgement judge(const Vaddi2State& s, const std::vector<double>& typed) {
+    return judge(answerFields(s), typed);
+}
+
 std::array<std::string, 2> pathLines(const Vaddi2State& s) {
     const auto stretch = [&s](std::size_t row) {
         return stretchText(s.tableQtotal[row], s.tableP[row], s.tableQtotal[row + 1], s.tableP[row + 1]);

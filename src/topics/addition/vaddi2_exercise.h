@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 #include "topics/addition/addition_model.h"
 
 namespace tavrune {
@@ -58,6 +59,9 @@ void solve(Vaddi2State& state);
 
 /// The fields that are judged; the help table is not among them.
 [[nodiscard]] std::vector<AnswerField> answerFields(const Vaddi2State& state);
+
+/// Judges what is typed in the `answerFields`.
+[[nodiscard]] Judgement judge(const Vaddi2State& state, const std::vector<double>& typed);
 
 /// The path of the sum in two lines: "Her fra ( 0 ; 9 ) til ( 2 ; 7 ), fra ( 2 ; 7 ) til ( 5 ; 5 ) og fra "
 /// and "( 5 ; 5 ) til ( 17.5 ; 0 )." The second is empty with fewer than three segments.

@@ -173,32 +173,13 @@ void Vaddi3::focusOnTable() {
 }
 
 void Vaddi3::judge() {
-    rows_.whiten();
-    std::vector<AnswerField> fields = answerFields(state_);
-    if (rows_.areFit(fields) && isUpperEndRight()) {
-        // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
-        showSolved();
+    const std::vector<AnswerBox*> boxes = rows_.boxes(answerFields(state_));
+    const Vaddi3Answer answer{.typed = valuesOf(boxes), .helpCell = ui_->function1OrPart2Quantity3->value()};
+    // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
+    if (showJudgement(tavrune::judge(state_, answer), boxes,
+                      state_.segmentCount() == 1 ? ui_->segment2Slope : ui_->segment1Slope)) {
         drawSum();
-        return;
     }
-    showFailed();
-    if (const auto upperEnd = upperEndField(state_)) {
-        fields.push_back(*upperEnd);
-    }
-    rows_.mark(fields);
-    focusOn(state_.segmentCount() == 1 ? ui_->segment2Slope : ui_->segment1Slope);
-}
-
-bool Vaddi3::isUpperEndRight() const {
-    const auto asked = upperEndField(state_);
-    if (!asked) {
-        return true;
-    }
-    // Kept (vaddi3-help-cell): with three segments the verdict reads a box of the help table; the red mark
-    // goes by the field.
-    const AnswerBox* const read =
-        state_.segmentCount() == 3 ? ui_->function1OrPart2Quantity3 : rows_.box(asked->row, asked->slot);
-    return asked->target.isFit(read->value());
 }
 
 void Vaddi3::drawSum() {
@@ -270,9 +251,6 @@ void Vaddi3::fillAnswer() {
     // The targets are the answer.
     for (const AnswerField& field : answerFields(state_)) {
         rows_.write(field.row, field.slot, field.target.value);
-    }
-    if (const auto upperEnd = upperEndField(state_)) {
-        rows_.write(upperEnd->row, upperEnd->slot, upperEnd->target.value);
     }
     rows_.whiten();
     drawSum();

@@ -47,7 +47,6 @@ private:
     void showRows();
     void drawGraphs();
     void drawGivenFunctions();
-    [[nodiscard]] bool isUpperEndRight() const;
     void drawTypedSum();
     void drawSum();
     void drawJoins();

@@ -1,6 +1,7 @@
 #include "topics/addition/vaddi3_exercise.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "numeric/arithmetic.h"
 #include "numeric/rounding.h"
@@ -346,17 +347,22 @@ std::vector<AnswerField> answerFields(const Vaddi3State& s) {
         }
         if (i + 1 < count) {
             fields.push_back({row, Slot::End, {segment.endQ.number(), Rule::NearAllMarked}});
+        } else if (s.upperEndAsked) {
+            fields.push_back({row, Slot::End, {s.upperEnd.number(), Rule::NearClosed}});
         }
     }
     return fields;
 }
 
-std::optional<AnswerField> upperEndField(const Vaddi3State& s) {
-    if (!s.upperEndAsked) {
-        return std::nullopt;
+Judgement judge(const Vaddi3State& s, const Vaddi3Answer& answer) {
+    const std::vector<AnswerField> fields = answerFields(s);
+    std::vector<double> decisive = answer.typed;
+    if (s.upperEndAsked && s.segmentCount() == 3) {
+        // Kept (vaddi3-help-cell): with three segments the verdict goes by a box of the help table; the red
+        // mark goes by the field.
+        decisive.back() = answer.helpCell;
     }
-    const int count = s.segmentCount();
-    return AnswerField{rowOf(count - 1, count), Slot::End, {s.upperEnd.number(), Rule::NearClosed}};
+    return {judge(fields, answer.typed).isRight, judge(fields, decisive).isSolved};
 }
 
 std::array<std::string, 2> pathTexts(const Vaddi3State& s) {

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 #include "topics/addition/addition_model.h"
 
 namespace tavrune {
@@ -103,10 +103,18 @@ void newExercise(Vaddi3State& state, Draws& draws);
 /// True if row `row` of the help table is filled, and lies, at a jump up, on this part of function 1.
 [[nodiscard]] bool isRowOf(const Vaddi3State& state, std::size_t row, Part part);
 
-/// The fields that are judged, but for the upper end.
+/// The fields that are judged; the upper end is the last, if it is asked.
 [[nodiscard]] std::vector<AnswerField> answerFields(const Vaddi3State& state);
-/// The field of the upper end, if it is asked.
-[[nodiscard]] std::optional<AnswerField> upperEndField(const Vaddi3State& state);
+
+/// What is typed.
+struct Vaddi3Answer {
+    /// In the `answerFields`.
+    std::vector<double> typed;
+    /// In the third row of the help table, under Q1, or Q1b at a jump up.
+    double helpCell = 0;
+};
+
+[[nodiscard]] Judgement judge(const Vaddi3State& state, const Vaddi3Answer& answer);
 
 /// "Her fra ( 0 ; 9 ) til ( 3 ; 6 ) og fra ( 3 ; 6 ) til ( 9 ; 0 ).": the segments, in two lines from the
 /// third on.

@@ -34,18 +34,12 @@ void VerticalForm::bindGraphsAndRows() {
 }
 
 void VerticalForm::judge() {
-    rows_.whiten();
     hideVerdict();
     const VerticalSum right = sum();
-    const std::vector<AnswerField> fields = answerFields(right);
-    if (rows_.areFit(fields)) {
-        showSolved();
+    const std::vector<AnswerBox*> boxes = rows_.boxes(answerFields(right));
+    if (showJudgement(judged(valuesOf(boxes)), boxes, firstBox())) {
         drawSum(*result_.box, right);
-        return;
     }
-    showFailed();
-    rows_.mark(fields);
-    focusOnFirstRow();
 }
 
 void VerticalForm::giveAnswer() {
@@ -76,6 +70,6 @@ void VerticalForm::askForSum() {
     showAsking();
 }
 
-void VerticalForm::focusOnFirstRow() { focusOn(rows_.box(sum().rowOfSegment(0), Slot::Slope)); }
+AnswerBox* VerticalForm::firstBox() const { return rows_.box(sum().rowOfSegment(0), Slot::Slope); }
 
 }  // namespace tavrune

@@ -25,6 +25,8 @@ protected:
 
     /// The sum of the exercise.
     [[nodiscard]] virtual VerticalSum sum() const = 0;
+    /// The judgement of the exercise on what is typed in the `answerFields` of its sum.
+    [[nodiscard]] virtual Judgement judged(const std::vector<double>& typed) const = 0;
 
     void judge() override;
     void giveAnswer() override;
@@ -35,12 +37,14 @@ protected:
     /// Blank rows that wait for an answer.
     void askForSum();
     /// To the slope of the first segment that is asked for.
-    void focusOnFirstRow();
+    void focusOnFirstRow() { focusOn(firstBox()); }
 
     [[nodiscard]] const AnswerRows& rows() const { return rows_; }
 
 private:
     void bindGraphsAndRows();
+    /// The slope of the first segment that is asked for.
+    [[nodiscard]] AnswerBox* firstBox() const;
 
     FramedGraph function1_;
     FramedGraph function2_;

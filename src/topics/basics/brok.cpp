@@ -125,23 +125,16 @@ void Brok::showTask() {
 }
 
 void Brok::judge() {
+    const std::vector<AnswerBox*> boxes{ui_->numerator, ui_->denominator};
     ui_->reducedWholeNumber->hide();
-    whiten({ui_->numerator, ui_->denominator});
-    const double n = ui_->numerator->value();
-    const double m = ui_->denominator->value();
-    if (m == 0) {
+    if (ui_->denominator->value() == 0) {
+        whiten(boxes);
         tell("Du må ikke dividere med nul");
         focusOn(ui_->denominator);
         return;
     }
-    if (isRight(state_, n, m)) {
-        showSolved();
+    if (showJudgement(tavrune::judge(state_, valuesOf(boxes)), boxes, ui_->numerator)) {
         showReduction();
-    } else {
-        showFailed();
-        focusOn(ui_->numerator);
-        ui_->numerator->mark(true);
-        ui_->denominator->mark(true);
     }
 }
 

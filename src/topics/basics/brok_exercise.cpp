@@ -145,8 +145,9 @@ void newExercise(BrokState& state, Draws& draws) {
     } while (state.resultNumerator == 0);
 }
 
-bool isRight(const BrokState& state, double n, double m) {
-    return n / m == state.resultNumerator / state.resultDenominator;
+Judgement judge(const BrokState& state, const std::vector<double>& typed) {
+    const bool isRight = typed.at(0) / typed.at(1) == state.resultNumerator / state.resultDenominator;
+    return solvedIfAllRight({isRight, isRight});
 }
 
 ReducedFraction reduced(const BrokState& state) {

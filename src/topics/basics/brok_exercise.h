@@ -2,8 +2,10 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 
 namespace tavrune {
 
@@ -29,8 +31,9 @@ struct BrokState {
 /// Draws until the result is not 0.
 void newExercise(BrokState& state, Draws& draws);
 
-/// True if n/m is the result as a value, unreduced and with the sign anywhere. Precondition: m != 0.
-[[nodiscard]] bool isRight(const BrokState& state, double n, double m);
+/// Judges a typed n/m: both are right where it is the result as a value, unreduced and with the sign
+/// anywhere, else neither. Precondition: m != 0.
+[[nodiscard]] Judgement judge(const BrokState& state, const std::vector<double>& typed);
 
 /// The result with all common factors cancelled, by size alone. The sign is kept beside it.
 struct ReducedFraction {

@@ -154,18 +154,12 @@ void Dlinie::drawLine(double slope, double intercept, const QColor& colour) {
 }
 
 void Dlinie::judge() {
-    const double slope = ui_->slope->value();
-    const double intercept = ui_->intercept->value();
-    const DlinieJudgement judgement = judged(state_, slope, intercept);
-    ui_->slope->mark(!judgement.slopeIsRight);
-    ui_->intercept->mark(!judgement.interceptIsRight);
-    if (judgement.isRight()) {
-        showSolved();
+    const std::vector<AnswerBox*> boxes{ui_->slope, ui_->intercept};
+    const std::vector<double> typed = valuesOf(boxes);
+    if (showJudgement(tavrune::judge(state_, typed), boxes, ui_->slope)) {
         drawLine(state_.slope, state_.intercept, kGreen);
     } else {
-        drawLine(slope, intercept, kRed);
-        showFailed();
-        focusOn(ui_->slope);
+        drawLine(typed[0], typed[1], kRed);
     }
 }
 

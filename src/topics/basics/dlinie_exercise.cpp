@@ -84,8 +84,8 @@ void newExercise(DlinieState& state, Draws& draws, ZeroSlope zeroSlope) {
     state.intercept = RoundSigned2(state.intercept);
 }
 
-DlinieJudgement judged(const DlinieState& state, double slope, double intercept) {
-    return {isExactly(slope, state.slope), isExactly(intercept, state.intercept)};
+Judgement judge(const DlinieState& state, const std::vector<double>& typed) {
+    return solvedIfAllRight({isExactly(typed.at(0), state.slope), isExactly(typed.at(1), state.intercept)});
 }
 
 std::string interceptAnswer(const DlinieState& state) {

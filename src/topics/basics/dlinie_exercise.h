@@ -2,8 +2,10 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 
 namespace tavrune {
 
@@ -40,15 +42,8 @@ enum class ZeroSlope { Rejected, Allowed };
 /// and, unless allowed, the slope is not 0.
 void newExercise(DlinieState& state, Draws& draws, ZeroSlope zeroSlope = ZeroSlope::Rejected);
 
-/// Which of the two numbers is the stored one, to the last decimal.
-struct DlinieJudgement {
-    bool slopeIsRight;
-    bool interceptIsRight;
-
-    [[nodiscard]] bool isRight() const { return slopeIsRight && interceptIsRight; }
-};
-
-[[nodiscard]] DlinieJudgement judged(const DlinieState& state, double slope, double intercept);
+/// Judges a typed slope and intercept: right are the stored ones, to the last decimal.
+[[nodiscard]] Judgement judge(const DlinieState& state, const std::vector<double>& typed);
 
 /// The intercept as it is given, behind "X": "+3", "+0", "-3".
 [[nodiscard]] std::string interceptAnswer(const DlinieState& state);

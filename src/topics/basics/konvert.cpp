@@ -132,21 +132,15 @@ void Konvert::drawFunction(double slope, double constant, const QColor& colour) 
 }
 
 void Konvert::judge() {
+    const std::vector<AnswerBox*> boxes{ui_->slope, ui_->intercept};
     hideVerdict();
     ui_->giveAnswer->hide();
-    const KonvertJudgement judgement = tavrune::judge(state_, ui_->slope->value(), ui_->intercept->value());
-    ui_->slope->mark(!judgement.slopeIsRight);
-    ui_->intercept->mark(!judgement.constantIsRight);
-    if (!judgement.isSolved()) {
-        showFailed();
-        focusOn(ui_->slope);
-        return;
+    if (showJudgement(tavrune::judge(state_, valuesOf(boxes)), boxes, ui_->slope)) {
+        // Kept (konvert-task-away): the task text stays away where help was open; it comes back with "Luk" or
+        // the next exercise.
+        ui_->helpPanel->hide();
+        drawFunction(state_.newSlope, state_.newConstant, kLightGreen);
     }
-    showSolved();
-    // Kept (konvert-task-away): the task text stays away where help was open; it comes back with "Luk" or
-    // the next exercise.
-    ui_->helpPanel->hide();
-    drawFunction(state_.newSlope, state_.newConstant, kLightGreen);
 }
 
 void Konvert::giveAnswer() {

@@ -50,9 +50,9 @@ void newExercise(KonvertState& state, Draws& draws) {
     } while (state.newSlope < -kSteepest || state.newSlope > kSteepest);
 }
 
-KonvertJudgement judge(const KonvertState& state, double slope, double constant) {
-    return {.slopeIsRight = isClosedNear(slope, state.newSlope),
-            .constantIsRight = isClosedNear(constant, state.newConstant)};
+Judgement judge(const KonvertState& state, const std::vector<double>& typed) {
+    return solvedIfAllRight(
+        {isClosedNear(typed.at(0), state.newSlope), isClosedNear(typed.at(1), state.newConstant)});
 }
 
 void roundSolution(KonvertState& state) {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 
 namespace tavrune {
 
@@ -26,16 +28,8 @@ struct KonvertState {
 /// Draws until the new slope lies from -50 to 50.
 void newExercise(KonvertState& state, Draws& draws);
 
-/// Which of the two numbers are right.
-struct KonvertJudgement {
-    bool slopeIsRight;
-    bool constantIsRight;
-
-    [[nodiscard]] bool isSolved() const { return slopeIsRight && constantIsRight; }
-};
-
-/// Judges the typed numbers: within 0.005 of the solution as it is stored, both ends included.
-[[nodiscard]] KonvertJudgement judge(const KonvertState& state, double slope, double constant);
+/// Judges a typed slope and constant: right within 0.005 of the solution as it is stored, both ends included.
+[[nodiscard]] Judgement judge(const KonvertState& state, const std::vector<double>& typed);
 
 /// Rounds the solution where it is stored: from then on it is judged and drawn with 3 decimals.
 void roundSolution(KonvertState& state);

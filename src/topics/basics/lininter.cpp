@@ -77,16 +77,11 @@ void Lininter::drawPoints() {
 
 void Lininter::judge() {
     hideVerdict();
-    if (!isRight(state_, ui_->askedCoordinate->value())) {
-        showFailed();
-        focusOn(ui_->askedCoordinate);
-        ui_->askedCoordinate->mark(true);
-        return;
+    if (showJudgement(tavrune::judge(state_, {ui_->askedCoordinate->value()}), {ui_->askedCoordinate},
+                      ui_->askedCoordinate)) {
+        drawSolution();
+        draw(arrowheads(state_, Occasion::Judged), kGreen);
     }
-    whiten({ui_->askedCoordinate});
-    showSolved();
-    drawSolution();
-    draw(arrowheads(state_, Occasion::Judged), kGreen);
 }
 
 void Lininter::giveAnswer() {

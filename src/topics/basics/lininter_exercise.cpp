@@ -100,7 +100,9 @@ void newExercise(LininterState& state, Draws& draws) {
     }
 }
 
-bool isRight(const LininterState& state, double typed) { return isHalfOpenNear(typed, state.target); }
+Judgement judge(const LininterState& state, const std::vector<double>& typed) {
+    return solvedIfAllRight({isHalfOpenNear(typed.at(0), state.target)});
+}
 
 std::string answerText(const LininterState& state) { return NumberText(RoundSigned2(state.target)); }
 

@@ -2,8 +2,10 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 
 namespace tavrune {
 
@@ -34,7 +36,8 @@ struct LininterState {
 /// coordinate until the point lies near the graph.
 void newExercise(LininterState& state, Draws& draws);
 
-[[nodiscard]] bool isRight(const LininterState& state, double typed);
+/// Judges the typed coordinate.
+[[nodiscard]] Judgement judge(const LininterState& state, const std::vector<double>& typed);
 
 /// The target with two decimals, as the student is shown it. Kept (lininter-negative-halves): a negative half
 /// is rounded away from zero, which typed in is wrong.

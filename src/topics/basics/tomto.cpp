@@ -78,7 +78,7 @@ void Tomto::askForCrossing() {
 void Tomto::hideCrossing() { hideAll({ui_->crossingPointEquals, ui_->crossingPoint}); }
 
 void Tomto::setRange() {
-    state_.graphMax = rangeFor(state_);
+    tavrune::setRange(state_);
     markMiddles(state_.graphMax);
 }
 
@@ -92,20 +92,13 @@ void Tomto::judge() {
     setRange();
     const float max = state_.graphMax;
     ui_->graph->Scale(0, max, max, 0);
-    const TomtoJudgement judgement = tavrune::judge(
-        state_, options_.chosen(), ui_->crossingPointQuantity->value(), ui_->crossingPointPrice->value());
-    if (judgement.isSolved) {
-        whiten({ui_->crossingPointQuantity, ui_->crossingPointPrice});
-        showSolved();
+    // Marked while they are hidden too, whatever is chosen.
+    const std::vector<AnswerBox*> boxes{ui_->crossingPointQuantity, ui_->crossingPointPrice};
+    if (showJudgement(tavrune::judge(state_, {options_.chosen(), valuesOf(boxes)}), boxes,
+                      ui_->crossingPointPrice)) {
         drawLines(state_.form == LineForm::Implicit ? kBlack : kGreen);
         ui_->graph->DrawWidth(kThin);
-        return;
     }
-    focusOn(ui_->crossingPointPrice);
-    showFailed();
-    // Hidden fields too, whatever is chosen.
-    ui_->crossingPointQuantity->mark(!judgement.qIsRight);
-    ui_->crossingPointPrice->mark(!judgement.pIsRight);
 }
 
 void Tomto::giveAnswer() {

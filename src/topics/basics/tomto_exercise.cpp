@@ -142,16 +142,16 @@ std::array<std::string, 2> lineTexts(const TomtoState& s) {
     return {explicitText("l", s.a1, s.b1), explicitText("m", s.a2, s.b2)};
 }
 
-TomtoJudgement judge(const TomtoState& state, std::optional<Relation> chosen, double q, double p) {
-    const bool qIsRight = isExactly(q, state.solutionQ);
-    const bool pIsRight = isExactly(p, state.solutionP);
-    return {.isSolved = chosen == state.relation && (chosen != Relation::Crossing || (qIsRight && pIsRight)),
-            .qIsRight = qIsRight,
-            .pIsRight = pIsRight};
+Judgement judge(const TomtoState& state, const ChosenAnswer<Relation>& answer) {
+    Judgement judgement = solvedIfAllRight(
+        {isExactly(answer.typed.at(0), state.solutionQ), isExactly(answer.typed.at(1), state.solutionP)});
+    judgement.isSolved =
+        answer.chosen == state.relation && (answer.chosen != Relation::Crossing || judgement.isSolved);
+    return judgement;
 }
 
-float rangeFor(const TomtoState& state) {
-    return state.solutionQ > kShortAxis || state.solutionP > kShortAxis ? kLongAxis : kShortAxis;
+void setRange(TomtoState& state) {
+    state.graphMax = state.solutionQ > kShortAxis || state.solutionP > kShortAxis ? kLongAxis : kShortAxis;
 }
 
 std::array<GraphLine, 2> graphLines(const TomtoState& s) {

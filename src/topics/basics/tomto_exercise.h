@@ -5,6 +5,7 @@
 #include <string>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 
 namespace tavrune {
 
@@ -47,21 +48,13 @@ void newExercise(TomtoState& state, Draws& draws);
 /// The two lines of the task as they are written.
 [[nodiscard]] std::array<std::string, 2> lineTexts(const TomtoState& state);
 
-/// What is right of an answer.
-struct TomtoJudgement {
-    /// The relation is the chosen one and, for crossing lines, both typed numbers are the rounded
-    /// coordinates. Nothing is right as long as nothing is chosen.
-    bool isSolved;
-    /// The typed numbers by themselves, whatever is chosen.
-    bool qIsRight;
-    bool pIsRight;
-};
+/// Judges the chosen relation with a typed Q and P. It is solved if the relation is right and, for crossing
+/// lines, both numbers are the rounded coordinates; not as long as nothing is chosen. The numbers are right
+/// by themselves, whatever is chosen.
+[[nodiscard]] Judgement judge(const TomtoState& state, const ChosenAnswer<Relation>& answer);
 
-[[nodiscard]] TomtoJudgement judge(const TomtoState& state, std::optional<Relation> chosen, double q,
-                                   double p);
-
-/// The upper end of axes that the crossing is seen on.
-[[nodiscard]] float rangeFor(const TomtoState& state);
+/// Gives the axes an upper end that the crossing is seen on.
+void setRange(TomtoState& state);
 
 /// The heights of a line at Q = 0 and at Q = graphMax.
 struct GraphLine {

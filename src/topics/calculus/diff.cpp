@@ -88,17 +88,12 @@ void Diff::drawTypedTangent(double slope) { drawTangent(slope, kReach, kRed); }
 
 void Diff::judge() {
     const double typed = ui_->derivative->value();
-    const bool right = isRight(state_, typed);
-    ui_->derivative->mark(!right);
     // Kept (shell-forkert-behind): no verdict is hidden first, so "FORKERT" stays behind a later "RIGTIGT".
-    if (right) {
-        showSolved();
+    if (showJudgement(tavrune::judge(state_, {typed}), {ui_->derivative}, ui_->derivative)) {
         drawRightTangent();
-        return;
+    } else {
+        drawTypedTangent(typed);
     }
-    showFailed();
-    focusOn(ui_->derivative);
-    drawTypedTangent(typed);
 }
 
 void Diff::giveAnswer() {

@@ -201,7 +201,9 @@ void newExercise(DiffState& state, Draws& draws) {
     } while (std::abs(curveAt(state, state.pointQ)) > kReach);
 }
 
-bool isRight(const DiffState& state, double typed) { return isHalfOpenNear(typed, state.slopeAtPoint); }
+Judgement judge(const DiffState& state, const std::vector<double>& typed) {
+    return solvedIfAllRight({isHalfOpenNear(typed.at(0), state.slopeAtPoint)});
+}
 
 bool hasParabola(const DiffState& state) { return state.patternCase <= kLastWithParabola; }
 

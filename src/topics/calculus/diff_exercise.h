@@ -1,8 +1,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 #include "numeric/term.h"
 
 namespace tavrune {
@@ -36,7 +38,8 @@ struct DiffPattern {
 /// Draws until the curve at the point is 60 or less in size.
 void newExercise(DiffState& state, Draws& draws);
 
-[[nodiscard]] bool isRight(const DiffState& state, double typed);
+/// Judges the typed derivative.
+[[nodiscard]] Judgement judge(const DiffState& state, const std::vector<double>& typed);
 
 /// True for the patterns whose graph is the parabola aQ²+bQ+c: the quadratics, and two of the cubics.
 [[nodiscard]] bool hasParabola(const DiffState& state);

@@ -119,15 +119,9 @@ void Integ::hatchArea() {
 
 void Integ::judge() {
     hideVerdict();
-    const bool right = isRight(state_, ui_->integral->value());
-    ui_->integral->mark(!right);
-    if (right) {
-        showSolved();
+    if (showJudgement(tavrune::judge(state_, {ui_->integral->value()}), {ui_->integral}, ui_->integral)) {
         hatchArea();
-        return;
     }
-    showFailed();
-    focusOn(ui_->integral);
 }
 
 void Integ::giveAnswer() {

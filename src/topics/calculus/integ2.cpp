@@ -167,15 +167,9 @@ void Integ2::fillHelp(const QString& segment, const Integ2Segment& worked) const
 
 void Integ2::judge() {
     hideVerdict();
-    const bool right = isRight(state_, ui_->integral->value());
-    ui_->integral->mark(!right);
-    if (right) {
-        showSolved();
+    if (showJudgement(tavrune::judge(state_, {ui_->integral->value()}), {ui_->integral}, ui_->integral)) {
         hatchSegments(*ui_->graph, state_, kBlue, kBlue);
-        return;
     }
-    showFailed();
-    focusOn(ui_->integral);
 }
 
 void Integ2::giveAnswer() {

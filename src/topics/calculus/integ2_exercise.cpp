@@ -128,7 +128,9 @@ Integ2Segment secondSegment(const Integ2State& s) {
 
 double heightAt(const Integ2Segment& segment, double q) { return segment.slope * q + segment.intercept; }
 
-bool isRight(const Integ2State& state, double typed) { return isHalfOpenNear(typed, state.total); }
+Judgement judge(const Integ2State& state, const std::vector<double>& typed) {
+    return solvedIfAllRight({isHalfOpenNear(typed.at(0), state.total)});
+}
 
 std::string answerText(const Integ2State& state) { return NumberText(RoundSigned2(state.total)); }
 

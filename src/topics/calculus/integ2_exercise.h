@@ -1,8 +1,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 
 namespace tavrune {
 
@@ -42,7 +44,8 @@ void newExercise(Integ2State& state, Draws& draws);
 /// The height of a segment at q, wherever q lies.
 [[nodiscard]] double heightAt(const Integ2Segment& segment, double q);
 
-[[nodiscard]] bool isRight(const Integ2State& state, double typed);
+/// Judges the typed integral.
+[[nodiscard]] Judgement judge(const Integ2State& state, const std::vector<double>& typed);
 
 /// The whole integral with two decimals, as the student is shown it.
 [[nodiscard]] std::string answerText(const Integ2State& state);

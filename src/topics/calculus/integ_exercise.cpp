@@ -198,7 +198,9 @@ void newExercise(IntegState& state, Draws& draws) {
 
 double valueAt(const IntegState& s, double q) { return s.a * power(q, 2) + s.b * q + s.c; }
 
-bool isRight(const IntegState& state, double typed) { return isHalfOpenNear(typed, state.integral); }
+Judgement judge(const IntegState& state, const std::vector<double>& typed) {
+    return solvedIfAllRight({isHalfOpenNear(typed.at(0), state.integral)});
+}
 
 std::string answerText(const IntegState& state) { return NumberText(RoundSigned2(state.integral)); }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 
 namespace tavrune {
 
@@ -29,7 +31,8 @@ void newExercise(IntegState& state, Draws& draws);
 /// p at Q.
 [[nodiscard]] double valueAt(const IntegState& state, double q);
 
-[[nodiscard]] bool isRight(const IntegState& state, double typed);
+/// Judges the typed integral.
+[[nodiscard]] Judgement judge(const IntegState& state, const std::vector<double>& typed);
 
 /// The integral with two decimals, as the student is shown it.
 [[nodiscard]] std::string answerText(const IntegState& state);

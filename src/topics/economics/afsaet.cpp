@@ -71,7 +71,7 @@ QString capitalised(const QString& name) { return name.left(1).toUpper() + name.
 Afsaet::Afsaet(Draws& draws) : ExerciseForm(PageName::Afsaet, draws), ui_(std::make_unique<Ui::Afsaet>()) {
     setUp(*ui_);
     boxes_ = {ui_->slope, ui_->intercept, ui_->rangeStart, ui_->rangeEnd};
-    enterChain({boxes_.a, boxes_.b, boxes_.Qlo, boxes_.Qhi}, LastBox::OkOrStay);
+    enterChain(boxes_, LastBox::OkOrStay);
     helps_ = helpPanels();
     for (const HelpPanel& help : helps_) {
         for (const Step& step : help.steps) {
@@ -116,7 +116,7 @@ std::vector<Afsaet::HelpPanel> Afsaet::helpPanels() const {
 }
 
 void Afsaet::newExercise() {
-    clearBoxes({boxes_.a, boxes_.b, boxes_.Qlo, boxes_.Qhi});
+    clearBoxes(boxes_);
     ui_->graph->Cls();
     showAsking();
 
@@ -138,30 +138,21 @@ void Afsaet::drawLine(const AfsaetAnswer& line, const QColor& colour) {
 }
 
 void Afsaet::judge() {
-    const auto& [a, b, Qlo, Qhi] = boxes_;
-    const AfsaetAnswer typed{a->value(), b->value(), Qlo->value(), Qhi->value()};
-    const AfsaetFields<bool> right = tavrune::judge(state_, typed);
-    a->mark(!right.a);
-    b->mark(!right.b);
-    Qlo->mark(!right.Qlo);
-    Qhi->mark(!right.Qhi);
-    if (right == kAfsaetAllRight) {
-        showSolved();
+    const std::vector<double> typed = valuesOf(boxes_);
+    if (showJudgement(tavrune::judge(state_, typed), boxes_, ui_->slope)) {
         drawLine(answerOf(state_), kLightGreen);
     } else {
-        showFailed();
-        drawLine(typed, kRed);
-        focusOn(boxes_.a);
+        drawLine({typed[0], typed[1], typed[2], typed[3]}, kRed);
     }
 }
 
 void Afsaet::giveAnswer() {
     const AfsaetAnswer answer = answerOf(state_);
-    for (const auto& [box, number] : {std::pair{boxes_.a, answer.a},
-                                      {boxes_.b, answer.b},
-                                      {boxes_.Qlo, answer.Qlo},
-                                      {boxes_.Qhi, answer.Qhi}}) {
-        box->mark(false);
+    whiten(boxes_);
+    for (const auto& [box, number] : {std::pair{ui_->slope, answer.a},
+                                      {ui_->intercept, answer.b},
+                                      {ui_->rangeStart, answer.Qlo},
+                                      {ui_->rangeEnd, answer.Qhi}}) {
         box->setContent(NumberText(number));
     }
     showGiven();
@@ -198,7 +189,7 @@ void Afsaet::closePanel(const HelpPanel& help) {
         step.shown()->hide();
     }
     hideAll({help.heading, help.equation});
-    focusOn(boxes_.a);
+    focusOn(ui_->slope);
 }
 
 }  // namespace tavrune

@@ -64,7 +64,8 @@ private:
     void closePanel(const HelpPanel& help);
 
     std::unique_ptr<Ui::Afsaet> ui_;
-    AfsaetFields<AnswerBox*> boxes_;
+    /// In the order of an `AfsaetAnswer`.
+    std::vector<AnswerBox*> boxes_;
     std::vector<HelpPanel> helps_;
     AfsaetState state_;
 };

@@ -171,11 +171,9 @@ std::vector<AfsaetStep> stepsOfElasticityAtQuantityAndSlope(const AfsaetState& s
 
 AfsaetAnswer answerOf(const AfsaetState& state) { return {state.a, state.b, state.Qlo, state.Qhi}; }
 
-AfsaetFields<bool> judge(const AfsaetState& state, const AfsaetAnswer& typed) {
-    return {.a = isExactly(typed.a, state.a),
-            .b = isExactly(typed.b, state.b),
-            .Qlo = isExactly(typed.Qlo, state.Qlo),
-            .Qhi = isExactly(typed.Qhi, state.Qhi)};
+Judgement judge(const AfsaetState& state, const std::vector<double>& typed) {
+    return solvedIfAllRight({isExactly(typed.at(0), state.a), isExactly(typed.at(1), state.b),
+                             isExactly(typed.at(2), state.Qlo), isExactly(typed.at(3), state.Qhi)});
 }
 
 AfsaetTask taskTexts(const AfsaetState& state) {

@@ -3,31 +3,25 @@
 #include <string>
 #include <vector>
 
+#include "numeric/judgement.h"
 #include "topics/economics/afsaet_model.h"
 
 namespace tavrune {
 
-/// One of something for each number of the answer: a, b, and the lower and the upper bound of Q, in the order
-/// in which they are typed.
-template <class T>
-struct AfsaetFields {
-    T a{};
-    T b{};
-    T Qlo{};
-    T Qhi{};
+/// The numbers of the answer in the order in which they are typed, with the bounds of the quantity.
+struct AfsaetAnswer {
+    double a = 0;
+    double b = 0;
+    double Qlo = 0;
+    double Qhi = 0;
 
-    bool operator==(const AfsaetFields&) const = default;
+    bool operator==(const AfsaetAnswer&) const = default;
 };
-
-using AfsaetAnswer = AfsaetFields<double>;
 
 [[nodiscard]] AfsaetAnswer answerOf(const AfsaetState& state);
 
-/// What `judge` gives for the answer.
-inline constexpr AfsaetFields<bool> kAfsaetAllRight{true, true, true, true};
-
-/// Which of the four are right, to the last decimal.
-[[nodiscard]] AfsaetFields<bool> judge(const AfsaetState& state, const AfsaetAnswer& typed);
+/// Judges a typed a, b, and lower and upper bound of Q: right to the last decimal.
+[[nodiscard]] Judgement judge(const AfsaetState& state, const std::vector<double>& typed);
 
 /// What is asked, the two facts and the range.
 struct AfsaetTask {

@@ -71,12 +71,11 @@ Gtm::Gtm(Draws& draws) : ExerciseForm(PageName::Gtm, draws), ui_(std::make_uniqu
     functions_ = {.average = bind(GtmFunction::Average),
                   .total = bind(GtmFunction::Total),
                   .marginal = bind(GtmFunction::Marginal)};
-    std::vector<AnswerBox*> chain;
     for (const GtmFunction function : kGtmFunctions) {
         const auto& [a, b, c] = functions_.of(function).boxes;
-        chain.insert(chain.end(), {a, b, c});
+        boxes_.insert(boxes_.end(), {a, b, c});
     }
-    enterChain(chain, LastBox::OkOrStay);
+    enterChain(boxes_, LastBox::OkOrStay);
     onClick(ui_->closeAvcGivenHelp, &Gtm::closeHelp);
     onClick(ui_->closeTvcGivenHelp, &Gtm::closeHelp);
     onClick(ui_->closeMcGivenHelp, &Gtm::closeHelpAndBlackenNames);
@@ -137,10 +136,7 @@ void Gtm::newExercise() {
 void Gtm::prepare() {
     focusOn(ui_->avcQuadraticCoefficient);
     showAsking();
-    for (const GtmFunction function : kGtmFunctions) {
-        const auto& [a, b, c] = functions_.of(function).boxes;
-        clearBoxes({a, b, c});
-    }
+    clearBoxes(boxes_);
 }
 
 void Gtm::showTask(GtmReach reach) {
@@ -159,24 +155,14 @@ void Gtm::draw(const GtmCurve& curve, const QColor& colour) {
 }
 
 void Gtm::judge() {
-    bool isSolved = true;
+    const std::vector<double> typed = valuesOf(boxes_);
+    const Judgement judgement = tavrune::judge(state_, typed);
     for (const GtmFunction function : kGtmFunctions) {
-        const auto& [a, b, c] = functions_.of(function).boxes;
-        const GtmCoefficients typed{a->value(), b->value(), c->value()};
-        const GtmTerms<bool> right = tavrune::judge(state_, function, typed);
-        a->mark(!right.a);
-        b->mark(!right.b);
-        c->mark(!right.c);
-        const bool isRight = right == kGtmAllRight;
-        isSolved = isSolved && isRight;
-        draw(curveOfTry(function, typed), isRight ? coloursOf(function).right : coloursOf(function).wrong);
+        const auto& [right, wrong] = coloursOf(function);
+        draw(curveOfTry(function, coefficientsOf(function, typed)),
+             isRight(function, judgement) ? right : wrong);
     }
-    if (isSolved) {
-        showSolved();
-        return;
-    }
-    showFailed();
-    focusOn(ui_->avcQuadraticCoefficient);
+    showJudgement(judgement, boxes_, ui_->avcQuadraticCoefficient);
 }
 
 void Gtm::giveAnswer() {

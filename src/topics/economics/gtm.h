@@ -69,6 +69,8 @@ private:
     std::unique_ptr<Ui::Gtm> ui_;
     GtmState state_;
     GtmEach<Function> functions_;
+    /// Those of all functions, in their order.
+    std::vector<AnswerBox*> boxes_;
 };
 
 }  // namespace tavrune

@@ -161,6 +161,9 @@ private:
     Formula formula_;
 };
 
+/// Where the coefficients of a function begin in an answer.
+std::size_t firstOf(GtmFunction function) { return 3 * static_cast<std::size_t>(function); }
+
 }  // namespace
 
 const GtmCoefficients& GtmState::of(GtmFunction function) const {
@@ -204,9 +207,25 @@ GtmTerms<std::string> taskTexts(const GtmCoefficients& given) {
     return {fixedPointText(a), NumberText(b), NumberText(c)};
 }
 
-GtmTerms<bool> judge(const GtmState& s, GtmFunction function, const GtmCoefficients& typed) {
-    const auto& [a, b, c] = s.of(function);
-    return {.a = isExactly(typed.a, a), .b = isExactly(typed.b, b), .c = isExactly(typed.c, c)};
+Judgement judge(const GtmState& s, const std::vector<double>& typed) {
+    std::vector<bool> isRight;
+    for (const GtmFunction function : kGtmFunctions) {
+        const auto& [a, b, c] = s.of(function);
+        const GtmCoefficients typedOnes = coefficientsOf(function, typed);
+        isRight.insert(isRight.end(),
+                       {isExactly(typedOnes.a, a), isExactly(typedOnes.b, b), isExactly(typedOnes.c, c)});
+    }
+    return solvedIfAllRight(std::move(isRight));
+}
+
+GtmCoefficients coefficientsOf(GtmFunction function, const std::vector<double>& typed) {
+    const std::size_t first = firstOf(function);
+    return {typed.at(first), typed.at(first + 1), typed.at(first + 2)};
+}
+
+bool isRight(GtmFunction function, const Judgement& judgement) {
+    const std::size_t first = firstOf(function);
+    return judgement.isRight.at(first) && judgement.isRight.at(first + 1) && judgement.isRight.at(first + 2);
 }
 
 double heightAt(GtmFunction function, const GtmCoefficients& coefficients, double q) {

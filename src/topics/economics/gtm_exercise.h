@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 
 namespace tavrune {
 
@@ -72,11 +73,15 @@ void firstExercise(GtmState& s, Draws& draws);
 /// The coefficients as a task shows them: a with the point in every locale, so that the box can be read back.
 [[nodiscard]] GtmTerms<std::string> taskTexts(const GtmCoefficients& given);
 
-/// What `judge` gives for the right coefficients.
-inline constexpr GtmTerms<bool> kGtmAllRight{true, true, true};
+/// Judges the typed coefficients of all three functions, function by function in the order of
+/// `kGtmFunctions`: right to the digit, those of the given function too.
+[[nodiscard]] Judgement judge(const GtmState& s, const std::vector<double>& typed);
 
-/// Which of the three typed coefficients are right: to the digit, those of the given function too.
-[[nodiscard]] GtmTerms<bool> judge(const GtmState& s, GtmFunction function, const GtmCoefficients& typed);
+/// Those of one function, out of nine that are typed.
+[[nodiscard]] GtmCoefficients coefficientsOf(GtmFunction function, const std::vector<double>& typed);
+
+/// True if all coefficients of a function are right.
+[[nodiscard]] bool isRight(GtmFunction function, const Judgement& judgement);
 
 /// The height of a function at Q.
 [[nodiscard]] double heightAt(GtmFunction function, const GtmCoefficients& coefficients, double q);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 
 #include "numeric/arithmetic.h"
 #include "numeric/judging.h"
@@ -29,6 +30,36 @@ std::string laterTerm(Term term, float size, const char* power) {
         return "";
     }
     return (term == Term::Minus ? "-" : "+") + NumberText(size) + power;
+}
+
+/// True if the count is right and the boxes that it asks for hold the roots.
+bool areRight(double discriminant, const Roots& roots, std::optional<RootCount> chosen, double first,
+              double second) {
+    if (chosen != rootCountOf(discriminant)) {
+        return false;
+    }
+    if (chosen == RootCount::None) {
+        return true;
+    }
+    if (chosen == RootCount::Double) {
+        return isHalfOpenNear(second, roots.root1);
+    }
+    const bool inOrder = isHalfOpenNear(first, roots.root1) && isHalfOpenNear(second, roots.root2);
+    const bool swapped = isHalfOpenNear(first, roots.root2) && isHalfOpenNear(second, roots.root1);
+    return inOrder || swapped;
+}
+
+/// 1 or 2, the box that holds a root, or 0: root 1 is looked for in both before root 2.
+int boxWithRoot(const Roots& roots, double first, double second) {
+    for (const double root : {roots.root1, roots.root2}) {
+        if (isHalfOpenNear(first, root)) {
+            return 1;
+        }
+        if (isHalfOpenNear(second, root)) {
+            return 2;
+        }
+    }
+    return 0;
 }
 
 }  // namespace
@@ -76,44 +107,14 @@ RootCount rootCountOf(double discriminant) {
 
 const char* nameOfSecondRoot(RootCount count) { return count == RootCount::Double ? "dobbelt rod" : "rod 2"; }
 
-bool rootsAreRight(double discriminant, const Roots& roots, std::optional<RootCount> chosen,
-                   const TypedRoots& typed) {
-    if (chosen != rootCountOf(discriminant)) {
-        return false;
+Judgement judge(double discriminant, const Roots& roots, const RootAnswer& answer) {
+    const double first = answer.typed.at(0);
+    const double second = answer.typed.at(1);
+    if (areRight(discriminant, roots, answer.chosen, first, second)) {
+        return solvedIfAllRight({true, true});
     }
-    if (chosen == RootCount::None) {
-        return true;
-    }
-    if (chosen == RootCount::Double) {
-        return isHalfOpenNear(typed.second, roots.root1);
-    }
-    const bool inOrder =
-        isHalfOpenNear(typed.first, roots.root1) && isHalfOpenNear(typed.second, roots.root2);
-    const bool swapped =
-        isHalfOpenNear(typed.first, roots.root2) && isHalfOpenNear(typed.second, roots.root1);
-    return inOrder || swapped;
-}
-
-RootMarks rootMarks(double discriminant, const Roots& roots, const TypedRoots& typed) {
-    constexpr RootMarks kFirst{.first = true, .second = false};
-    constexpr RootMarks kSecond{.first = false, .second = true};
-    constexpr RootMarks kBoth{.first = true, .second = true};
-    if (discriminant <= 0) {
-        return kBoth;
-    }
-    if (isHalfOpenNear(typed.first, roots.root1)) {
-        return kSecond;
-    }
-    if (isHalfOpenNear(typed.second, roots.root1)) {
-        return kFirst;
-    }
-    if (isHalfOpenNear(typed.first, roots.root2)) {
-        return kSecond;
-    }
-    if (isHalfOpenNear(typed.second, roots.root2)) {
-        return kFirst;
-    }
-    return kBoth;
+    const int right = discriminant > 0 ? boxWithRoot(roots, first, second) : 0;
+    return {.isRight = {right == 1, right == 2}, .isSolved = false};
 }
 
 }  // namespace tavrune

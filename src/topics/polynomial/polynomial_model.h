@@ -1,9 +1,9 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 #include "numeric/term.h"
 
 namespace tavrune {
@@ -68,27 +68,14 @@ enum class RootCount { Two, Double, None };
 /// What screen readers call the second root box: it takes the second of two roots, or the double one.
 [[nodiscard]] const char* nameOfSecondRoot(RootCount count);
 
-/// What stands in the two root boxes; a double root is typed in the second.
-struct TypedRoots {
-    double first = 0;
-    double second = 0;
-};
+/// The values of the two root boxes; a double root is typed in the second. Further ones may follow.
+using RootAnswer = ChosenAnswer<RootCount>;
 
-/// True if the chosen count is the right one and the boxes that it asks for hold the roots, in either order.
-/// Nothing is right as long as nothing is chosen.
-[[nodiscard]] bool rootsAreRight(double discriminant, const Roots& roots, std::optional<RootCount> chosen,
-                                 const TypedRoots& typed);
-
-/// Which root boxes turn red after a wrong answer. What is chosen does not matter.
-struct RootMarks {
-    bool first = false;
-    bool second = false;
-
-    bool operator==(const RootMarks&) const = default;
-};
-
-/// Both for fewer than two roots. Otherwise the first box that holds a root, in a fixed order of tests,
-/// leaves the other one red; both, if none does. The same right root typed twice leaves the second red.
-[[nodiscard]] RootMarks rootMarks(double discriminant, const Roots& roots, const TypedRoots& typed);
+/// Judges the chosen count and what is typed in the two root boxes. It is solved if the count is right and
+/// the boxes that it asks for hold the roots, in either order; not as long as nothing is chosen. Both boxes
+/// are right then. Otherwise, whatever is chosen, neither is for fewer than two roots; for two, the first box
+/// that holds a root, in a fixed order of tests, is right and the other one wrong. The same right root typed
+/// twice leaves the second wrong.
+[[nodiscard]] Judgement judge(double discriminant, const Roots& roots, const RootAnswer& answer);
 
 }  // namespace tavrune

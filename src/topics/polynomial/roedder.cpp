@@ -155,24 +155,20 @@ void Roedder::askForNoRoots() {
 }
 
 void Roedder::judge() {
-    whiten({ui_->rootOne, ui_->rootTwo});
-    const TypedRoots typed{.first = ui_->rootOne->value(), .second = ui_->rootTwo->value()};
-    if (isRight(state_, options_.chosen(), typed)) {
-        showSolved();
+    const std::vector<AnswerBox*> boxes{ui_->rootOne, ui_->rootTwo};
+    const RootAnswer answer{options_.chosen(), valuesOf(boxes)};
+    // The focus stays after a wrong try.
+    if (showJudgement(tavrune::judge(state_, answer), boxes, nullptr)) {
         colourRightOption();
         drawCurve(kNeverMet);
         return;
     }
-    showFailed();
-    if (options_.chosen() == RootCount::Two) {
-        drawTick(typed.first);
-        drawTick(typed.second);
-    } else if (options_.chosen() == RootCount::Double) {
-        drawTick(typed.second);
+    if (answer.chosen == RootCount::Two) {
+        drawTick(answer.typed[0]);
     }
-    const RootMarks marks = rootMarks(state_.discriminant, state_.roots, typed);
-    ui_->rootOne->mark(marks.first);
-    ui_->rootTwo->mark(marks.second);
+    if (answer.chosen == RootCount::Two || answer.chosen == RootCount::Double) {
+        drawTick(answer.typed[1]);
+    }
 }
 
 void Roedder::giveAnswer() {

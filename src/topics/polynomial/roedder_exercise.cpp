@@ -43,8 +43,8 @@ void newExercise(RoedderState& state, Draws& draws) {
     }
 }
 
-bool isRight(const RoedderState& state, std::optional<RootCount> chosen, const TypedRoots& typed) {
-    return rootsAreRight(state.discriminant, state.roots, chosen, typed);
+Judgement judge(const RoedderState& state, const RootAnswer& answer) {
+    return judge(state.discriminant, state.roots, answer);
 }
 
 std::string discriminantText(const RoedderState& state) {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 #include "topics/polynomial/polynomial_model.h"
 
 namespace tavrune {
@@ -22,9 +22,8 @@ struct RoedderState {
 /// left to chance.
 void newExercise(RoedderState& state, Draws& draws);
 
-/// True if the count is right and the boxes that go with it hold the roots, in either order.
-[[nodiscard]] bool isRight(const RoedderState& state, std::optional<RootCount> chosen,
-                           const TypedRoots& typed);
+/// Judges the chosen count and the roots that go with it.
+[[nodiscard]] Judgement judge(const RoedderState& state, const RootAnswer& answer);
 
 /// The discriminant with its numbers inserted: "d = (-3) ² - 4· 5 · 1 = -11". The blanks round its dots
 /// depend on how many of the numbers are negative.

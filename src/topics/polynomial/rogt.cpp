@@ -123,47 +123,31 @@ void Rogt::askForTheVertexOnly() {
 }
 
 void Rogt::judge() {
+    // Marked while they are hidden too, whatever is chosen.
+    const std::vector<AnswerBox*> boxes{ui_->rootOne, ui_->rootTwo, ui_->vertexQuantity, ui_->vertexPrice};
+    const RogtJudgement judgement = tavrune::judge(state_, {options_.chosen(), valuesOf(boxes)});
     hideVerdict();
-    const bool rootsRight = judgeRoots();
-    const bool vertexRight = judgeVertex();
-    if (rootsRight || vertexRight) {
+    if (judgement.rootsAreRight) {
+        colourRightOption();
+    } else {
+        drawTypedRoots();
+    }
+    if (judgement.rootsAreRight || judgement.vertexIsRight) {
         // "FORKERT", where it is shown too, lies in front.
         showRight();
     }
-    if (!rootsRight || !vertexRight) {
-        showWrong();
-        showAll({ui_->ok, ui_->giveAnswer});
+    if (showJudgement(judgement, boxes, nullptr)) {
+        drawCurve();
+    } else {
         focusOnWrongBox();
-        return;
     }
-    focusOn(ui_->newExercise);
-    hideAll({ui_->ok, ui_->giveAnswer});
-    drawCurve();
 }
 
-bool Rogt::judgeRoots() {
-    whiten({ui_->rootOne, ui_->rootTwo});
-    const TypedRoots typed{.first = ui_->rootOne->value(), .second = ui_->rootTwo->value()};
-    if (rootsAreRight(state_, options_.chosen(), typed)) {
-        colourRightOption();
-        return true;
-    }
+void Rogt::drawTypedRoots() {
     for (const AnswerBox* box : chosenRootBoxes()) {
         const double root = box->value();
         ui_->graph->Line(root, -kHalfTick, root, kHalfTick, kRed);
     }
-    // Hidden boxes too, whatever is chosen.
-    const RootMarks marks = rootMarks(state_.discriminant, state_.roots, typed);
-    ui_->rootOne->mark(marks.first);
-    ui_->rootTwo->mark(marks.second);
-    return false;
-}
-
-bool Rogt::judgeVertex() {
-    const VertexMatch match = matchVertex(state_, ui_->vertexQuantity->value(), ui_->vertexPrice->value());
-    ui_->vertexQuantity->mark(!match.q);
-    ui_->vertexPrice->mark(!match.p);
-    return match.isRight();
 }
 
 void Rogt::focusOnWrongBox() {

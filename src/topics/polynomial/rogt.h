@@ -43,8 +43,8 @@ private:
 
     void drawAxes();
     void drawCurve();
-    [[nodiscard]] bool judgeRoots();
-    [[nodiscard]] bool judgeVertex();
+    /// Where the axis is met, as the chosen number of roots has it.
+    void drawTypedRoots();
     void focusOnWrongBox();
 
     std::unique_ptr<Ui::Rogt> ui_;

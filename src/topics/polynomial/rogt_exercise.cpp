@@ -24,12 +24,14 @@ void newExercise(RogtState& s, Draws& draws) {
     s.vertex = vertexOf(s.coefficients);
 }
 
-bool rootsAreRight(const RogtState& s, std::optional<RootCount> chosen, const TypedRoots& typed) {
-    return rootsAreRight(s.discriminant, s.roots, chosen, typed);
-}
-
-VertexMatch matchVertex(const RogtState& s, double q, double p) {
-    return {.q = isHalfOpenNear(q, s.vertex.q), .p = isHalfOpenNear(p, s.vertex.p)};
+RogtJudgement judge(const RogtState& s, const RootAnswer& answer) {
+    const Judgement roots = judge(s.discriminant, s.roots, answer);
+    const Judgement vertex = solvedIfAllRight(
+        {isHalfOpenNear(answer.typed.at(2), s.vertex.q), isHalfOpenNear(answer.typed.at(3), s.vertex.p)});
+    RogtJudgement judgement{roots, roots.isSolved, vertex.isSolved};
+    judgement.isRight.insert(judgement.isRight.end(), vertex.isRight.begin(), vertex.isRight.end());
+    judgement.isSolved = roots.isSolved && vertex.isSolved;
+    return judgement;
 }
 
 RogtAnswer answerOf(const RogtState& s) {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 #include "topics/polynomial/polynomial_model.h"
 
 namespace tavrune {
@@ -22,19 +22,14 @@ struct RogtState {
 /// Draws once: how many roots there are is left to chance.
 void newExercise(RogtState& s, Draws& draws);
 
-[[nodiscard]] bool rootsAreRight(const RogtState& s, std::optional<RootCount> chosen,
-                                 const TypedRoots& typed);
-
-/// Which coordinates of the typed vertex are right.
-struct VertexMatch {
-    bool q = false;
-    bool p = false;
-
-    [[nodiscard]] bool isRight() const { return q && p; }
-    bool operator==(const VertexMatch&) const = default;
+/// Solved if both parts of the answer are right. Right roots leave both of their boxes right.
+struct RogtJudgement : Judgement {
+    bool rootsAreRight = false;
+    bool vertexIsRight = false;
 };
 
-[[nodiscard]] VertexMatch matchVertex(const RogtState& s, double q, double p);
+/// Judges the chosen count with what is typed for both roots, and for Q and P of the vertex.
+[[nodiscard]] RogtJudgement judge(const RogtState& s, const RootAnswer& answer);
 
 /// What "&Giv svaret" writes, to 2 decimals; a double root is in both, and without roots they are empty.
 ///

@@ -85,16 +85,11 @@ void Topp::drawCurve() {
 
 void Topp::judge() {
     hideVerdict();
-    const ToppVerdict right = tavrune::judge(state_, ui_->vertexQuantity->value(), ui_->vertexPrice->value());
-    ui_->vertexQuantity->mark(!right.q);
-    ui_->vertexPrice->mark(!right.p);
-    if (right.q && right.p) {
-        showSolved();
+    const std::vector<AnswerBox*> boxes{ui_->vertexQuantity, ui_->vertexPrice};
+    const Judgement judgement = tavrune::judge(state_, valuesOf(boxes));
+    if (showJudgement(judgement, boxes, judgement.isRight[1] ? ui_->vertexQuantity : ui_->vertexPrice)) {
         drawCurve();
-        return;
     }
-    showFailed();
-    focusOn(right.p ? ui_->vertexQuantity : ui_->vertexPrice);
 }
 
 void Topp::giveAnswer() {

@@ -80,8 +80,9 @@ void newExercise(ToppState& state, Draws& draws) {
     } while (!isWithinReach({state.vertexQ, state.vertexP}));
 }
 
-ToppVerdict judge(const ToppState& state, double typedQ, double typedP) {
-    return {.q = isHalfOpenNear(typedQ, state.vertexQ), .p = isHalfOpenNear(typedP, state.vertexP)};
+Judgement judge(const ToppState& state, const std::vector<double>& typed) {
+    return solvedIfAllRight(
+        {isHalfOpenNear(typed.at(0), state.vertexQ), isHalfOpenNear(typed.at(1), state.vertexP)});
 }
 
 std::string answerTextOfQ(const ToppState& state) { return NumberText(RoundSigned2(state.vertexQ)); }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "numeric/draws.h"
+#include "numeric/judgement.h"
 #include "topics/polynomial/polynomial_model.h"
 
 namespace tavrune {
@@ -35,15 +37,8 @@ struct ToppPattern {
 /// Draws until the vertex is within reach.
 void newExercise(ToppState& state, Draws& draws);
 
-/// Which of the typed coordinates are right.
-struct ToppVerdict {
-    bool q = false;
-    bool p = false;
-
-    bool operator==(const ToppVerdict&) const = default;
-};
-
-[[nodiscard]] ToppVerdict judge(const ToppState& state, double typedQ, double typedP);
+/// Judges a typed Q and P.
+[[nodiscard]] Judgement judge(const ToppState& state, const std::vector<double>& typed);
 
 /// The coordinates with two decimals, as the student is shown them. Kept (topp-negative-halves): a negative
 /// half is rounded away from zero, which typed in is wrong.

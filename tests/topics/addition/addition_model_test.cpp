@@ -7,7 +7,9 @@
 
 #include "numeric/arithmetic.h"
 #include "numeric/rounding.h"
+#include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "topics/addition/judged_fields.h"
 
 namespace tavrune {
 namespace {
@@ -106,28 +108,15 @@ constexpr double below(double x) { return x - 1e-9; }
 
 TEST(Target, NearTakesTheHalfOpenBandAndLeavesItsLowerEndUnmarked) {
     const Target target{3.25, Rule::Near};
-    for (const double fit : {3.25, above(3.25 - 0.005), 3.25 + 0.005}) {
-        EXPECT_TRUE(target.isFit(fit)) << fit;
-        EXPECT_FALSE(target.isMarked(fit)) << fit;
-    }
-    for (const double wrong : {below(3.25 - 0.005), above(3.25 + 0.005), 0.0, -3.25}) {
-        EXPECT_FALSE(target.isFit(wrong)) << wrong;
-        EXPECT_TRUE(target.isMarked(wrong)) << wrong;
-    }
+    test::expectJudged(target, {3.25, above(3.25 - 0.005), 3.25 + 0.005},
+                       {below(3.25 - 0.005), above(3.25 + 0.005), 0.0, -3.25});
     EXPECT_FALSE(target.isFit(3.25 - 0.005));
     EXPECT_FALSE(target.isMarked(3.25 - 0.005));
 }
 
 TEST(Target, NearAllMarkedTakesTheHalfOpenBandAndMarksItsLowerEnd) {
-    const Target target{3.25, Rule::NearAllMarked};
-    for (const double fit : {3.25, above(3.25 - 0.005), 3.25 + 0.005}) {
-        EXPECT_TRUE(target.isFit(fit)) << fit;
-        EXPECT_FALSE(target.isMarked(fit)) << fit;
-    }
-    for (const double wrong : {3.25 - 0.005, below(3.25 - 0.005), above(3.25 + 0.005), 0.0, -3.25}) {
-        EXPECT_FALSE(target.isFit(wrong)) << wrong;
-        EXPECT_TRUE(target.isMarked(wrong)) << wrong;
-    }
+    test::expectJudged({3.25, Rule::NearAllMarked}, {3.25, above(3.25 - 0.005), 3.25 + 0.005},
+                       {3.25 - 0.005, below(3.25 - 0.005), above(3.25 + 0.005), 0.0, -3.25});
 }
 
 TEST(Target, IsNearUnlessItIsToldOtherwise) {
@@ -136,25 +125,12 @@ TEST(Target, IsNearUnlessItIsToldOtherwise) {
 }
 
 TEST(Target, NearClosedTakesBothEnds) {
-    const Target target{-1.5, Rule::NearClosed};
-    for (const double fit : {-1.5, -1.5 - 0.005, -1.5 + 0.005}) {
-        EXPECT_TRUE(target.isFit(fit)) << fit;
-        EXPECT_FALSE(target.isMarked(fit)) << fit;
-    }
-    for (const double wrong : {below(-1.5 - 0.005), above(-1.5 + 0.005)}) {
-        EXPECT_FALSE(target.isFit(wrong)) << wrong;
-        EXPECT_TRUE(target.isMarked(wrong)) << wrong;
-    }
+    test::expectJudged({-1.5, Rule::NearClosed}, {-1.5, -1.5 - 0.005, -1.5 + 0.005},
+                       {below(-1.5 - 0.005), above(-1.5 + 0.005)});
 }
 
 TEST(Target, ExactlyTakesNothingBeside) {
-    const Target target{-3, Rule::Exactly};
-    EXPECT_TRUE(target.isFit(-3));
-    EXPECT_FALSE(target.isMarked(-3));
-    for (const double wrong : {above(-3), below(-3), 3.0}) {
-        EXPECT_FALSE(target.isFit(wrong)) << wrong;
-        EXPECT_TRUE(target.isMarked(wrong)) << wrong;
-    }
+    test::expectJudged({-3, Rule::Exactly}, {-3}, {above(-3), below(-3), 3.0});
 }
 
 TEST(Target, ChainedTakesAnythingForATargetFromZeroUpButMarksByTheTrueBounds) {
@@ -185,6 +161,19 @@ TEST(Target, TakesTheLargestNumbers) {
         EXPECT_FALSE((Target{2, rule}.isFit(kLargest)));
         EXPECT_TRUE((Target{2, rule}.isMarked(-kLargest)));
     }
+}
+
+TEST(AnswerFields, AreSolvedOnlyIfEachIsFit) {
+    const std::vector<AnswerField> fields{{0, Slot::Slope, {-2}}, {1, Slot::End, {5.33}}};
+    EXPECT_EQ(judge(fields, {0, 0}), (Judgement{{false, false}, false}));
+    EXPECT_EQ(judge(fields, {-2, 0}), (Judgement{{true, false}, false}));
+    EXPECT_EQ(judge(fields, {0, 5.33}), (Judgement{{false, true}, false}));
+    EXPECT_EQ(judge(fields, {-2, 5.33}), (Judgement{{true, true}, true}));
+}
+
+TEST(AnswerFields, CanBeWrongWithoutAMarkAndSolvedWithOne) {
+    EXPECT_EQ(judge({{0, Slot::Slope, {0.67}}}, {Val("0.665")}), (Judgement{{true}, false}));
+    EXPECT_EQ(judge({{0, Slot::End, {0.67, Rule::Chained}}}, {5}), (Judgement{{false}, true}));
 }
 
 TEST(AnswerRow, OfALoneSegmentIsTheSecondOne) {

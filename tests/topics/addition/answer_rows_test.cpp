@@ -125,35 +125,10 @@ TEST_F(TwoRows, AreWrittenASlotAtATime) {
     EXPECT_EQ(end2.content(), "");
 }
 
-TEST_F(TwoRows, FitOnlyIfEachFieldDoes) {
-    const std::vector<AnswerField> fields{{0, Slot::Slope, {-2}}, {1, Slot::End, {5.33}}};
-    EXPECT_FALSE(rows.areFit(fields));
-    slope1.setContent("-2");
-    EXPECT_FALSE(rows.areFit(fields));
-    end2.setContent("5.33");
-    EXPECT_TRUE(rows.areFit(fields));
-    intercept2.setContent("not asked for");
-    EXPECT_TRUE(rows.areFit(fields));
-}
-
-TEST_F(TwoRows, MarkTheFieldsThatAreOffAndNoOther) {
-    slope1.setContent("-2");
-    end2.setContent("5.34");
-    rows.mark({{0, Slot::Slope, {-2}}, {1, Slot::End, {5.33}}});
-    EXPECT_EQ(end2.backColour(), kRed);
-    for (const AnswerBox* box : boxes) {
-        if (box != &end2) {
-            EXPECT_EQ(box->backColour(), kWhite);
-        }
-    }
-}
-
-TEST_F(TwoRows, LeaveAValueAtTheLowerEndWrongAndWhite) {
-    const std::vector<AnswerField> fields{{0, Slot::Slope, {0.67}}};
-    slope1.setContent("0.665");
-    EXPECT_FALSE(rows.areFit(fields));
-    rows.mark(fields);
-    EXPECT_EQ(slope1.backColour(), kWhite);
+TEST_F(TwoRows, GiveTheBoxesOfFieldsInTheirOrder) {
+    EXPECT_EQ(rows.boxes({{1, Slot::End, {5.33}}, {0, Slot::Slope, {-2}}}),
+              (std::vector<AnswerBox*>{&end2, &slope1}));
+    EXPECT_TRUE(rows.boxes(std::vector<AnswerField>()).empty());
 }
 
 TEST_F(TwoRows, NameTheirBoxesByTheOrderOfTheRows) {

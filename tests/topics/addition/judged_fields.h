@@ -1,14 +1,28 @@
 #pragma once
 
 #include <cmath>
+#include <initializer_list>
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "support/proof.h"
 #include "topics/addition/addition_model.h"
 
 namespace tavrune::test {
+
+/// Each of the first fits and stays white, each of the others neither.
+inline void expectJudged(const Target& target, std::initializer_list<double> fit,
+                         std::initializer_list<double> wrong) {
+    for (const double typed : fit) {
+        EXPECT_TRUE(target.isFit(typed) && !target.isMarked(typed)) << typed;
+    }
+    for (const double typed : wrong) {
+        EXPECT_TRUE(!target.isFit(typed) && target.isMarked(typed)) << typed;
+    }
+}
 
 /// True if the field takes what `shown` writes of it, typed again.
 template <class Shown>
@@ -29,6 +43,21 @@ template <class Shown>
         }
     }
     return true;
+}
+
+/// True if the exercise is solved by the targets of its fields, and not with another first number, which is
+/// then the only one that is wrong.
+template <class State>
+[[nodiscard]] bool isSolvedByTargets(const State& state, const std::vector<AnswerField>& fields) {
+    std::vector<double> typed;
+    for (const AnswerField& field : fields) {
+        typed.push_back(field.target.value);
+    }
+    std::vector<bool> isRight(fields.size(), true);
+    const bool isSolved = judge(state, typed) == solvedIfAllRight(isRight);
+    typed.front() += 1;
+    isRight.front() = false;
+    return isSolved && judge(state, typed) == solvedIfAllRight(isRight);
 }
 
 /// What is wrong with how the fields of an answer are judged; empty if nothing is.

@@ -273,22 +273,13 @@ TEST(Laddi1Judge, MarksTheKinkByTheRoundedOneOnceItIsRounded) {
 
 TEST(Laddi1Judge, WantsTheUpperEndWithinItsUnroundedBounds) {
     const Target end = fieldOf(answerFields(sumOf(exercise({-3, 2}, {-3, 4}))), 1, Slot::End).target;
-    for (const double right : {4.0 / 3 - 0.005, 1.33, 4.0 / 3, 1.338, 4.0 / 3 + 0.005}) {
-        EXPECT_TRUE(end.isFit(right)) << right;
-        EXPECT_FALSE(end.isMarked(right)) << right;
-    }
-    for (const double wrong : {0.0, 1.328, 1.339, 2.0}) {
-        EXPECT_FALSE(end.isFit(wrong)) << wrong;
-        EXPECT_TRUE(end.isMarked(wrong)) << wrong;
-    }
+    test::expectJudged(end, {4.0 / 3 - 0.005, 1.33, 4.0 / 3, 1.338, 4.0 / 3 + 0.005},
+                       {0.0, 1.328, 1.339, 2.0});
 }
 
 TEST(Laddi1Judge, WantsALoneSegmentToBeginAtJustZero) {
     const Target start = fieldOf(answerFields(sumOf(exercise({2, 1}, {3, 0}))), 1, Slot::Start).target;
-    EXPECT_TRUE(start.isFit(Val(" ")));
-    EXPECT_TRUE(start.isFit(Val("-0")));
-    EXPECT_FALSE(start.isFit(0.004));
-    EXPECT_TRUE(start.isMarked(0.004));
+    test::expectJudged(start, {Val(" "), Val("-0")}, {0.004});
 }
 
 // The whole space: 50 draws of function 1, of which 2 are rejected, times 50 of function 2.
@@ -506,6 +497,7 @@ TEST(Laddi1Space, IsSolvedByItsAnswerAndByNoOtherCoefficientOrUpperEnd) {
         for (const bool isRounded : {false, true}) {
             const std::vector<AnswerField> fields = answerFields(sumOf(s));
             ASSERT_EQ(fields.size(), (s.segmentCount == 1 ? 3U : 6U) + (s.upperEndAsked ? 1U : 0U));
+            ASSERT_TRUE(test::isSolvedByTargets(s, fields)) << e.text() << isRounded;
             ASSERT_EQ(flawOfJudging(fields, shownAnswer), "") << e.text() << isRounded;
             ASSERT_TRUE(isInItsTexts(s)) << e.text() << isRounded;
             roundKink(s);

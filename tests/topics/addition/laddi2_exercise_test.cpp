@@ -653,14 +653,7 @@ TEST(Laddi2Judge, WantsTheUpperEndNearItsTwoDecimalsBothBoundsIncluded) {
         answerFields(exercise({3, {1, 2}, {-3, 16}}, {4, {0, 3}, {-3, 20}}).sum);
     const AnswerField* end = fieldOf(fields, 3, Slot::End);
     ASSERT_NE(end, nullptr);
-    for (const double right : {6.67 - 0.005, 6.667, 6.67, 6.67 + 0.005}) {
-        EXPECT_TRUE(end->target.isFit(right)) << right;
-        EXPECT_FALSE(end->target.isMarked(right)) << right;
-    }
-    for (const double wrong : {0.0, 6.6649, 6.6751}) {
-        EXPECT_FALSE(end->target.isFit(wrong)) << wrong;
-        EXPECT_TRUE(end->target.isMarked(wrong)) << wrong;
-    }
+    test::expectJudged(end->target, {6.67 - 0.005, 6.667, 6.67, 6.67 + 0.005}, {0.0, 6.6649, 6.6751});
 }
 
 TEST(Laddi2Judge, AsksForAnUpperEndOnlyWhereBothSecondPiecesFall) {
@@ -817,6 +810,7 @@ TEST(Laddi2Lot, IsSolvedByItsAnswerAndByNoOtherCoefficientOrUpperEnd) {
         const std::vector<AnswerField> fields = answerFields(s.sum);
         const std::size_t count = s.sum.segments.size();
         ASSERT_EQ(fields.size(), 2 * count + 2 * (count - 1) + (s.sum.upperEndAsked ? 1U : 0U));
+        ASSERT_TRUE(test::isSolvedByTargets(s, fields)) << described(f1) << described(f2) << n;
         ASSERT_EQ(test::flawOfJudging(fields, shownAnswer), "") << described(f1) << described(f2) << n;
         ASSERT_EQ(firstDeviation(s, f1, f2), std::nullopt) << described(f1) << described(f2) << n;
     };

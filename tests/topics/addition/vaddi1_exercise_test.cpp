@@ -812,6 +812,7 @@ TEST(Vaddi1Space, IsSolvedByItsOwnAnswerAndByNothingBesideIt) {
     });
     forEachExercise([&](const Task& t, const Vaddi1State& s) {
         visit(t, s);
+        ASSERT_TRUE(test::isSolvedByTargets(s, answerFields(s))) << nameOf(t);
         ASSERT_EQ(test::flawOfJudging(answerFields(s), [](const AnswerField& f) { return f.target.value; }),
                   "")
             << nameOf(t);

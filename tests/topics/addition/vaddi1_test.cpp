@@ -15,6 +15,7 @@
 #include "support/form_driver.h"
 #include "support/scripted_draws.h"
 #include "support/strokes.h"
+#include "support/verdict.h"
 #include "topics/addition/axis_texts.h"
 #include "topics/addition/step_sentences.h"
 #include "topics/addition/vaddi1_tasks.h"
@@ -470,12 +471,7 @@ TEST_F(Vaddi1Form, GoesStraightFromTheTableToTheAnswer) {
 TEST_F(Vaddi1Form, JudgesTwoSegmentsRightAndDrawsThemGreen) {
     const FormDriver& f = open(kFalling);
     answer(kFallingAnswer);
-    EXPECT_TRUE(f.isShown("right"));
-    EXPECT_FALSE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
-    EXPECT_EQ(f.focus(), "newExercise");
-    EXPECT_TRUE(redBoxes().empty());
+    test::expectSolved(f);
     EXPECT_EQ(result(), kFallingSum);
 }
 
@@ -547,11 +543,7 @@ TEST_P(Vaddi1Nudge, IsWrong) {
     std::vector<std::string> typed = kFallingAnswer;
     typed[row.field] = row.typed;
     answer(typed);
-    EXPECT_TRUE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("right"));
-    EXPECT_TRUE(f.isShown("giveAnswer"));
-    EXPECT_TRUE(f.isShown("ok"));
-    EXPECT_EQ(f.focus(), "segment1Slope");
+    test::expectWrong(f, "segment1Slope");
     const std::set<std::string> marked{kAnswerBoxes[row.field]};
     EXPECT_EQ(redBoxes(), row.isRed ? marked : std::set<std::string>{});
     EXPECT_TRUE(result().empty());

@@ -459,6 +459,9 @@ std::string judgingFlawOf(const Vaddi2State& s) {
             return "asks for " + text;
         }
     }
+    if (!test::isSolvedByTargets(s, answerFields(s))) {
+        return "is not solved by its targets";
+    }
     return test::flawOfJudging(answerFields(s), [](const AnswerField& f) { return f.target.value; });
 }
 
@@ -556,12 +559,7 @@ TEST(Vaddi2Seeds, PlayOutOfAStreamAsOutOfAScript) {
 TEST(Vaddi2Judging, TakesALoneStartOnlyAsZero) {
     const Vaddi2State state = drawn(kFalling, {{{-1, 8}, {-2, 8}, {-4, 8}}});
     const Target start = answerFields(state)[2].target;
-    EXPECT_TRUE(start.isFit(Val(" ")));
-    EXPECT_TRUE(start.isFit(0));
-    for (const double typed : {0.004, -0.004, 0.001}) {
-        EXPECT_FALSE(start.isFit(typed)) << typed;
-        EXPECT_TRUE(start.isMarked(typed)) << typed;
-    }
+    test::expectJudged(start, {Val(" "), 0}, {0.004, -0.004, 0.001});
 }
 
 TEST(Vaddi2Judging, RefusesTheLowerEndOfTheToleranceUnmarked) {
@@ -569,11 +567,7 @@ TEST(Vaddi2Judging, RefusesTheLowerEndOfTheToleranceUnmarked) {
     const Target end = answerFields(state).back().target;
     EXPECT_FALSE(end.isFit(Val("17.495")));
     EXPECT_FALSE(end.isMarked(Val("17.495")));
-    EXPECT_TRUE(end.isFit(Val("17.496")));
-    EXPECT_TRUE(end.isFit(Val("17.505")));
-    EXPECT_FALSE(end.isFit(Val("17.506")));
-    EXPECT_TRUE(end.isMarked(Val("17.506")));
-    EXPECT_TRUE(end.isMarked(Val("17.494")));
+    test::expectJudged(end, {Val("17.496"), Val("17.505")}, {Val("17.506"), Val("17.494")});
 }
 
 }  // namespace

@@ -465,27 +465,31 @@ std::string fieldsText(const Vaddi3State& s) {
     std::string text;
     for (const AnswerField& field : answerFields(s)) {
         constexpr std::array kSlots{"s", "i", "<", ">"};
-        text += std::to_string(field.row) + kSlots.at(static_cast<std::size_t>(field.slot)) +
+        const bool isUpperEnd = field.target.rule == Rule::NearClosed;
+        text += (isUpperEnd ? "end " : "") + std::to_string(field.row) +
+                (isUpperEnd ? " " : kSlots.at(static_cast<std::size_t>(field.slot))) +
                 NumberText(field.target.value) + " ";
     }
-    const auto end = upperEndField(s);
-    return text + (end ? "end " + std::to_string(end->row) + " " + NumberText(end->target.value) : "no end");
+    return text + (s.upperEndAsked ? "" : "no end ");
 }
 
 TEST(Vaddi3Judge, AsksForTheFieldsOfEachNumberOfSegments) {
-    EXPECT_EQ(fieldsText(exerciseOf(test::kOneSegment)), "1s0 1i9 1<0 no end");
-    EXPECT_EQ(fieldsText(exerciseOf(test::kTwoSegments)), "0s-0.5 0i9 0>4 1s-1.33 1i10.33 1<4 end 1 7.75");
+    EXPECT_EQ(fieldsText(exerciseOf(test::kOneSegment)), "1s0 1i9 1<0 no end ");
+    EXPECT_EQ(fieldsText(exerciseOf(test::kTwoSegments)), "0s-0.5 0i9 0>4 1s-1.33 1i10.33 1<4 end 1 7.75 ");
     EXPECT_EQ(fieldsText(exerciseOf(test::kThreeSegments)),
-              "0s-0.4 0i9 0>5 1s-2 1i17 1<5 1>6 2s-1 2i11 2<6 end 2 11");
+              "0s-0.4 0i9 0>5 1s-2 1i17 1<5 1>6 2s-1 2i11 2<6 end 2 11 ");
     EXPECT_EQ(fieldsText(exerciseOf(test::kFourSegments)),
-              "0s-3 0i9 0>1.33 1s-1.2 1i6.6 1<1.33 1>3 2s-0.5 2i7 2<2 2>4 3s-0.4 3i6.6 3<4 end 3 16.5");
-    EXPECT_EQ(fieldsText(exerciseOf(test::kTwoOverALevel)), "0s-0.5 0i9 0>4 1s0 1i6 1<4 no end");
+              "0s-3 0i9 0>1.33 1s-1.2 1i6.6 1<1.33 1>3 2s-0.5 2i7 2<2 2>4 3s-0.4 3i6.6 3<4 end 3 16.5 ");
+    EXPECT_EQ(fieldsText(exerciseOf(test::kTwoOverALevel)), "0s-0.5 0i9 0>4 1s0 1i6 1<4 no end ");
     EXPECT_EQ(fieldsText(exerciseOf(test::kThreeOverALevel)),
-              "0s-3 0i9 0>1 1s-0.4 1i8 1<1 1>7.5 2s0 2i5 2<7.5 no end");
+              "0s-3 0i9 0>1 1s-0.4 1i8 1<1 1>7.5 2s0 2i5 2<7.5 no end ");
 }
 
 TEST(Vaddi3Judge, MarksWhateverFails) {
-    for (const AnswerField& field : answerFields(exerciseOf(test::kFourSegments))) {
+    std::vector<AnswerField> fields = answerFields(exerciseOf(test::kFourSegments));
+    // The upper end, which has both its ends.
+    fields.pop_back();
+    for (const AnswerField& field : fields) {
         const double target = field.target.value;
         for (const double off : {-0.01, -0.005, -0.004, 0.0, 0.004, 0.005, 0.01}) {
             EXPECT_NE(field.target.isFit(target + off), field.target.isMarked(target + off))
@@ -497,18 +501,41 @@ TEST(Vaddi3Judge, MarksWhateverFails) {
 }
 
 TEST(Vaddi3Judge, TakesBothEndsOfTheUpperEnd) {
-    const Target end = upperEndField(exerciseOf(test::kFourSegments))->target;
-    EXPECT_TRUE(end.isFit(16.5 + 0.005));
-    EXPECT_TRUE(end.isFit(16.5 - 0.005));
-    EXPECT_FALSE(end.isFit(16.5 + 0.0051));
-    EXPECT_FALSE(end.isFit(16.5 - 0.0051));
+    const Target end = answerFields(exerciseOf(test::kFourSegments)).back().target;
+    test::expectJudged(end, {16.5 + 0.005, 16.5 - 0.005}, {16.5 + 0.0051, 16.5 - 0.0051});
 }
 
 TEST(Vaddi3Judge, HasNoToleranceForTheStartOfALoneSegment) {
     const std::vector<AnswerField> fields = answerFields(exerciseOf(test::kOneSegment));
-    EXPECT_TRUE(fields[2].target.isFit(0));
-    EXPECT_FALSE(fields[2].target.isFit(0.001));
-    EXPECT_TRUE(fields[2].target.isMarked(0.001));
+    test::expectJudged(fields[2].target, {0}, {0.001});
+}
+
+/// What is judged of the right numbers, with something else in the field of the upper end.
+Judgement judged(const Vaddi3State& s, double upperEnd, double helpCell) {
+    std::vector<double> typed;
+    for (const AnswerField& field : answerFields(s)) {
+        typed.push_back(field.target.value);
+    }
+    typed.back() = upperEnd;
+    return judge(s, {.typed = typed, .helpCell = helpCell});
+}
+
+TEST(Vaddi3Judge, GoesByTheHelpCellForTheUpperEndOfThreeSegmentsButMarksItsField) {
+    const Vaddi3State three = exerciseOf(test::kThreeSegments);
+    EXPECT_EQ(judged(three, 11, 11), solvedIfAllRight(std::vector<bool>(11, true)));
+    EXPECT_EQ(judged(three, 11, 0), (Judgement{std::vector<bool>(11, true), false}));
+    Judgement marked{std::vector<bool>(11, true), true};
+    marked.isRight.back() = false;
+    EXPECT_EQ(judged(three, 0, 11), marked);
+    marked.isSolved = false;
+    EXPECT_EQ(judged(three, 0, 0), marked);
+}
+
+TEST(Vaddi3Judge, LeavesTheHelpCellAloneWithAnotherNumberOfSegmentsOrNoUpperEnd) {
+    const Vaddi3State four = exerciseOf(test::kFourSegments);
+    EXPECT_TRUE(judged(four, 16.5, 0).isSolved);
+    EXPECT_FALSE(judged(four, 0, 16.5).isSolved);
+    EXPECT_TRUE(judged(exerciseOf(test::kThreeOverALevel), 7.5, 0).isSolved);
 }
 
 // Many exercises against the functions that were drawn.
@@ -890,11 +917,8 @@ TEST(Vaddi3Exercises, TakeTheirOwnAnswerAndNoOther) {
     };
     forEachExercise(count, failed);
     forEachDifferentExercise([](const Vaddi3State& s, int seed) {
-        std::vector<AnswerField> fields = answerFields(s);
-        if (const auto end = upperEndField(s)) {
-            fields.push_back(*end);
-        }
-        ASSERT_EQ(test::flawOfJudging(fields, [](const AnswerField& f) { return f.target.value; }), "")
+        ASSERT_EQ(test::flawOfJudging(answerFields(s), [](const AnswerField& f) { return f.target.value; }),
+                  "")
             << "seed " << seed;
     });
 }
@@ -910,7 +934,7 @@ TEST(Vaddi3Exercises, AreRightInTheirOwnFieldsButForThreeSegmentsWithAnUpperEnd)
             return;
         }
         ++slips;
-        const Target target = upperEndField(s)->target;
+        const Target target = answerFields(s).back().target;
         EXPECT_FALSE(target.isFit(0)) << "an empty cell gives no right answer, seed " << seed;
         const TableCell& cell = s.column(Function1OrPart2Quantity)[2];
         helpedByTheTable += cell.isNumeric() && target.isFit(cell.number()) ? 1 : 0;

@@ -11,6 +11,7 @@
 #include "support/form_driver.h"
 #include "support/looks.h"
 #include "support/strokes.h"
+#include "support/verdict.h"
 #include "topics/addition/addition_graphs.h"
 #include "topics/addition/step_sentences.h"
 #include "topics/addition/vaddi3_tasks.h"
@@ -464,10 +465,7 @@ TEST_F(Vaddi3Form, TakesTheRightAnswerAndDrawsIt) {
     const FormDriver& f = open(test::kTwoSegments);
     fill(kAnswerOfTwo);
     f.click("ok");
-    EXPECT_TRUE(f.isShown("right"));
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
-    EXPECT_EQ(f.focus(), "newExercise");
+    test::expectSolved(f);
     // Without a join, which only the given answer has.
     EXPECT_EQ(strokes("resultGraph"),
               (Strokes{piece(-0.5, 9, 0, 4, kSumGreen), piece(-1.33, 10.33, 4, 20, kSumGreen)}));
@@ -503,11 +501,8 @@ TEST_F(Vaddi3Form, MarksEachFieldThatFailsByItself) {
         const std::string right = f.box(box).content();
         f.type(box, "77");
         f.click("ok");
-        EXPECT_TRUE(f.isShown("wrong"));
-        EXPECT_TRUE(f.isShown("giveAnswer"));
-        EXPECT_TRUE(f.isShown("ok"));
+        test::expectWrong(f, "segment1Slope");
         EXPECT_EQ(redBoxes(), Names{box});
-        EXPECT_EQ(f.focus(), "segment1Slope");
         f.type(box, right);
     }
     f.click("ok");

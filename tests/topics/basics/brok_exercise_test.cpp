@@ -9,6 +9,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "numeric/text.h"
+#include "support/judged.h"
 #include "support/proof.h"
 #include "support/scripted_draws.h"
 
@@ -16,6 +17,7 @@ namespace tavrune {
 namespace {
 
 using test::cellOf;
+using test::eachIs;
 using test::Proof;
 using test::ScriptedDraws;
 using test::typedAgain;
@@ -100,16 +102,10 @@ INSTANTIATE_TEST_SUITE_P(Rows, BrokTypes,
                                          TypeRow{"Quotient", Divide, 2, 3, 4, 5, "/", 10, 12}),
                          [](const auto& row) { return row.param.name; });
 
-TEST(BrokJudge, TakesAnyFractionOfTheSameValue) {
+TEST(BrokJudge, TakesAnyFractionOfTheSameValueAndNeitherNumberOfAnother) {
     const BrokState s = withResult(3, 4);
-    EXPECT_TRUE(isRight(s, 3, 4));
-    EXPECT_TRUE(isRight(s, 6, 8));
-    EXPECT_TRUE(isRight(s, -3, -4));
-    EXPECT_TRUE(isRight(s, 0.75, 1));
-    EXPECT_FALSE(isRight(s, -3, 4));
-    EXPECT_FALSE(isRight(s, 4, 3));
-    EXPECT_FALSE(isRight(s, 0, 4));
-    EXPECT_FALSE(isRight(s, 0.7500001, 1));
+    EXPECT_TRUE(eachIs({true, true}, s, {{3, 4}, {6, 8}, {-3, -4}, {0.75, 1}}));
+    EXPECT_TRUE(eachIs({false, false}, s, {{-3, 4}, {4, 3}, {0, 4}, {0.7500001, 1}}));
 }
 
 TEST(BrokReduction, OfAnEqualPairIsOne) {
@@ -337,13 +333,13 @@ TEST(BrokSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
 
         const ReducedFraction r = reduced(s);
         const BrokWorked worked = workedSolution(s);
-        const bool holds =
-            n != 0 && m != 0 && std::abs(n) <= 200 && std::abs(m) <= 100 && isRight(s, n, m) &&
-            isRight(s, -n, -m) && isRight(s, p, q) && isRight(s, 2 * p, 2 * q) && !isRight(s, n + 0.001, m) &&
-            !isRight(s, n, m + 0.001) && !isRight(s, -n, m) && !isRight(s, 0, m) &&
-            // Whole numbers, which look alike with either mark.
-            typedAgain(NumberText(n)) == n && typedAgain(NumberText(m)) == m && r.signedNumerator() == p &&
-            r.denominator == q && isShownAs(s, worked.last, p, q) && isWorkedOut(worked, a, b, c, d, t);
+        const bool holds = n != 0 && m != 0 && std::abs(n) <= 200 && std::abs(m) <= 100 &&
+                           eachIs({true, true}, s, {{n, m}, {-n, -m}, {p, q}, {2 * p, 2 * q}}) &&
+                           eachIs({false, false}, s, {{n + 0.001, m}, {n, m + 0.001}, {-n, m}, {0, m}}) &&
+                           // Whole numbers, which look alike with either mark.
+                           typedAgain(NumberText(n)) == n && typedAgain(NumberText(m)) == m &&
+                           r.signedNumerator() == p && r.denominator == q &&
+                           isShownAs(s, worked.last, p, q) && isWorkedOut(worked, a, b, c, d, t);
         ASSERT_TRUE(holds) << a << "/" << b << " " << operatorSign(s.operation) << " " << c << "/" << d;
     });
     // 521,284 exercises less those with a result of 0.

@@ -10,6 +10,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/judged.h"
 #include "support/proof.h"
 #include "topics/basics/dlinie_script.h"
 
@@ -17,6 +18,7 @@ namespace tavrune {
 namespace {
 
 using test::DecimalMark;
+using test::eachIs;
 using test::endsIn;
 using test::inBothMarks;
 using test::kLargestDraw;
@@ -36,7 +38,7 @@ DlinieState exercise(LineTask task, const Numbers& drawn, ZeroSlope zeroSlope = 
     return state;
 }
 
-bool isSolvedBy(const DlinieState& s, double a, double b) { return judged(s, a, b).isRight(); }
+bool isSolvedBy(const DlinieState& s, double a, double b) { return judge(s, {a, b}).isSolved; }
 
 /// The kind that one draw gives.
 LineTask taskOf(float draw) {
@@ -208,13 +210,9 @@ TEST(DlinieJudge, WantsTwoDecimalsOfMinusAThird) {
 
 TEST(DlinieJudge, TellsWhichOfTheTwoIsWrong) {
     const DlinieState s = exercise(LineTask::SlopeAndYCross, {.slopeGiven = 2, .yCross = 3});
-    EXPECT_TRUE(judged(s, 2, 4).slopeIsRight);
-    EXPECT_FALSE(judged(s, 2, 4).interceptIsRight);
-    EXPECT_FALSE(judged(s, 1, 3).slopeIsRight);
-    EXPECT_TRUE(judged(s, 1, 3).interceptIsRight);
-    EXPECT_TRUE(judged(s, 2, 3).isRight());
-    EXPECT_FALSE(judged(s, 2, 4).isRight());
-    EXPECT_FALSE(judged(s, 1, 3).isRight());
+    EXPECT_TRUE(eachIs({true, false}, s, {{2, 4}}));
+    EXPECT_TRUE(eachIs({false, true}, s, {{1, 3}}));
+    EXPECT_TRUE(eachIs({true, true}, s, {{2, 3}}));
 }
 
 TEST(DlinieAnswer, BearsAPlusUnlessItIsNegative) {
@@ -306,12 +304,6 @@ std::string typed(int hundredths) {
            std::to_string(size % 100);
 }
 
-/// Which of the two numbers is right, for comparing.
-std::pair<bool, bool> marks(const DlinieState& s, double a, double b) {
-    const DlinieJudgement judgement = judged(s, a, b);
-    return {judgement.slopeIsRight, judgement.interceptIsRight};
-}
-
 /// True if the steps of the help that this kind of task has end in the answer.
 bool isWorkedOut(const DlinieState& s) {
     const std::string slope = " = " + NumberText(s.slope);
@@ -337,16 +329,14 @@ bool isWorkedOut(const DlinieState& s) {
 bool isSolvedByJust(const DlinieState& s, int slopeHundredths, int interceptHundredths) {
     const double a = Val(typed(slopeHundredths));
     const double b = Val(typed(interceptHundredths));
-    const std::pair onlySlopeIsWrong(false, true);
-    const std::pair onlyInterceptIsWrong(true, false);
+    const std::vector<std::vector<double>> wrongSlopes{
+        {Val(typed(slopeHundredths + 1)), b}, {Val(typed(slopeHundredths - 1)), b}, {a + 0.001, b}};
+    const std::vector<std::vector<double>> wrongIntercepts{
+        {a, Val(typed(interceptHundredths + 1))}, {a, Val(typed(interceptHundredths - 1))}, {a, b - 0.001}};
     return std::isfinite(s.slope) && std::isfinite(s.intercept) && isSolvedBy(s, a, b) && inBothMarks([&s] {
                return isSolvedBy(s, typedAgain(NumberText(s.slope)), typedAgain(interceptAnswer(s)));
            }) &&
-           marks(s, Val(typed(slopeHundredths + 1)), b) == onlySlopeIsWrong &&
-           marks(s, Val(typed(slopeHundredths - 1)), b) == onlySlopeIsWrong &&
-           marks(s, a, Val(typed(interceptHundredths + 1))) == onlyInterceptIsWrong &&
-           marks(s, a, Val(typed(interceptHundredths - 1))) == onlyInterceptIsWrong &&
-           marks(s, a + 0.001, b) == onlySlopeIsWrong && marks(s, a, b - 0.001) == onlyInterceptIsWrong &&
+           eachIs({false, true}, s, wrongSlopes) && eachIs({true, false}, s, wrongIntercepts) &&
            isWorkedOut(s);
 }
 

@@ -8,9 +8,9 @@
 
 #include <gtest/gtest.h>
 
-#include "numeric/judging.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/judged.h"
 #include "support/proof.h"
 #include "topics/basics/konvert_script.h"
 
@@ -19,6 +19,7 @@ namespace {
 
 using test::cellOf;
 using test::DecimalMark;
+using test::eachIs;
 using test::kJustPast;
 using test::kLargestDraw;
 using test::Proof;
@@ -211,7 +212,7 @@ bool isRoundedTo3(double rounded, double exact) {
 /// Holds if this exercise is solved by its own solution, rounded or not, and by nothing farther off.
 bool isSound(KonvertState s, double exactSlope, double exactConstant) {
     const auto solvedBy = [&s](double slope, double constant) {
-        return isClosedNear(slope, s.newSlope) && isClosedNear(constant, s.newConstant);
+        return judge(s, {slope, constant}).isSolved;
     };
     const bool isNearExact =
         std::abs(s.newSlope - exactSlope) < 1e-5 && std::abs(s.newConstant - exactConstant) < 1e-5;
@@ -315,14 +316,9 @@ TEST(KonvertJudge, TakesBothEndsOfTheToleranceOfEachNumber) {
     KonvertState s;
     s.newSlope = -0.25;
     s.newConstant = 5;
-    EXPECT_TRUE(judge(s, -0.25, 5).isSolved());
-    EXPECT_TRUE(judge(s, -0.255, 5).slopeIsRight);
-    EXPECT_TRUE(judge(s, -0.245, 5).slopeIsRight);
-    EXPECT_FALSE(judge(s, -0.2551, 5).slopeIsRight);
-    EXPECT_TRUE(judge(s, -0.2551, 5).constantIsRight);
-    EXPECT_TRUE(judge(s, -0.25, 5.005).constantIsRight);
-    EXPECT_FALSE(judge(s, -0.25, 4.9949).constantIsRight);
-    EXPECT_FALSE(judge(s, -0.25, 4.9949).isSolved());
+    EXPECT_TRUE(eachIs({true, true}, s, {{-0.25, 5}, {-0.255, 5}, {-0.245, 5}, {-0.25, 5.005}}));
+    EXPECT_TRUE(eachIs({false, true}, s, {{-0.2551, 5}}));
+    EXPECT_TRUE(eachIs({true, false}, s, {{-0.25, 4.9949}}));
 }
 
 }  // namespace

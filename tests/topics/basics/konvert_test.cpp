@@ -11,6 +11,7 @@
 #include "support/form_driver.h"
 #include "support/looks.h"
 #include "support/strokes.h"
+#include "support/verdict.h"
 #include "topics/basics/konvert_script.h"
 
 namespace tavrune {
@@ -243,11 +244,7 @@ TEST_F(KonvertForm, IsSolvedByKeysAlone) {
     f.press("intercept", Qt::Key_Return);
     EXPECT_EQ(f.focus(), "ok");
     f.press("ok", Qt::Key_Return);
-    EXPECT_TRUE(f.isShown("right"));
-    EXPECT_FALSE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
-    EXPECT_EQ(f.focus(), "newExercise");
+    test::expectSolved(f);
     script(1, 1, 1);
     f.press("newExercise", Qt::Key_Return);
     EXPECT_FALSE(f.isShown("right"));
@@ -295,11 +292,7 @@ TEST_F(KonvertForm, MarksOnlyTheWrongSlope) {
     answer("2", "1.25");
     EXPECT_EQ(colour("slope"), kRed);
     EXPECT_EQ(colour("intercept"), kWhite);
-    EXPECT_TRUE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("right"));
-    EXPECT_TRUE(f.isShown("ok"));
-    EXPECT_TRUE(f.isShown("giveAnswer"));
-    EXPECT_EQ(f.focus(), "slope");
+    test::expectWrong(f, "slope");
     EXPECT_EQ(drawnOn("graph").size(), 1U) << "a wrong answer draws nothing";
 }
 

@@ -9,6 +9,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/judged.h"
 #include "support/proof.h"
 #include "topics/basics/lininter_script.h"
 
@@ -16,6 +17,8 @@ namespace tavrune {
 namespace {
 
 using test::DecimalMark;
+using test::eachIs;
+using test::eachTextIs;
 using test::inBothMarks;
 using test::kJustPast;
 using test::kLargestDraw;
@@ -187,20 +190,14 @@ TEST(LininterGenerator, ComputesInSingles) {
 }
 
 TEST(LininterJudge, TakesTheHalfOpenBandRoundTheUnroundedTarget) {
-    const LininterState s = withTarget(3.125F);
-    EXPECT_FALSE(isRight(s, Val("3.12")));
-    EXPECT_TRUE(isRight(s, Val("3.12001")));
-    EXPECT_TRUE(isRight(s, Val("3.125")));
-    EXPECT_TRUE(isRight(s, Val("3.13")));
-    EXPECT_FALSE(isRight(s, Val("3.13001")));
-    EXPECT_FALSE(isRight(s, Val("-3.125")));
-    EXPECT_FALSE(isRight(s, Val("")));
+    EXPECT_TRUE(eachTextIs(true, withTarget(3.125F), {"3.12001", "3.125", "3.13"}));
+    EXPECT_TRUE(eachTextIs(false, withTarget(3.125F), {"3.12", "3.13001", "-3.125", ""}));
 }
 
 TEST(LininterJudge, TakesNothingTypedForAZero) {
-    EXPECT_TRUE(isRight(withTarget(0), Val("")));
-    EXPECT_TRUE(isRight(withTarget(0.004F), Val("abc")));
-    EXPECT_FALSE(isRight(withTarget(0.0051F), Val("")));
+    EXPECT_TRUE(eachTextIs(true, withTarget(0), {""}));
+    EXPECT_TRUE(eachTextIs(true, withTarget(0.004F), {"abc"}));
+    EXPECT_TRUE(eachTextIs(false, withTarget(0.0051F), {""}));
 }
 
 TEST(LininterTexts, NameThePointsAndTheTask) {
@@ -460,14 +457,14 @@ TEST(LininterSpace, IsSolvedByItsOwnAndOnlyByItsOwnValue) {
         const double own = typedAgain(answerText(s));
         const double exact = e.exact();
 
-        const bool isOwnRight = isRight(s, own);
+        const bool isOwnRight = judge(s, {own}).isSolved;
         if (!isOwnRight) {
             proof.unsolvable("negative halves shown rounded away from zero");
         }
         ownAnswerMissed += isOwnRight ? 0 : 1;
         bool holds = (isOwnRight || e.isHalfHundredthBelowZero()) && std::abs(s.target - exact) < 1e-5 &&
-                     std::abs(own - exact) < 0.00501 && isRight(s, exact) && isRight(s, s.target) &&
-                     !isRight(s, s.target + kJustPast) && !isRight(s, s.target - kJustPast) &&
+                     std::abs(own - exact) < 0.00501 && eachIs({true}, s, {{exact}, {s.target}}) &&
+                     eachIs({false}, s, {{s.target + kJustPast}, {s.target - kJustPast}}) &&
                      inBothMarks([&] { return typedAgain(answerText(s)) == own && isWorkedOut(s, e); });
 
         const Drawing drawing = drawingOf(e);
@@ -498,7 +495,7 @@ TEST(LininterSpace, RejectsATargetOfSixteenUnlessSinglesPutItBelow) {
             ++accepted;
             ASSERT_NEAR(std::abs(s.target), 16, 1e-5);
             ASSERT_EQ(answerText(s), e.exact() < 0 ? "-16" : "16");
-            ASSERT_TRUE(isRight(s, e.exact()));
+            ASSERT_TRUE(judge(s, {e.exact()}).isSolved);
         }
     });
     EXPECT_EQ(onTheEdge, 364);
@@ -517,7 +514,7 @@ TEST(LininterSpace, HoldsZerosThatSinglesPutBelowZero) {
         ++zeros;
         const LininterState s = exercise(e.qa, e.pa, e.qb, e.pb, e.which, e.given);
         ASSERT_EQ(answerText(s), "0");
-        ASSERT_TRUE(isRight(s, 0));
+        ASSERT_TRUE(judge(s, {0}).isSolved);
         if (s.target < 0) {
             ++below;
             ASSERT_EQ(arrowheads(s, Occasion::Given)[0].y2, lineAtGiven(s) + kH);

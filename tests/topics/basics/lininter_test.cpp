@@ -8,6 +8,7 @@
 #include "support/form_driver.h"
 #include "support/looks.h"
 #include "support/strokes.h"
+#include "support/verdict.h"
 #include "topics/basics/lininter_script.h"
 
 namespace tavrune {
@@ -226,13 +227,9 @@ TEST_F(LininterForm, IsSolvedByKeysAlone) {
 TEST_F(LininterForm, MarksAWrongAnswerAndDrawsNothing) {
     const FormDriver& f = openQAbove();
     answer("7");
-    EXPECT_TRUE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("right"));
+    test::expectWrong(f, "askedCoordinate");
     EXPECT_EQ(f.box("askedCoordinate").backColour(), kRed);
     EXPECT_EQ(f.box("askedCoordinate").content(), "7");
-    EXPECT_TRUE(f.isShown("ok"));
-    EXPECT_TRUE(f.isShown("giveAnswer"));
-    EXPECT_EQ(f.focus(), "askedCoordinate");
     EXPECT_TRUE(drawnLater().empty());
 }
 
@@ -242,12 +239,7 @@ TEST_F(LininterForm, StaysRedUntilARightAnswer) {
     f.type("askedCoordinate", "8");
     EXPECT_EQ(f.box("askedCoordinate").backColour(), kRed);
     f.click("ok");
-    EXPECT_EQ(f.box("askedCoordinate").backColour(), kWhite);
-    EXPECT_TRUE(f.isShown("right"));
-    EXPECT_FALSE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
-    EXPECT_EQ(f.focus(), "newExercise");
+    test::expectSolved(f);
 }
 
 TEST_F(LininterForm, StaysRedUntilTheAnswerIsGivenOrTheNextExercise) {
@@ -409,11 +401,7 @@ TEST_F(LininterForm, GivesTheAnswerInTheLocaleAndCrossesAtWhatWasTypedBefore) {
     giveAfter("13,6");
     EXPECT_EQ(f.box("askedCoordinate").content(), "13,67");
     EXPECT_EQ(drawnLater()[3], kGraph.line(7.65, 13.6, 8.35, 13.6, kRed));
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
-    EXPECT_FALSE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("right"));
-    EXPECT_EQ(f.focus(), "newExercise");
+    test::expectGiven(f);
 }
 
 TEST_F(LininterForm, TakesAnyTypedText) {

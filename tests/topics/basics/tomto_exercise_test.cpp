@@ -18,7 +18,12 @@ namespace tavrune {
 namespace {
 
 bool isRight(const TomtoState& state, std::optional<Relation> chosen, double q, double p) {
-    return judge(state, chosen, q, p).isSolved;
+    return judge(state, {chosen, {q, p}}).isSolved;
+}
+
+float rangeFor(TomtoState state) {
+    setRange(state);
+    return state.graphMax;
 }
 
 using test::endsIn;
@@ -264,10 +269,7 @@ TEST(TomtoJudge, TellsOfEachNumberByItselfWhateverIsChosen) {
     s.solutionP = 2.8;
     for (const std::optional<Relation> chosen :
          {std::optional<Relation>(), std::optional(Relation::Crossing), std::optional(Relation::Parallel)}) {
-        const TomtoJudgement judgement = judge(s, chosen, 2.6, 2.81);
-        EXPECT_TRUE(judgement.qIsRight);
-        EXPECT_FALSE(judgement.pIsRight);
-        EXPECT_FALSE(judgement.isSolved);
+        EXPECT_EQ(judge(s, {chosen, {2.6, 2.81}}), (Judgement{{true, false}, false}));
     }
 }
 
@@ -443,7 +445,7 @@ bool holds(const TomtoState& s) {
         sound = sound && (s.relation == Relation::Coinciding) == (s.b1 == -s.b2);
     }
     TomtoState drawn = s;
-    drawn.graphMax = rangeFor(s);
+    setRange(drawn);
     for (const auto& [atZero, atMax] : graphLines(drawn)) {
         sound = sound && std::isfinite(atZero) && std::isfinite(atMax);
     }

@@ -12,6 +12,7 @@
 #include "support/form_driver.h"
 #include "support/looks.h"
 #include "support/strokes.h"
+#include "support/verdict.h"
 #include "topics/basics/tomto_script.h"
 
 namespace tavrune {
@@ -276,11 +277,7 @@ TEST_F(TomtoForm, IsSolvedByKeysAloneFromRightToLeft) {
     f.press("crossingPointQuantity", Qt::Key_Return);
     EXPECT_EQ(f.focus(), "ok");
     f.press("ok", Qt::Key_Return);
-    EXPECT_TRUE(isRight());
-    EXPECT_EQ(f.label("verdict").backColour(), kGreen);
-    EXPECT_EQ(f.focus(), "newExercise");
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
+    test::expectSolved(f);
 }
 
 TEST_F(TomtoForm, EnterInTheLastBoxDoesNothingOnceSolved) {
@@ -313,13 +310,9 @@ TEST_F(TomtoForm, DrawsLinesOfThreeTermsInBlackOnceSolved) {
 TEST_F(TomtoForm, MarksEachWrongCoordinateByItself) {
     const FormDriver& f = open(kCrossing);
     answer("2.6", "2.9");
-    EXPECT_TRUE(isWrong());
-    EXPECT_EQ(f.label("verdict").backColour(), kRed);
+    test::expectWrong(f, "crossingPointPrice");
     EXPECT_EQ(colour("crossingPointQuantity"), kWhite);
     EXPECT_EQ(colour("crossingPointPrice"), kRed);
-    EXPECT_EQ(f.focus(), "crossingPointPrice");
-    EXPECT_TRUE(f.isShown("ok"));
-    EXPECT_TRUE(f.isShown("giveAnswer"));
     answer("2.61", "2.8");
     EXPECT_EQ(colour("crossingPointQuantity"), kRed);
     EXPECT_EQ(colour("crossingPointPrice"), kWhite);
@@ -470,12 +463,7 @@ TEST_F(TomtoForm, GivesACrossing) {
     EXPECT_TRUE(f.isShown("crossingPointEquals"));
     EXPECT_EQ(f.box("crossingPointQuantity").content(), "2.6");
     EXPECT_EQ(f.box("crossingPointPrice").content(), "2.8");
-    EXPECT_EQ(colour("crossingPointQuantity"), kWhite);
-    EXPECT_EQ(colour("crossingPointPrice"), kWhite);
-    EXPECT_FALSE(f.isShown("verdict"));
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
-    EXPECT_EQ(f.focus(), "newExercise");
+    test::expectGiven(f);
     EXPECT_EQ(strokes(),
               (std::vector<Stroke>{kToTen.line(0, 8, 10, -12, kGreen), kToTen.line(0, -5, 10, 25, kGreen),
                                    kToTen.point(2.6, 2.8, kBlue, kThick)}));

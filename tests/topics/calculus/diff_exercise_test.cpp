@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "numeric/text.h"
+#include "support/judged.h"
 #include "support/proof.h"
 #include "support/scripted_draws.h"
 #include "topics/calculus/diff_script.h"
@@ -22,6 +23,8 @@ namespace {
 
 using test::cellOf;
 using test::DiffDraws;
+using test::eachIs;
+using test::eachTextIs;
 using test::kJustPast;
 using test::kLargestDraw;
 using test::Proof;
@@ -426,16 +429,12 @@ TEST(DiffTangent, RunsThroughTheCurveAtThePointWithItsSlope) {
 TEST(DiffJudge, TakesTheHalfOpenBandRoundTheSlope) {
     const DiffState s = exercise({.a = 2, .b = 2, .x = 3, .patternCase = 3});
     ASSERT_EQ(s.slopeAtPoint, 14);
-    for (const char* right : {"14", "14.0", "14.004", "14.005", "13.9951", "+14", "1.4e1"}) {
-        EXPECT_TRUE(isRight(s, Val(right))) << right;
-    }
-    for (const char* wrong : {"14.006", "14.0051", "13.995", "13.994", "-14", "", "abc"}) {
-        EXPECT_FALSE(isRight(s, Val(wrong))) << wrong;
-    }
+    EXPECT_TRUE(eachTextIs(true, s, {"14", "14.0", "14.004", "14.005", "13.9951", "+14", "1.4e1"}));
+    EXPECT_TRUE(eachTextIs(false, s, {"14.006", "14.0051", "13.995", "13.994", "-14", "", "abc"}));
 }
 
 TEST(DiffJudge, TakesNothingTypedForASlopeOfZero) {
-    EXPECT_TRUE(isRight(exercise({.a = 2, .b = 3, .x = 1, .patternCase = 34}), Val("")));
+    EXPECT_TRUE(eachTextIs(true, exercise({.a = 2, .b = 3, .x = 1, .patternCase = 34}), {""}));
 }
 
 /// A set of draws that is accepted, and what comes of it.
@@ -591,11 +590,8 @@ TEST(DiffSpace, IsSolvedByItsShownSlopeAndByNothingBesideIt) {
         const double own = Val(NumberText(e.state.slopeAtPoint));
         ASSERT_EQ(own, e.state.slopeAtPoint) << e.texts.value;
         ASSERT_TRUE(readsAsItself(own)) << e.texts.value;
-        ASSERT_TRUE(isRight(e.state, own)) << e.texts.value;
-        ASSERT_TRUE(isRight(e.state, own + 0.004)) << e.texts.value;
-        ASSERT_TRUE(isRight(e.state, own - 0.004)) << e.texts.value;
-        ASSERT_FALSE(isRight(e.state, own + kJustPast)) << e.texts.value;
-        ASSERT_FALSE(isRight(e.state, own - kJustPast)) << e.texts.value;
+        ASSERT_TRUE(eachIs({true}, e.state, {{own}, {own + 0.004}, {own - 0.004}})) << e.texts.value;
+        ASSERT_TRUE(eachIs({false}, e.state, {{own + kJustPast}, {own - kJustPast}})) << e.texts.value;
     }
 }
 

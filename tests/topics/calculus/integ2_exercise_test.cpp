@@ -11,6 +11,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/judged.h"
 #include "support/proof.h"
 #include "topics/calculus/integ2_script.h"
 #include "topics/calculus/integ2_space.h"
@@ -19,6 +20,8 @@ namespace tavrune {
 namespace {
 
 using test::DecimalMark;
+using test::eachIs;
+using test::eachTextIs;
 using test::inBothMarks;
 using test::kJustPast;
 using test::kLargestDraw;
@@ -332,9 +335,9 @@ TEST(Integ2Exercises, AreSolvedByWhatTheyShowAndByNothingBesideIt) {
             proof.visit(Proof::From::WholeSpace, static_cast<int>(family));
             const double shown = Val(answerText(s));
             ASSERT_EQ(shown * 4, p.first() + p.second()) << testing::PrintToString(p);
-            const bool holds = std::isfinite(s.total) && shown == s.total && isRight(s, shown) &&
+            const bool holds = std::isfinite(s.total) && shown == s.total && judge(s, {shown}).isSolved &&
                                inBothMarks([&] { return typedAgain(answerText(s)) == shown; }) &&
-                               !isRight(s, shown + kJustPast) && !isRight(s, shown - kJustPast);
+                               eachIs({false}, s, {{shown + kJustPast}, {shown - kJustPast}});
             ASSERT_TRUE(holds) << testing::PrintToString(p);
         });
     }
@@ -448,27 +451,23 @@ TEST_P(Integ2Space, WritesRowsThatReadBackAsTheIntegrals) {
 
 TEST(Integ2Judge, TakesTheHalfOpenBandRoundTheTotal) {
     const Integ2State s = withTotal(16.25);
-    EXPECT_TRUE(isRight(s, Val("16.25")));
-    EXPECT_TRUE(isRight(s, s.total + 0.005));
-    EXPECT_FALSE(isRight(s, s.total - 0.005));
-    EXPECT_TRUE(isRight(s, Val("16.2451")));
-    EXPECT_FALSE(isRight(s, Val("16.2449")));
-    EXPECT_TRUE(isRight(s, Val("16.2549")));
-    EXPECT_FALSE(isRight(s, Val("16.2551")));
-    EXPECT_FALSE(isRight(s, Val("-16.25")));
+    EXPECT_TRUE(eachIs({true}, s, {{s.total + 0.005}}));
+    EXPECT_TRUE(eachIs({false}, s, {{s.total - 0.005}}));
+    EXPECT_TRUE(eachTextIs(true, s, {"16.25", "16.2451", "16.2549"}));
+    EXPECT_TRUE(eachTextIs(false, s, {"16.2449", "16.2551", "-16.25"}));
 }
 
 TEST(Integ2Judge, TakesTheHalfOpenBandBelowZeroToo) {
     const Integ2State s = withTotal(-2.75);
-    EXPECT_TRUE(isRight(s, s.total + 0.005));
-    EXPECT_FALSE(isRight(s, s.total - 0.005));
+    EXPECT_TRUE(eachIs({true}, s, {{s.total + 0.005}}));
+    EXPECT_TRUE(eachIs({false}, s, {{s.total - 0.005}}));
 }
 
 TEST(Integ2Judge, TakesNothingTypedForAnIntegralOfZero) {
     const Integ2State s = exercise(kTwoFalls, {.a1 = 1, .b1 = 1, .a2 = 1, .b2 = 2, .k = 3});
     EXPECT_EQ(s.first, -0.25);
     EXPECT_EQ(s.second, 0.25);
-    EXPECT_TRUE(isRight(s, Val("")));
+    EXPECT_TRUE(eachTextIs(true, s, {""}));
     EXPECT_EQ(answerText(s), "0");
 }
 

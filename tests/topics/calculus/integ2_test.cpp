@@ -18,6 +18,7 @@
 #include "support/form_driver.h"
 #include "support/looks.h"
 #include "support/strokes.h"
+#include "support/verdict.h"
 #include "topics/calculus/integ2_script.h"
 #include "topics/calculus/integ2_space.h"
 
@@ -400,13 +401,9 @@ TEST_F(Integ2Form, MarksAWrongAnswerAndLetsTheStudentGoOn) {
     const FormDriver& f = openPlain();
     for (const char* wrong : {"1", "", "-33"}) {
         answer(wrong);
-        EXPECT_TRUE(f.isShown("wrong"));
-        EXPECT_FALSE(f.isShown("right"));
-        EXPECT_TRUE(f.isShown("ok"));
-        EXPECT_TRUE(f.isShown("giveAnswer"));
+        test::expectWrong(f, "integral");
         EXPECT_EQ(f.box("integral").backColour(), kRed);
         EXPECT_EQ(f.box("integral").content(), wrong);
-        EXPECT_EQ(f.focus(), "integral");
     }
     EXPECT_EQ(plotOf("graph").size(), 1000U);
 }

@@ -12,6 +12,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/judged.h"
 #include "support/proof.h"
 #include "support/scripted_draws.h"
 #include "topics/calculus/integ_reader.h"
@@ -21,6 +22,8 @@ namespace tavrune {
 namespace {
 
 using test::DecimalMark;
+using test::eachIs;
+using test::eachTextIs;
 using test::inBothMarks;
 using test::IntegDraws;
 using test::IntegReader;
@@ -209,28 +212,23 @@ TEST(IntegGenerator, DividesSinglesAndRaisesDoubles) {
 TEST(IntegJudge, IsOpenBelowAndClosedAboveRoundTheUnroundedIntegral) {
     for (const int shape : {1, 2, 9, 12, 26}) {
         const IntegState s = exercise({1, 3, 2, 4, 2, shape});
-        EXPECT_FALSE(isRight(s, s.integral - 0.005)) << shape;
-        EXPECT_TRUE(isRight(s, s.integral + 0.005)) << shape;
-        EXPECT_TRUE(isRight(s, s.integral - 0.0049)) << shape;
-        EXPECT_FALSE(isRight(s, s.integral + 0.0051)) << shape;
-        EXPECT_TRUE(isRight(s, s.integral)) << shape;
+        EXPECT_TRUE(eachIs({true}, s, {{s.integral + 0.005}, {s.integral - 0.0049}, {s.integral}})) << shape;
+        EXPECT_TRUE(eachIs({false}, s, {{s.integral - 0.005}, {s.integral + 0.0051}})) << shape;
     }
 }
 
 TEST(IntegJudge, WantsTwoDecimalsOfAThird) {
     // 1Q² from 1 to 2: 7/3.
     const IntegState s = exercise({1, 1, 1, 2, 1, 2});
-    EXPECT_TRUE(isRight(s, Val("2.33")));
-    EXPECT_TRUE(isRight(s, Val("2.3333")));
-    EXPECT_FALSE(isRight(s, Val("2.3")));
-    EXPECT_FALSE(isRight(s, Val("2.34")));
+    EXPECT_TRUE(eachTextIs(true, s, {"2.33", "2.3333"}));
+    EXPECT_TRUE(eachTextIs(false, s, {"2.3", "2.34"}));
 }
 
 TEST(IntegJudge, TakesNothingTypedForZero) {
     // 1Q-3 from 2 to 4.
     const IntegState s = exercise({1, 1, 3, 4, 2, 6});
     EXPECT_EQ(s.integral, 0);
-    EXPECT_TRUE(isRight(s, Val("")));
+    EXPECT_TRUE(eachTextIs(true, s, {""}));
     EXPECT_EQ(answerText(s), "0");
 }
 
@@ -366,12 +364,11 @@ TEST(IntegSpace, IsSolvedByItsShownAnswerAndByNothingBesideIt) {
         proof.visit(Proof::From::WholeSpace, s.shape);
         const double shown = Val(answerText(s));
         ASSERT_NEAR(shown, point.bySimpson(), 0.00501) << functionText(s);
-        ASSERT_TRUE(isRight(s, shown)) << functionText(s);
+        ASSERT_TRUE(judge(s, {shown}).isSolved) << functionText(s);
         ASSERT_TRUE(inBothMarks([&] { return typedAgain(answerText(s)) == shown; })) << functionText(s);
-        ASSERT_FALSE(isRight(s, shown + 0.01)) << functionText(s);
-        ASSERT_FALSE(isRight(s, shown - 0.01)) << functionText(s);
-        ASSERT_FALSE(isRight(s, s.integral + kJustPast)) << functionText(s);
-        ASSERT_FALSE(isRight(s, s.integral - kJustPast)) << functionText(s);
+        ASSERT_TRUE(eachIs(
+            {false}, s, {{shown + 0.01}, {shown - 0.01}, {s.integral + kJustPast}, {s.integral - kJustPast}}))
+            << functionText(s);
         ASSERT_EQ(workedSolution(s).value, "= " + answerText(s));
     });
 }
@@ -423,7 +420,7 @@ RC_GTEST_PROP(IntegGenerator, DrawsFromAnySeedWhatItsOwnAnswerSolves, (std::uint
     newExercise(s, draws);
     RC_ASSERT(std::isfinite(s.integral));
     RC_ASSERT(std::abs(valueAt(s, s.v)) <= 60);
-    RC_ASSERT(isRight(s, Val(answerText(s))));
+    RC_ASSERT(judge(s, {Val(answerText(s))}).isSolved);
 }
 
 }  // namespace

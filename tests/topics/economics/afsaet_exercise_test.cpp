@@ -11,6 +11,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/judged.h"
 #include "support/lot.h"
 #include "support/proof.h"
 #include "topics/economics/afsaet_script.h"
@@ -19,6 +20,7 @@ namespace tavrune {
 namespace {
 
 using test::DecimalMark;
+using test::eachIs;
 using test::lotSize;
 using test::Proof;
 using test::ProofDraws;
@@ -32,21 +34,16 @@ using test::afsaet::samples;
 
 using Kind = AfsaetKind;
 
-/// A number of the answer, and whether it is right.
-struct Field {
-    double AfsaetAnswer::*number;
-    bool AfsaetFields<bool>::*isRight;
-};
+/// The numbers of an answer as they are typed.
+std::vector<double> typed(const AfsaetAnswer& answer) { return {answer.a, answer.b, answer.Qlo, answer.Qhi}; }
 
-constexpr std::array kFields{
-    Field{&AfsaetAnswer::a, &AfsaetFields<bool>::a}, Field{&AfsaetAnswer::b, &AfsaetFields<bool>::b},
-    Field{&AfsaetAnswer::Qlo, &AfsaetFields<bool>::Qlo}, Field{&AfsaetAnswer::Qhi, &AfsaetFields<bool>::Qhi}};
+const Judgement kAllRight = solvedIfAllRight({true, true, true, true});
 
 /// All are right but that one.
-AfsaetFields<bool> allRightBut(const Field& wrong) {
-    AfsaetFields<bool> right = kAfsaetAllRight;
-    right.*wrong.isRight = false;
-    return right;
+Judgement allRightBut(std::size_t wrong) {
+    std::vector<bool> isRight = kAllRight.isRight;
+    isRight.at(wrong) = false;
+    return solvedIfAllRight(isRight);
 }
 
 std::vector<std::string> stepTexts(const AfsaetState& state) {
@@ -78,7 +75,7 @@ TEST_P(AfsaetSamples, ComeOfJustTheirDraws) {
     EXPECT_EQ(task.firstFact, row.firstFact);
     EXPECT_EQ(task.secondFact, row.secondFact);
     EXPECT_EQ(task.range, row.range);
-    EXPECT_EQ(judge(s, row.answer), kAfsaetAllRight);
+    EXPECT_EQ(judge(s, typed(row.answer)), kAllRight);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, AfsaetSamples, testing::ValuesIn(samples()),
@@ -86,22 +83,21 @@ INSTANTIATE_TEST_SUITE_P(Rows, AfsaetSamples, testing::ValuesIn(samples()),
 
 TEST(AfsaetJudge, WantsEachOfTheFourToTheLastDecimal) {
     const AfsaetState s = exercise("ElasticityAtOtherPriceInPrices");
-    const AfsaetAnswer own{Val("-1.33"), Val("9.33"), Val(".25"), Val("4.00")};
-    EXPECT_EQ(judge(s, own), kAfsaetAllRight);
-    for (const Field& field : kFields) {
+    const std::vector<double> own{Val("-1.33"), Val("9.33"), Val(".25"), Val("4.00")};
+    EXPECT_EQ(judge(s, own), kAllRight);
+    for (std::size_t at = 0; at < own.size(); ++at) {
         for (const double nudge : {0.01, -0.01, 0.001, 1e-9}) {
-            AfsaetAnswer typed = own;
-            typed.*field.number += nudge;
-            EXPECT_EQ(judge(s, typed), allRightBut(field)) << own.*field.number << " by " << nudge;
+            std::vector<double> nudged = own;
+            nudged[at] += nudge;
+            EXPECT_EQ(judge(s, nudged), allRightBut(at)) << own[at] << " by " << nudge;
         }
     }
 }
 
 TEST(AfsaetJudge, TakesNothingTypedForALowerBoundOfZero) {
     const AfsaetState s = exercise("TwoElasticitiesInPrices");
-    EXPECT_EQ(judge(s, {-2, 8, Val(""), 3.5}), kAfsaetAllRight);
-    EXPECT_EQ(judge(s, {-2, 8, Val("-0"), 3.5}), kAfsaetAllRight);
-    EXPECT_EQ(judge(s, {0, 0, 0, 0}), (AfsaetFields<bool>{false, false, true, false}));
+    EXPECT_TRUE(eachIs({true, true, true, true}, s, {{-2, 8, Val(""), 3.5}, {-2, 8, Val("-0"), 3.5}}));
+    EXPECT_TRUE(eachIs({false, false, true, false}, s, {{0, 0, 0, 0}}));
 }
 
 struct SentenceRow {
@@ -276,9 +272,9 @@ AfsaetAnswer solved(const AfsaetTask& task) {
 
 TEST(AfsaetReader, SolvesTheTextsOfEverySample) {
     for (const Sample& row : samples()) {
-        const AfsaetAnswer found = solved({"", row.firstFact, row.secondFact, row.range});
-        for (const Field& field : kFields) {
-            EXPECT_NEAR(found.*field.number, row.answer.*field.number, 0.00501) << row.name;
+        const std::vector<double> found = typed(solved({"", row.firstFact, row.secondFact, row.range}));
+        for (std::size_t at = 0; at < found.size(); ++at) {
+            EXPECT_NEAR(found[at], typed(row.answer)[at], 0.00501) << row.name;
         }
     }
 }
@@ -289,16 +285,15 @@ bool hasTwoDecimals(double x) { return x == std::round(x * 100) / 100; }
 
 /// What must hold of an exercise, whatever was drawn; the first thing that does not, or nothing.
 const char* flawOf(const AfsaetState& s) {
-    const AfsaetAnswer answer = answerOf(s);
-    const AfsaetTask task = taskTexts(s);
-    const AfsaetAnswer told = solved(task);
+    const std::vector<double> answer = typed(answerOf(s));
+    const std::vector<double> told = typed(solved(taskTexts(s)));
     // What single precision makes of a bound where the line is flattest is less than this.
     constexpr double kSlack = 1e-4;
-    for (const auto& [number, isRight] : kFields) {
-        if (!std::isfinite(answer.*number) || std::abs(answer.*number - told.*number) > 0.005 + kSlack) {
+    for (std::size_t at = 0; at < answer.size(); ++at) {
+        if (!std::isfinite(answer[at]) || std::abs(answer[at] - told[at]) > 0.005 + kSlack) {
             return "the texts do not determine the answer";
         }
-        if (!hasTwoDecimals(answer.*number)) {
+        if (!hasTwoDecimals(answer[at])) {
             return "the answer is not rounded";
         }
     }
@@ -322,17 +317,17 @@ const char* flawOf(const AfsaetState& s) {
             return "an elasticity or slope is out of its range";
         }
     }
-    if (judge(s, answer) != kAfsaetAllRight) {
+    if (judge(s, answer) != kAllRight) {
         return "the answer is judged wrong";
     }
-    for (const Field& field : kFields) {
-        if (!readsAsItself(answer.*field.number)) {
+    for (std::size_t at = 0; at < answer.size(); ++at) {
+        if (!readsAsItself(answer[at])) {
             return "the answer does not read as itself";
         }
         for (const double beside : {-0.001, 0.001}) {
-            AfsaetAnswer nudged = answer;
-            nudged.*field.number += beside;
-            if (judge(s, nudged) != allRightBut(field)) {
+            std::vector<double> nudged = answer;
+            nudged[at] += beside;
+            if (judge(s, nudged) != allRightBut(at)) {
                 return "another number is judged right, or not it alone wrong";
             }
         }
@@ -382,11 +377,11 @@ TEST(AfsaetProperties, TellAnAnswerThatIsTypedAsItIsShown) {
     AfsaetState s;
     for (int i = 0; i < 20'000; ++i) {
         newExercise(s, draws);
-        AfsaetAnswer typed = answerOf(s);
-        for (const Field& field : kFields) {
-            typed.*field.number = Val(NumberText(typed.*field.number));
+        std::vector<double> answer = typed(answerOf(s));
+        for (double& number : answer) {
+            number = Val(NumberText(number));
         }
-        ASSERT_EQ(judge(s, typed), kAfsaetAllRight);
+        ASSERT_EQ(judge(s, answer), kAllRight);
     }
 }
 

@@ -11,6 +11,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/judged.h"
 #include "support/proof.h"
 #include "topics/economics/gtm_script.h"
 
@@ -19,6 +20,7 @@ namespace {
 
 using test::cellOf;
 using test::DecimalMark;
+using test::eachIs;
 using test::kLargestDraw;
 using test::Proof;
 using test::readsAsItself;
@@ -33,16 +35,22 @@ using test::gtm::Numbers;
 using test::gtm::script;
 using test::gtm::Tvc;
 
-using Right = GtmTerms<bool>;
+/// The right coefficients of all functions, as they are typed.
+std::vector<double> typed(const GtmState& s) {
+    std::vector<double> all;
+    for (const auto& [a, b, c] : {s.avc, s.tvc, s.mc}) {
+        all.insert(all.end(), {a, b, c});
+    }
+    return all;
+}
 
-/// A coefficient, and whether it is right.
-struct Term {
-    double GtmCoefficients::*coefficient;
-    bool Right::*isRight;
-};
+const std::vector<bool> kAllRight(9, true);
 
-constexpr std::array kTerms{Term{&GtmCoefficients::a, &Right::a}, Term{&GtmCoefficients::b, &Right::b},
-                            Term{&GtmCoefficients::c, &Right::c}};
+std::vector<bool> allRightBut(std::size_t wrong) {
+    std::vector<bool> isRight = kAllRight;
+    isRight.at(wrong) = false;
+    return isRight;
+}
 
 using Generator = void (*)(GtmState&, Draws&);
 
@@ -406,20 +414,15 @@ bool isOneProduct(const GtmState& s) {
 /// True if each function's coefficients, as they would be shown, are right, and each one beside it is wrong,
 /// alone.
 bool isJudged(const GtmState& s) {
-    bool holds = true;
-    for (const GtmFunction function : kGtmFunctions) {
-        const GtmCoefficients& right = s.of(function);
-        holds = holds && judge(s, function, right) == kGtmAllRight;
-        for (const auto& [coefficient, isRight] : kTerms) {
-            holds = holds && std::isfinite(right.*coefficient) && readsAsItself(right.*coefficient);
-            for (const double beside : {-0.001, 0.001}) {
-                GtmCoefficients typed = right;
-                typed.*coefficient += beside;
-                Right expected = kGtmAllRight;
-                expected.*isRight = false;
-                holds = holds && judge(s, function, typed) == expected;
-            }
-        }
+    const std::vector<double> right = typed(s);
+    bool holds = eachIs(kAllRight, s, {right});
+    for (std::size_t at = 0; at < right.size(); ++at) {
+        std::vector<double> below = right;
+        std::vector<double> above = right;
+        below[at] -= 0.001;
+        above[at] += 0.001;
+        holds = holds && std::isfinite(right[at]) && readsAsItself(right[at]) &&
+                eachIs(allRightBut(at), s, {below, above});
     }
     return holds;
 }
@@ -457,11 +460,11 @@ TEST_P(GtmSeeds, AreSolvedFromTheTextsOfTheGivenFunction) {
         GetParam()(s, draws);
         kinds.insert(s.given);
         ASSERT_EQ(s, solved(s.given, taskTexts(s.of(s.given)))) << i;
-        for (const GtmFunction function : kGtmFunctions) {
-            GtmCoefficients typed = s.of(function);
-            ASSERT_EQ(judge(s, function, typed), kGtmAllRight) << i;
-            typed.*kTerms.at(static_cast<std::size_t>(i % 3)).coefficient += 0.01;
-            ASSERT_NE(judge(s, function, typed), kGtmAllRight) << i;
+        ASSERT_TRUE(eachIs(kAllRight, s, {typed(s)})) << i;
+        for (std::size_t at = static_cast<std::size_t>(i % 3); at < kAllRight.size(); at += 3) {
+            std::vector<double> nudged = typed(s);
+            nudged[at] += 0.01;
+            ASSERT_TRUE(eachIs(allRightBut(at), s, {nudged})) << i;
         }
     }
     EXPECT_EQ(kinds.size(), 3U);
@@ -515,30 +518,37 @@ TEST(GtmTaskTexts, WriteAWithThePointInEveryLocale) {
     EXPECT_EQ(taskTexts({0, -0.0, 7}), (Texts{"0", "0", "7"}));
 }
 
+/// True if the right answer stays right with this text for one of its numbers; else that one alone is wrong.
+bool takes(const GtmState& s, std::size_t at, const char* text) {
+    std::vector<double> all = typed(s);
+    all.at(at) = Val(text);
+    const bool isRight = judge(s, all).isSolved;
+    EXPECT_TRUE(eachIs(isRight ? kAllRight : allRightBut(at), s, {all})) << at << ' ' << text;
+    for (const GtmFunction function : kGtmFunctions) {
+        EXPECT_EQ(tavrune::isRight(function, judge(s, all)), coefficientsOf(function, all) == s.of(function));
+    }
+    return isRight;
+}
+
 TEST(GtmJudge, WantsTheRoundedThirdToTheDigit) {
     const GtmState s = next({0.5, -4, 9}, Mc);
-    for (const GtmFunction function : {GtmFunction::Average, GtmFunction::Total}) {
-        EXPECT_TRUE(judge(s, function, {Val("0.17"), Val("-2"), Val("9")}).a);
-        EXPECT_TRUE(judge(s, function, {Val(".170"), Val("-2"), Val("9")}).a);
-        EXPECT_FALSE(judge(s, function, {Val("0.1667"), Val("-2"), Val("9")}).a);
-        EXPECT_FALSE(judge(s, function, {Val("0.16"), Val("-2"), Val("9")}).a);
+    // The first of AVC and of TVC.
+    for (const std::size_t at : {0U, 3U}) {
+        EXPECT_TRUE(takes(s, at, "0.17"));
+        EXPECT_TRUE(takes(s, at, ".170"));
+        EXPECT_FALSE(takes(s, at, "0.1667"));
+        EXPECT_FALSE(takes(s, at, "0.16"));
     }
-    EXPECT_TRUE(judge(s, GtmFunction::Marginal, {Val("0.5"), Val("-4"), Val("9")}).a);
-    EXPECT_FALSE(judge(s, GtmFunction::Marginal, {Val("0.51"), Val("-4"), Val("9")}).a);
+    EXPECT_TRUE(takes(s, 6, "0.5"));
+    EXPECT_FALSE(takes(s, 6, "0.51"));
 }
 
-TEST(GtmJudge, TellsTheThreeCoefficientsApart) {
-    const GtmState s = next(kPlain, Avc);
-    EXPECT_EQ(judge(s, GtmFunction::Marginal, {3, -4, 4}), kGtmAllRight);
-    EXPECT_EQ(judge(s, GtmFunction::Marginal, {1, -4, 4}), (Right{false, true, true}));
-    EXPECT_EQ(judge(s, GtmFunction::Marginal, {3, -2, 4}), (Right{true, false, true}));
-    EXPECT_EQ(judge(s, GtmFunction::Marginal, {3, -4, 3}), (Right{true, true, false}));
-}
-
-TEST(GtmJudge, JudgesTheGivenFunctionToo) {
+TEST(GtmJudge, TellsTheCoefficientsApartThoseOfTheGivenFunctionToo) {
     const GtmState s = next(kPlain, Tvc);
-    EXPECT_EQ(judge(s, GtmFunction::Total, {1, -2, 4}), kGtmAllRight);
-    EXPECT_EQ(judge(s, GtmFunction::Total, {1, -2, 5}), (Right{true, true, false}));
+    EXPECT_EQ(typed(s), (std::vector<double>{1, -2, 4, 1, -2, 4, 3, -4, 4}));
+    for (std::size_t at = 0; at < kAllRight.size(); ++at) {
+        EXPECT_FALSE(takes(s, at, "5"));
+    }
 }
 
 constexpr std::size_t pieces(const GtmCurve& curve) { return curve.empty() ? 0 : curve.size() - 1; }
@@ -722,9 +732,9 @@ std::vector<GtmEach<GtmCoefficients>> hostileRows() {
     std::size_t row = 0;
     for (auto function : {&GtmEach<GtmCoefficients>::average, &GtmEach<GtmCoefficients>::total,
                           &GtmEach<GtmCoefficients>::marginal}) {
-        for (const Term& term : kTerms) {
+        for (auto coefficient : {&GtmCoefficients::a, &GtmCoefficients::b, &GtmCoefficients::c}) {
             rows.at(row) = {{1, -2, 4}, {1, -2, 4}, {3, -4, 4}};
-            rows.at(row).*function.*term.coefficient = 1e308;
+            rows.at(row).*function.*coefficient = 1e308;
             ++row;
         }
     }

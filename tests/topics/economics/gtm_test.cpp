@@ -14,6 +14,7 @@
 #include "support/form_driver.h"
 #include "support/looks.h"
 #include "support/strokes.h"
+#include "support/verdict.h"
 #include "topics/economics/gtm_script.h"
 
 namespace tavrune {
@@ -334,13 +335,7 @@ TEST_F(GtmForm, DrawsAvcThenTvcThenMcInTheColoursOfARightAnswer) {
             chain(total, -3, kTvcRight, [&](double q, double) { return std::abs(total(q + 0.1)) <= 400; }) +
             chain([&](double q) { return parabola(mc, q); }, -3, kMcRight,
                   [](double q, double y) { return q <= 15 && y <= 210; }));
-    EXPECT_TRUE(f.isShown("verdict"));
-    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
-    EXPECT_EQ(f.label("verdict").backColour(), QColor(0, 130, 0));
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
-    EXPECT_EQ(f.focus(), "newExercise");
-    EXPECT_EQ(redBoxes(), std::set<int>{});
+    test::expectSolved(f);
 }
 
 TEST_F(GtmForm, DrawsWholeLevelCurvesOfATry) {
@@ -381,12 +376,7 @@ TEST_P(GtmMarks, ReddenEachWrongBoxAndColourTheCurveOfItsFunction) {
     answer(row.typed);
     EXPECT_EQ(redBoxes(), row.red);
     EXPECT_EQ(coloursOf(drawnAfter(171)), row.colours);
-    EXPECT_TRUE(f.isShown("verdict"));
-    EXPECT_EQ(f.caption("verdict"), "FORKERT");
-    EXPECT_EQ(f.label("verdict").backColour(), kRed);
-    EXPECT_TRUE(f.isShown("ok"));
-    EXPECT_TRUE(f.isShown("giveAnswer"));
-    EXPECT_EQ(f.focus(), "avcQuadraticCoefficient");
+    test::expectWrong(f, "avcQuadraticCoefficient");
     EXPECT_EQ(contents(), std::vector<std::string>(row.typed.begin(), row.typed.end()));
 }
 

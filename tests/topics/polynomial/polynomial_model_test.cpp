@@ -101,54 +101,66 @@ TEST(RootCount, FollowsTheDiscriminant) {
 
 const Roots kRoots{.root1 = 2, .root2 = -1};
 
+bool areRight(double discriminant, const Roots& roots, std::optional<RootCount> chosen,
+              const std::vector<double>& typed) {
+    const Judgement judgement = judge(discriminant, roots, {chosen, typed});
+    EXPECT_TRUE(!judgement.isSolved || judgement.isRight == (std::vector{true, true}));
+    return judgement.isSolved;
+}
+
 TEST(RootsAreRight, InEitherOrder) {
-    EXPECT_TRUE(rootsAreRight(9, kRoots, RootCount::Two, {2, -1}));
-    EXPECT_TRUE(rootsAreRight(9, kRoots, RootCount::Two, {-1, 2}));
-    EXPECT_FALSE(rootsAreRight(9, kRoots, RootCount::Two, {2, 2}));
-    EXPECT_FALSE(rootsAreRight(9, kRoots, RootCount::Double, {2, -1}));
-    EXPECT_FALSE(rootsAreRight(9, kRoots, RootCount::None, {2, -1}));
-    EXPECT_FALSE(rootsAreRight(9, kRoots, {}, {2, -1}));
+    EXPECT_TRUE(areRight(9, kRoots, RootCount::Two, {2, -1}));
+    EXPECT_TRUE(areRight(9, kRoots, RootCount::Two, {-1, 2}));
+    EXPECT_FALSE(areRight(9, kRoots, RootCount::Two, {2, 2}));
+    EXPECT_FALSE(areRight(9, kRoots, RootCount::Double, {2, -1}));
+    EXPECT_FALSE(areRight(9, kRoots, RootCount::None, {2, -1}));
+    EXPECT_FALSE(areRight(9, kRoots, {}, {2, -1}));
 }
 
 TEST(RootsAreRight, WithADoubleRootInTheSecondBox) {
-    EXPECT_TRUE(rootsAreRight(0, {2, 2}, RootCount::Double, {0, 2}));
-    EXPECT_FALSE(rootsAreRight(0, {2, 2}, RootCount::Double, {2, 0}));
-    EXPECT_FALSE(rootsAreRight(0, {2, 2}, RootCount::Two, {2, 2}));
+    EXPECT_TRUE(areRight(0, {2, 2}, RootCount::Double, {0, 2}));
+    EXPECT_FALSE(areRight(0, {2, 2}, RootCount::Double, {2, 0}));
+    EXPECT_FALSE(areRight(0, {2, 2}, RootCount::Two, {2, 2}));
 }
 
 TEST(RootsAreRight, WithNoneWhateverIsTyped) {
-    EXPECT_TRUE(rootsAreRight(-3, {}, RootCount::None, {7, 7}));
-    EXPECT_FALSE(rootsAreRight(-3, {}, RootCount::Double, {0, 0}));
+    EXPECT_TRUE(areRight(-3, {}, RootCount::None, {7, 7}));
+    EXPECT_FALSE(areRight(-3, {}, RootCount::Double, {0, 0}));
 }
 
 TEST(RootsAreRight, OpenBelowAndClosedAboveTheTolerance) {
-    EXPECT_TRUE(rootsAreRight(9, kRoots, RootCount::Two, {2 + 0.005, -1}));
-    EXPECT_FALSE(rootsAreRight(9, kRoots, RootCount::Two, {2 - 0.005, -1}));
+    EXPECT_TRUE(areRight(9, kRoots, RootCount::Two, {2 + 0.005, -1}));
+    EXPECT_FALSE(areRight(9, kRoots, RootCount::Two, {2 - 0.005, -1}));
 }
 
 struct MarkRow {
     const char* name;
     double discriminant;
-    TypedRoots typed;
-    RootMarks marks;
+    std::vector<double> typed;
+    std::vector<bool> isRight;
 };
 
 class RootMarkRows : public testing::TestWithParam<MarkRow> {};
 
-TEST_P(RootMarkRows, DecideByTheFirstTrueTest) {
-    EXPECT_EQ(rootMarks(GetParam().discriminant, kRoots, GetParam().typed), GetParam().marks);
+TEST_P(RootMarkRows, DecideByTheFirstTrueTestWhateverIsChosen) {
+    using enum RootCount;
+    const auto& [name, discriminant, typed, isRight] = GetParam();
+    for (const std::optional<RootCount> chosen : {std::optional<RootCount>(), {Two}, {Double}, {None}}) {
+        const Judgement judgement = judge(discriminant, kRoots, {chosen, typed});
+        EXPECT_TRUE(judgement.isSolved ? chosen == rootCountOf(discriminant) : judgement.isRight == isRight);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, RootMarkRows,
-                         testing::Values(MarkRow{"FirstHoldsRoot1", 9, {2, 7}, {false, true}},
-                                         MarkRow{"SecondHoldsRoot1", 9, {7, 2}, {true, false}},
-                                         MarkRow{"FirstHoldsRoot2", 9, {-1, 7}, {false, true}},
-                                         MarkRow{"SecondHoldsRoot2", 9, {7, -1}, {true, false}},
-                                         MarkRow{"TheSameRootTwice", 9, {2, 2}, {false, true}},
-                                         MarkRow{"TheOtherRootTwice", 9, {-1, -1}, {false, true}},
-                                         MarkRow{"NoRoot", 9, {7, 8}, {true, true}},
-                                         MarkRow{"DoubleRoot", 0, {2, 2}, {true, true}},
-                                         MarkRow{"NoRootsAtAll", -1, {2, -1}, {true, true}}),
+                         testing::Values(MarkRow{"FirstHoldsRoot1", 9, {2, 7}, {true, false}},
+                                         MarkRow{"SecondHoldsRoot1", 9, {7, 2}, {false, true}},
+                                         MarkRow{"FirstHoldsRoot2", 9, {-1, 7}, {true, false}},
+                                         MarkRow{"SecondHoldsRoot2", 9, {7, -1}, {false, true}},
+                                         MarkRow{"TheSameRootTwice", 9, {2, 2}, {true, false}},
+                                         MarkRow{"TheOtherRootTwice", 9, {-1, -1}, {true, false}},
+                                         MarkRow{"NoRoot", 9, {7, 8}, {false, false}},
+                                         MarkRow{"DoubleRoot", 0, {2, 2}, {false, false}},
+                                         MarkRow{"NoRootsAtAll", -1, {2, -1}, {false, false}}),
                          [](const auto& row) { return row.param.name; });
 
 }  // namespace

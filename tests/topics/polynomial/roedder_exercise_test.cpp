@@ -136,9 +136,13 @@ TEST(RoedderAnswers, AreNeverMinusZero) {
     EXPECT_EQ(answer.root2, "0");
 }
 
+bool isRight(const RoedderState& s, std::optional<RootCount> chosen, const std::vector<double>& typed) {
+    return judge(s, {chosen, typed}).isSolved;
+}
+
 TEST(RoedderJudge, TakesNothingForTheDoubleRootZero) {
-    EXPECT_TRUE(isRight(exercise(3, 1, 1, 2), RootCount::Double, {.first = 0, .second = Val("")}));
-    EXPECT_FALSE(isRight(exercise(3, 1, 1, 2), RootCount::Two, {}));
+    EXPECT_TRUE(isRight(exercise(3, 1, 1, 2), RootCount::Double, {0, Val("")}));
+    EXPECT_FALSE(isRight(exercise(3, 1, 1, 2), RootCount::Two, {0, 0}));
 }
 
 // What the pattern cases come to, written down by hand: the sign of each term, or 0.
@@ -203,8 +207,8 @@ TEST(RoedderSpace, IsSolvedByItsOwnAnswerAndByNothingNear) {
         ++counted[static_cast<int>(count)];
         if (count == RootCount::None) {
             ASSERT_TRUE(isRight(s, RootCount::None, {7, 7}));
-            ASSERT_FALSE(isRight(s, RootCount::Double, {}));
-            ASSERT_FALSE(isRight(s, RootCount::Two, {}));
+            ASSERT_FALSE(isRight(s, RootCount::Double, {0, 0}));
+            ASSERT_FALSE(isRight(s, RootCount::Two, {0, 0}));
             continue;
         }
         ASSERT_TRUE(isRootOf(a, b, c, s.roots.root1));
@@ -232,13 +236,10 @@ TEST(RoedderSpace, IsSolvedByItsOwnAnswerAndByNothingNear) {
         ASSERT_FALSE(isRight(s, RootCount::Two, {q1, q1}));
         ASSERT_FALSE(isRight(s, RootCount::Two, {q2, q2}));
         for (const double past : {kJustPast, -kJustPast}) {
-            for (const TypedRoots& typed :
-                 {TypedRoots{root1 + past, root2}, TypedRoots{root2 + past, root1}}) {
-                ASSERT_FALSE(isRight(s, RootCount::Two, typed));
-                ASSERT_EQ(rootMarks(s.discriminant, s.roots, typed), (RootMarks{true, false}));
-                const TypedRoots turned{typed.second, typed.first};
-                ASSERT_FALSE(isRight(s, RootCount::Two, turned));
-                ASSERT_EQ(rootMarks(s.discriminant, s.roots, turned), (RootMarks{false, true}));
+            for (const double other : {root1, root2}) {
+                const double near = (other == root1 ? root2 : root1) + past;
+                ASSERT_EQ(judge(s, {RootCount::Two, {near, other}}), (Judgement{{false, true}, false}));
+                ASSERT_EQ(judge(s, {RootCount::Two, {other, near}}), (Judgement{{true, false}, false}));
             }
         }
         ASSERT_FALSE(isRight(s, RootCount::Double, {q1, q2}));

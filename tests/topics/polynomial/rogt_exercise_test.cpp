@@ -75,8 +75,29 @@ Polynomial read(const std::string& text) {
 }
 
 /// What the boxes hold when the shown answer is typed as it stands.
-TypedRoots rootsIn(const RogtAnswer& answer) {
-    return {.first = typedAgain(answer.root1), .second = typedAgain(answer.root2)};
+std::vector<double> rootsIn(const RogtAnswer& answer) {
+    return {typedAgain(answer.root1), typedAgain(answer.root2)};
+}
+
+bool rootsAreRight(const RogtState& s, std::optional<RootCount> chosen, std::vector<double> roots) {
+    roots.insert(roots.end(), {s.vertex.q, s.vertex.p});
+    const RogtJudgement judgement = judge(s, {chosen, roots});
+    EXPECT_TRUE(judgement.vertexIsRight);
+    EXPECT_EQ(judgement.isSolved, judgement.rootsAreRight);
+    EXPECT_TRUE(!judgement.isSolved || judgement == solvedIfAllRight({true, true, true, true}));
+    return judgement.rootsAreRight;
+}
+
+/// Which coordinates of the vertex are right, beside right roots.
+std::vector<bool> rightOf(const RogtState& s, double q, double p) {
+    const RogtJudgement judgement =
+        judge(s, {rootCountOf(s.discriminant), {s.roots.root1, s.roots.root2, q, p}});
+    EXPECT_TRUE(judgement.rootsAreRight);
+    const std::vector<bool>& isRight = judgement.isRight;
+    EXPECT_TRUE(isRight.at(0) && isRight.at(1));
+    EXPECT_EQ(judgement.vertexIsRight, isRight.at(2) && isRight.at(3));
+    EXPECT_EQ(judgement.isSolved, judgement.vertexIsRight);
+    return {isRight.begin() + 2, isRight.end()};
 }
 
 TEST(RogtGenerator, DrawsAThenBThenCThenThePattern) {
@@ -199,10 +220,10 @@ TEST(RogtJudge, TakesEverySolutionAndNoNudgedOne) {
     forEveryExercise([](const Drawn& /*d*/, const RogtState& s) {
         const double q = s.vertex.q;
         const double p = s.vertex.p;
-        ASSERT_TRUE(matchVertex(s, q, p).isRight());
-        ASSERT_EQ(matchVertex(s, q + kNudge, p), (VertexMatch{.q = false, .p = true}));
-        ASSERT_EQ(matchVertex(s, q, p - kNudge), (VertexMatch{.q = true, .p = false}));
-        ASSERT_EQ(matchVertex(s, q - kNudge, p + kNudge), (VertexMatch{}));
+        ASSERT_EQ(rightOf(s, q, p), (std::vector{true, true}));
+        ASSERT_EQ(rightOf(s, q + kNudge, p), (std::vector{false, true}));
+        ASSERT_EQ(rightOf(s, q, p - kNudge), (std::vector{true, false}));
+        ASSERT_EQ(rightOf(s, q - kNudge, p + kNudge), (std::vector{false, false}));
 
         const RootCount count = rootCountOf(s.discriminant);
         const auto [root1, root2] = s.roots;
@@ -219,8 +240,8 @@ TEST(RogtJudge, TakesEverySolutionAndNoNudgedOne) {
 
 TEST(RogtJudge, IsOpenBelowAndClosedAbove) {
     const RogtState s = exercise({2, 2, 5, 1});  // (-0.5; 4.5)
-    EXPECT_EQ(matchVertex(s, -0.5 + 0.005, 4.5 + 0.005), (VertexMatch{.q = true, .p = true}));
-    EXPECT_EQ(matchVertex(s, -0.5 - 0.005, 4.5 - 0.005), (VertexMatch{.q = false, .p = false}));
+    EXPECT_EQ(rightOf(s, -0.5 + 0.005, 4.5 + 0.005), (std::vector{true, true}));
+    EXPECT_EQ(rightOf(s, -0.5 - 0.005, 4.5 - 0.005), (std::vector{false, false}));
 }
 
 TEST(RogtAnswer, IsJudgedRightButForItsNegativeHalves) {
@@ -236,18 +257,18 @@ TEST(RogtAnswer, IsJudgedRightButForItsNegativeHalves) {
         const RogtAnswer answer = answerOf(s);
         ASSERT_TRUE(inBothMarks(
             [&s] { return rootsAreRight(s, rootCountOf(s.discriminant), rootsIn(answerOf(s))); }));
-        const VertexMatch match = matchVertex(s, typedAgain(answer.vertexQ), typedAgain(answer.vertexP));
+        const std::vector<bool> match = rightOf(s, typedAgain(answer.vertexQ), typedAgain(answer.vertexP));
         ASSERT_TRUE(inBothMarks([&] {
             const RogtAnswer shown = answerOf(s);
-            return matchVertex(s, typedAgain(shown.vertexQ), typedAgain(shown.vertexP)) == match;
+            return rightOf(s, typedAgain(shown.vertexQ), typedAgain(shown.vertexP)) == match;
         }));
-        if (!match.isRight()) {
+        if (!match[0] || !match[1]) {
             proof.unsolvable("negative halves of the vertex shown rounded away from zero");
         }
-        ASSERT_EQ(match.q, !(s.vertex.q < 0 && isHalf(s.vertex.q))) << answer.vertexQ;
-        ASSERT_EQ(match.p, !(s.vertex.p < 0 && isHalf(s.vertex.p))) << answer.vertexP;
-        wrongQ += match.q ? 0 : 1;
-        wrongP += match.p ? 0 : 1;
+        ASSERT_EQ(match[0], !(s.vertex.q < 0 && isHalf(s.vertex.q))) << answer.vertexQ;
+        ASSERT_EQ(match[1], !(s.vertex.p < 0 && isHalf(s.vertex.p))) << answer.vertexP;
+        wrongQ += match[0] ? 0 : 1;
+        wrongP += match[1] ? 0 : 1;
     });
     EXPECT_EQ(wrongQ, 90);
     EXPECT_EQ(wrongP, 90);
@@ -258,8 +279,8 @@ TEST(RogtAnswer, ShowsANegativeHalfThatWouldBeWrongIfTyped) {
     EXPECT_EQ(s.vertex.q, -0.125F);
     const test::DecimalMark point(".");
     EXPECT_EQ(answerOf(s).vertexQ, "-0.13");
-    EXPECT_FALSE(matchVertex(s, -0.13, s.vertex.p).q);
-    EXPECT_TRUE(matchVertex(s, -0.12, s.vertex.p).q);
+    EXPECT_FALSE(rightOf(s, -0.13, s.vertex.p)[0]);
+    EXPECT_TRUE(rightOf(s, -0.12, s.vertex.p)[0]);
 }
 
 TEST(RogtAnswer, HasTwoDecimalsWithTheMarkInUse) {

@@ -12,6 +12,7 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/judged.h"
 #include "support/proof.h"
 #include "support/scripted_draws.h"
 
@@ -20,6 +21,7 @@ namespace {
 
 using test::cellOf;
 using test::DecimalMark;
+using test::eachIs;
 using test::inBothMarks;
 using test::kJustPast;
 using test::kLargestDraw;
@@ -185,8 +187,8 @@ TEST(ToppGenerator, WantsTheVertexOfPlusBWhereCaseEightShowsMinusB) {
     EXPECT_EQ(s.polynomial.b, 4);
     EXPECT_EQ(s.vertexQ, 2);
     EXPECT_EQ(s.vertexP, 4);
-    EXPECT_EQ(judge(s, 2, 4), (ToppVerdict{.q = true, .p = true}));
-    EXPECT_EQ(judge(s, -2, 4), (ToppVerdict{.q = false, .p = true}));
+    EXPECT_EQ(judge(s, {2, 4}), solvedIfAllRight({true, true}));
+    EXPECT_EQ(judge(s, {-2, 4}), solvedIfAllRight({false, true}));
 }
 
 TEST(ToppGenerator, DividesSinglesForQAndADoubleForP) {
@@ -197,22 +199,19 @@ TEST(ToppGenerator, DividesSinglesForQAndADoubleForP) {
 
 TEST(ToppJudge, TakesTheHalfOpenBandRoundTheUnroundedVertex) {
     const ToppState s = withVertex(1.75F, -9.125);
-    EXPECT_EQ(judge(s, Val("1.75"), Val("-9.125")), (ToppVerdict{.q = true, .p = true}));
-    EXPECT_EQ(judge(s, Val("1.755"), Val("-9.12")), (ToppVerdict{.q = true, .p = true}));
-    EXPECT_EQ(judge(s, Val("1.745"), Val("-9.13")), (ToppVerdict{.q = false, .p = false}));
-    EXPECT_EQ(judge(s, Val("1.74501"), Val("-9.12999")), (ToppVerdict{.q = true, .p = true}));
-    EXPECT_EQ(judge(s, Val("1.75501"), Val("-9.11999")), (ToppVerdict{.q = false, .p = false}));
+    EXPECT_TRUE(eachIs({true, true}, s, {{1.75, -9.125}, {1.755, -9.12}, {1.74501, -9.12999}}));
+    EXPECT_TRUE(eachIs({false, false}, s, {{1.745, -9.13}, {1.75501, -9.11999}}));
 }
 
 TEST(ToppJudge, TellsTheTwoCoordinatesApart) {
     const ToppState s = withVertex(2, 4);
-    EXPECT_EQ(judge(s, 2, 3), (ToppVerdict{.q = true, .p = false}));
-    EXPECT_EQ(judge(s, 3, 4), (ToppVerdict{.q = false, .p = true}));
-    EXPECT_EQ(judge(s, 4, 2), (ToppVerdict{.q = false, .p = false}));
+    EXPECT_TRUE(eachIs({true, false}, s, {{2, 3}}));
+    EXPECT_TRUE(eachIs({false, true}, s, {{3, 4}}));
+    EXPECT_TRUE(eachIs({false, false}, s, {{4, 2}}));
 }
 
 TEST(ToppJudge, TakesNothingTypedForTheVertexOfABareSquare) {
-    EXPECT_EQ(judge(exercise(3, 5, 5, 1), Val(""), Val("")), (ToppVerdict{.q = true, .p = true}));
+    EXPECT_TRUE(eachIs({true, true}, exercise(3, 5, 5, 1), {{Val(""), Val("")}}));
 }
 
 TEST(ToppTexts, GiveTheAnswerWithTwoDecimals) {
@@ -371,23 +370,20 @@ TEST(ToppSpace, HasItsVertexWhereTheParabolaIsSymmetric) {
 }
 
 TEST(ToppSpace, IsSolvedByItsVertexAndByNothingBesideIt) {
-    const ToppVerdict bothRight{.q = true, .p = true};
-    const ToppVerdict bothWrong{.q = false, .p = false};
     forEachDraw([&](const SpacePoint& e) {
         if (!e.isAccepted()) {
             return;
         }
         const ToppState s = exercise(e.drawnA, e.drawnB, e.drawnC, e.patternCase);
-        ASSERT_EQ(judge(s, e.q(), e.p()), bothRight) << e.text;
+        ASSERT_TRUE(eachIs({true, true}, s, {{e.q(), e.p()}})) << e.text;
         const double q = Val(answerTextOfQ(s));
         const double p = Val(answerTextOfP(s));
         ASSERT_NEAR(q, e.q(), 0.00501) << e.text;
         ASSERT_NEAR(p, e.p(), 0.00501) << e.text;
-        ASSERT_EQ(judge(s, q + 0.011, p + 0.011), bothWrong) << e.text;
-        ASSERT_EQ(judge(s, q - 0.011, p - 0.011), bothWrong) << e.text;
+        ASSERT_TRUE(eachIs({false, false}, s, {{q + 0.011, p + 0.011}, {q - 0.011, p - 0.011}})) << e.text;
         for (const double past : {kJustPast, -kJustPast}) {
-            ASSERT_EQ(judge(s, s.vertexQ + past, e.p()), (ToppVerdict{.q = false, .p = true})) << e.text;
-            ASSERT_EQ(judge(s, e.q(), s.vertexP + past), (ToppVerdict{.q = true, .p = false})) << e.text;
+            ASSERT_TRUE(eachIs({false, true}, s, {{s.vertexQ + past, e.p()}})) << e.text;
+            ASSERT_TRUE(eachIs({true, false}, s, {{e.q(), s.vertexP + past}})) << e.text;
         }
     });
 }
@@ -402,20 +398,21 @@ TEST(ToppSpace, JudgesTheShownAnswerWrongForJustTheNegativeHalvesOfP) {
         }
         const ToppState s = exercise(e.drawnA, e.drawnB, e.drawnC, e.patternCase);
         proof.visit(Proof::From::WholeSpace, e.patternCase);
-        const ToppVerdict own = judge(s, Val(answerTextOfQ(s)), Val(answerTextOfP(s)));
-        ASSERT_TRUE(inBothMarks(
-            [&] { return judge(s, typedAgain(answerTextOfQ(s)), typedAgain(answerTextOfP(s))) == own; }));
+        const Judgement own = judge(s, {Val(answerTextOfQ(s)), Val(answerTextOfP(s))});
+        ASSERT_TRUE(inBothMarks([&] {
+            return judge(s, {typedAgain(answerTextOfQ(s)), typedAgain(answerTextOfP(s))}) == own;
+        }));
         const bool isShownOtherwise = e.patternCase == 8;
         if (isShownOtherwise) {
             // Its own vertex lies on the other side of the axis.
-            ASSERT_FALSE(judge(s, -e.q(), e.p()).q) << e.text;
+            ASSERT_FALSE(judge(s, {-e.q(), e.p()}).isRight[0]) << e.text;
             proof.unsolvable("shown with -b and judged with +b");
-        } else if (!own.p) {
+        } else if (!own.isRight[1]) {
             proof.unsolvable("negative halves of P shown rounded away from zero");
         }
-        ASSERT_TRUE(own.q) << e.text;
-        ASSERT_EQ(own.p, !e.isHalfHundredthBelowZero()) << e.text;
-        if (!own.p) {
+        ASSERT_TRUE(own.isRight[0]) << e.text;
+        ASSERT_EQ(own.isRight[1], !e.isHalfHundredthBelowZero()) << e.text;
+        if (!own.isRight[1]) {
             ++missed[e.p()];
         }
     });
@@ -461,7 +458,7 @@ RC_GTEST_PROP(ToppGeneratorProperty, GivesASolvableExerciseForEverySeed, (std::u
         newExercise(s, draws);
         RC_ASSERT(std::isfinite(s.vertexQ) && std::abs(s.vertexQ) <= 15);
         RC_ASSERT(std::isfinite(s.vertexP) && std::abs(s.vertexP) <= 15);
-        RC_ASSERT(judge(s, s.vertexQ, s.vertexP) == (ToppVerdict{.q = true, .p = true}));
+        RC_ASSERT(judge(s, {s.vertexQ, s.vertexP}) == solvedIfAllRight({true, true}));
     }
 }
 

@@ -13,6 +13,7 @@
 #include "support/looks.h"
 #include "support/scripted_draws.h"
 #include "support/strokes.h"
+#include "support/verdict.h"
 
 namespace tavrune {
 namespace {
@@ -198,14 +199,7 @@ TEST_F(ToppForm, DrawsTheCurveAndLeavesOnlyTheNextExerciseWhenSolved) {
     const FormDriver& f = openPlain();
     answer("1", "1");
     answer("2.5", "-0.25");
-    EXPECT_TRUE(f.isShown("right"));
-    EXPECT_FALSE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
-    EXPECT_TRUE(f.isShown("newExercise"));
-    EXPECT_EQ(f.focus(), "newExercise");
-    EXPECT_EQ(f.box("vertexQuantity").backColour(), kWhite);
-    EXPECT_EQ(f.box("vertexPrice").backColour(), kWhite);
+    test::expectSolved(f);
     EXPECT_EQ(drawnLater(), curve(1, -5, 6));
     f.box("vertexQuantity").setFocus();
     f.press("vertexQuantity", Qt::Key_Return);
@@ -235,11 +229,7 @@ TEST_P(ToppMarks, ShowWhichCoordinateIsWrong) {
     answer(row.q, row.p);
     EXPECT_EQ(f.box("vertexQuantity").backColour(), row.isQRed ? kRed : kWhite);
     EXPECT_EQ(f.box("vertexPrice").backColour(), row.isPRed ? kRed : kWhite);
-    EXPECT_EQ(f.focus(), row.focus);
-    EXPECT_TRUE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("right"));
-    EXPECT_TRUE(f.isShown("giveAnswer"));
-    EXPECT_TRUE(f.isShown("ok"));
+    test::expectWrong(f, row.focus);
     EXPECT_EQ(f.box("vertexQuantity").content(), row.q);
     EXPECT_EQ(f.box("vertexPrice").content(), row.p);
     EXPECT_TRUE(drawnLater().empty());
