@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 #include <QChildEvent>
 #include <QMouseEvent>
@@ -140,6 +141,13 @@ private:
 
 }  // namespace
 
+bool Stroke::operator==(const Stroke& other) const {
+    const auto drawn = [](const Stroke& s) {
+        return std::tie(s.kind, s.x1, s.y1, s.x2, s.y2, s.colour, s.style, s.width, s.scale);
+    };
+    return drawn(*this) == drawn(other);
+}
+
 GraphBox::GraphBox(QWidget* parent) : QWidget(parent), Control(this) {
     setFocusPolicy(Qt::NoFocus);
     setAutoFillBackground(true);
@@ -155,6 +163,19 @@ void GraphBox::Scale(double x1, double y1, double x2, double y2) {
 void GraphBox::Line(double x1, double y1, double x2, double y2) { Line(x1, y1, x2, y2, kBlack); }
 
 void GraphBox::Line(double x1, double y1, double x2, double y2, const QColor& colour) {
+    addLine(x1, onScale(y1), x2, onScale(y2), colour);
+}
+
+void GraphBox::Line(const LineEnd& from, const LineEnd& to, const QColor& colour) {
+    addLine(from.x, onScale(from), to.x, onScale(to), colour);
+}
+
+double GraphBox::onScale(const LineEnd& end) const {
+    // Turned first: the last digits of what is moved up are those of the box.
+    return countsUp_ ? onScale(end.y) - end.above : end.y + end.above;
+}
+
+void GraphBox::addLine(double x1, double y1, double x2, double y2, const QColor& colour) {
     add({Stroke::Kind::Line, static_cast<float>(x1), static_cast<float>(y1), static_cast<float>(x2),
          static_cast<float>(y2), colour, style_, width_, scale()});
 }
@@ -162,8 +183,9 @@ void GraphBox::Line(double x1, double y1, double x2, double y2, const QColor& co
 void GraphBox::PSet(double x, double y) { PSet(x, y, kBlack); }
 
 void GraphBox::PSet(double x, double y, const QColor& colour) {
-    add({Stroke::Kind::Point, static_cast<float>(x), static_cast<float>(y), static_cast<float>(x),
-         static_cast<float>(y), colour, LineStyle::Solid, width_, scale()});
+    const auto onBox = static_cast<float>(onScale(y));
+    add({Stroke::Kind::Point, static_cast<float>(x), onBox, static_cast<float>(x), onBox, colour,
+         LineStyle::Solid, width_, scale(), Meaning::Point});
 }
 
 void GraphBox::Cls() {
@@ -183,7 +205,7 @@ GraphScale GraphBox::scale() const {
 }
 
 void GraphBox::place(Control& control, double x, double y) const {
-    const QPointF corner = Mapping(scale(), Control::place().size())(x, y);
+    const QPointF corner = Mapping(scale(), Control::place().size())(x, onScale(y));
     QRectF moved = control.place();
     moved.moveTopLeft(corner);
     control.setPlace(moved);
@@ -226,7 +248,11 @@ void GraphBox::setFramed(bool framed) {
     update();
 }
 
-void GraphBox::add(const Stroke& stroke) {
+void GraphBox::add(Stroke stroke) {
+    if (meaning_) {
+        stroke.meaning = *meaning_;
+        stroke.figure = figure_;
+    }
     if (keepsOnce_ && std::find(strokes_.begin(), strokes_.end(), stroke) != strokes_.end()) {
         return;
     }
@@ -278,6 +304,19 @@ void GraphBox::paintEvent(QPaintEvent* /*event*/) {
 void GraphBox::mousePressEvent(QMouseEvent* event) {
     if (!bare_) {
         event->accept();
+    }
+}
+
+Figure::Figure(GraphBox& box, Meaning meaning) : box_(box), isOutermost_(!box.meaning_) {
+    if (isOutermost_) {
+        box_.meaning_ = meaning;
+        ++box_.figure_;
+    }
+}
+
+Figure::~Figure() {
+    if (isOutermost_) {
+        box_.meaning_.reset();
     }
 }
 

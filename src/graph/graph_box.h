@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <vector>
 
 #include <QColor>
@@ -18,10 +20,39 @@ struct GraphScale {
     float x2 = 0;
     float y2 = 0;
 
+    /// From a y counted up from the lower border to one of the scale, or back: where the scale runs downwards
+    /// from 0.
+    [[nodiscard]] double turned(double y) const { return y2 - y; }
+
     bool operator==(const GraphScale&) const = default;
 };
 
 enum class LineStyle { Solid = 0, Dotted = 2 };
+
+/// What a figure is to somebody who looks at it.
+enum class Meaning {
+    Axis,
+    /// A mark of an axis: it stands at its x, or at its y.
+    TickOfX,
+    TickOfY,
+    /// Straight, broken or curved: strokes of which each begins where the last one ends, or leaves a gap.
+    Line,
+    /// Lines side by side that look like one.
+    ThickLine,
+    /// Points that follow one another.
+    DottedCurve,
+    /// Lines side by side that fill an area, each for the strip on its right.
+    Hatching,
+    Point,
+    /// A short line across an axis.
+    Mark,
+    /// A square of lines side by side where a line ends.
+    EndMark,
+    /// Two lines through one point.
+    Cross,
+    /// Two lines from one point.
+    Arrowhead,
+};
 
 /// One line or point as it was asked for, with all that it was drawn with.
 struct Stroke {
@@ -37,12 +68,25 @@ struct Stroke {
     LineStyle style = LineStyle::Solid;
     int width = 1;
     GraphScale scale;
+    Meaning meaning = Meaning::Line;
+    /// The same for all strokes of one figure, which follow one another; 0 for a figure of one stroke.
+    std::size_t figure = 0;
 
-    bool operator==(const Stroke&) const = default;
+    /// Compares what is drawn. What it means is nothing to be seen: a picture is the same whoever drew it,
+    /// and a frame that keeps each stroke once has it already.
+    bool operator==(const Stroke& other) const;
+};
+
+/// An end of a line, moved up by `above` from the y of its box: a mark has the same size wherever it stands.
+struct LineEnd {
+    double x;
+    double y;
+    double above;
 };
 
 /// A rectangle on which axes, ticks and curves are drawn, in coordinates of the exercise.
 ///
+/// A line that no `Figure` lays claim to is a `Meaning::Line` of its own, a point a `Meaning::Point`.
 /// What is drawn stays until `Cls`. Coordinates reach the box as singles. Whatever lies outside is clipped;
 /// infinities and numbers that no picture can show are drawn as far as they can be seen, NaN not at all.
 /// Texts are labels that stand on the box: `place` puts them by its scale.
@@ -57,6 +101,7 @@ public:
     void Scale(double x1, double y1, double x2, double y2);
     void Line(double x1, double y1, double x2, double y2);
     void Line(double x1, double y1, double x2, double y2, const QColor& colour);
+    void Line(const LineEnd& from, const LineEnd& to, const QColor& colour);
     void PSet(double x, double y);
     void PSet(double x, double y, const QColor& colour);
     /// Back to the bare background; scale, style and width stay.
@@ -90,6 +135,8 @@ public:
     void setFramed(bool framed);
     /// A help panel that is drawn on: its texts stand beside what is drawn, and need no halo.
     void setPanel(bool panel) { panel_ = panel; }
+    /// Of a scale that runs down from 0: the y of all operations is counted up from the lower border.
+    void setCountsUp(bool countsUp) { countsUp_ = countsUp; }
     /// A frame that is never cleared gets the same ticks with every exercise; it keeps each once.
     void setKeepsOnce(bool keepsOnce) { keepsOnce_ = keepsOnce; }
 
@@ -100,7 +147,12 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    void add(const Stroke& stroke);
+    friend class Figure;
+
+    [[nodiscard]] double onScale(double y) const { return countsUp_ ? scale().turned(y) : y; }
+    [[nodiscard]] double onScale(const LineEnd& end) const;
+    void addLine(double x1, double y1, double x2, double y2, const QColor& colour);
+    void add(Stroke stroke);
     void renewPicture();
 
     GraphScale scale_;
@@ -111,11 +163,33 @@ private:
     bool framed_ = false;
     bool panel_ = false;
     bool keepsOnce_ = false;
+    bool countsUp_ = false;
     std::vector<Stroke> strokes_;
+    // Of the figure that is being drawn, and of the last one.
+    std::optional<Meaning> meaning_;
+    std::size_t figure_ = 0;
 
     // What is painted already: the first `painted_` strokes.
     QPixmap picture_;
     std::size_t painted_ = 0;
+};
+
+/// While it lives, what is drawn on a box belongs to one figure. Within another one it is a part of that: the
+/// outermost says what is drawn.
+///
+///     const Figure cross(graph, Meaning::Cross);
+///     graph.Line(2, 3, 4, 3);
+///     graph.Line(3, 2, 3, 4);
+class Figure {
+public:
+    Figure(GraphBox& box, Meaning meaning);
+    Figure(const Figure&) = delete;
+    Figure& operator=(const Figure&) = delete;
+    ~Figure();
+
+private:
+    GraphBox& box_;
+    bool isOutermost_;
 };
 
 }  // namespace tavrune

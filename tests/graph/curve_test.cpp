@@ -12,7 +12,7 @@ namespace {
 TEST(PlotCurve, ChainsPiecesAlongARunningSum) {
     GraphBox graph;
     const Curve curve = [](double x) { return x * x + 2 * x + 3; };
-    plotCurve(graph, curve, {.start = -7, .step = 0.05, .neverMet = 7, .largest = 1000});
+    plotCurve(graph, curve, {.start = -7, .step = 0.05, .exactEnd = 7, .largest = 1000});
     ASSERT_GT(graph.strokes().size(), 500U);
     const test::StrokesIn in{graph.scale()};
     double x = -7;
@@ -44,7 +44,7 @@ TEST(PlotCurve, NeverMeetsItsExactEnd) {
         double x = range.start;
         for (int step = 0; step < 2000; ++step) {
             x += range.step;
-            EXPECT_NE(x, range.neverMet);
+            EXPECT_NE(x, range.exactEnd);
         }
     }
 }

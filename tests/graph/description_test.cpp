@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "graph/axes.h"
 #include "graph/curve.h"
-#include "graph/ticks.h"
 #include "support/decimal_mark.h"
 
 namespace tavrune {
@@ -37,23 +37,44 @@ protected:
         }
     }
 
+    /// Draws the lines as one figure.
+    void draw(Meaning meaning, const std::vector<QLineF>& lines, const QColor& colour) {
+        const Figure figure(box, meaning);
+        for (const QLineF& line : lines) {
+            box.Line(line.x1(), line.y1(), line.x2(), line.y2(), colour);
+        }
+    }
+
+    /// Draws again and again as one figure, with the multiples of a step.
+    void repeat(Meaning meaning, int times, double step, const std::function<void(double)>& draw) {
+        const Figure figure(box, meaning);
+        repeat(times, step, draw);
+    }
+
     GraphBox box;
 };
 
 TEST_F(Told, SaysThatNothingIsThere) { EXPECT_EQ(told(), "Ellers tom."); }
 
 TEST_F(Told, TakesTheAxesFromTheScaleAndNotFromTheirLines) {
-    box.Line(0, 10, 0, -10);
-    box.Line(-10, 0, 10, 0);
+    drawAxes(box, {.scale = box.scale(), .level = {-10, 10}, .upright = {10, -10}, .ticks = {}});
     EXPECT_EQ(told(), "Ellers tom.");
     box.Line(0, 20, 0, -20, kRed);
     EXPECT_EQ(told(), "Linie fra (0; 10) til (0; -10), rød.");
 }
 
+TEST_F(Told, TellsALineThatLiesOnAnAxis) {
+    box.Line(-10, 0, 10, 0);
+    EXPECT_EQ(told(), "Linie fra (-10; 0) til (10; 0), sort.");
+}
+
 TEST_F(Told, SaysHowFarTheTicksAreApart) {
-    drawTicksAlongX(box, {.from = -10, .before = 10}, {0.1});
-    drawTicksAlongX(box, {.from = -10, .before = 10, .step = 5}, {0.2, 0.3});
-    drawTicksAlongY(box, {.from = -10, .before = 10, .step = 5}, {0.05, 0.1});
+    drawAxes(box, {.scale = box.scale(),
+                   .level = {-10, 10},
+                   .upright = {10, -10},
+                   .ticks = {{.along = Along::X, .from = -10, .before = 10, .offAxis = {0.1}},
+                             {.along = Along::X, .from = -10, .before = 10, .step = 5, .offAxis = {0.2, 0.3}},
+                             {.along = Along::Y, .from = -10, .before = 10, .step = 5, .offAxis = {0.05}}}});
     EXPECT_EQ(told(),
               "Mærker for hver 1 på den vandrette akse og for hver 5 på den lodrette akse. Ellers tom.");
 }
@@ -93,7 +114,8 @@ TEST_F(Told, TellsWhatIsDrawnOverItselfOnce) {
 
 TEST_F(Told, CountsUpFromTheLowerBorderWhereTheScaleRunsDown) {
     box.Scale(0, 0, 20, 15);
-    box.Line(0, 15 - 12, 8, 15 - 4);
+    box.setCountsUp(true);
+    box.Line(0, 12, 8, 4);
     EXPECT_EQ(all(),
               "Vandret akse fra 0 til 20, lodret akse fra 0 til 15. Linie fra (0; 12) til (8; 4), sort.");
 }
@@ -110,20 +132,35 @@ TEST_F(Told, TellsAPoint) {
 }
 
 TEST_F(Told, TellsACross) {
-    box.Line(2.5, 4, 3.5, 4, kRed);
-    box.Line(3, 3.5, 3, 4.5, kRed);
+    draw(Meaning::Cross, {{2.5, 4, 3.5, 4}, {3, 3.5, 3, 4.5}}, kRed);
     EXPECT_EQ(told(), "Kryds i (3; 4), rød.");
 }
 
+TEST_F(Told, TellsTheMiddleOfACrossOfWhichHalfIsSeen) {
+    draw(Meaning::Cross, {{9.75, 4, 10.75, 4}, {10.25, 3.5, 10.25, 4.5}}, kRed);
+    EXPECT_EQ(told(), "Kryds i (10.25; 4), rød.");
+}
+
 TEST_F(Told, TellsTheHeadOfAnArrow) {
-    box.Line(3, 4, 2.5, 3.5, kGreen);
-    box.Line(3, 4, 3.5, 3.5, kGreen);
+    draw(Meaning::Arrowhead, {{3, 4, 2.5, 3.5}, {3, 4, 3.5, 3.5}}, kGreen);
     EXPECT_EQ(told(), "Pilespids ved (3; 4), grøn.");
 }
 
-TEST_F(Told, TellsAShortLineByItsMiddle) {
-    box.Line(3, -0.5, 3, 0.5, kRed);
+TEST_F(Told, TellsAMarkByItsMiddle) {
+    draw(Meaning::Mark, {{3, -0.5, 3, 0.5}}, kRed);
     EXPECT_EQ(told(), "Mærke i (3; 0), rød.");
+}
+
+TEST_F(Told, TellsMarksSideBySideEachByItself) {
+    for (const double x : {3.0, 3.1, 3.2}) {
+        draw(Meaning::Mark, {{x, -0.5, x, 0.5}}, kRed);
+    }
+    EXPECT_EQ(told(), "Mærke i (3; 0), rød. Mærke i (3.1; 0), rød. Mærke i (3.2; 0), rød.");
+}
+
+TEST_F(Told, TellsAShortLineAsALine) {
+    box.Line(3, -0.5, 3, 0.5, kRed);
+    EXPECT_EQ(told(), "Linie fra (3; -0.5) til (3; 0.5), rød.");
 }
 
 TEST_F(Told, TellsTheEndsOfALongLineOfWhichLittleIsSeen) {
@@ -132,49 +169,78 @@ TEST_F(Told, TellsTheEndsOfALongLineOfWhichLittleIsSeen) {
 }
 
 TEST_F(Told, TakesAMarkDrawnTwiceForOne) {
-    box.Line(3, -0.5, 3, 0.5, kRed);
-    box.Line(3, -0.5, 3, 0.5, kRed);
+    draw(Meaning::Mark, {{3, -0.5, 3, 0.5}}, kRed);
+    draw(Meaning::Mark, {{3, -0.5, 3, 0.5}}, kRed);
     EXPECT_EQ(told(), "Mærke i (3; 0), rød.");
 }
 
-TEST_F(Told, TakesShortLinesSideBySideForAMark) {
-    repeat(7, 0.05, [this](double t) { box.Line(2.85, 3.85 + t, 3.15, 3.85 + t, kRed); });
+TEST_F(Told, TellsTheMarkOfAnEndByItsMiddle) {
+    repeat(Meaning::EndMark, 7, 0.05, [this](double t) { box.Line(2.85, 3.85 + t, 3.15, 3.85 + t, kRed); });
     EXPECT_EQ(told(), "Mærke ved (3; 4), rød.");
 }
 
 TEST_F(Told, TellsTheMiddleOfAMarkOfWhichHalfIsSeen) {
-    repeat(7, 0.05, [this](double t) { box.Line(9.85, 3.85 + t, 10.15, 3.85 + t, kRed); });
+    repeat(Meaning::EndMark, 7, 0.05, [this](double t) { box.Line(9.85, 3.85 + t, 10.15, 3.85 + t, kRed); });
     EXPECT_EQ(told(), "Mærke ved (10; 4), rød.");
 }
 
-TEST_F(Told, TakesLongLinesSideBySideForAThickOne) {
-    repeat(5, 0.05, [this](double t) { box.Line(1, 4.9 + t, 8, 4.9 + t, kBlue); });
+TEST_F(Told, TellsAThickLineByItsMiddle) {
+    repeat(Meaning::ThickLine, 5, 0.05, [this](double t) { box.Line(1, 4.9 + t, 8, 4.9 + t, kBlue); });
     EXPECT_EQ(told(), "Tyk linie fra (1; 5) til (8; 5), blå.");
     box.Cls();
-    repeat(5, 0.05, [this](double t) { box.Line(4.9 + t, 1, 4.9 + t, 8, kBlue); });
+    repeat(Meaning::ThickLine, 5, 0.05, [this](double t) { box.Line(4.9 + t, 1, 4.9 + t, 8, kBlue); });
     EXPECT_EQ(told(), "Tyk linie fra (5; 1) til (5; 8), blå.");
 }
 
-TEST_F(Told, TakesManyLinesSideBySideForAHatching) {
-    repeat(400, 0.01, [this](double t) { box.Line(1 + t, 0, 1 + t, 2 + t, kBlue); });
+TEST_F(Told, TellsAShortThickLineAsALine) {
+    repeat(Meaning::ThickLine, 5, 0.05, [this](double t) { box.Line(1, 4.9 + t, 1.5, 4.9 + t, kBlue); });
+    EXPECT_EQ(told(), "Tyk linie fra (1; 5) til (1.5; 5), blå.");
+}
+
+TEST_F(Told, TakesALineWithoutLengthForAMark) {
+    box.Line(3, 4, 3, 4, kRed);
+    repeat(Meaning::ThickLine, 5, 0.05, [this](double t) { box.Line(1, 4.9 + t, 1, 4.9 + t, kBlue); });
+    EXPECT_EQ(told(), "Mærke i (3; 4), rød. Mærke ved (1; 5), blå.");
+}
+
+TEST_F(Told, TellsAHatching) {
+    repeat(Meaning::Hatching, 400, 0.01, [this](double t) { box.Line(1 + t, 0, 1 + t, 2 + t, kBlue); });
     EXPECT_EQ(told(), "Skraveret område fra x = 1 til x = 5, mellem y = 0 og y = 5.99, blå.");
 }
 
 TEST_F(Told, TellsAFlatHatchingAsAHatching) {
-    repeat(100, 0.01, [this](double t) { box.Line(2 + t, 0, 2 + t, -0.5, kBlue); });
+    repeat(Meaning::Hatching, 100, 0.01, [this](double t) { box.Line(2 + t, 0, 2 + t, -0.5, kBlue); });
     EXPECT_EQ(told(), "Skraveret område fra x = 2 til x = 3, mellem y = -0.5 og y = 0, blå.");
 }
 
-TEST_F(Told, JoinsTheTwoHalvesOfALineWithItsCorners) {
-    box.Line(0, 8, 4, 4, kGreen);
-    box.Line(4, 4, 10, 1, kGreen);
+TEST_F(Told, TellsABrokenLineWithItsCorners) {
+    draw(Meaning::Line, {{0, 8, 4, 4}, {4, 4, 10, 1}}, kGreen);
     EXPECT_EQ(told(), "Knækket linie gennem (0; 8), (4; 4) og (10; 1), grøn.");
 }
 
 TEST_F(Told, PassesByAPieceWithoutLength) {
-    box.Line(0, 8, 0, 8, kGreen);
-    box.Line(0, 8, 10, 1, kGreen);
+    draw(Meaning::Line, {{0, 8, 0, 8}, {0, 8, 10, 1}}, kGreen);
     EXPECT_EQ(told(), "Linie fra (0; 8) til (10; 1), grøn.");
+}
+
+TEST_F(Told, TellsThePiecesOfALineWithAGapApart) {
+    draw(Meaning::Line, {{0, 8, 4, 4}, {4, 3.9, 10, 1}}, kGreen);
+    EXPECT_EQ(told(), "Linie fra (0; 8) til (4; 4), grøn. Linie fra (4; 3.9) til (10; 1), grøn.");
+}
+
+TEST_F(Told, KeepsTwoLinesApartThatMeet) {
+    box.Line(0, 8, 4, 4, kGreen);
+    box.Line(4, 4, 10, 1, kGreen);
+    EXPECT_EQ(told(), "Linie fra (0; 8) til (4; 4), grøn. Linie fra (4; 4) til (10; 1), grøn.");
+}
+
+TEST_F(Told, TellsStrokesThatBelongToNoFigureEachByItself) {
+    const GraphScale scale = box.scale();
+    EXPECT_EQ(describe({{Stroke::Kind::Line, 1, 2, 3, 4, kRed, LineStyle::Solid, 1, scale},
+                        {Stroke::Kind::Line, 5, 6, 7, 8, kBlue, LineStyle::Solid, 1, scale}},
+                       scale),
+              "Vandret akse fra -10 til 10, lodret akse fra -10 til 10. "
+              "Linie fra (1; 2) til (3; 4), rød. Linie fra (5; 6) til (7; 8), blå.");
 }
 
 TEST_F(Told, KeepsLinesOfTwoColoursApart) {
@@ -185,26 +251,26 @@ TEST_F(Told, KeepsLinesOfTwoColoursApart) {
 
 TEST_F(Told, TellsACurveInOneSentenceWithItsTurns) {
     plotCurve(box, [](double x) { return x * x - 4 * x; },
-              {.start = -1, .step = 0.5, .neverMet = 100, .largest = 9});
+              {.start = -1, .step = 0.5, .exactEnd = 100, .largest = 9});
     EXPECT_EQ(told(), "Kurve af 15 streger fra (-1; 5) til (5.73; 10), lavest ved (2; -4), sort.");
 }
 
 TEST_F(Told, TellsHowACurveLeavesTheGraphAndComesBack) {
     plotCurve(box, [](double x) { return x * x * x - 12 * x; },
-              {.start = -4, .step = 0.25, .neverMet = 100, .largest = 25});
+              {.start = -4, .step = 0.25, .exactEnd = 100, .largest = 25});
     EXPECT_EQ(told(),
               "Kurve af 34 streger fra (-3.82; -10) til (-2.92; 10), fra (-0.9; 10) til (0.9; -10) "
               "og fra (2.92; -10) til (3.82; 10), sort.");
 }
 
 TEST_F(Told, TellsADottedCurve) {
-    repeat(300, 0.01, [this](double t) { box.PSet(1 + t, 2 + t); });
+    repeat(Meaning::DottedCurve, 300, 0.01, [this](double t) { box.PSet(1 + t, 2 + t); });
     EXPECT_EQ(told(), "Prikket kurve fra (1; 2) til (3.99; 4.99), sort.");
 }
 
 TEST_F(Told, TellsTwoDottedCurvesWhereOneJumps) {
-    repeat(100, 0.01, [this](double t) { box.PSet(1 + t, 2 + t); });
-    repeat(100, 0.01, [this](double t) { box.PSet(2 + t, 8 - t); });
+    repeat(Meaning::DottedCurve, 100, 0.01, [this](double t) { box.PSet(1 + t, 2 + t); });
+    repeat(Meaning::DottedCurve, 100, 0.01, [this](double t) { box.PSet(2 + t, 8 - t); });
     EXPECT_EQ(told(),
               "Prikket kurve fra (1; 2) til (1.99; 2.99), sort. "
               "Prikket kurve fra (2; 8) til (2.99; 7.01), sort.");

@@ -102,6 +102,98 @@ TEST_F(Box, HasTheScaleOfItsDesign) {
     EXPECT_EQ(box.scale(), (GraphScale{0, 0, 20, 15}));
 }
 
+TEST_F(Box, CountsUpFromTheLowerBorderWhereItIsToldTo) {
+    box.Scale(0, 0, 20, 15);
+    box.setCountsUp(true);
+    box.Line(1, 12.3, 8, 4);
+    box.PSet(3, 2, kBlue);
+    box.Line({1, 5, 0.15}, {2, 5, -0.15}, kRed);
+    const test::StrokesIn in{{0, 0, 20, 15}};
+    EXPECT_EQ(box.scale(), in.scale);
+    EXPECT_EQ(box.strokes(), (std::vector<Stroke>{in.line(1, 15 - 12.3, 8, 11), in.point(3, 13, kBlue),
+                                                  in.line(1, 9.85, 2, 10.15, kRed)}));
+    Label number(&box);
+    box.place(number, 10, 12);
+    EXPECT_EQ(number.place().topLeft(), QPointF(50, 20));
+}
+
+TEST_F(Box, MovesAnEndUpByTheLastDigitsOfItsOwnScale) {
+    box.Scale(0, 0, 10, 10);
+    box.setCountsUp(true);
+    constexpr double kTiny = 0x1p-56;
+    box.Line({1, 10, kTiny}, {2, 10, kTiny}, kRed);
+    EXPECT_EQ(box.strokes().back().y1, -0x1p-56F);
+}
+
+TEST_F(Box, MovesAnEndUpWhereYGrowsUpwards) {
+    box.Line({1, 5, 0.5}, {2, 5, -0.5}, kRed);
+    EXPECT_EQ(box.strokes(), std::vector{(test::StrokesIn{box.scale()}.line(1, 5.5, 2, 4.5, kRed))});
+}
+
+TEST_F(Box, TakesWhatIsNoFigureForALineOrAPointOfItsOwn) {
+    box.Line(1, 2, 3, 4);
+    box.PSet(1, 2);
+    EXPECT_EQ(box.strokes().at(0).meaning, Meaning::Line);
+    EXPECT_EQ(box.strokes().at(0).figure, 0U);
+    EXPECT_EQ(box.strokes().at(1).meaning, Meaning::Point);
+    EXPECT_EQ(box.strokes().at(1).figure, 0U);
+}
+
+TEST_F(Box, KnowsTheFigureOfEachStroke) {
+    for (const Meaning meaning : {Meaning::Cross, Meaning::Hatching}) {
+        const Figure figure(box, meaning);
+        box.Line(1, 2, 3, 4);
+        box.PSet(1, 2);
+    }
+    box.Line(1, 2, 3, 4);
+    const std::vector<Stroke>& strokes = box.strokes();
+    ASSERT_EQ(strokes.size(), 5U);
+    EXPECT_EQ(strokes[0].meaning, Meaning::Cross);
+    EXPECT_EQ(strokes[1].meaning, Meaning::Cross);
+    EXPECT_EQ(strokes[2].meaning, Meaning::Hatching);
+    EXPECT_EQ(strokes[4].meaning, Meaning::Line);
+    EXPECT_EQ(strokes[0].figure, strokes[1].figure);
+    EXPECT_NE(strokes[1].figure, strokes[2].figure);
+    EXPECT_EQ(strokes[2].figure, strokes[3].figure);
+    EXPECT_EQ(strokes[4].figure, 0U);
+}
+
+TEST_F(Box, TakesAFigureWithinAnotherForAPartOfIt) {
+    {
+        const Figure whole(box, Meaning::Hatching);
+        {
+            const Figure part(box, Meaning::Cross);
+            box.Line(1, 2, 3, 4);
+        }
+        box.Line(3, 4, 5, 6);
+    }
+    EXPECT_EQ(box.strokes().at(0).meaning, Meaning::Hatching);
+    EXPECT_EQ(box.strokes().at(1).meaning, Meaning::Hatching);
+    EXPECT_EQ(box.strokes().at(0).figure, box.strokes().at(1).figure);
+}
+
+TEST_F(Box, FindsStrokesEqualThatLookTheSameWhateverTheyMean) {
+    const Stroke line{Stroke::Kind::Line, 1, 2, 3, 4, kRed, LineStyle::Solid, 1, {0, 1, 1, 0}};
+    Stroke other = line;
+    other.meaning = Meaning::Cross;
+    other.figure = 7;
+    EXPECT_EQ(line, other);
+    const auto differs = [&line](auto change) {
+        Stroke changed = line;
+        change(changed);
+        return changed != line;
+    };
+    EXPECT_TRUE(differs([](Stroke& s) { s.kind = Stroke::Kind::Point; }));
+    EXPECT_TRUE(differs([](Stroke& s) { s.x1 = 9; }));
+    EXPECT_TRUE(differs([](Stroke& s) { s.y1 = 9; }));
+    EXPECT_TRUE(differs([](Stroke& s) { s.x2 = 9; }));
+    EXPECT_TRUE(differs([](Stroke& s) { s.y2 = 9; }));
+    EXPECT_TRUE(differs([](Stroke& s) { s.colour = kBlue; }));
+    EXPECT_TRUE(differs([](Stroke& s) { s.style = LineStyle::Dotted; }));
+    EXPECT_TRUE(differs([](Stroke& s) { s.width = 2; }));
+    EXPECT_TRUE(differs([](Stroke& s) { s.scale.y2 = 9; }));
+}
+
 TEST_F(Box, KeepsADoubledTickOnceWhereItIsToldTo) {
     box.setKeepsOnce(true);
     for (int exercise = 0; exercise < 1000; ++exercise) {

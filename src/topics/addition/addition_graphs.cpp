@@ -17,22 +17,35 @@ constexpr double kWideTickStep = 0.9;
 
 }  // namespace
 
+void drawTickOfQ(GraphBox& frame, double x, double top, double bottom) {
+    const Figure tick(frame, Meaning::TickOfX);
+    frame.Line(x, top, x, bottom);
+}
+
+void drawTickOfP(GraphBox& frame, double y) {
+    const Figure tick(frame, Meaning::TickOfY);
+    frame.Line(0.8, y, 1, y);
+}
+
 void drawFrameTicks(GraphBox& frame) {
     stepThrough(kFirstTick, kLastTick, kTickStep, [&frame](double t) {
-        frame.Line(t + 0.8, 8.2, t + 0.8, 8.4);
-        frame.Line(0.8, t, 1, t);
+        drawTickOfQ(frame, t + 0.8, 8.2, 8.4);
+        drawTickOfP(frame, t);
     });
 }
 
 void drawWideFrameTicks(GraphBox& frame) {
-    stepThrough(kFirstTick, kLastTick, kTickStep,
-                [&frame](double t) { frame.Line(0.8, t + 0.8, 1, t + 0.8); });
+    stepThrough(kFirstTick, kLastTick, kTickStep, [&frame](double t) { drawTickOfP(frame, t + 0.8); });
     stepThrough(kFirstWideTick, kLastWideTick, kWideTickStep,
-                [&frame](double t) { frame.Line(t, 9, t, 9.2); });
+                [&frame](double t) { drawTickOfQ(frame, t, 9, 9.2); });
 }
 
-void drawPiece(GraphBox& box, double top, const Piece& piece, double from, double to, const QColor& colour) {
-    box.Line(from, top - piece.at(from), to, top - piece.at(to), colour);
+void drawPiece(GraphBox& box, const Piece& piece, double from, double to, const QColor& colour) {
+    box.Line(from, piece.at(from), to, piece.at(to), colour);
+}
+
+void drawMarkStroke(GraphBox& box, double x, double price) {
+    box.Line({x, price, kHalfMark}, {x, price, -kHalfMark}, kRed);
 }
 
 void drawMark(GraphBox& box, const TableCell& quantity, double price) {
@@ -42,20 +55,21 @@ void drawMark(GraphBox& box, const TableCell& quantity, double price) {
     } else if (quantity.isNumeric()) {
         left = quantity.number() - kHalfMark;
     }
-    stepThrough(left, left + kMarkSize, kStroke, [&box, price](double x) {
-        box.Line(x, kTopPrice - price - kHalfMark, x, kTopPrice - price + kHalfMark, kRed);
-    });
+    const Figure mark(box, Meaning::EndMark);
+    stepThrough(left, left + kMarkSize, kStroke, [&](double x) { drawMarkStroke(box, x, price); });
 }
 
-void drawThickLine(GraphBox& box, double from, double to, double middle, const QColor& colour) {
-    stepThrough(-kHalfThickness, kHalfThickness, kStroke,
-                [&](double t) { box.Line(from, middle - t, to, middle - t, colour); });
+void drawThickLine(GraphBox& box, double from, double to, double price, const QColor& colour) {
+    const Figure line(box, Meaning::ThickLine);
+    stepThrough(-kHalfThickness, kHalfThickness, kStroke, [&](double t) {
+        box.Line({from, price, t}, {to, price, t}, colour);
+    });
 }
 
 void drawBand(GraphBox& box, double from, double to, double price, const QColor& colour) {
     const double base = price == 0 ? 0 : price - kHalfThickness;
-    stepThrough(base, base + kThickness, kStroke,
-                [&](double y) { box.Line(from, kTopPrice - y, to, kTopPrice - y, colour); });
+    const Figure band(box, Meaning::ThickLine);
+    stepThrough(base, base + kThickness, kStroke, [&](double y) { box.Line(from, y, to, y, colour); });
 }
 
 }  // namespace tavrune

@@ -37,25 +37,29 @@ void stepThrough(double from, double to, double step, Action action) {
     }
 }
 
-// Ticks, drawn with each exercise: the frames keep identical ones once.
+// Ticks, drawn with each exercise: the frames keep identical ones once. Those of quantities stand upright,
+// those of prices lead up to the left edge of the graph.
+void drawTickOfQ(GraphBox& frame, double x, double top, double bottom);
+void drawTickOfP(GraphBox& frame, double y);
 /// Round a graph of 0..10 on both axes.
 void drawFrameTicks(GraphBox& frame);
 /// Round a graph of 0..20 in Q and 0..10 in P.
 void drawWideFrameTicks(GraphBox& frame);
 
-/// A piece of a function on a box whose y runs downwards from the price `top`: from Q = `from` to Q = `to`.
-void drawPiece(GraphBox& box, double top, const Piece& piece, double from, double to,
-               const QColor& colour = kBlack);
+// Prices are counted up on all boxes but the frames.
+/// A piece of a function from Q = `from` to Q = `to`.
+void drawPiece(GraphBox& box, const Piece& piece, double from, double to, const QColor& colour = kBlack);
 
 /// A red square at a quantity and a price, of upright strokes: beside the box for a blank quantity, at the
-/// right edge for "oo". Prices run downwards from the top price.
+/// right edge for "oo".
 void drawMark(GraphBox& box, const TableCell& quantity, double price);
+/// One of its strokes.
+void drawMarkStroke(GraphBox& box, double x, double price);
 
-/// A thick level line from Q = `from` to Q = `to`, as much of it above y = `middle` as below.
-void drawThickLine(GraphBox& box, double from, double to, double middle, const QColor& colour);
+/// A thick level line from Q = `from` to Q = `to`, as much of it above the price as below.
+void drawThickLine(GraphBox& box, double from, double to, double price, const QColor& colour);
 
-/// A thick level line from Q = `from` to Q = `to` at a price, standing on the axis for the price 0. Prices
-/// run downwards from the top price.
+/// A thick level line from Q = `from` to Q = `to` at a price, standing on the axis for the price 0.
 void drawBand(GraphBox& box, double from, double to, double price, const QColor& colour);
 
 }  // namespace tavrune

@@ -31,8 +31,8 @@ void Laddi1::showTask() {
     ui_->function1Formula->setCaption(functionText(state_.function1()));
     ui_->function2Formula->setCaption(functionText(state_.function2()));
     clearGraphs();
-    drawPiece(*ui_->function1Graph, kTopPrice, state_.function1(), 0, kLastGivenQ);
-    drawPiece(*ui_->function2Graph, kTopPrice, state_.function2(), 0, kLastGivenQ);
+    drawPiece(*ui_->function1Graph, state_.function1(), 0, kLastGivenQ);
+    drawPiece(*ui_->function2Graph, state_.function2(), 0, kLastGivenQ);
 }
 
 void Laddi1::showRows() {

@@ -9,8 +9,9 @@ namespace tavrune {
 namespace {
 
 void drawFunction(GraphBox& box, const KinkedFunction& f) {
-    drawPiece(box, kTopPrice, f.before, 0, f.kink);
-    drawPiece(box, kTopPrice, f.after, f.kink, kLastGivenQ);
+    const Figure line(box, Meaning::Line);
+    drawPiece(box, f.before, 0, f.kink);
+    drawPiece(box, f.after, f.kink, kLastGivenQ);
 }
 
 void markEnds(GraphBox& box, const KinkedFunction& f) {

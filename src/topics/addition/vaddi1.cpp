@@ -74,8 +74,8 @@ void Vaddi1::drawGraphs() {
     drawFrameTicks(*ui_->function1GraphFrame);
     drawFrameTicks(*ui_->function2GraphFrame);
     drawWideFrameTicks(*ui_->resultGraphFrame);
-    drawPiece(*ui_->function1Graph, kTopPrice, state_.function1(), 0, kLastGivenQ);
-    drawPiece(*ui_->function2Graph, kTopPrice, state_.function2(), 0, kLastGivenQ);
+    drawPiece(*ui_->function1Graph, state_.function1(), 0, kLastGivenQ);
+    drawPiece(*ui_->function2Graph, state_.function2(), 0, kLastGivenQ);
 }
 
 void Vaddi1::judge() {
@@ -89,11 +89,12 @@ void Vaddi1::judge() {
 
 void Vaddi1::drawSum() {
     GraphBox& box = *ui_->resultGraph;
+    const Figure line(box, Meaning::Line);
     if (state_.segmentCount == 2) {
-        drawPiece(box, kTopPrice, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
-        drawPiece(box, kTopPrice, state_.secondSegment(), state_.kinkQuantity, kLastSumQ, kSumGreen);
+        drawPiece(box, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
+        drawPiece(box, state_.secondSegment(), state_.kinkQuantity, kLastSumQ, kSumGreen);
     } else {
-        drawPiece(box, kTopPrice, state_.secondSegment(), 0, kLastSumQ, kSumGreen);
+        drawPiece(box, state_.secondSegment(), 0, kLastSumQ, kSumGreen);
     }
 }
 
@@ -116,11 +117,11 @@ void Vaddi1::fillTable() {
 
 void Vaddi1::drawTypedSum() {
     GraphBox& box = *ui_->resultGraph;
+    const Figure line(box, Meaning::Line);
     // Kept (vaddi1-hidden-row): with one segment too, from what stands in the hidden row.
-    drawPiece(box, kTopPrice, rows_.typedSegment(kFirstRow), 0, rows_.typed(kFirstRow, Slot::End), kRed);
+    drawPiece(box, rows_.typedSegment(kFirstRow), 0, rows_.typed(kFirstRow, Slot::End), kRed);
     const double end = state_.upperEndAsked ? rows_.typed(kSecondRow, Slot::End) : kLastSumQ;
-    drawPiece(box, kTopPrice, rows_.typedSegment(kSecondRow), rows_.typed(kSecondRow, Slot::Start), end,
-              kRed);
+    drawPiece(box, rows_.typedSegment(kSecondRow), rows_.typed(kSecondRow, Slot::Start), end, kRed);
 }
 
 void Vaddi1::fillAnswer() {
@@ -134,10 +135,10 @@ void Vaddi1::fillAnswer() {
     rows_.write(kFirstRow, Slot::End, state_.kinkQuantity);
     rows_.write(kSecondRow, Slot::End, state_.upperEnd);
     rows_.whiten();
+    const Figure line(*ui_->resultGraph, Meaning::Line);
     // Kept (vaddi1-lone-dot): always as two segments, of which the first collapses to a dot with one.
-    drawPiece(*ui_->resultGraph, kTopPrice, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
-    drawPiece(*ui_->resultGraph, kTopPrice, state_.secondSegment(), state_.kinkQuantity, kLastSumQ,
-              kSumGreen);
+    drawPiece(*ui_->resultGraph, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
+    drawPiece(*ui_->resultGraph, state_.secondSegment(), state_.kinkQuantity, kLastSumQ, kSumGreen);
 }
 
 void Vaddi1::help() { openPanel(ui_->helpPanel, ui_->showPrices); }

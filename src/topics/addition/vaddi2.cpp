@@ -11,11 +11,11 @@ namespace {
 /// Well past the end of the sum on its graph.
 constexpr double kBeyondQ = 50;
 /// The middle of a thick line that stands on the axis.
-constexpr double kOnTheAxis = 9.9;
+constexpr double kOnTheAxis = 0.1;
 
 /// A thick level line round a price; standing on the axis for the price 0.
 void drawBar(GraphBox& box, double from, double to, double price, const QColor& colour) {
-    drawThickLine(box, from, to, price == 0 ? kOnTheAxis : kTopPrice - price, colour);
+    drawThickLine(box, from, to, price == 0 ? kOnTheAxis : price, colour);
 }
 
 }  // namespace
@@ -92,7 +92,7 @@ void Vaddi2::drawGraphs() {
     for (std::size_t f = 0; f < given_.size(); ++f) {
         given_[f].graph.box->Cls();
         drawFrameTicks(*given_[f].graph.frame);
-        drawPiece(*given_[f].graph.box, kTopPrice, state_.function(f), 0, kLastGivenQ);
+        drawPiece(*given_[f].graph.box, state_.function(f), 0, kLastGivenQ);
     }
 }
 
@@ -106,10 +106,11 @@ void Vaddi2::judge() {
 }
 
 void Vaddi2::drawSum(double lastQ) {
+    const Figure line(*ui_->resultGraph, Meaning::Line);
     const int last = state_.segmentCount - 1;
     for (int s = 0; s <= last; ++s) {
         const double to = s == last ? lastQ : state_.endOf(s).number();
-        drawPiece(*ui_->resultGraph, kTopPrice, state_.segment(s), state_.startOf(s).number(), to, kSumGreen);
+        drawPiece(*ui_->resultGraph, state_.segment(s), state_.startOf(s).number(), to, kSumGreen);
     }
 }
 
@@ -124,6 +125,7 @@ void Vaddi2::giveAnswer() {
 
 void Vaddi2::drawTypedSum() {
     GraphBox& box = *ui_->resultGraph;
+    const Figure line(box, Meaning::Line);
     const auto typedEnd = [this](int row, bool isLast) {
         return isLast && !state_.upperEndAsked() ? kBeyondQ : rows_.typed(row, Slot::End);
     };
@@ -134,13 +136,12 @@ void Vaddi2::drawTypedSum() {
         const Piece atFarEnd{typed.slope, rows_.typed(kThirdRow, Slot::Intercept)};
         const double from = rows_.typed(kLoneRow, Slot::Start);
         const double to = typedEnd(kLoneRow, true);
-        box.Line(from, kTopPrice - typed.at(from), to, kTopPrice - atFarEnd.at(to), kRed);
+        box.Line(from, typed.at(from), to, atFarEnd.at(to), kRed);
         return;
     }
     for (int row = 0; row < state_.segmentCount; ++row) {
         const double from = row == kFirstRow ? 0 : rows_.typed(row, Slot::Start);
-        drawPiece(box, kTopPrice, rows_.typedSegment(row), from,
-                  typedEnd(row, row == state_.segmentCount - 1), kRed);
+        drawPiece(box, rows_.typedSegment(row), from, typedEnd(row, row == state_.segmentCount - 1), kRed);
     }
 }
 

@@ -14,16 +14,15 @@ const QColor kStackTeal = rgb(0, 200, 200);
 
 /// A red square at a quantity and a price.
 void drawEndMark(GraphBox& box, double quantity, double price) {
-    stepThrough(-kHalfMark, kHalfMark, kStroke, [&](double offset) {
-        const double x = quantity + offset;
-        box.Line(x, kTopPrice - price - kHalfMark, x, kTopPrice - price + kHalfMark, kRed);
-    });
+    const Figure mark(box, Meaning::EndMark);
+    stepThrough(-kHalfMark, kHalfMark, kStroke,
+                [&](double offset) { drawMarkStroke(box, quantity + offset, price); });
 }
 
 /// An upright line where one piece passes into the next.
 void drawJoin(GraphBox& box, const Piece& before, double end, const Piece& after, double start,
               const QColor& colour) {
-    box.Line(end, kTopPrice - before.at(end), start, kTopPrice - after.at(start), colour);
+    box.Line(end, before.at(end), start, after.at(start), colour);
 }
 
 }  // namespace
@@ -157,15 +156,17 @@ void Vaddi3::drawGivenFunctions() {
     const Vaddi3State& s = state_;
     GraphBox& first = *ui_->function1Graph;
     const double kinkQ = s.kinkQuantity;
-    const double kinkFirst = kTopPrice - s.priceAtKinkFirst;
-    const double kinkSecond = kTopPrice - s.priceAtKinkSecond;
-    first.Line(0, kTopPrice - s.firstIntercept, kinkQ, kinkFirst);
-    first.Line(kinkQ, kinkSecond, kLastGivenQ, kTopPrice - (kLastGivenQ * s.secondSlope + s.secondIntercept));
+    const double kinkFirst = s.priceAtKinkFirst;
+    const double kinkSecond = s.priceAtKinkSecond;
+    {
+        const Figure line(first, Meaning::Line);
+        first.Line(0, s.firstIntercept, kinkQ, kinkFirst);
+        first.Line(kinkQ, kinkSecond, kLastGivenQ, kLastGivenQ * s.secondSlope + s.secondIntercept);
+    }
     if (s.kinkKind == KinkKind::JumpDown || s.isJumpUp()) {
         first.Line(kinkQ, kinkFirst, kinkQ, kinkSecond);
     }
-    ui_->function2Graph->Line(0, kTopPrice - s.intercept2, kLastGivenQ,
-                              kTopPrice - (kLastGivenQ * s.slope2 + s.intercept2));
+    ui_->function2Graph->Line(0, s.intercept2, kLastGivenQ, kLastGivenQ * s.slope2 + s.intercept2);
 }
 
 void Vaddi3::focusOnTable() {
@@ -183,10 +184,11 @@ void Vaddi3::judge() {
 }
 
 void Vaddi3::drawSum() {
+    const Figure line(*ui_->resultGraph, Meaning::Line);
     const int count = state_.segmentCount();
     for (int i = 0; i < count; ++i) {
         const SumSegment& segment = state_.segments[static_cast<std::size_t>(i)];
-        drawPiece(*ui_->resultGraph, kTopPrice, segment.piece, i == 0 ? 0 : segment.startQ.number(),
+        drawPiece(*ui_->resultGraph, segment.piece, i == 0 ? 0 : segment.startQ.number(),
                   i + 1 == count ? kLastSumQ : segment.endQ.number(), kSumGreen);
     }
 }
@@ -215,22 +217,31 @@ void Vaddi3::giveAnswer() {
 }
 
 void Vaddi3::drawTypedSum() {
+    drawTypedPieces();
+    drawTypedJoins();
+}
+
+void Vaddi3::drawTypedPieces() {
     GraphBox& box = *ui_->resultGraph;
+    const Figure line(box, Meaning::Line);
     const int count = state_.segmentCount();
     for (int i = 0; i < count; ++i) {
         const int row = rowOf(i, count);
         const bool endsByRow = i + 1 < count || state_.upperEndAsked;
-        drawPiece(box, kTopPrice, rows_.typedSegment(row),
+        drawPiece(box, rows_.typedSegment(row),
                   rows_.box(row, Slot::Start) == nullptr ? 0 : rows_.typed(row, Slot::Start),
                   endsByRow ? rows_.typed(row, Slot::End) : kLastSumQ, kRed);
     }
-    for (int row = 1; row < count; ++row) {
+}
+
+void Vaddi3::drawTypedJoins() {
+    for (int row = 1; row < state_.segmentCount(); ++row) {
         const Piece before = rows_.typedSegment(row - 1);
         const Piece after = rows_.typedSegment(row);
         const double end = rows_.typed(row - 1, Slot::End);
         const double start = rows_.typed(row, Slot::Start);
         if (start == end && before.slope != 0 && after.slope != 0) {
-            drawJoin(box, before, end, after, start, kRed);
+            drawJoin(*ui_->resultGraph, before, end, after, start, kRed);
         }
     }
 }
@@ -339,11 +350,11 @@ void Vaddi3::drawStacks() {
             }
             const TableCell& first = state_.column(quantity)[row];
             if (first.isNumeric()) {
-                drawThickLine(box, 0, first.number(), kTopPrice - price, kStackTeal);
+                drawThickLine(box, 0, first.number(), price, kStackTeal);
             }
             if (second.isNumeric()) {
                 drawThickLine(box, first.isNumeric() ? first.number() : 0, state_.column(total)[row].number(),
-                              kTopPrice - price, kBandGreen);
+                              price, kBandGreen);
             }
         }
     }

@@ -48,6 +48,8 @@ private:
     void drawGraphs();
     void drawGivenFunctions();
     void drawTypedSum();
+    void drawTypedPieces();
+    void drawTypedJoins();
     void drawSum();
     void drawJoins();
     void fillPrices();

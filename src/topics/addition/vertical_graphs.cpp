@@ -12,41 +12,42 @@ constexpr double kTallTickStep = 0.925;
 
 void drawTallFrameTicks(GraphBox& frame) {
     stepThrough(kFirstTick, kLastTick, kTickStep,
-                [&frame](double t) { frame.Line(t + 0.8, 19.5, t + 0.8, 19.75); });
-    stepThrough(kFirstTallTick, kLastTallTick, kTallTickStep,
-                [&frame](double t) { frame.Line(0.8, t, 1, t); });
+                [&frame](double t) { drawTickOfQ(frame, t + 0.8, 19.5, 19.75); });
+    stepThrough(kFirstTallTick, kLastTallTick, kTallTickStep, [&frame](double t) { drawTickOfP(frame, t); });
 }
 
 void drawLevelMark(GraphBox& box, double quantity, double price) {
+    const Figure mark(box, Meaning::EndMark);
     stepThrough(-kHalfMark, kHalfMark, kStroke, [&](double t) {
-        const double y = kTopPrice - price + t;
-        box.Line(quantity - kHalfMark, y, quantity + kHalfMark, y, kRed);
+        box.Line({quantity - kHalfMark, price, -t}, {quantity + kHalfMark, price, -t}, kRed);
     });
 }
 
 void drawUprights(GraphBox& box, const std::vector<double>& quantities) {
     box.DrawStyle(LineStyle::Dotted);
     for (const double quantity : quantities) {
-        box.Line(quantity, 0, quantity, kTopPrice);
+        box.Line(quantity, kTopPrice, quantity, 0);
     }
     box.DrawStyle(LineStyle::Solid);
 }
 
 void drawSum(GraphBox& box, const VerticalSum& sum) {
+    const Figure line(box, Meaning::Line);
     for (std::size_t segment = 0; segment < sum.segments.size(); ++segment) {
         const double from = segment == 0 ? 0 : sum.breaks[segment - 1];
         const double to = segment == sum.last() ? kLastGivenQ : sum.breaks[segment];
-        drawPiece(box, kSumTop, sum.segments[segment], from, to, kSumGreen);
+        drawPiece(box, sum.segments[segment], from, to, kSumGreen);
     }
 }
 
 void drawTypedSum(GraphBox& box, const AnswerRows& rows, const VerticalSum& sum) {
+    const Figure line(box, Meaning::Line);
     const int last = sum.rowOfSegment(sum.last());
     for (int row = 0; row <= last; ++row) {
         const double from = row == 0 ? 0 : rows.typed(row, Slot::Start);
         const bool isEndTyped = row != last || sum.upperEndAsked;
         const double to = isEndTyped ? rows.typed(row, Slot::End) : kLastGivenQ;
-        drawPiece(box, kSumTop, rows.typedSegment(row), from, to, kRed);
+        drawPiece(box, rows.typedSegment(row), from, to, kRed);
     }
 }
 

@@ -9,11 +9,8 @@
 
 namespace tavrune {
 
-/// The highest price of the tall box of 0..10 in Q and 0..20 in P on which the sum stands; the given
-/// functions stand on boxes of 0..10 on both axes. Prices run downwards from the top.
-inline constexpr double kSumTop = 20;
-
-/// Ticks round the tall graph, drawn with each exercise: its frame keeps identical ones once.
+/// Ticks round the tall graph of 0..10 in Q and 0..20 in P on which the sum stands, drawn with each exercise:
+/// its frame keeps identical ones once.
 void drawTallFrameTicks(GraphBox& frame);
 
 /// A red square at a quantity and a price of a given function, of level strokes.

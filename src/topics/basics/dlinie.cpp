@@ -5,8 +5,7 @@
 
 #include "controls/fraction.h"
 #include "controls/panel.h"
-#include "graph/graph_box.h"
-#include "graph/ticks.h"
+#include "graph/axes.h"
 #include "numeric/text.h"
 #include "topics/basics/ui_dlinie.h"
 
@@ -17,9 +16,16 @@ constexpr int kEnd = 10;
 constexpr double kFractionLeft = fromTwips(480);
 constexpr double kGap = 6;
 
-/// How far the tick dots stand off their axis.
-constexpr double kOffXAxis = 0.1;
-constexpr double kOffYAxis = 0.07;
+// Kept (dlinie-missing-dots): the far ends go without a dot, and the Y axis without its lowest.
+const Axes& axes() {
+    static const Axes kAxes{
+        .scale = {-kEnd, kEnd, kEnd, -kEnd},
+        .level = {-kEnd, kEnd},
+        .upright = {kEnd, -kEnd},
+        .ticks = {{.along = Along::X, .from = -kEnd, .before = kEnd, .offAxis = {0.1}},
+                  {.along = Along::Y, .from = -kEnd + 1, .before = kEnd, .offAxis = {0.07}}}};
+    return kAxes;
+}
 
 /// A number at an axis, and where its top left corner stands.
 struct AxisMark {
@@ -106,7 +112,6 @@ Dlinie::Dlinie(Draws& draws) : ExerciseForm(PageName::Dlinie, draws), ui_(std::m
 Dlinie::~Dlinie() = default;
 
 void Dlinie::opened() {
-    ui_->graph->Scale(-kEnd, kEnd, kEnd, -kEnd);
     // Kept (dlinie-level-first): the first exercise alone may have a slope of 0.
     ask(ZeroSlope::Allowed);
 }
@@ -121,10 +126,12 @@ void Dlinie::newExercise() {
 
 void Dlinie::ask(ZeroSlope zeroSlope) {
     showAsking();
-    ui_->graph->Cls();
     ui_->slope->setContent("");
     ui_->intercept->setContent("");
-    drawAxes();
+    drawAxes(*ui_->graph, axes());
+    for (const auto& [name, x, y] : kAxisMarks) {
+        ui_->graph->place(*design()->findChild<Label*>(name), x, y);
+    }
 
     tavrune::newExercise(state_, draws(), zeroSlope);
 
@@ -135,18 +142,6 @@ void Dlinie::ask(ZeroSlope zeroSlope) {
         ui_->secondFact->setCaption(task->secondFact);
     }
     focusOn(ui_->slope);
-}
-
-void Dlinie::drawAxes() {
-    GraphBox& graph = *ui_->graph;
-    graph.Line(0, kEnd, 0, -kEnd);
-    graph.Line(-kEnd, 0, kEnd, 0);
-    // Kept (dlinie-missing-dots): the far ends go without a dot, and the Y axis without its lowest.
-    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd}, {kOffXAxis});
-    drawTicksAlongY(graph, {.from = -kEnd + 1, .before = kEnd}, {kOffYAxis});
-    for (const auto& [name, x, y] : kAxisMarks) {
-        graph.place(*design()->findChild<Label*>(name), x, y);
-    }
 }
 
 void Dlinie::drawLine(double slope, double intercept, const QColor& colour) {

@@ -30,7 +30,6 @@ protected:
 
 private:
     void ask(ZeroSlope zeroSlope);
-    void drawAxes();
     void drawLine(double slope, double intercept, const QColor& colour);
 
     void showSlopeOfTwoPoints();

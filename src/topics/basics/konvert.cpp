@@ -14,8 +14,8 @@ constexpr const char* kBlankText = " ";
 // Lighter than the green of what is right elsewhere.
 const QColor kLightGreen = rgb(0, 190, 0);
 
-// The graph: its second axis runs downwards, so a price is counted up from the base.
-constexpr int kBase = 15;
+// The graph.
+constexpr int kTopPrice = 15;
 constexpr int kLastUnit = 20;
 
 // The frame round it, in whose scale the graph begins one unit from the left and 0.2 from the top. Its ticks
@@ -27,7 +27,7 @@ constexpr double kQuantityTickEnd = 15.4;
 constexpr double kPriceTickEnd = 0.8;
 
 // The graph of the example in the help.
-constexpr int kExampleBase = 10;
+constexpr int kExampleTop = 10;
 constexpr int kExampleLastUnit = 20;
 /// How far the P axis keeps off the edges.
 constexpr int kExampleInset = 1;
@@ -119,16 +119,19 @@ void Konvert::blankWorkedSolution() {
 }
 
 void Konvert::drawTicks() {
+    GraphBox& frame = *ui_->graphFrame;
     for (int x = kFrameLeft; x <= kFrameLeft + kLastUnit; ++x) {
-        ui_->graphFrame->Line(x, kFrameBase, x, kQuantityTickEnd);
+        const Figure tick(frame, Meaning::TickOfX);
+        frame.Line(x, kFrameBase, x, kQuantityTickEnd);
     }
-    for (int unit = 0; unit <= kBase; ++unit) {
-        ui_->graphFrame->Line(kPriceTickEnd, kFrameTop + unit, kFrameLeft, kFrameTop + unit);
+    for (int unit = 0; unit <= kTopPrice; ++unit) {
+        const Figure tick(frame, Meaning::TickOfY);
+        frame.Line(kPriceTickEnd, kFrameTop + unit, kFrameLeft, kFrameTop + unit);
     }
 }
 
 void Konvert::drawFunction(double slope, double constant, const QColor& colour) {
-    ui_->graph->Line(0, kBase - constant, kLastUnit, kBase - (kLastUnit * slope + constant), colour);
+    ui_->graph->Line(0, constant, kLastUnit, kLastUnit * slope + constant, colour);
 }
 
 void Konvert::judge() {
@@ -166,10 +169,13 @@ void Konvert::help() {
 
 void Konvert::drawExample() {
     GraphBox& graph = *ui_->helpGraph;
-    graph.Line(kExampleInset, kExampleInset, kExampleInset, kExampleBase - kExampleInset);
-    graph.Line(0, kExampleBase, kExampleLastUnit, kExampleBase);
+    {
+        const Figure axes(graph, Meaning::Axis);
+        graph.Line(kExampleInset, kExampleTop - kExampleInset, kExampleInset, kExampleInset);
+        graph.Line(0, 0, kExampleLastUnit, 0);
+    }
     for (const auto& [line, colour] : {std::pair{kExampleGiven, kBlack}, {kExampleConverted, kLightGreen}}) {
-        graph.Line(0, kExampleBase - line.constant, line.root, kExampleBase, colour);
+        graph.Line(0, line.constant, line.root, 0, colour);
     }
     drawExampleBars();
 }

@@ -1,9 +1,10 @@
 #include "topics/basics/lininter.h"
 
+#include <array>
+
 #include "controls/panel.h"
 #include "controls/text.h"
-#include "graph/graph_box.h"
-#include "graph/ticks.h"
+#include "graph/axes.h"
 #include "topics/basics/ui_lininter.h"
 
 namespace tavrune {
@@ -11,13 +12,21 @@ namespace {
 
 constexpr double kTopmostP = 16.5;
 constexpr int kLowestP = -5;
-// Ticks stand at whole numbers; none is at the right edge.
-constexpr TickRun kTicksOfQ{.from = static_cast<int>(kLeftmostQ), .before = static_cast<int>(kRightmostQ)};
-constexpr TickRun kTicksOfP{.from = kLowestP, .before = 17};
-/// How far the tick dots stand off their axis.
-constexpr double kOffAxis = 0.1;
 /// The name of a point stands below it.
 constexpr double kNameDrop = 0.5;
+
+// Ticks stand at whole numbers; none is at the right edge.
+const Axes& axes() {
+    static const Axes kAxes{.scale = {kLeftmostQ, kTopmostP, kRightmostQ, kLowestP},
+                            .level = {kLeftmostQ, kRightmostQ},
+                            .upright = {kTopmostP, kLowestP},
+                            .ticks = {{.along = Along::X,
+                                       .from = static_cast<int>(kLeftmostQ),
+                                       .before = static_cast<int>(kRightmostQ),
+                                       .offAxis = {0.1}},
+                                      {.along = Along::Y, .from = kLowestP, .before = 17, .offAxis = {0.1}}}};
+    return kAxes;
+}
 
 }  // namespace
 
@@ -32,7 +41,7 @@ Lininter::Lininter(Draws& draws)
 Lininter::~Lininter() = default;
 
 void Lininter::newExercise() {
-    drawAxes();
+    drawAxes(*ui_->graph, axes());
     ui_->showPriceSolution->setEnabled(false);
     ui_->showQuantitySolution->setEnabled(false);
     closeHelp();
@@ -57,19 +66,9 @@ void Lininter::showTask() {
         QString("det nye punkts %1-koordinat").arg(fromUtf8(asked.askedLetter)));
 }
 
-void Lininter::drawAxes() {
-    GraphBox& graph = *ui_->graph;
-    graph.Cls();
-    graph.Scale(kLeftmostQ, kTopmostP, kRightmostQ, kLowestP);
-    graph.Line(0, kTopmostP, 0, kLowestP);
-    graph.Line(kLeftmostQ, 0, kRightmostQ, 0);
-    drawTicksAlongX(graph, kTicksOfQ, {kOffAxis});
-    drawTicksAlongY(graph, kTicksOfP, {kOffAxis});
-}
-
 void Lininter::drawPoints() {
-    draw(crossAt(state_.Qa, state_.Pa), kBlue);
-    draw(crossAt(state_.Qb, state_.Pb), kBlue);
+    drawFigure(Meaning::Cross, crossAt(state_.Qa, state_.Pa), kBlue);
+    drawFigure(Meaning::Cross, crossAt(state_.Qb, state_.Pb), kBlue);
     showAll({ui_->pointAName, ui_->pointBName});
     ui_->graph->place(*ui_->pointAName, state_.Qa, state_.Pa - kNameDrop);
     ui_->graph->place(*ui_->pointBName, state_.Qb, state_.Pb - kNameDrop);
@@ -80,7 +79,7 @@ void Lininter::judge() {
     if (showJudgement(tavrune::judge(state_, {ui_->askedCoordinate->value()}), {ui_->askedCoordinate},
                       ui_->askedCoordinate)) {
         drawSolution();
-        draw(arrowheads(state_, Occasion::Judged), kGreen);
+        drawArrowheads(Occasion::Judged);
     }
 }
 
@@ -90,13 +89,24 @@ void Lininter::giveAnswer() {
     ui_->askedCoordinate->setContent(answerText(state_));
     whiten({ui_->askedCoordinate});
     drawSolution();
-    draw(crossOfTyped(state_, typed), kRed);
-    draw(arrowheads(state_, Occasion::Given), kGreen);
+    drawFigure(Meaning::Cross, crossOfTyped(state_, typed), kRed);
+    drawArrowheads(Occasion::Given);
 }
 
 void Lininter::drawSolution() {
     draw(std::array{lineThroughPoints(state_)}, kBlue);
     draw(guideLines(state_), kGreen);
+}
+
+void Lininter::drawArrowheads(Occasion occasion) {
+    const std::array strokes = arrowheads(state_, occasion);
+    drawFigure(Meaning::Arrowhead, std::span(strokes).first(2), kGreen);
+    drawFigure(Meaning::Arrowhead, std::span(strokes).last(2), kGreen);
+}
+
+void Lininter::drawFigure(Meaning meaning, std::span<const Segment> segments, const QColor& colour) {
+    const Figure figure(*ui_->graph, meaning);
+    draw(segments, colour);
 }
 
 void Lininter::draw(std::span<const Segment> segments, const QColor& colour) {

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "controls/fraction.h"
+#include "graph/graph_box.h"
 #include "shell/exercise_form.h"
 #include "topics/basics/lininter_exercise.h"
 
@@ -45,9 +46,11 @@ private:
     [[nodiscard]] Solution solution() const;
 
     void showTask();
-    void drawAxes();
     void drawPoints();
     void drawSolution();
+    void drawArrowheads(Occasion occasion);
+    void drawFigure(Meaning meaning, std::span<const Segment> segments, const QColor& colour);
+    /// Each a line of its own, outside a figure.
     void draw(std::span<const Segment> segments, const QColor& colour);
     void showPriceSolution();
     void showQuantitySolution();

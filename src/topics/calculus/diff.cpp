@@ -2,8 +2,8 @@
 
 #include "controls/panel.h"
 #include "controls/row.h"
+#include "graph/axes.h"
 #include "graph/curve.h"
-#include "graph/ticks.h"
 #include "numeric/text.h"
 #include "topics/calculus/ui_diff.h"
 
@@ -16,6 +16,17 @@ constexpr int kReachBesideParabola = 3;
 constexpr double kStep = 0.04;
 /// Before the number at the end of a sentence.
 constexpr double kGap = 4;
+
+const Axes& axes() {
+    static const Axes kAxes{
+        .scale = {-1, 65, 8, -65},
+        .level = {-65, 65},
+        .upright = {65, -65},
+        .ticks = {{.along = Along::X, .from = -10, .before = 10, .step = 5, .offAxis = {2}},
+                  {.along = Along::X, .from = -2, .before = 10, .offAxis = {1, 1.5}},
+                  {.along = Along::Y, .from = -70, .before = 70, .step = 10, .offAxis = {0.05, 0.1, 0.075}}}};
+    return kAxes;
+}
 
 }  // namespace
 
@@ -31,7 +42,7 @@ Diff::~Diff() = default;
 void Diff::newExercise() {
     hideAll({ui_->helpPanel, ui_->workedDerivative, ui_->workedDerivativeAtPoint, ui_->workedResult});
     ui_->generalRule->show();
-    drawAxes();
+    drawAxes(*ui_->graph, axes());
     ui_->newExercise->hide();
 
     tavrune::newExercise(state_, draws());
@@ -42,17 +53,6 @@ void Diff::newExercise() {
     showAsking();
     focusOn(ui_->derivative);
     drawCurve();
-}
-
-void Diff::drawAxes() {
-    GraphBox& graph = *ui_->graph;
-    graph.Cls();
-    graph.Scale(-1, 65, 8, -65);
-    graph.Line(0, 65, 0, -65);
-    graph.Line(-65, 0, 65, 0);
-    drawTicksAlongX(graph, {.from = -10, .before = 10, .step = 5}, {2});
-    drawTicksAlongX(graph, {.from = -2, .before = 10}, {1, 1.5});
-    drawTicksAlongY(graph, {.from = -70, .before = 70, .step = 10}, {0.05, 0.1, 0.075});
 }
 
 void Diff::showTask() {
@@ -68,8 +68,8 @@ void Diff::showTask() {
 }
 
 void Diff::drawCurve() {
-    const CurveRange parabola{.start = -10, .step = kStep, .neverMet = 10, .largest = 2000};
-    const CurveRange cubic{.start = -7, .step = kStep, .neverMet = 7, .largest = 5000};
+    const CurveRange parabola{.start = -10, .step = kStep, .exactEnd = 10, .largest = 2000};
+    const CurveRange cubic{.start = -7, .step = kStep, .exactEnd = 7, .largest = 5000};
     plotCurve(
         *ui_->graph, [this](double q) { return curveAt(state_, q); }, hasParabola(state_) ? parabola : cubic);
 }

@@ -29,7 +29,6 @@ protected:
     void closeHelp() override;
 
 private:
-    void drawAxes();
     void showTask();
     void drawCurve();
     void drawRightTangent();

@@ -3,8 +3,8 @@
 #include "controls/panel.h"
 #include "controls/row.h"
 #include "controls/text.h"
+#include "graph/axes.h"
 #include "graph/curve.h"
-#include "graph/ticks.h"
 #include "numeric/text.h"
 #include "topics/calculus/hatching.h"
 #include "topics/calculus/ui_integ.h"
@@ -16,6 +16,17 @@ namespace {
 constexpr int kFarQ = 15;
 constexpr double kLargestOfTask = 2000;
 constexpr double kLargestOfAnswer = 1000;
+
+const Axes& axes() {
+    static const Axes kAxes{
+        .scale = {-1, 65, 8, -65},
+        .level = {-15, 15},
+        .upright = {65, -65},
+        .ticks = {{.along = Along::X, .from = -15, .before = 15, .offAxis = {0.25}},
+                  {.along = Along::X, .from = -15, .before = 15, .step = 5, .offAxis = {0.5, 0.7, 0.9}},
+                  {.along = Along::Y, .from = -70, .before = 70, .step = 10, .offAxis = {0.05, 0.075, 0.1}}}};
+    return kAxes;
+}
 
 }  // namespace
 
@@ -55,7 +66,7 @@ Integ::~Integ() = default;
 void Integ::newExercise() {
     ui_->helpPanel->hide();
     ui_->workedSolutionCover->show();
-    drawAxes();
+    drawAxes(*ui_->graph, axes());
 
     tavrune::newExercise(state_, draws());
 
@@ -65,17 +76,6 @@ void Integ::newExercise() {
     showAsking();
     focusOn(ui_->integral);
     drawCurve(kLargestOfTask);
-}
-
-void Integ::drawAxes() {
-    GraphBox& graph = *ui_->graph;
-    graph.Cls();
-    graph.Scale(-1, 65, 8, -65);
-    graph.Line(0, 65, 0, -65);
-    graph.Line(-15, 0, 15, 0);
-    drawTicksAlongX(graph, {.from = -15, .before = 15}, {0.25});
-    drawTicksAlongX(graph, {.from = -15, .before = 15, .step = 5}, {0.5, 0.7, 0.9});
-    drawTicksAlongY(graph, {.from = -70, .before = 70, .step = 10}, {0.05, 0.075, 0.1});
 }
 
 void Integ::showTask() {
@@ -108,7 +108,7 @@ void Integ::drawCurve(double largest) {
         return;
     }
     plotCurve(graph, [this](double q) { return valueAt(state_, q); },
-              {.start = -10, .step = 0.05, .neverMet = 10, .largest = largest});
+              {.start = -10, .step = 0.05, .exactEnd = 10, .largest = largest});
 }
 
 void Integ::hatchArea() {

@@ -46,7 +46,6 @@ protected:
     void closeHelp() override;
 
 private:
-    void drawAxes();
     void showTask();
     void fillHelp();
     /// Ends where p is larger than this.

@@ -1,11 +1,12 @@
 #include "topics/calculus/integ2.h"
 
 #include <cmath>
+#include <optional>
 
 #include "controls/panel.h"
 #include "controls/row.h"
 #include "controls/text.h"
-#include "graph/ticks.h"
+#include "graph/axes.h"
 #include "numeric/text.h"
 #include "topics/calculus/hatching.h"
 #include "topics/calculus/ui_integ2.h"
@@ -24,13 +25,14 @@ constexpr double kGap = 3;
 /// The widest that a term of the last sum may become.
 constexpr double kWidestTerm = 140;
 
-void drawAxes(GraphBox& graph) {
-    graph.Cls();
-    graph.Scale(0, 20, 10, -10);
-    graph.Line(0, 20, 0, -10);
-    graph.Line(0, 0, 20, 0);
-    drawTicksAlongX(graph, {.from = -7, .before = 20}, {0.1});
-    drawTicksAlongY(graph, {.from = -10, .before = 20}, {0.05, 0.075, 0.1});
+const Axes& axes() {
+    static const Axes kAxes{
+        .scale = {0, 20, 10, -10},
+        .level = {0, 20},
+        .upright = {20, -10},
+        .ticks = {{.along = Along::X, .from = -7, .before = 20, .offAxis = {0.1}},
+                  {.along = Along::Y, .from = -10, .before = 20, .offAxis = {0.05, 0.075, 0.1}}}};
+    return kAxes;
 }
 
 /// Where the last dot of a segment stands.
@@ -38,6 +40,7 @@ enum class LastDot { AtItsEnd, BeyondTheGraph };
 
 /// Dots a segment between two quantities; a dot beyond the largest y is its last.
 LastDot plot(GraphBox& graph, const Integ2Segment& segment, float from, float to) {
+    const Figure curve(graph, Meaning::DottedCurve);
     // As in the hatching: the running sum meets its end as a single.
     for (double x = from; static_cast<float>(x) < to; x += kStep) {
         const double y = heightAt(segment, x);
@@ -51,8 +54,14 @@ LastDot plot(GraphBox& graph, const Integ2Segment& segment, float from, float to
 
 /// Dots both segments; gives where the second one ends.
 LastDot plotSegments(GraphBox& graph, const Integ2State& state) {
-    plot(graph, firstSegment(state), 0, state.k);
-    return plot(graph, secondSegment(state), state.k, kRightEnd);
+    const Integ2Segment first = firstSegment(state);
+    const Integ2Segment second = secondSegment(state);
+    std::optional<Figure> broken;
+    if (heightAt(first, state.k) == heightAt(second, state.k)) {
+        broken.emplace(graph, Meaning::DottedCurve);
+    }
+    plot(graph, first, 0, state.k);
+    return plot(graph, second, state.k, kRightEnd);
 }
 
 void hatchSegment(GraphBox& graph, const Integ2Segment& segment, const QColor& colour) {
@@ -64,6 +73,12 @@ void hatchSegment(GraphBox& graph, const Integ2Segment& segment, const QColor& c
 void hatchSegments(GraphBox& graph, const Integ2State& state, const QColor& first, const QColor& second) {
     hatchSegment(graph, firstSegment(state), first);
     hatchSegment(graph, secondSegment(state), second);
+}
+
+/// Both segments as one area.
+void hatchArea(GraphBox& graph, const Integ2State& state) {
+    const Figure area(graph, Meaning::Hatching);
+    hatchSegments(graph, state, kBlue, kBlue);
 }
 
 /// Kept (integ2-brackets): what a term of the last sum shows depends on what it has shown so far, over all
@@ -99,8 +114,8 @@ Integ2::~Integ2() = default;
 
 void Integ2::newExercise() {
     closeHelp();
-    drawAxes(*ui_->graph);
-    drawAxes(*ui_->helpGraph);
+    drawAxes(*ui_->graph, axes());
+    drawAxes(*ui_->helpGraph, axes());
     clearBoxes({ui_->integral});
     showAsking();
 
@@ -168,7 +183,7 @@ void Integ2::fillHelp(const QString& segment, const Integ2Segment& worked) const
 void Integ2::judge() {
     hideVerdict();
     if (showJudgement(tavrune::judge(state_, {ui_->integral->value()}), {ui_->integral}, ui_->integral)) {
-        hatchSegments(*ui_->graph, state_, kBlue, kBlue);
+        hatchArea(*ui_->graph, state_);
     }
 }
 
@@ -176,7 +191,7 @@ void Integ2::giveAnswer() {
     ui_->integral->setContent(answerText(state_));
     whiten({ui_->integral});
     showGiven();
-    hatchSegments(*ui_->graph, state_, kBlue, kBlue);
+    hatchArea(*ui_->graph, state_);
 }
 
 void Integ2::help() {

@@ -15,8 +15,6 @@ namespace {
 
 // Lighter than the green of the verdict.
 const QColor kLightGreen = rgb(0, 190, 0);
-/// The price at the top of the graph, whose own scale runs downwards.
-constexpr int kTop = kAfsaetEnd;
 /// Between a fraction and the text behind it.
 constexpr double kGap = 6;
 
@@ -134,7 +132,7 @@ void Afsaet::newExercise() {
 
 void Afsaet::drawLine(const AfsaetAnswer& line, const QColor& colour) {
     const auto& [a, b, Qlo, Qhi] = line;
-    ui_->graph->Line(Qlo, kTop - (a * Qlo + b), Qhi, kTop - (a * Qhi + b), colour);
+    ui_->graph->Line(Qlo, a * Qlo + b, Qhi, a * Qhi + b, colour);
 }
 
 void Afsaet::judge() {

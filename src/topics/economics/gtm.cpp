@@ -149,6 +149,7 @@ void Gtm::showTask(GtmReach reach) {
 }
 
 void Gtm::draw(const GtmCurve& curve, const QColor& colour) {
+    const Figure figure(*ui_->graph, Meaning::Line);
     for (std::size_t i = 1; i < curve.size(); ++i) {
         ui_->graph->Line(curve[i - 1].q, curve[i - 1].y, curve[i].q, curve[i].y, colour);
     }

@@ -6,8 +6,8 @@
 
 #include "controls/frame.h"
 #include "controls/panel.h"
+#include "graph/axes.h"
 #include "graph/curve.h"
-#include "graph/ticks.h"
 #include "topics/polynomial/ui_roedder.h"
 
 namespace tavrune {
@@ -20,8 +20,8 @@ constexpr double kHalfTick = 0.5;
 
 // Where a curve is said to end; the running sum of its steps meets neither. The second one is for a parabola
 // with a maximum that is drawn with the given answer.
-constexpr double kNeverMet = 10;
-constexpr double kNeverMetByGivenMaximum = 7;
+constexpr double kExactEnd = 10;
+constexpr double kExactEndByGivenMaximum = 7;
 
 /// A part of the worked solution, and the count that it belongs to. Its controls are called after it.
 struct WorkedPart {
@@ -63,6 +63,20 @@ WorkedControls WorkedControls::of(const QWidget& page, const QString& part) {
     return controls;
 }
 
+const Axes& axes() {
+    static const Axes kAxes{
+        .scale = {-kEnd, kEnd, kEnd, -kEnd},
+        .level = {-kEnd, kEnd},
+        .upright = {kEnd, -kEnd},
+        .ticks = {{.along = Along::X, .from = -kEnd, .before = kEnd, .offAxis = {0.2}},
+                  {.along = Along::Y, .from = -kEnd, .before = kEnd, .offAxis = {0.1}},
+                  {.along = Along::X, .from = -kEnd, .before = kEnd, .step = 5, .offAxis = {0.2}},
+                  {.along = Along::Y, .from = -kEnd, .before = kEnd, .step = 5, .offAxis = {0.2}},
+                  {.along = Along::X, .from = -kEnd, .before = kEnd, .step = 5, .offAxis = {0.3}},
+                  {.along = Along::Y, .from = -kEnd, .before = kEnd, .step = 5, .offAxis = {0.3}}}};
+    return kAxes;
+}
+
 }  // namespace
 
 Roedder::Roedder(Draws& draws)
@@ -85,7 +99,7 @@ Roedder::~Roedder() = default;
 void Roedder::newExercise() {
     showAll({ui_->rootsCover, ui_->rootCountCover, ui_->discriminantCover});
     closeHelp();
-    drawAxes();
+    drawAxes(*ui_->graph, axes());
     options_.resetColours();
     options_.chooseNone();
     // Kept (roedder-old-answer): the boxes hold text and colour until an option is picked.
@@ -100,26 +114,15 @@ void Roedder::newExercise() {
     clearWorkedSolution();
 }
 
-void Roedder::drawAxes() {
-    GraphBox& graph = *ui_->graph;
-    graph.Cls();
-    graph.Scale(-kEnd, kEnd, kEnd, -kEnd);
-    graph.Line(0, kEnd, 0, -kEnd);
-    graph.Line(-kEnd, 0, kEnd, 0);
-    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd}, {0.2});
-    drawTicksAlongY(graph, {.from = -kEnd, .before = kEnd}, {0.1});
-    for (const double offAxis : {0.2, 0.3}) {
-        drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {offAxis});
-        drawTicksAlongY(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {offAxis});
-    }
-}
-
-void Roedder::drawCurve(double neverMet) {
+void Roedder::drawCurve(double exactEnd) {
     plotCurve(*ui_->graph, [this](double q) { return valueAt(state_.coefficients, q); },
-              {.start = -10, .step = 0.05, .neverMet = neverMet, .largest = 2000});
+              {.start = -10, .step = 0.05, .exactEnd = exactEnd, .largest = 2000});
 }
 
-void Roedder::drawTick(double root) { ui_->graph->Line(root, -kHalfTick, root, kHalfTick, kRed); }
+void Roedder::drawTick(double root) {
+    const Figure tick(*ui_->graph, Meaning::Mark);
+    ui_->graph->Line(root, -kHalfTick, root, kHalfTick, kRed);
+}
 
 void Roedder::hideAnswer() {
     hideAll({ui_->rootOne, ui_->rootTwo, ui_->doubleRootCaption, ui_->rootOneCaption, ui_->rootTwoCaption,
@@ -160,7 +163,7 @@ void Roedder::judge() {
     // The focus stays after a wrong try.
     if (showJudgement(tavrune::judge(state_, answer), boxes, nullptr)) {
         colourRightOption();
-        drawCurve(kNeverMet);
+        drawCurve(kExactEnd);
         return;
     }
     if (answer.chosen == RootCount::Two) {
@@ -190,7 +193,7 @@ void Roedder::giveAnswer() {
     } else if (isDouble) {
         ui_->rootTwo->setContent(answer.root1);
     }
-    drawCurve(state_.coefficients.a < 0 ? kNeverMetByGivenMaximum : kNeverMet);
+    drawCurve(state_.coefficients.a < 0 ? kExactEndByGivenMaximum : kExactEnd);
     showGiven();
 }
 

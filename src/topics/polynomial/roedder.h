@@ -30,9 +30,8 @@ protected:
     void closeHelp() override;
 
 private:
-    void drawAxes();
-    /// `neverMet` as in a `CurveRange`.
-    void drawCurve(double neverMet);
+    /// `exactEnd` as in a `CurveRange`.
+    void drawCurve(double exactEnd);
     void drawTick(double root);
 
     /// Boxes, their labels, verdict and "&Giv svaret".

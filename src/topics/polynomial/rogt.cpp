@@ -1,8 +1,8 @@
 #include "topics/polynomial/rogt.h"
 
 #include "controls/frame.h"
+#include "graph/axes.h"
 #include "graph/curve.h"
-#include "graph/ticks.h"
 #include "topics/polynomial/ui_rogt.h"
 
 namespace tavrune {
@@ -12,6 +12,20 @@ namespace {
 constexpr int kEnd = 15;
 /// Half the height of the line at a wrong root.
 constexpr double kHalfTick = 0.5;
+
+const Axes& axes() {
+    static const Axes kAxes{
+        .scale = {-kEnd, kEnd, kEnd, -kEnd},
+        .level = {-kEnd, kEnd},
+        .upright = {kEnd, -kEnd},
+        .ticks = {{.along = Along::X, .from = -kEnd, .before = kEnd, .offAxis = {0.2}},
+                  {.along = Along::Y, .from = -kEnd, .before = kEnd, .offAxis = {0.1}},
+                  {.along = Along::X, .from = -kEnd, .before = kEnd, .step = 5, .offAxis = {0.3}},
+                  {.along = Along::Y, .from = -kEnd, .before = kEnd, .step = 5, .offAxis = {0.2}},
+                  {.along = Along::X, .from = -kEnd, .before = kEnd, .step = 5, .offAxis = {0.4}},
+                  {.along = Along::Y, .from = -kEnd, .before = kEnd, .step = 5, .offAxis = {0.3}}}};
+    return kAxes;
+}
 
 }  // namespace
 
@@ -57,7 +71,7 @@ void Rogt::colourRightOption() {
 }
 
 void Rogt::newExercise() {
-    drawAxes();
+    drawAxes(*ui_->graph, axes());
     options_.chooseNone();
     options_.resetColours();
     hideRootFields();
@@ -70,23 +84,9 @@ void Rogt::newExercise() {
     clearBoxes({ui_->rootOne, ui_->rootTwo, ui_->vertexQuantity, ui_->vertexPrice});
 }
 
-void Rogt::drawAxes() {
-    GraphBox& graph = *ui_->graph;
-    graph.Cls();
-    graph.Scale(-kEnd, kEnd, kEnd, -kEnd);
-    graph.Line(0, kEnd, 0, -kEnd);
-    graph.Line(-kEnd, 0, kEnd, 0);
-    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd}, {0.2});
-    drawTicksAlongY(graph, {.from = -kEnd, .before = kEnd}, {0.1});
-    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {0.3});
-    drawTicksAlongY(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {0.2});
-    drawTicksAlongX(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {0.4});
-    drawTicksAlongY(graph, {.from = -kEnd, .before = kEnd, .step = 5}, {0.3});
-}
-
 void Rogt::drawCurve() {
     plotCurve(*ui_->graph, [this](double q) { return valueAt(state_.coefficients, q); },
-              {.start = -7, .step = 0.05, .neverMet = 7, .largest = 1000});
+              {.start = -7, .step = 0.05, .exactEnd = 7, .largest = 1000});
 }
 
 void Rogt::hideRootFields() {
@@ -145,6 +145,7 @@ void Rogt::judge() {
 
 void Rogt::drawTypedRoots() {
     for (const AnswerBox* box : chosenRootBoxes()) {
+        const Figure mark(*ui_->graph, Meaning::Mark);
         const double root = box->value();
         ui_->graph->Line(root, -kHalfTick, root, kHalfTick, kRed);
     }

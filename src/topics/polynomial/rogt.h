@@ -41,7 +41,6 @@ private:
     /// It takes the second of two roots, or the double one.
     void nameSecondBox(RootCount count);
 
-    void drawAxes();
     void drawCurve();
     /// Where the axis is met, as the chosen number of roots has it.
     void drawTypedRoots();

@@ -3,8 +3,8 @@
 #include "controls/fraction.h"
 #include "controls/panel.h"
 #include "controls/row.h"
+#include "graph/axes.h"
 #include "graph/curve.h"
-#include "graph/ticks.h"
 #include "topics/polynomial/ui_topp.h"
 
 namespace tavrune {
@@ -14,6 +14,20 @@ namespace {
 constexpr double kReach = 0.5;
 /// Around the fractions of the worked solution.
 constexpr double kGap = 4;
+
+const Axes& axes() {
+    static const Axes kAxes{
+        .scale = {-2, 15, 15, -15},
+        .level = {-20, 20},
+        .upright = {20, -20},
+        .ticks = {{.along = Along::X, .from = -15, .before = 15, .offAxis = {0.2}},
+                  {.along = Along::Y, .from = -15, .before = 15, .offAxis = {0.1}},
+                  {.along = Along::X, .from = -15, .before = 15, .step = 5, .offAxis = {0.3}},
+                  {.along = Along::Y, .from = -15, .before = 15, .step = 5, .offAxis = {0.2}},
+                  {.along = Along::X, .from = -15, .before = 20, .step = 5, .offAxis = {0.4}},
+                  {.along = Along::Y, .from = -15, .before = 15, .step = 5, .offAxis = {0.3}}}};
+    return kAxes;
+}
 
 }  // namespace
 
@@ -29,7 +43,7 @@ Topp::~Topp() = default;
 void Topp::newExercise() {
     ui_->helpPanel->hide();
     ui_->workedSolutionCover->show();
-    drawAxes();
+    drawAxes(*ui_->graph, axes());
     ui_->newExercise->hide();
 
     tavrune::newExercise(state_, draws());
@@ -49,20 +63,6 @@ void Topp::showTask() {
              ui_->vertexPrice, ui_->vertexClosingBracket});
 }
 
-void Topp::drawAxes() {
-    GraphBox& graph = *ui_->graph;
-    graph.Cls();
-    graph.Scale(-2, 15, 15, -15);
-    graph.Line(0, 20, 0, -20);
-    graph.Line(-20, 0, 20, 0);
-    drawTicksAlongX(graph, {.from = -15, .before = 15}, {0.2});
-    drawTicksAlongY(graph, {.from = -15, .before = 15}, {0.1});
-    drawTicksAlongX(graph, {.from = -15, .before = 15, .step = 5}, {0.3});
-    drawTicksAlongY(graph, {.from = -15, .before = 15, .step = 5}, {0.2});
-    drawTicksAlongX(graph, {.from = -15, .before = 20, .step = 5}, {0.4});
-    drawTicksAlongY(graph, {.from = -15, .before = 15, .step = 5}, {0.3});
-}
-
 void Topp::fillHelp() {
     const ToppWorked worked = workedSolution(state_);
     ui_->workedFunction->setCaption(state_.polynomialText);
@@ -80,7 +80,13 @@ void Topp::fillHelp() {
 
 void Topp::drawCurve() {
     plotCurve(*ui_->graph, [this](double q) { return valueAt(state_.polynomial, q); },
-              {.start = -7, .step = 0.05, .neverMet = 7, .largest = 1000});
+              {.start = -7, .step = 0.05, .exactEnd = 7, .largest = 1000});
+}
+
+void Topp::drawTypedVertex(double q, double p) {
+    const Figure cross(*ui_->graph, Meaning::Cross);
+    ui_->graph->Line(q - kReach, p, q + kReach, p, kRed);
+    ui_->graph->Line(q, p - kReach, q, p + kReach, kRed);
 }
 
 void Topp::judge() {
@@ -99,8 +105,7 @@ void Topp::giveAnswer() {
     ui_->vertexQuantity->setContent(answerTextOfQ(state_));
     ui_->vertexPrice->setContent(answerTextOfP(state_));
     showGiven();
-    ui_->graph->Line(typedQ - kReach, typedP, typedQ + kReach, typedP, kRed);
-    ui_->graph->Line(typedQ, typedP - kReach, typedQ, typedP + kReach, kRed);
+    drawTypedVertex(typedQ, typedP);
     drawCurve();
 }
 

@@ -29,10 +29,10 @@ protected:
     void closeHelp() override;
 
 private:
-    void drawAxes();
     void showTask();
     void fillHelp();
     void drawCurve();
+    void drawTypedVertex(double q, double p);
     void showWorkedSolution();
 
     std::unique_ptr<Ui::Topp> ui_;

@@ -7,12 +7,17 @@
 namespace tavrune {
 namespace {
 
-/// A box of 0..10 both ways with y downwards.
+/// A box of 0..10 both ways on which prices are counted up, and a frame of the same scale.
 class AdditionGraph : public testing::Test {
 protected:
-    AdditionGraph() { box.Scale(0, 0, 10, 10); }
+    AdditionGraph() {
+        box.Scale(0, 0, 10, 10);
+        box.setCountsUp(true);
+        frame.Scale(0, 0, 10, 10);
+    }
 
     GraphBox box;
+    GraphBox frame;
     test::StrokesIn in{{0, 0, 10, 10}};
 };
 
@@ -31,18 +36,18 @@ TEST(StepThrough, RunsByTheRunningSum) {
 }
 
 TEST_F(AdditionGraph, HasElevenTicksOnEachAxisOfAFrame) {
-    drawFrameTicks(box);
+    drawFrameTicks(frame);
     std::vector<Stroke> expected;
     for (int i = 0; i <= 10; ++i) {
         const double t = 0.2 + 0.8 * i;
         expected.push_back(in.line(t + 0.8, 8.2, t + 0.8, 8.4));
         expected.push_back(in.line(0.8, t, 1, t));
     }
-    EXPECT_EQ(box.strokes(), expected);
+    EXPECT_EQ(frame.strokes(), expected);
 }
 
 TEST_F(AdditionGraph, HasElevenTicksInPAndThenTwentyOneInQOfAWideFrame) {
-    drawWideFrameTicks(box);
+    drawWideFrameTicks(frame);
     std::vector<Stroke> expected;
     for (int i = 0; i <= 10; ++i) {
         expected.push_back(in.line(0.8, 1 + 0.8 * i, 1, 1 + 0.8 * i));
@@ -50,20 +55,20 @@ TEST_F(AdditionGraph, HasElevenTicksInPAndThenTwentyOneInQOfAWideFrame) {
     for (int i = 0; i <= 20; ++i) {
         expected.push_back(in.line(1 + 0.9 * i, 9, 1 + 0.9 * i, 9.2));
     }
-    EXPECT_EQ(box.strokes(), expected);
+    EXPECT_EQ(frame.strokes(), expected);
 }
 
 TEST_F(AdditionGraph, KeepsTheTicksOfAThousandExercisesOnce) {
-    box.setKeepsOnce(true);
+    frame.setKeepsOnce(true);
     for (int exercise = 0; exercise < 1000; ++exercise) {
-        drawWideFrameTicks(box);
+        drawWideFrameTicks(frame);
     }
-    EXPECT_EQ(box.strokes().size(), 32U);
+    EXPECT_EQ(frame.strokes().size(), 32U);
 }
 
-TEST_F(AdditionGraph, DrawsAPieceDownwardsFromItsTop) {
-    drawPiece(box, 10, {-3, 10}, 0, 10);
-    drawPiece(box, 10, {-3, 10}, 0.5, 2, kSumGreen);
+TEST_F(AdditionGraph, DrawsAPieceUpFromTheLowerBorder) {
+    drawPiece(box, {-3, 10}, 0, 10);
+    drawPiece(box, {-3, 10}, 0.5, 2, kSumGreen);
     EXPECT_EQ(box.strokes(),
               (std::vector<Stroke>{in.line(0, 0, 10, 30), in.line(0.5, 1.5, 2, 6, rgb(0, 190, 0))}));
 }
@@ -104,7 +109,7 @@ TEST_F(AdditionGraph, MarksAPriceBelowTheBox) {
 }
 
 TEST_F(AdditionGraph, DrawsAThickLineOfFiveStrokesRoundItsMiddle) {
-    drawThickLine(box, 1, 4, 3, kSumGreen);
+    drawThickLine(box, 1, 4, 7, kSumGreen);
     std::vector<Stroke> expected;
     for (int i = -2; i <= 2; ++i) {
         expected.push_back(in.line(1, 3 - 0.05 * i, 4, 3 - 0.05 * i, rgb(0, 190, 0)));

@@ -13,13 +13,18 @@ const test::StrokesIn kFunction{{0, 0, 10, 10}};
 const test::StrokesIn kSum{{0, 0, 10, 20}};
 
 /// A box in a scale that nothing has been drawn on.
-struct Box : GraphBox {
-    explicit Box(const GraphScale& scale) { Scale(scale.x1, scale.y1, scale.x2, scale.y2); }
+struct Frame : GraphBox {
+    explicit Frame(const GraphScale& scale) { Scale(scale.x1, scale.y1, scale.x2, scale.y2); }
+};
+
+/// One on which prices are counted up.
+struct Box : Frame {
+    explicit Box(const GraphScale& scale) : Frame(scale) { setCountsUp(true); }
 };
 
 TEST(VerticalTicks, StandAtElevenQuantitiesAndTwentyOnePrices) {
     const test::StrokesIn in{{0, 0, 11, 21}};
-    Box frame(in.scale);
+    Frame frame(in.scale);
     drawTallFrameTicks(frame);
     std::vector<Stroke> expected;
     for (double t = 0.2; t <= 8.5; t += 0.8) {
@@ -58,7 +63,7 @@ TEST(VerticalMark, IsASquareOfSixLevelStrokesByTheRunningSum) {
 TEST(VerticalUprights, AreDottedFromTopToBottomAndLeaveSolidLinesBehind) {
     Box box(kFunction.scale);
     drawUprights(box, {0.75, 4});
-    box.Line(1, 2, 3, 4);
+    box.Line(1, 8, 3, 6);
     EXPECT_EQ(box.strokes(),
               (std::vector<Stroke>{kFunction.line(0.75, 0, 0.75, 10, kBlack, LineStyle::Dotted),
                                    kFunction.line(4, 0, 4, 10, kBlack, LineStyle::Dotted),
