@@ -159,7 +159,7 @@ private:
         const Stroke& pen = figure.front();
         if (figure.size() < kFewestInACurve) {
             for (const Points& run : runs) {
-                tellCorners(run, pen);
+                tellCorners(run, view.whole(pen), pen);
             }
             return;
         }
@@ -171,14 +171,15 @@ private:
             pen);
     }
 
-    void tellCorners(const Points& run, const Stroke& pen) {
+    /// What has no length looks like a mark; what is seen of a line may have none.
+    void tellCorners(const Points& run, const QLineF& whole, const Stroke& pen) {
         std::vector<std::string> corners;
         for (const QPointF& corner : run) {
             if (const std::string text = pointText(corner); corners.empty() || corners.back() != text) {
                 corners.push_back(text);
             }
         }
-        if (corners.size() == 1) {
+        if (corners.size() == 1 && pointText(whole.p1()) == pointText(whole.p2())) {
             say("Mærke i " + corners.front(), pen);
         } else if (corners.size() > 2) {
             say("Knækket linie gennem " + join(corners, " og "), pen);

@@ -166,6 +166,9 @@ TEST_F(Told, TellsAShortLineAsALine) {
 TEST_F(Told, TellsTheEndsOfALongLineOfWhichLittleIsSeen) {
     box.Line(-10, 9.5, 10, 29.5, kRed);
     EXPECT_EQ(told(), "Linie fra (-10; 9.5) til (-9.5; 10), rød.");
+    box.Cls();
+    box.Line(-20, 0, 0, -20, kRed);
+    EXPECT_EQ(told(), "Linie fra (-10; -10) til (-10; -10), rød.");
 }
 
 TEST_F(Told, TakesAMarkDrawnTwiceForOne) {
