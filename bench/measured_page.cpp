@@ -1,15 +1,9 @@
 #include "measured_page.h"
 
-#include <algorithm>
-#include <set>
-
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QMessageBox>
 #include <QThread>
-
-#include "controls/button.h"
-#include "controls/option_button.h"
 
 namespace tavrune::bench {
 namespace {
@@ -72,24 +66,12 @@ void MeasuredPage::take(Samples& samples, const std::function<void()>& action) {
     const double taken = timed(action);
     settle();
     // An exercise that cannot be solved is not what is measured here. The help that is a message is.
-    if (!dismissMessages() || helpsByMessage()) {
+    if (!dismissMessages() || facts_.except.helpsByMessage) {
         samples.push_back(taken);
     }
 }
 
-void MeasuredPage::click(const std::string& button) const {
-    program_->page()->findChild<QAbstractButton*>(QString::fromStdString(button))->click();
-}
-
-std::vector<AnswerBox*> MeasuredPage::boxes() const {
-    std::vector<AnswerBox*> visible;
-    for (AnswerBox* box : program_->page()->findChildren<AnswerBox*>()) {
-        if (box->isVisible()) {
-            visible.push_back(box);
-        }
-    }
-    return visible;
-}
+void MeasuredPage::press(const std::string& button) const { student().find<QAbstractButton>(button).click(); }
 
 void MeasuredPage::openByMenu(std::uint64_t seed) {
     program_->open(PageName::Form1);
@@ -104,56 +86,33 @@ void MeasuredPage::openByMenu(std::uint64_t seed) {
 
 void MeasuredPage::judgeWrong() {
     if (!facts_.option.empty()) {
-        click(facts_.option);
+        press(facts_.option);
     }
     int typed = 3;
-    for (AnswerBox* box : boxes()) {
+    for (AnswerBox* box : student().boxes()) {
         box->setContent(std::to_string(typed++) + ".25");
     }
     settle();
-    take(judging, [this] { click("ok"); });
+    take(judging, [this] { press("ok"); });
 }
 
 void MeasuredPage::judgeRight(std::uint64_t seed) {
     // The answer that is given for an exercise, typed into the same exercise.
     const auto drawAgain = [&] {
         draws_.start(seed);
-        click("newExercise");
+        press("newExercise");
         if (!facts_.option.empty()) {
-            click(facts_.option);
+            press(facts_.option);
         }
         settle();
     };
     drawAgain();
-    click("giveAnswer");
-    std::vector<std::string> answers;
-    for (const AnswerBox* box : boxes()) {
-        answers.push_back(box->content());
-    }
+    press("giveAnswer");
+    const test::Answer answer = student().answerShown();
     drawAgain();
-    const std::vector<AnswerBox*> fields = boxes();
-    for (std::size_t i = 0; i < std::min(fields.size(), answers.size()); ++i) {
-        fields[i]->setContent(answers[i]);
-    }
+    student().fill(answer.boxes);
     settle();
-    take(judging, [this] { click("ok"); });
-}
-
-void MeasuredPage::showAllSteps() const {
-    click("help");
-    std::set<Button*> shown;
-    for (bool goesOn = true; goesOn;) {
-        goesOn = false;
-        for (Button* button : program_->page()->findChildren<Button*>()) {
-            const bool isStep = button->text().contains("Vis") && button->isVisible();
-            // The last step of this form fails in some exercises.
-            const bool mayFail = facts_.mayFail && button->objectName() == "showSum";
-            if (isStep && !mayFail && shown.insert(button).second) {
-                button->click();
-                goesOn = true;
-            }
-        }
-    }
+    take(judging, [this] { press("ok"); });
 }
 
 void MeasuredPage::measure(std::uint64_t seed) {
@@ -161,9 +120,12 @@ void MeasuredPage::measure(std::uint64_t seed) {
     program_ = std::make_unique<Program>(draws_);
     openByMenu(seed);
     draws_.start(seed + 1);
-    take(newExercise, [this] { click("newExercise"); });
+    take(newExercise, [this] { press("newExercise"); });
     judgeWrong();
-    take(helping, [this] { showAllSteps(); });
+    take(helping, [this] {
+        press("help");
+        student().showAllSteps(facts_.except.failingStep);
+    });
     judgeRight(seed + 2);
     program_.reset();
     settle();

@@ -7,9 +7,9 @@
 
 #include "app/program.h"
 #include "conformance/facts.h"
-#include "controls/answer_box.h"
 #include "numeric/draws.h"
 #include "speed_table.h"
+#include "support/student.h"
 
 namespace tavrune::bench {
 
@@ -49,7 +49,7 @@ protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    [[nodiscard]] bool helpsByMessage() const { return facts_.page == PageName::Rogt; }
+    [[nodiscard]] test::Student student() const { return test::Student(*program_->page()); }
 
     using Milliseconds = std::chrono::duration<double, std::milli>;
 
@@ -60,9 +60,8 @@ private:
     void openByMenu(std::uint64_t seed);
     void judgeWrong();
     void judgeRight(std::uint64_t seed);
-    void click(const std::string& button) const;
-    void showAllSteps() const;
-    [[nodiscard]] std::vector<AnswerBox*> boxes() const;
+    /// Without a way of the pointer, which is not measured.
+    void press(const std::string& button) const;
 
     test::FormFacts facts_;
     RepeatableDraws draws_;

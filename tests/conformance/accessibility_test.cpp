@@ -7,16 +7,14 @@
 
 #include <gtest/gtest.h>
 
-#include "conformance/facts.h"
+#include "conformance/form_suite.h"
 #include "support/blind_student.h"
-#include "support/form_driver.h"
 
 namespace tavrune {
 namespace {
 
 using test::BlindStudent;
 using test::FormDriver;
-using test::FormFacts;
 
 /// However much is drawn, nobody has to listen to more than this.
 constexpr std::size_t kLongestDescription = 3000;
@@ -50,16 +48,8 @@ std::vector<std::string> flawsOfNames(const BlindStudent& student) {
     return flaws;
 }
 
-class EveryFormInWords : public testing::TestWithParam<FormFacts> {
+class EveryFormInWords : public test::FormSuite {
 protected:
-    /// No message of a failure is left standing.
-    void TearDown() override { static_cast<void>(test::readFailure()); }
-
-    [[nodiscard]] FormDriver open(std::uint64_t seed) {
-        draws_ = std::make_unique<SeededDraws>(seed);
-        return {GetParam().page, *draws_};
-    }
-
     static void expectWords(const BlindStudent& student) {
         EXPECT_EQ(flawsOfNames(student), std::vector<std::string>{});
         for (const QAccessibleInterface* graph : student.things(QAccessible::Chart)) {
@@ -86,9 +76,6 @@ protected:
             }
         }
     }
-
-private:
-    std::unique_ptr<SeededDraws> draws_;
 };
 
 INSTANTIATE_TEST_SUITE_P(Forms, EveryFormInWords, testing::ValuesIn(test::allForms()), test::asciiName);

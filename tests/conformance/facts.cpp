@@ -9,30 +9,52 @@ using Name = PageName;
 
 /// The forms with particulars.
 const std::vector<FormFacts>& toldForms() {
+    const FormExceptions fraction{.isRedAsAWhole = true};
+    const FormExceptions threeGiven{.filledBoxes = 3};
+    const FormExceptions vertical{.breaksDecideNothing = true};
+    const FormExceptions earlierEnd{.refusal = Refusal::EarlierEnd, .failingStep = "showSum"};
+    const FormExceptions helpTable{.refusal = Refusal::HelpTableCell};
+    const FormExceptions halves{.refusal = Refusal::NegativeHalves};
+    const FormExceptions halvesAndMessage{.refusal = Refusal::NegativeHalves, .helpsByMessage = true};
+    const FormExceptions sharedKey{.sharedKeys = {{"Alt+I", {"&Indhold", "&Ingen rødder"}}}};
     static const std::vector<FormFacts> forms{
-        {Name::Brok, true, false, false, "denominator", "numerator", "", true},
+        {Name::Brok, true, false, false, "denominator", "numerator", "", true, fraction},
         {Name::Dlinie, true, false, false, "intercept", "slope", "", false},
         {Name::Afsaet, true, false, false, "rangeEnd", "slope", "", false},
         {Name::Konvert, false, true, true, "intercept", "slope", "", true},
         {Name::Tomto, true, false, false, "crossingPointQuantity", "", "crossing", false},
-        {Name::Gtm, true, false, false, "mcConstant", "avcQuadraticCoefficient", "", false, 3},
-        {Name::Laddi1, false, false, true, "segment2End", "", "", true},
-        {Name::Laddi2, false, true, true, "segment4End", "", "", true},
-        {Name::Vaddi1, false, true, true, "segment2End", "price1", "", true, 0, true},
+        {Name::Gtm, true, false, false, "mcConstant", "avcQuadraticCoefficient", "", false, threeGiven},
+        {Name::Laddi1, false, false, true, "segment2End", "", "", true, vertical},
+        {Name::Laddi2, false, true, true, "segment4End", "", "", true, vertical},
+        {Name::Vaddi1, false, true, true, "segment2End", "price1", "", true, earlierEnd},
         {Name::Vaddi2, false, true, true, "segment3End", "price1", "", true},
-        {Name::Vaddi3, false, true, true, "segment4End", "", "", true},
+        {Name::Vaddi3, false, true, true, "segment4End", "", "", true, helpTable},
         {Name::Integ, false, false, false, "integral", "integral", "", true},
         {Name::Integ2, false, false, false, "integral", "", "", true},
-        {Name::Lininter, false, false, false, "askedCoordinate", "askedCoordinate", "", true},
-        {Name::Roedder, false, false, false, "rootTwo", "", "twoRoots", true},
-        {Name::Rogt, false, false, false, "vertexQuantity", "", "twoRoots", false},
-        {Name::Topp, false, false, false, "vertexQuantity", "vertexPrice", "", true},
+        {Name::Lininter, false, false, false, "askedCoordinate", "askedCoordinate", "", true, halves},
+        {Name::Roedder, false, false, false, "rootTwo", "", "twoRoots", true, sharedKey},
+        {Name::Rogt, false, false, false, "vertexQuantity", "", "twoRoots", false, halvesAndMessage},
+        {Name::Topp, false, false, false, "vertexQuantity", "vertexPrice", "", true, halves},
         {Name::Diff, false, false, false, "derivative", "derivative", "", true},
     };
     return forms;
 }
 
 }  // namespace
+
+const char* textOf(Refusal refusal) {
+    switch (refusal) {
+        case Refusal::NegativeHalves:
+            return "negative halves rounded away from zero";
+        case Refusal::EarlierEnd:
+            return "judged by the upper end of an earlier exercise";
+        case Refusal::HelpTableCell:
+            return "judged by a cell of the help table";
+        case Refusal::None:
+            break;
+    }
+    return "for no reason";
+}
 
 const std::vector<FormFacts>& allForms() {
     static const std::vector<FormFacts> all = [] {
@@ -47,6 +69,11 @@ const std::vector<FormFacts>& allForms() {
     return all;
 }
 
+const FormFacts* factsOf(PageName page) {
+    const auto row = std::ranges::find(allForms(), page, &FormFacts::page);
+    return row == allForms().end() ? nullptr : &*row;
+}
+
 std::string asciiNameOf(PageName page) {
     std::string name(textOf(page));
     for (const auto& [letter, ascii] : {std::pair{"æ", "ae"}, std::pair{"ø", "oe"}}) {
@@ -56,7 +83,5 @@ std::string asciiNameOf(PageName page) {
     }
     return name;
 }
-
-std::string asciiName(const testing::TestParamInfo<FormFacts>& row) { return asciiNameOf(row.param.page); }
 
 }  // namespace tavrune::test

@@ -9,40 +9,29 @@
 
 #include <gtest/gtest.h>
 
-#include "conformance/facts.h"
-#include "support/form_driver.h"
+#include "conformance/form_suite.h"
 
 namespace tavrune {
 namespace {
 
 using test::FormDriver;
-using test::FormFacts;
+using test::inSight;
+using test::nameOf;
 
 using Names = std::vector<std::string>;
-
-std::string nameOf(const QWidget& widget) { return widget.objectName().toStdString(); }
-
-/// All controls of a kind that are in sight and can be used.
-template <class Widget>
-std::vector<Widget*> usable(const Page& page) {
-    std::vector<Widget*> found;
-    for (Widget* widget : page.findChildren<Widget*>()) {
-        if (widget->isVisible() && widget->isEnabled() && dynamic_cast<Control*>(widget) != nullptr) {
-            found.push_back(widget);
-        }
-    }
-    return found;
-}
+using Keys = std::map<std::string, Names>;
 
 /// The access keys that two things in sight have, with those that have them.
-std::map<std::string, Names> clashesOn(const Page& page) {
-    std::map<std::string, Names> keys;
+Keys clashesOn(const Page& page) {
+    Keys keys;
     for (const QAction* title : page.menuBar()->actions()) {
         keys[QKeySequence::mnemonic(title->text()).toString().toStdString()].push_back(
             title->text().toStdString());
     }
-    for (const QAbstractButton* button : usable<QAbstractButton>(page)) {
-        keys[button->shortcut().toString().toStdString()].push_back(button->text().toStdString());
+    for (const QAbstractButton* button : inSight<QAbstractButton>(page)) {
+        if (button->isEnabled()) {
+            keys[button->shortcut().toString().toStdString()].push_back(button->text().toStdString());
+        }
     }
     keys.erase("");
     std::erase_if(keys, [](const auto& key) { return key.second.size() == 1; });
@@ -51,36 +40,21 @@ std::map<std::string, Names> clashesOn(const Page& page) {
 
 class EveryPage : public testing::TestWithParam<PageName> {};
 
-class Keyboard : public testing::TestWithParam<FormFacts> {
+class Keyboard : public test::FormSuite {
 protected:
     /// No message of a failure is left standing.
-    void TearDown() override { EXPECT_EQ(test::readFailure().message, ""); }
-
-    [[nodiscard]] const FormFacts& facts() const { return GetParam(); }
+    void TearDown() override { EXPECT_FALSE(hasFailed()); }
 
     void failOnce(const FormDriver& form) const {
-        if (!facts().option.empty()) {
-            form.click(facts().option);
-        }
-        int typed = 987654;
-        for (AnswerBox* box : usable<AnswerBox>(form.page())) {
-            box->setContent(std::to_string(typed += 1013));
-        }
-        form.click("ok");
-        ASSERT_TRUE(form.isShown(facts().wrong()));
+        form.answerWrongly(facts().option);
+        ASSERT_EQ(form.verdict(), "FORKERT");
     }
 
     void openHelp(const FormDriver& form) const {
         form.click("help");
         const bool wasTold = !form.answerMessage().empty();
-        for (Button* button : usable<Button>(form.page())) {
-            if (button->caption() == "Vis") {
-                button->click();
-            }
-        }
-        const std::string failure = test::readFailure().message;
-        EXPECT_TRUE(failure.empty() || facts().mayFail) << failure;
-        if (wasTold || !failure.empty()) {
+        form.showAllSteps();
+        if (hasFailed() || wasTold) {
             form.page().activateWindow();
             test::settle();
         }
@@ -88,9 +62,8 @@ protected:
 
     /// Runs `look` in every state in which different things are in sight, in some exercises.
     template <class Look>
-    void inEveryState(std::uint64_t seed, int exercises, const Look& look) const {
-        SeededDraws draws(seed);
-        const FormDriver form(facts().page, draws);
+    void inEveryState(std::uint64_t seed, int exercises, const Look& look) {
+        const FormDriver form = open(seed);
         for (int exercise = 0; exercise < exercises && !HasFailure(); ++exercise) {
             look(form.page(), "asking");
             for (const OptionButton* option : form.page().findChildren<OptionButton*>()) {
@@ -118,19 +91,14 @@ INSTANTIATE_TEST_SUITE_P(Forms, Keyboard, testing::ValuesIn(test::allForms()), t
 TEST_P(EveryPage, OpensWithAnAccessKeyForEachThing) {
     SeededDraws draws(1);
     const FormDriver page(GetParam(), draws);
-    if (GetParam() != PageName::Roedder) {
-        EXPECT_TRUE(clashesOn(page.page()).empty());
-    }
+    const test::FormFacts* const facts = test::factsOf(GetParam());
+    EXPECT_EQ(clashesOn(page.page()), facts == nullptr ? Keys{} : facts->except.sharedKeys);
 }
 
 TEST_P(Keyboard, HasAnAccessKeyForEachThingInSight) {
-    std::map<std::string, Names> told;
-    if (facts().page == PageName::Roedder) {
-        // The one pair whose captions ask for it: the button's it is, and F10 is the menu's.
-        told["Alt+I"] = {"&Indhold", "&Ingen rødder"};
-    }
-    inEveryState(3, 4,
-                 [&told](const Page& page, const char* state) { EXPECT_EQ(clashesOn(page), told) << state; });
+    inEveryState(3, 4, [](const Page& page, const char* state) {
+        EXPECT_EQ(clashesOn(page), facts().except.sharedKeys) << state;
+    });
 }
 
 TEST(RoedderKeyboard, ChoosesTheOptionByTheKeyThatTheMenuHasTooAndOpensTheMenuByF10) {
@@ -160,8 +128,8 @@ TEST_P(EveryPage, OpensItsMenuByF10) {
 /// The names of the controls that look the same with the focus as without it.
 Names unseenFocusOn(const Page& page) {
     Names unseen;
-    for (QWidget* widget : usable<QWidget>(page)) {
-        if (widget->focusPolicy() == Qt::NoFocus) {
+    for (QWidget* widget : inSight<QWidget>(page)) {
+        if (widget->focusPolicy() == Qt::NoFocus || !widget->isEnabled()) {
             continue;
         }
         widget->clearFocus();
@@ -175,8 +143,7 @@ Names unseenFocusOn(const Page& page) {
 }
 
 TEST_P(Keyboard, ShowsWhereTheFocusStandsAtEverySize) {
-    SeededDraws draws(1);
-    const FormDriver form(facts().page, draws);
+    const FormDriver form = open();
     ZoomStep step;
     for (std::size_t size = 0; size < kZoomSteps.size(); ++size) {
         form.page().setZoom(step);

@@ -11,9 +11,9 @@
 
 #include <gtest/gtest.h>
 
-#include "conformance/facts.h"
+#include "conformance/form_suite.h"
 #include "support/decimal_mark.h"
-#include "support/form_driver.h"
+#include "support/expect.h"
 #include "support/looks.h"
 
 namespace tavrune {
@@ -23,84 +23,40 @@ using test::DecimalMark;
 using test::FormDriver;
 using test::FormFacts;
 using test::looks;
+using test::nameOf;
 
 const QColor kRightOfTwo(0, 128, 0);
 
-class EveryForm : public testing::TestWithParam<FormFacts> {
+class EveryForm : public test::FormSuite {
 protected:
-    /// No message of a failure is left standing, and none came where none is told of.
-    void TearDown() override {
-        const std::string message = test::readFailure().message;
-        EXPECT_TRUE(message.empty() || facts().mayFail) << message;
-    }
-
-    [[nodiscard]] const FormFacts& facts() const { return GetParam(); }
-
-    [[nodiscard]] FormDriver open(std::uint64_t seed = 1) {
-        draws = std::make_unique<SeededDraws>(seed);
-        return {facts().page, *draws};
-    }
-
-    void chooseOption(const FormDriver& form) const {
+    static void chooseOption(const FormDriver& form) {
         if (!facts().option.empty()) {
             form.click(facts().option);
         }
     }
 
-    /// Types into every visible box what is no exercise's answer, and judges.
-    void answerWrongly(const FormDriver& form) const {
-        chooseOption(form);
-        // No two alike, so that no quotient of them is a small number either.
-        int typed = 987654;
-        for (AnswerBox* box : visibleBoxes(form)) {
-            form.type(box->objectName().toStdString(), std::to_string(typed) + ".25");
-            typed += 1013;
-        }
-        form.click("ok");
-        ASSERT_TRUE(form.isShown(facts().wrong()));
+    static void answerWrongly(const FormDriver& form) {
+        form.answerWrongly(facts().option);
+        ASSERT_EQ(form.verdict(), "FORKERT");
     }
 
-    [[nodiscard]] static std::vector<AnswerBox*> visibleBoxes(const FormDriver& form) {
-        std::vector<AnswerBox*> boxes;
-        for (AnswerBox* box : form.page().findChildren<AnswerBox*>()) {
-            if (box->isVisible()) {
-                boxes.push_back(box);
-            }
-        }
-        return boxes;
-    }
-
-    /// Presses every "Vis" of the help panels that are open.
-    static void showAllSteps(const FormDriver& form) {
-        for (Button* button : form.page().findChildren<Button*>()) {
-            if (button->caption() == "Vis" && button->isVisible() && button->isEnabled()) {
-                button->click();
-            }
-        }
-    }
-
-    /// The names of the help panels that are shown.
-    [[nodiscard]] static std::set<std::string> shownPanels(const FormDriver& form) {
-        std::set<std::string> shown;
-        for (const QWidget* panel : form.page().findChildren<QWidget*>()) {
-            if (panel->objectName().endsWith("helpPanel", Qt::CaseInsensitive) && !panel->isHidden()) {
-                shown.insert(panel->objectName().toStdString());
-            }
-        }
-        return shown;
+    /// Opens the help, or hears what it says, with every step.
+    static void openWholeHelp(const FormDriver& form) {
+        form.click("help");
+        static_cast<void>(form.answerMessage());
+        form.showAllSteps();
+        static_cast<void>(hasFailed());
     }
 
     /// White, and empty but for those that tell what is given.
-    void expectFreshBoxes(const FormDriver& form) const {
+    static void expectFreshBoxes(const FormDriver& form) {
         int filled = 0;
-        for (const AnswerBox* box : visibleBoxes(form)) {
-            EXPECT_EQ(box->backColour(), kWhite) << box->objectName().toStdString();
+        for (const AnswerBox* box : form.boxes()) {
+            EXPECT_EQ(box->backColour(), kWhite) << nameOf(*box);
             filled += box->text().trimmed().isEmpty() ? 0 : 1;
         }
-        EXPECT_EQ(filled, facts().filledBoxes);
+        EXPECT_EQ(filled, facts().except.filledBoxes);
     }
-
-    std::unique_ptr<SeededDraws> draws;
 };
 
 INSTANTIATE_TEST_SUITE_P(Forms, EveryForm, testing::ValuesIn(test::allForms()), test::asciiName);
@@ -129,7 +85,7 @@ TEST_P(EveryForm, StartsWithoutVerdictAndAnswer) {
     EXPECT_FALSE(form.isShown("giveAnswer"));
     EXPECT_FALSE(form.isShown(facts().right()));
     EXPECT_FALSE(form.isShown(facts().wrong()));
-    EXPECT_EQ(shownPanels(form), std::set<std::string>{});
+    EXPECT_EQ(form.helpPanels(), std::set<std::string>{});
 }
 
 TEST_P(EveryForm, HasTheCaptionsOfTheFourButtons) {
@@ -175,7 +131,7 @@ TEST_P(EveryForm, AsksAtItsOpening) {
     EXPECT_FALSE(form.isShown(facts().right()));
     EXPECT_FALSE(form.isShown(facts().wrong()));
     if (facts().firstBox == test::kByOrder) {
-        EXPECT_EQ(form.focus(), visibleBoxes(form).front()->objectName().toStdString());
+        EXPECT_EQ(form.focus(), nameOf(*form.boxes().front()));
     } else if (!facts().firstBox.empty()) {
         EXPECT_EQ(form.focus(), facts().firstBox);
     }
@@ -188,9 +144,7 @@ TEST_P(EveryForm, OffersTheAnswerAfterAWrongTryAndKeepsOk) {
     const FormDriver form = open();
     for (int again = 0; again < 3; ++again) {
         answerWrongly(form);
-        EXPECT_TRUE(form.isShown("ok"));
-        EXPECT_TRUE(form.isShown("giveAnswer"));
-        EXPECT_TRUE(form.isShown("newExercise"));
+        test::expectShown(form, {"ok", "giveAnswer", "newExercise"});
         EXPECT_EQ(form.caption(facts().wrong()), "FORKERT");
     }
 }
@@ -199,12 +153,11 @@ TEST_P(EveryForm, GivesTheAnswerWithoutAVerdict) {
     const FormDriver form = open();
     answerWrongly(form);
     form.click("giveAnswer");
-    EXPECT_FALSE(form.isShown("ok"));
-    EXPECT_FALSE(form.isShown("giveAnswer"));
+    test::expectHidden(form, {"ok", "giveAnswer"});
     EXPECT_FALSE(form.isShown(facts().right()));
     EXPECT_FALSE(form.isShown(facts().wrong()));
     EXPECT_EQ(form.focus(), "newExercise");
-    for (const AnswerBox* box : visibleBoxes(form)) {
+    for (const AnswerBox* box : form.boxes()) {
         EXPECT_EQ(box->backColour(), kWhite);
     }
 }
@@ -234,12 +187,11 @@ TEST_P(EveryPanel, ClosesItsHelpWithTheNextExercise) {
 TEST_P(EveryPanel, KeepsWhatWasTypedWhileHelpComesAndGoes) {
     const FormDriver form = open();
     chooseOption(form);
-    std::vector<AnswerBox*> boxes = visibleBoxes(form);
+    std::vector<AnswerBox*> boxes = form.boxes();
     for (AnswerBox* box : boxes) {
-        form.type(box->objectName().toStdString(), "12");
+        form.type(nameOf(*box), "12");
     }
-    form.click("help");
-    form.click("closeHelp");
+    form.click("help", "closeHelp");
     EXPECT_FALSE(form.isShown("helpPanel"));
     for (const AnswerBox* box : boxes) {
         EXPECT_EQ(box->content(), "12");
@@ -249,9 +201,9 @@ TEST_P(EveryPanel, KeepsWhatWasTypedWhileHelpComesAndGoes) {
 TEST_P(EveryForm, TurnsATypedCommaIntoAPointInEveryBox) {
     const FormDriver form = open();
     chooseOption(form);
-    for (AnswerBox* box : visibleBoxes(form)) {
-        form.type(box->objectName().toStdString(), "1,5");
-        EXPECT_EQ(box->content(), "1.5") << box->objectName().toStdString();
+    for (AnswerBox* box : form.boxes()) {
+        form.type(nameOf(*box), "1,5");
+        EXPECT_EQ(box->content(), "1.5") << nameOf(*box);
     }
 }
 
@@ -259,28 +211,28 @@ TEST_P(EveryForm, LeavesAPastedCommaAlone) {
     const FormDriver form = open();
     chooseOption(form);
     QGuiApplication::clipboard()->setText("1,5");
-    for (AnswerBox* box : visibleBoxes(form)) {
+    for (AnswerBox* box : form.boxes()) {
         box->selectAll();
         QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(box->content(), "1,5") << box->objectName().toStdString();
+        EXPECT_EQ(box->content(), "1,5") << nameOf(*box);
     }
 }
 
 TEST_P(EveryForm, WalksByEnterThroughAllItsBoxesToOk) {
     const FormDriver form = open();
     chooseOption(form);
-    const std::size_t boxes = visibleBoxes(form).size();
+    const std::size_t boxes = form.boxes().size();
     ASSERT_GT(boxes, 0U);
     // Some chains run against the layout, so the walk starts wherever it covers most.
     std::size_t longest = 0;
-    for (AnswerBox* start : visibleBoxes(form)) {
+    for (AnswerBox* start : form.boxes()) {
         start->setFocus();
         std::size_t steps = 0;
         while (form.focus() != "ok" && steps <= boxes) {
             form.press(form.focus(), Qt::Key_Return);
             ++steps;
         }
-        EXPECT_EQ(form.focus(), "ok") << "from " << start->objectName().toStdString();
+        EXPECT_EQ(form.focus(), "ok") << "from " << nameOf(*start);
         longest = std::max(longest, steps);
     }
     EXPECT_EQ(longest, boxes);
@@ -288,8 +240,7 @@ TEST_P(EveryForm, WalksByEnterThroughAllItsBoxesToOk) {
 
 TEST_P(EveryForm, EndsItsEnterChainByItsKind) {
     const FormDriver form = open();
-    AnswerBox& last =
-        facts().lastBox == test::kByOrder ? *visibleBoxes(form).back() : form.box(facts().lastBox);
+    AnswerBox& last = facts().lastBox == test::kByOrder ? *form.boxes().back() : form.box(facts().lastBox);
     // Not every exercise asks for it.
     for (int exercise = 0; exercise < 100 && !last.isVisible(); ++exercise) {
         form.click("newExercise");
@@ -299,7 +250,7 @@ TEST_P(EveryForm, EndsItsEnterChainByItsKind) {
     answerWrongly(form);
     form.click("giveAnswer");
     last.setFocus();
-    const std::string name = last.objectName().toStdString();
+    const std::string name = nameOf(last);
     form.press(name, Qt::Key_Return);
     EXPECT_EQ(form.focus(), facts().lastBoxGoesOn ? "newExercise" : name);
 }
@@ -307,21 +258,17 @@ TEST_P(EveryForm, EndsItsEnterChainByItsKind) {
 TEST_P(EveryForm, TakesEmptyBoxesForZeros) {
     const FormDriver empty = open();
     chooseOption(empty);
-    for (AnswerBox* box : visibleBoxes(empty)) {
-        box->setContent("");
-    }
+    empty.fillAll("");
     empty.click("ok");
     const FormDriver zeros = open();
     chooseOption(zeros);
-    for (AnswerBox* box : visibleBoxes(zeros)) {
-        box->setContent("0");
-    }
+    zeros.fillAll("0");
     zeros.click("ok");
     EXPECT_EQ(empty.answerMessage(), zeros.answerMessage());
     EXPECT_EQ(empty.isShown(facts().wrong()), zeros.isShown(facts().wrong()));
     EXPECT_EQ(empty.isShown("giveAnswer"), zeros.isShown("giveAnswer"));
-    for (AnswerBox* box : visibleBoxes(empty)) {
-        const std::string name = box->objectName().toStdString();
+    for (AnswerBox* box : empty.boxes()) {
+        const std::string name = nameOf(*box);
         EXPECT_EQ(box->backColour(), zeros.box(name).backColour()) << name;
     }
 }
@@ -339,15 +286,12 @@ TEST_P(EveryForm, ObeysTheAccessKeysOfItsButtons) {
     press(Qt::Key_N);
     EXPECT_FALSE(form.isShown("giveAnswer"));
     chooseOption(form);
-    for (AnswerBox* box : visibleBoxes(form)) {
-        box->setContent("98765.25");
-    }
-    visibleBoxes(form).front()->setContent("98");
+    form.fillAll("98765.25");
+    form.boxes().front()->setContent("98");
     press(Qt::Key_O);
     EXPECT_TRUE(form.isShown(facts().wrong()));
     press(Qt::Key_H);
-    // One form has a message instead.
-    EXPECT_EQ(shownPanels(form).empty(), facts().page == PageName::Rogt);
+    EXPECT_EQ(form.helpPanels().empty(), facts().except.helpsByMessage);
 }
 
 TEST_P(EveryForm, KeepsItsControlsAtTheTopLeftOfALargeWindow) {
@@ -367,7 +311,7 @@ TEST_P(EveryForm, CannotChooseItsOwnTopic) {
 TEST_P(EveryForm, NamesEveryAnswerBox) {
     const FormDriver form = open();
     for (const AnswerBox* box : form.page().findChildren<AnswerBox*>()) {
-        EXPECT_FALSE(box->accessibleName().isEmpty()) << box->objectName().toStdString();
+        EXPECT_FALSE(box->accessibleName().isEmpty()) << nameOf(*box);
     }
 }
 
@@ -390,9 +334,7 @@ TEST_P(EveryForm, HasNoTextCutOffOrOverAnother) {
 TEST_P(EveryForm, HasNoTextCutOffInItsHelpWithEveryStepShown) {
     const FormDriver form = open(2006);
     for (int exercise = 0; exercise < looks(50); ++exercise) {
-        form.click("help");
-        static_cast<void>(form.answerMessage());
-        showAllSteps(form);
+        openWholeHelp(form);
         ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << "exercise " << exercise;
         form.click("newExercise");
     }
@@ -405,9 +347,7 @@ TEST_P(EveryForm, HasNoTextCutOffOrOverAnotherAtAnySize) {
         form.page().setZoom(step);
         for (int exercise = 0; exercise < looks(5); ++exercise) {
             ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << step.percent() << " %";
-            form.click("help");
-            static_cast<void>(form.answerMessage());
-            showAllSteps(form);
+            openWholeHelp(form);
             ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << step.percent() << " %, help";
             form.click("newExercise");
         }

@@ -1,14 +1,12 @@
 // The answer that a form gives, typed into a second one with the same exercise.
 
 #include <array>
-#include <map>
 #include <optional>
 #include <set>
 
 #include <gtest/gtest.h>
 
-#include "conformance/facts.h"
-#include "support/form_driver.h"
+#include "conformance/form_suite.h"
 #include "support/lot.h"
 #include "support/proof.h"
 #include "support/record.h"
@@ -16,105 +14,35 @@
 namespace tavrune {
 namespace {
 
+using test::Answer;
 using test::DecimalMark;
 using test::FormDriver;
-using test::FormFacts;
 using test::typedAgain;
 
-using Names = std::set<std::string>;
-
-/// What "&Giv svaret" shows: the right option, if there are any, and what stands in the boxes.
-struct Answer {
-    std::string option;
-    std::map<std::string, std::string> boxes;
-};
-
-/// The boxes in sight but for those of a help table, which is nobody's answer.
-Names visibleBoxes(const FormDriver& form) {
-    Names names;
-    for (const AnswerBox* box : form.page().findChildren<AnswerBox*>()) {
-        if (box->isVisible() && !box->accessibleName().startsWith(QStringLiteral("hjælpeskema"))) {
-            names.insert(box->objectName().toStdString());
-        }
-    }
-    return names;
+bool holdsAQuantity(const AnswerBox& box) {
+    return !box.accessibleName().startsWith(QStringLiteral("hæld")) &&
+           !box.accessibleName().startsWith(QStringLiteral("konst"));
 }
 
-Names redBoxes(const FormDriver& form) {
-    Names red;
-    for (const std::string& name : visibleBoxes(form)) {
-        if (form.box(name).isMarked()) {
-            red.insert(name);
-        }
-    }
-    return red;
-}
-
-bool isLaddi(PageName page) { return page == PageName::Laddi1 || page == PageName::Laddi2; }
-
-class TypedAnswers : public testing::TestWithParam<FormFacts> {
+class TypedAnswers : public test::FormSuite {
 protected:
-    [[nodiscard]] const FormFacts& facts() const { return GetParam(); }
-
-    [[nodiscard]] bool isSolved(const FormDriver& form) const {
+    [[nodiscard]] static bool isSolved(const FormDriver& form) {
         // A right half of an answer may show its verdict too, and leaves "&OK" standing.
-        return form.isShown(facts().right()) && !form.isShown("ok") &&
-               (!facts().hasOneLabel || form.caption(facts().right()) == "RIGTIGT");
-    }
-
-    /// Gives up on the exercise, and reads what was right.
-    [[nodiscard]] Answer learnAnswer(const FormDriver& form) const {
-        if (!facts().option.empty()) {
-            form.click(facts().option);
-        }
-        int number = 987654;
-        for (const std::string& name : visibleBoxes(form)) {
-            form.box(name).setContent(std::to_string(number += 1013));
-        }
-        form.click("ok");
-        form.click("giveAnswer");
-        Answer answer;
-        for (const OptionButton* option : form.page().findChildren<OptionButton*>()) {
-            if (option->backColour() == kGreen || (option->isChosen() && answer.option.empty())) {
-                answer.option = option->objectName().toStdString();
-            }
-        }
-        for (const std::string& name : visibleBoxes(form)) {
-            answer.boxes[name] = form.box(name).content();
-        }
-        return answer;
-    }
-
-    /// Chooses and types the answer as it was shown; a box that it does not name keeps what it holds.
-    static void type(const FormDriver& form, const Answer& answer) {
-        if (!answer.option.empty()) {
-            form.click(answer.option);
-        }
-        for (const std::string& name : visibleBoxes(form)) {
-            if (const auto shown = answer.boxes.find(name); shown != answer.boxes.end()) {
-                form.type(name, shown->second);
-            }
-        }
+        return form.verdict() == "RIGTIGT" && !form.isShown("ok");
     }
 
     /// The boxes that turn red where `moved` holds a wrong number and all others the right one.
-    [[nodiscard]] Names redFor(const FormDriver& form, const std::string& moved) const {
-        if (facts().page == PageName::Brok) {
-            // It is the fraction that is wrong.
-            return visibleBoxes(form);
-        }
-        return {moved};
+    [[nodiscard]] static BoxNames redFor(const FormDriver& form, const std::string& moved) {
+        return facts().except.isRedAsAWhole ? answerBoxes(form) : BoxNames{moved};
     }
 
-    /// Where two functions are added by their prices, a place between two segments decides nothing, though it
-    /// turns red once anything else is wrong: then the first of these boxes is made wrong as well.
-    [[nodiscard]] std::optional<std::string> decidingBoxFor(const FormDriver& form,
-                                                            const std::string& moved) const {
-        if (!isLaddi(facts().page) || form.box(moved).accessibleName().startsWith(QStringLiteral("hæld")) ||
-            form.box(moved).accessibleName().startsWith(QStringLiteral("konst"))) {
+    /// The box that is made wrong beside `moved`, where that decides nothing by itself: the first slope.
+    [[nodiscard]] static std::optional<std::string> decidingBoxFor(const FormDriver& form,
+                                                                   const std::string& moved) {
+        if (!facts().except.breaksDecideNothing || !holdsAQuantity(form.box(moved))) {
             return std::nullopt;
         }
-        for (const std::string& name : visibleBoxes(form)) {
+        for (const std::string& name : answerBoxes(form)) {
             if (form.box(name).accessibleName().startsWith(QStringLiteral("hæld"))) {
                 return name;
             }
@@ -128,11 +56,11 @@ protected:
             const double past = ++boxesMoved % 2 == 0 ? 0.011 : -0.011;
             return NumberText(typedAgain(answer.boxes.at(box)) + past);
         };
-        for (const std::string& box : visibleBoxes(form)) {
+        for (const std::string& box : answerBoxes(form)) {
             if (!answer.boxes.contains(box)) {
                 continue;
             }
-            Names red = redFor(form, box);
+            BoxNames red = redFor(form, box);
             form.type(box, moved(box));
             const std::optional<std::string> other = decidingBoxFor(form, box);
             if (other) {
@@ -142,7 +70,7 @@ protected:
             form.click("ok");
             ASSERT_FALSE(isSolved(form)) << box;
             ASSERT_TRUE(form.isShown(facts().wrong())) << box;
-            ASSERT_EQ(redBoxes(form), red) << box << " for " << answer.boxes.at(box);
+            ASSERT_EQ(redAnswerBoxes(form), red) << box << " for " << answer.boxes.at(box);
             form.type(box, answer.boxes.at(box));
             if (other) {
                 form.type(*other, answer.boxes.at(*other));
@@ -150,36 +78,11 @@ protected:
         }
     }
 
-    /// Why the right answer, typed and judged, is taken for wrong on purpose; nothing if it is not.
-    [[nodiscard]] std::optional<std::string> reasonForWrong(const FormDriver& form,
-                                                            const Answer& answer) const {
-        const Names red = redBoxes(form);
-        switch (facts().page) {
-            case PageName::Topp:
-            case PageName::Rogt:
-            case PageName::Lininter:
-                for (const std::string& name : red) {
-                    if (answer.boxes.at(name).front() != '-') {
-                        return std::nullopt;
-                    }
-                }
-                return red.empty() ? std::nullopt : std::optional("negative halves rounded away from zero");
-            case PageName::Vaddi1:
-                return red.empty() ? std::optional("judged by the upper end of an earlier exercise")
-                                   : std::nullopt;
-            case PageName::Vaddi3:
-                return red.empty() ? std::optional("judged by a cell of the help table") : std::nullopt;
-            default:
-                return std::nullopt;
-        }
-    }
-
-    /// True if a form has met a failure that ends the program.
-    bool hasFailed() {
-        if (test::readFailure().message.empty()) {
+    /// True if a form has met a failure that ends the program, which is an exception to be told.
+    bool hasEnded() {
+        if (!hasFailed()) {
             return false;
         }
-        EXPECT_TRUE(facts().mayFail);
         ++typed;
         exceptions.meet("ending the program by an overflow");
         return true;
@@ -192,7 +95,7 @@ protected:
         SeededDraws drawnForOne(seed);
         SeededDraws drawnForOther(seed);
         const FormDriver teacher(facts().page, drawnForOne);
-        if (hasFailed()) {
+        if (hasEnded()) {
             return;
         }
         const FormDriver student(facts().page, drawnForOther);
@@ -200,14 +103,14 @@ protected:
             SCOPED_TRACE("seed " + std::to_string(seed) + ", exercise " + std::to_string(exercise));
             if (exercise > 0) {
                 teacher.click("newExercise");
-                if (hasFailed()) {
+                if (hasEnded()) {
                     return;
                 }
                 student.click("newExercise");
             }
             ++typed;
-            const Answer answer = learnAnswer(teacher);
-            type(student, answer);
+            const Answer answer = teacher.giveUp(facts().option);
+            student.write(answer);
             ASSERT_NO_FATAL_FAILURE(judge(student, answer, exercise));
         }
     }
@@ -218,10 +121,10 @@ protected:
         if (isSolved(form)) {
             return true;
         }
-        const std::optional<std::string> reason = reasonForWrong(form, answer);
-        EXPECT_TRUE(reason) << "red: " << testing::PrintToString(redBoxes(form)) << " of "
-                            << testing::PrintToString(answer.boxes);
-        exceptions.meet(reason.value_or("for no reason"));
+        const bool isOnPurpose = isRefusedOnPurpose(form, answer);
+        EXPECT_TRUE(isOnPurpose) << "red: " << testing::PrintToString(redAnswerBoxes(form)) << " of "
+                                 << testing::PrintToString(answer.boxes);
+        exceptions.meet(isOnPurpose ? textOf(facts().except.refusal) : "for no reason");
         return false;
     }
 

@@ -14,9 +14,9 @@
 #include <QWindow>
 
 #include "app/pages.h"
-#include "controls/option_button.h"
+#include "conformance/facts.h"
 #include "shell/failure.h"
-#include "support/form_driver.h"
+#include "support/student.h"
 
 namespace tavrune::test {
 namespace {
@@ -101,11 +101,6 @@ const QString& megabyteOf(int kind) {
     static const std::array texts{QString(kMegabyte, '9'), "1" + QString(kMegabyte, ' '),
                                   "." + QString(kMegabyte, '0') + "1"};
     return texts.at(static_cast<std::size_t>(kind) % texts.size());
-}
-
-QPoint middleOf(const QWidget& widget) {
-    const bool isOption = qobject_cast<const OptionButton*>(&widget) != nullptr;
-    return isOption ? QPoint(8, widget.height() / 2) : widget.rect().center();
 }
 
 std::string at(QPoint p) { return std::to_string(p.x()) + "," + std::to_string(p.y()); }
@@ -258,12 +253,7 @@ void RoughHands::pressKey() {
 }
 
 AnswerBox* RoughHands::anyBox() {
-    std::vector<AnswerBox*> boxes;
-    for (AnswerBox* box : program_->page()->findChildren<AnswerBox*>()) {
-        if (box->isVisible()) {
-            boxes.push_back(box);
-        }
-    }
+    const std::vector<AnswerBox*> boxes = inSight<AnswerBox>(*program_->page());
     return boxes.empty() ? nullptr : choices_.oneOf(boxes);
 }
 
@@ -366,13 +356,7 @@ void RoughHands::clickAnywhere() {
 }
 
 void RoughHands::clickControl() {
-    std::vector<QWidget*> controls;
-    for (QWidget* widget : program_->page()->findChildren<QWidget*>()) {
-        const bool isControl = qobject_cast<QAbstractButton*>(widget) != nullptr;
-        if (isControl && widget->isVisible() && dynamic_cast<Control*>(widget) != nullptr) {
-            controls.push_back(widget);
-        }
-    }
+    const std::vector<QAbstractButton*> controls = inSight<QAbstractButton>(*program_->page());
     if (controls.empty()) {
         return;
     }
@@ -491,20 +475,23 @@ void RoughHands::lookForMessages() {
 void RoughHands::answer(QMessageBox* box) { QTest::keyClick(box->button(QMessageBox::Ok), Qt::Key_Return); }
 
 bool RoughHands::isKnownFailure(const std::string& message) const {
-    const Page* const page = program_->page();
-    if (page == nullptr || page->name() != PageName::Vaddi1) {
+    Page* const page = program_->page();
+    const FormFacts* const facts = page == nullptr ? nullptr : factsOf(page->name());
+    if (facts == nullptr || !facts->mayFail()) {
         return false;
     }
-    const auto caption = [page](const char* name) { return page->findChild<Label*>(name)->caption(); };
+    const Student seen(*page);
     // Of a page that has just come by the menu only the first exercise is made.
     const std::string lastButton = page == watched_ ? lastButton_ : "";
     // A sum that begins at the top of the graph and has no way to go: the task shows where it begins.
     if (message == messageFor(ArithmeticFailure::Kind::Overflow)) {
-        return (lastButton.empty() || lastButton == "newExercise") && caption("function2Intercept") == "10";
+        return (lastButton.empty() || lastButton == "newExercise") &&
+               seen.caption("function2Intercept") == "10";
     }
     // The last step of the help, where the table has a blank price.
-    return lastButton == "showSum" && message == messageFor(ArithmeticFailure::Kind::TypeMismatch) &&
-           page->findChild<AnswerBox*>("price3")->content() == " ";
+    return lastButton == facts->except.failingStep &&
+           message == messageFor(ArithmeticFailure::Kind::TypeMismatch) &&
+           seen.box("price3").content() == " ";
 }
 
 }  // namespace tavrune::test

@@ -10,8 +10,8 @@
 #include "app/pages.h"
 #include "app/program.h"
 #include "proof/counts.h"
-#include "support/form_driver.h"
 #include "support/record.h"
+#include "support/student.h"
 
 namespace tavrune {
 namespace {

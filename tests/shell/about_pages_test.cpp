@@ -5,6 +5,7 @@
 
 #include "numeric/draws.h"
 #include "shell/frm_about.h"
+#include "support/expect.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
 
@@ -22,10 +23,10 @@ TEST_F(AboutPages, FirstTellsOfTheProgramInItsOwnWords) {
     const FormDriver form(PageName::Form1, draws);
     EXPECT_EQ(form.page().windowTitle().toStdString(), "Tavrune - Om Tavrune");
     // Another version number than on the start page: kept.
-    EXPECT_EQ(form.caption("programName"), "Tavrune 2.1");
-    EXPECT_EQ(form.caption("subtitle"), "Matematiktræningsprogram for økonomer");
-    EXPECT_EQ(form.caption("aboutHeading"), "Om programmet");
-    EXPECT_EQ(form.caption("usageHeading"), "Brug af programmet");
+    test::expectTexts(form, {{"programName", "Tavrune 2.1"},
+                             {"subtitle", "Matematiktræningsprogram for økonomer"},
+                             {"aboutHeading", "Om programmet"},
+                             {"usageHeading", "Brug af programmet"}});
     EXPECT_EQ(
         form.caption("purposeText"),
         "Matematiktræningsprogrammet Tavrune er udviklet specielt til at indøve og træne en række "
@@ -41,10 +42,10 @@ TEST_F(AboutPages, FirstTellsOfTheProgramInItsOwnWords) {
         "nogle emner vælges der sværhedsgrad.");
     EXPECT_EQ(form.caption("copyingTerms"),
               "Tavrune må frit kopieres til brug i undervisningen, når programmet ikke ændres.");
-    EXPECT_EQ(form.caption("newExerciseWord"), "\"Ny opgave\"");
-    EXPECT_EQ(form.caption("okWord"), "\"OK\"");
-    EXPECT_EQ(form.caption("giveAnswerWord"), "\"Giv svaret\"");
-    EXPECT_EQ(form.caption("helpWord"), "\"Hjælp\"");
+    test::expectTexts(form, {{"newExerciseWord", "\"Ny opgave\""},
+                             {"okWord", "\"OK\""},
+                             {"giveAnswerWord", "\"Giv svaret\""},
+                             {"helpWord", "\"Hjælp\""}});
     EXPECT_EQ(form.button("nextPage").caption(), "&Næste side >");
 }
 

@@ -5,7 +5,7 @@
 #include <tuple>
 #include <utility>
 
-#include "support/form_driver.h"
+#include "support/student.h"
 
 namespace tavrune::test {
 namespace {

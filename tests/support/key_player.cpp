@@ -5,9 +5,9 @@
 
 #include <QTest>
 
-#include "controls/button.h"
+#include <gtest/gtest.h>
+
 #include "controls/text.h"
-#include "support/form_driver.h"
 
 namespace tavrune::test {
 namespace {
@@ -46,7 +46,7 @@ bool KeyPlayer::goTo(const QWidget& target) {
     for (int step = 0; step < kLongestWay && QApplication::focusWidget() != &target; ++step) {
         press(Qt::Key_Tab);
     }
-    EXPECT_EQ(QApplication::focusWidget(), &target) << target.objectName().toStdString();
+    EXPECT_EQ(QApplication::focusWidget(), &target) << nameOf(target);
     return QApplication::focusWidget() == &target;
 }
 
@@ -101,38 +101,20 @@ void KeyPlayer::chooseInMenu(const Page& page, std::optional<PageName> target) {
     press(Qt::Key_Return);
 }
 
-int KeyPlayer::showAllSteps(const Page& page) {
+int KeyPlayer::showAllSteps(const Student& seen) {
     std::set<const Button*> pressed;
-    while (true) {
-        const QList<Button*> buttons = page.findChildren<Button*>();
-        const auto isNext = [&pressed](const Button* button) {
-            return button->caption() == "Vis" && button->isVisible() && button->isEnabled() &&
-                   !pressed.contains(button);
-        };
-        const auto next = std::find_if(buttons.begin(), buttons.end(), isNext);
+    while (const Button* const vis = seen.nextStep(pressed)) {
         // A failure of the arithmetic has a message of its own.
-        if (next == buttons.end() || QApplication::activeModalWidget() != nullptr) {
-            return static_cast<int>(pressed.size());
+        if (QApplication::activeModalWidget() != nullptr) {
+            break;
         }
-        // Where the last step has led is the way that is meant.
-        const auto* const focused = qobject_cast<Button*>(QApplication::focusWidget());
-        const Button* const vis = focused != nullptr && isNext(focused) ? focused : *next;
         pressed.insert(vis);
         if (!goTo(*vis)) {
             return 0;
         }
         press(Qt::Key_Return);
     }
-}
-
-std::vector<const AnswerBox*> KeyPlayer::boxesInSight(const Page& page) {
-    std::vector<const AnswerBox*> boxes;
-    for (const AnswerBox* box : page.findChildren<AnswerBox*>()) {
-        if (box->isVisible() && box->isEnabled()) {
-            boxes.push_back(box);
-        }
-    }
-    return boxes;
+    return static_cast<int>(pressed.size());
 }
 
 }  // namespace tavrune::test

@@ -7,14 +7,12 @@
 
 #include <QApplication>
 
-#include "controls/answer_box.h"
-#include "controls/option_button.h"
-#include "shell/page.h"
+#include "support/student.h"
 
 namespace tavrune::test {
 
 /// Someone who has a keyboard and nothing else. Keys go to the window that has them, whichever that is; of
-/// the page the player sees what everyone sees: captions, contents, and where the focus stands.
+/// the page the player sees what every student sees.
 class KeyPlayer {
 public:
     static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -29,11 +27,11 @@ public:
     /// Replaces what the box that has the focus holds.
     static void write(const std::string& text);
 
-    /// Fills the boxes of `page` that are in sight, from the one that has the focus on: Enter after each, Tab
+    /// Fills the boxes that are in sight, from the one that has the focus on: Enter after each, Tab
     /// where Enter leads to none that is still to be filled. `textFor` gives the text of a box.
     template <class TextFor>
-    static void fill(const Page& page, const TextFor& textFor) {
-        std::vector<const AnswerBox*> left = boxesInSight(page);
+    static void fill(const Student& seen, const TextFor& textFor) {
+        std::vector<AnswerBox*> left = seen.boxes();
         while (!left.empty()) {
             const auto at = std::find(left.begin(), left.end(), QApplication::focusWidget());
             if (at == left.end()) {
@@ -52,9 +50,7 @@ public:
     static void chooseInMenu(const Page& page, std::optional<PageName> target);
 
     /// Presses every "Vis" in sight, those that come up by it included; how many it were.
-    static int showAllSteps(const Page& page);
-
-    [[nodiscard]] static std::vector<const AnswerBox*> boxesInSight(const Page& page);
+    static int showAllSteps(const Student& seen);
 };
 
 }  // namespace tavrune::test

@@ -7,11 +7,9 @@
 #include <QStyleOptionFrame>
 #include <QTextLayout>
 
-#include "controls/answer_box.h"
-#include "controls/label.h"
-#include "controls/panel.h"
 #include "controls/table_head.h"
 #include "shell/exercise_form.h"
+#include "support/student.h"
 
 namespace tavrune::test {
 namespace {
@@ -173,20 +171,16 @@ bool isSignOver(const Word& sign, const Word& word) {
 class Inspection {
 public:
     explicit Inspection(const QWidget& page) : page_(page) {
-        for (const Label* label : page.findChildren<Label*>()) {
-            if (label->isVisible() && !label->text().trimmed().isEmpty()) {
+        for (const Label* label : inSight<Label>(page)) {
+            if (!label->text().trimmed().isEmpty()) {
                 look(*label);
             }
         }
-        for (const QAbstractButton* button : page.findChildren<QAbstractButton*>()) {
-            if (button->isVisible() && dynamic_cast<const Control*>(button) != nullptr) {
-                look(*button);
-            }
+        for (const QAbstractButton* button : inSight<QAbstractButton>(page)) {
+            look(*button);
         }
-        for (const AnswerBox* box : page.findChildren<AnswerBox*>()) {
-            if (box->isVisible()) {
-                look(*box);
-            }
+        for (const AnswerBox* box : inSight<AnswerBox>(page)) {
+            look(*box);
         }
         compareWords();
     }
@@ -264,13 +258,13 @@ std::vector<std::string> flawsOf(const QWidget& window) { return Inspection(wind
 
 std::vector<std::string> overfullBoxesOf(const QWidget& window) {
     std::vector<std::string> overfull;
-    for (const AnswerBox* box : window.findChildren<AnswerBox*>()) {
+    for (const AnswerBox* box : inSight<AnswerBox>(window)) {
         QStyleOptionFrame frame;
         frame.initFrom(box);
         frame.lineWidth = box->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, box);
         // The box leaves itself two pixels at either side of its text.
         const int room = box->style()->subElementRect(QStyle::SE_LineEditContents, &frame, box).width() - 4;
-        if (box->isVisible() && box->fontMetrics().horizontalAdvance(box->text()) > room) {
+        if (box->fontMetrics().horizontalAdvance(box->text()) > room) {
             overfull.push_back(named(*box, box->text()));
         }
     }

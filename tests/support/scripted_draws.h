@@ -59,6 +59,16 @@ private:
     int drawnTooOften_ = 0;
 };
 
+/// The exercise that a script makes of an untouched state, by just its draws.
+template <class State>
+[[nodiscard]] State exerciseOf(const std::vector<float>& script) {
+    ScriptedDraws draws(script);
+    State state;
+    newExercise(state, draws);
+    EXPECT_TRUE(draws.isUsedUp());
+    return state;
+}
+
 /// A draw that falls into cell `cell` of `cells` equal ones: Int(cellOf(3, 20) * 20) is 3.
 [[nodiscard]] constexpr float cellOf(int cell, int cells) {
     return (static_cast<float>(cell) + 0.5F) / static_cast<float>(cells);

@@ -4,45 +4,47 @@
 
 #include <gtest/gtest.h>
 
-#include "support/form_driver.h"
+#include "support/expect.h"
 
 /// How a form stands once it has judged or given an answer.
 namespace tavrune::test {
 
-[[nodiscard]] inline bool isVerdictShown(const FormDriver& f, bool isRight) {
-    if (f.page().findChild<Label*>("verdict") == nullptr) {
-        return f.isShown(isRight ? "right" : "wrong");
+[[nodiscard]] inline bool isVerdictShown(const Student& form, bool isRight) {
+    if (form.page().findChild<Label*>("verdict") == nullptr) {
+        return form.isShown(isRight ? "right" : "wrong");
     }
-    return f.isShown("verdict") && f.caption("verdict") == (isRight ? "RIGTIGT" : "FORKERT") &&
-           f.label("verdict").backColour() == (isRight ? kGreen : kRed);
+    return form.isShown("verdict") && form.caption("verdict") == (isRight ? "RIGTIGT" : "FORKERT") &&
+           form.label("verdict").backColour() == (isRight ? kGreen : kRed);
 }
 
-inline void expectOver(const FormDriver& f) {
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
-    EXPECT_TRUE(f.isShown("newExercise"));
-    EXPECT_EQ(f.focus(), "newExercise");
-    EXPECT_TRUE(f.redBoxes().empty());
+inline void expectOver(const Student& form) {
+    expectHidden(form, {"ok", "giveAnswer"});
+    EXPECT_TRUE(form.isShown("newExercise"));
+    EXPECT_EQ(form.focus(), "newExercise");
+    EXPECT_TRUE(form.redBoxes().empty());
 }
 
 /// "RIGTIGT" alone, no mark, and nothing left to do but the next exercise.
-inline void expectSolved(const FormDriver& f) {
-    EXPECT_TRUE(isVerdictShown(f, true) && !isVerdictShown(f, false));
-    expectOver(f);
+inline void expectSolved(const Student& form, const Where& where = Where::current()) {
+    const testing::ScopedTrace asked(where.file_name(), static_cast<int>(where.line()), "asked here");
+    EXPECT_TRUE(isVerdictShown(form, true) && !isVerdictShown(form, false));
+    expectOver(form);
 }
 
 /// No verdict, no mark, and nothing left to do but the next exercise.
-inline void expectGiven(const FormDriver& f) {
-    EXPECT_TRUE(!isVerdictShown(f, true) && !isVerdictShown(f, false));
-    expectOver(f);
+inline void expectGiven(const Student& form, const Where& where = Where::current()) {
+    const testing::ScopedTrace asked(where.file_name(), static_cast<int>(where.line()), "asked here");
+    EXPECT_TRUE(!isVerdictShown(form, true) && !isVerdictShown(form, false));
+    expectOver(form);
 }
 
 /// "FORKERT" alone, and a way to another try or the answer. The marks are left to the caller.
-inline void expectWrong(const FormDriver& f, const std::string& focus) {
-    EXPECT_TRUE(isVerdictShown(f, false) && !isVerdictShown(f, true));
-    EXPECT_TRUE(f.isShown("ok"));
-    EXPECT_TRUE(f.isShown("giveAnswer"));
-    EXPECT_EQ(f.focus(), focus);
+inline void expectWrong(const Student& form, const std::string& focus,
+                        const Where& where = Where::current()) {
+    const testing::ScopedTrace asked(where.file_name(), static_cast<int>(where.line()), "asked here");
+    EXPECT_TRUE(isVerdictShown(form, false) && !isVerdictShown(form, true));
+    expectShown(form, {"ok", "giveAnswer"});
+    EXPECT_EQ(form.focus(), focus);
 }
 
 }  // namespace tavrune::test

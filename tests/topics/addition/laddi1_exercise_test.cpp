@@ -20,7 +20,6 @@
 namespace tavrune {
 namespace {
 
-using test::cellOf;
 using test::DecimalMark;
 using test::DrawnFunction;
 using test::flawOfJudging;
@@ -31,11 +30,7 @@ using test::ScriptedDraws;
 using test::scriptOf;
 
 Laddi1State exercise(const DrawnFunction& function1, const DrawnFunction& function2) {
-    ScriptedDraws draws(scriptOf(function1, function2));
-    Laddi1State state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    return state;
+    return test::exerciseOf<Laddi1State>(scriptOf(function1, function2));
 }
 
 struct ExerciseRow {
@@ -91,14 +86,11 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return row.param.name; });
 
 TEST(Laddi1Generator, TakesTheCoinThenTheSlopeThenTheInterceptOfEachFunction) {
-    ScriptedDraws draws{0.49F, 0.7F, 0.5F, 0.5F, 0.3F, 0.9F};
-    Laddi1State s;
-    newExercise(s, draws);
+    const Laddi1State s = test::exerciseOf<Laddi1State>({0.49F, 0.7F, 0.5F, 0.5F, 0.3F, 0.9F});
     EXPECT_EQ(s.slope1, -3);
     EXPECT_EQ(s.intercept1, 2);
     EXPECT_EQ(s.slope2, 1);
     EXPECT_EQ(s.intercept2, 4);
-    EXPECT_TRUE(draws.isUsedUp());
 }
 
 TEST(Laddi1Generator, LetsAFunctionRiseFromOneHalfOn) {

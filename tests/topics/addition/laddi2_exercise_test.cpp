@@ -416,12 +416,9 @@ TEST(Laddi2Generator, LetsASecondPieceRiseFromOneHalfOn) {
 TEST(Laddi2Generator, DrawsALevelSecondOneOnEitherSideOfItsCoinAndNeverRejectsIt) {
     for (int place = 0; place < 5; ++place) {
         for (const bool isFallingDrawn : {true, false}) {
-            ScriptedDraws draws(kinkScriptOf(4, 5) + beforeScriptOf({1, 1}) +
-                                afterScriptOf(isFallingDrawn, 0, place) + beforeScriptOf({1, 1}) +
-                                afterScriptOf(isFallingDrawn, 0, place));
-            Laddi2State s;
-            newExercise(s, draws);
-            EXPECT_TRUE(draws.isUsedUp());
+            const Laddi2State s = test::exerciseOf<Laddi2State>(
+                kinkScriptOf(4, 5) + beforeScriptOf({1, 1}) + afterScriptOf(isFallingDrawn, 0, place) +
+                beforeScriptOf({1, 1}) + afterScriptOf(isFallingDrawn, 0, place));
             const DrawnPiece expected{0, place + (isFallingDrawn ? 5 : 1)};
             EXPECT_EQ(drawnOf(s.function1.after), expected);
             EXPECT_EQ(drawnOf(s.function2.after), expected);
@@ -516,12 +513,10 @@ TEST(Laddi2Generator, MixesBothWaysOfGoingBack) {
 }
 
 TEST(Laddi2Generator, DrawsTheKinksOnlyOnce) {
-    ScriptedDraws draws(kinkScriptOf(6, 5) + beforeScriptOf({-3, 1}) + beforeScriptOf({1, 1}) +
-                        afterScriptOf(6, {0, 2}) + beforeScriptOf({-2, 4}) + afterScriptOf(6, {0, 4}) +
-                        beforeScriptOf({0, 1}) + afterScriptOf(5, {0, 8}));
-    Laddi2State s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
+    const Laddi2State s = test::exerciseOf<Laddi2State>(kinkScriptOf(6, 5) + beforeScriptOf({-3, 1}) +
+                                                        beforeScriptOf({1, 1}) + afterScriptOf(6, {0, 2}) +
+                                                        beforeScriptOf({-2, 4}) + afterScriptOf(6, {0, 4}) +
+                                                        beforeScriptOf({0, 1}) + afterScriptOf(5, {0, 8}));
     EXPECT_EQ(s.function1.kink, 6);
     EXPECT_EQ(s.function2.kink, 5);
 }

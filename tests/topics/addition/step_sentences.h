@@ -30,4 +30,23 @@ inline void expectSentencesOnLinesOfTheirOwn(const FormDriver& form,
     }
 }
 
+/// The method in three steps, in the words of the first two levels of horizontal addition.
+inline void expectSharedMethod(const FormDriver& form) {
+    const auto sentences = [&form](const char* name) {
+        return form.label(name).text().simplified().toStdString();
+    };
+    EXPECT_EQ(sentences("pricesStepText"),
+              "Bestem P-værdierne til de opgivne funktioners endepunkter vha. definitionsmængderne og indsæt "
+              "dem i hjælpeskemaet efter størrelse. Hvis funktionerne er voksende, indsættes for nemheds "
+              "skyld 10 som nederste værdi i hjælpeskemaet, ellers indsættes 0. Hvis der er en vandret linie "
+              "indsættes dennes P-værdi to gange.");
+    EXPECT_EQ(sentences("quantitiesStepText"),
+              "Bestem for hver P-værdi de tilsvarende Q-værdier for hver funktion, indsæt dem i "
+              "hjælpeskemaet under \"Q1\" og \"Q2\" og addér dem i \"Qtotal\". Hvis der er en vandret linie, "
+              "indsættes 0 som første Q-værdi og uendeligt (oo) som anden.");
+    EXPECT_EQ(sentences("sumStepText"),
+              "Beregn den eller de resulterende funktioner ved at beregne forskrifterne for linierne mellem "
+              "de samhørende Qtotal- og P-værdier.");
+}
+
 }  // namespace tavrune::test

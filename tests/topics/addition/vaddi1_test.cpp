@@ -7,15 +7,12 @@
 #include <gtest/gtest.h>
 
 #include "app/program.h"
-#include "graph/graph_box.h"
 #include "numeric/text.h"
 #include "shell/failure.h"
 #include "support/decimal_mark.h"
-#include "support/fixed_texts.h"
-#include "support/form_driver.h"
-#include "support/scripted_draws.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
 #include "support/verdict.h"
+#include "topics/addition/addition_frames.h"
 #include "topics/addition/axis_texts.h"
 #include "topics/addition/step_sentences.h"
 #include "topics/addition/vaddi1_tasks.h"
@@ -91,25 +88,14 @@ Strokes bandAt(const test::StrokesIn& in, double from, double to, int price, con
     return band(in, from, to, price == 0 ? 0 : price - 0.1, price >= 8 ? 4 : 5, colour);
 }
 
-class Vaddi1Form : public testing::Test {
+class Vaddi1Form : public test::ScriptedForm<const Task&> {
 protected:
-    FormDriver& open(const Task& task) {
-        draws.append(scriptOf(task));
-        form = std::make_unique<FormDriver>(PageName::Vaddi1, draws);
-        return *form;
-    }
-
-    void next(const Task& task) {
-        draws.append(scriptOf(task));
-        form->click("newExercise");
-    }
-
-    [[nodiscard]] const GraphBox& box(const std::string& name) const { return form->find<GraphBox>(name); }
+    Vaddi1Form() : ScriptedForm(PageName::Vaddi1, scriptOf) {}
 
     /// What stands on the box of a function after the function itself.
-    [[nodiscard]] Strokes later(const std::string& name) const { return test::strokesFrom(box(name), 1); }
+    [[nodiscard]] Strokes later(const std::string& name) const { return test::strokesFrom(graph(name), 1); }
 
-    [[nodiscard]] const Strokes& result() const { return box("resultGraph").strokes(); }
+    [[nodiscard]] const Strokes& result() const { return graph("resultGraph").strokes(); }
 
     [[nodiscard]] std::string textOf(const std::string& name) const { return form->box(name).content(); }
 
@@ -144,11 +130,6 @@ protected:
             }
         }
     }
-
-    [[nodiscard]] std::set<std::string> redBoxes() const { return form->redBoxes(); }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 const std::vector<std::string> kFallingAnswer{"-3", "10", "0.67", "-1.72", "9.15", "0.67", "5.33"};
@@ -166,13 +147,9 @@ const Strokes kRisingSum{kResult.line(0, 9, 2.5, 4, kSum),
 TEST_F(Vaddi1Form, StartsWithoutAnswer) {
     const FormDriver unshown = FormDriver::unshown(PageName::Vaddi1, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Vandret addition - Niveau 1");
-    for (const char* hidden : {"giveAnswer", "wrong", "right", "helpPanel"}) {
-        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
-    }
-    for (const char* empty : {"function1Slope", "function1Intercept", "function2Slope", "function2Intercept",
-                              "quantitiesResult"}) {
-        EXPECT_EQ(unshown.caption(empty), "") << empty;
-    }
+    test::expectHidden(unshown, {"giveAnswer", "wrong", "right", "helpPanel"});
+    test::expectBlank(unshown, {"function1Slope", "function1Intercept", "function2Slope",
+                                "function2Intercept", "quantitiesResult"});
     EXPECT_EQ(unshown.label("wrong").backColour(), QColor(192, 0, 0));
 }
 
@@ -217,22 +194,7 @@ TEST_F(Vaddi1Form, BearsItsFixedTexts) {
     test::expectTexts(f, kTexts);
 }
 
-TEST_F(Vaddi1Form, TellsTheMethodInThreeSteps) {
-    const FormDriver& f = open(kFalling);
-    const auto sentences = [&f](const char* name) { return f.label(name).text().simplified().toStdString(); };
-    EXPECT_EQ(sentences("pricesStepText"),
-              "Bestem P-værdierne til de opgivne funktioners endepunkter vha. definitionsmængderne og indsæt "
-              "dem i hjælpeskemaet efter størrelse. Hvis funktionerne er voksende, indsættes for nemheds "
-              "skyld 10 som nederste værdi i hjælpeskemaet, ellers indsættes 0. Hvis der er en vandret linie "
-              "indsættes dennes P-værdi to gange.");
-    EXPECT_EQ(sentences("quantitiesStepText"),
-              "Bestem for hver P-værdi de tilsvarende Q-værdier for hver funktion, indsæt dem i "
-              "hjælpeskemaet under \"Q1\" og \"Q2\" og addér dem i \"Qtotal\". Hvis der er en vandret linie, "
-              "indsættes 0 som første Q-værdi og uendeligt (oo) som anden.");
-    EXPECT_EQ(sentences("sumStepText"),
-              "Beregn den eller de resulterende funktioner ved at beregne forskrifterne for linierne mellem "
-              "de samhørende Qtotal- og P-værdier.");
-}
+TEST_F(Vaddi1Form, TellsTheMethodInThreeSteps) { test::expectSharedMethod(open(kFalling)); }
 
 TEST_F(Vaddi1Form, BeginsEachSentenceOfItsStepsOnALineOfItsOwn) {
     test::expectSentencesOnLinesOfTheirOwn(open(kFalling), test::kSharedStepSentences);
@@ -276,8 +238,8 @@ TEST_F(Vaddi1Form, NumbersTheAxesInSteps) {
 TEST_F(Vaddi1Form, LaysItsAxesOverTheTicksOfItsFrames) {
     open(kFalling);
     const auto corners = [this](const char* outer, const char* inner) {
-        const GraphBox& frame = box(outer);
-        const QRectF place = box(inner).Control::place();
+        const GraphBox& frame = graph(outer);
+        const QRectF place = graph(inner).Control::place();
         const double perX = frame.Control::place().width() / frame.scale().x2;
         const double perY = frame.Control::place().height() / frame.scale().y2;
         return QRectF(place.left() / perX, place.top() / perY, place.width() / perX, place.height() / perY);
@@ -296,20 +258,20 @@ TEST_F(Vaddi1Form, LaysItsAxesOverTheTicksOfItsFrames) {
 TEST_F(Vaddi1Form, AsksWithBlankWhiteBoxesAndTheFocusInTheTable) {
     const DecimalMark danish(",");
     const FormDriver& f = open(kFalling);
-    EXPECT_EQ(f.caption("function1Slope"), "-4");
-    EXPECT_EQ(f.caption("function1Intercept"), "8");
-    EXPECT_EQ(f.caption("function2Slope"), "-3");
-    EXPECT_EQ(f.caption("function2Intercept"), "10");
+    test::expectTexts(f, {{"function1Slope", "-4"},
+                          {"function1Intercept", "8"},
+                          {"function2Slope", "-3"},
+                          {"function2Intercept", "10"}});
     for (const AnswerBox* each : f.page().findChildren<AnswerBox*>()) {
         EXPECT_EQ(each->content(), " ");
         EXPECT_EQ(each->backColour(), kWhite);
     }
     EXPECT_EQ(f.focus(), "price1");
     next(kFirstThenLevel);
-    EXPECT_EQ(f.caption("function1Slope"), "4");
-    EXPECT_EQ(f.caption("function1Intercept"), "0");
-    EXPECT_EQ(f.caption("function2Slope"), "0");
-    EXPECT_EQ(f.caption("function2Intercept"), "7");
+    test::expectTexts(f, {{"function1Slope", "4"},
+                          {"function1Intercept", "0"},
+                          {"function2Slope", "0"},
+                          {"function2Intercept", "7"}});
 }
 
 TEST_F(Vaddi1Form, WritesALevelFallingLineWithoutAMinus) {
@@ -330,19 +292,16 @@ TEST_P(Vaddi1Rows, AreShownByTheSegmentsAndTheDirection) {
     const RowsRow& row = GetParam();
     const FormDriver& f = open(row.hasFirstRow ? kLevelSecond : kFalling);
     next(row.task);
-    for (const char* name : {"segment1PriceEquals", "segment1TimesQuantityPlus",
-                             "segment1ZeroLessThanQuantity", "segment1EndLessOrEqual", "segment1Slope",
-                             "segment1Intercept", "segment1End", "segment1StartLessOrEqual"}) {
-        EXPECT_EQ(f.isShown(name), row.hasFirstRow) << name;
-    }
+    test::expectShown(f,
+                      {"segment1PriceEquals", "segment1TimesQuantityPlus", "segment1ZeroLessThanQuantity",
+                       "segment1EndLessOrEqual", "segment1Slope", "segment1Intercept", "segment1End",
+                       "segment1StartLessOrEqual"},
+                      row.hasFirstRow);
     EXPECT_EQ(f.isShown("segment2StartLessOrEqual"), !row.hasFirstRow);
     EXPECT_EQ(f.isShown("segment2End"), row.hasUpperEnd);
     EXPECT_EQ(f.isShown("segment2EndLessOrEqual"), row.hasUpperEnd);
-    for (const char* name :
-         {"segment2PriceEquals", "segment2TimesQuantityPlus", "segment2ValidFor", "segment2LessThanQuantity",
-          "segment2Slope", "segment2Intercept", "segment2Start"}) {
-        EXPECT_TRUE(f.isShown(name)) << name;
-    }
+    test::expectShown(f, {"segment2PriceEquals", "segment2TimesQuantityPlus", "segment2ValidFor",
+                          "segment2LessThanQuantity", "segment2Slope", "segment2Intercept", "segment2Start"});
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, Vaddi1Rows,
@@ -364,27 +323,9 @@ INSTANTIATE_TEST_SUITE_P(Rows, Vaddi1Rows,
 
 TEST_F(Vaddi1Form, TicksItsFramesOnceHoweverManyExercisesThereAre) {
     open(kFalling);
-    const auto given = [this](const char* name) {
-        const test::StrokesIn in{box(name).scale()};
-        Strokes ticks;
-        for (int i = 0; i <= 10; ++i) {
-            ticks.push_back(in.line(1 + 0.8 * i, 8.2, 1 + 0.8 * i, 8.4));
-            ticks.push_back(in.line(0.8, 0.2 + 0.8 * i, 1, 0.2 + 0.8 * i));
-        }
-        return ticks;
-    };
-    const test::StrokesIn wide{box("resultGraphFrame").scale()};
-    Strokes result;
-    for (int i = 0; i <= 10; ++i) {
-        result.push_back(wide.line(0.8, 1 + 0.8 * i, 1, 1 + 0.8 * i));
-    }
-    for (int i = 0; i <= 20; ++i) {
-        result.push_back(wide.line(1 + 0.9 * i, 9, 1 + 0.9 * i, 9.2));
-    }
     for (int exercise = 0; exercise < 50; ++exercise) {
-        ASSERT_EQ(box("function1GraphFrame").strokes(), given("function1GraphFrame"));
-        ASSERT_EQ(box("function2GraphFrame").strokes(), given("function2GraphFrame"));
-        ASSERT_EQ(result, box("resultGraphFrame").strokes());
+        test::expectTicks(*form, {"function1GraphFrame", "function2GraphFrame"}, test::Ticks::Wide);
+        ASSERT_FALSE(HasFailure());
         draws.append(scriptOf(kRising));
         form->button("newExercise").click();
     }
@@ -392,21 +333,20 @@ TEST_F(Vaddi1Form, TicksItsFramesOnceHoweverManyExercisesThereAre) {
 
 TEST_F(Vaddi1Form, DrawsEachFunctionInItsBoxAndNoResult) {
     open(kFalling);
-    EXPECT_EQ(box("function1Graph").strokes(), (Strokes{kGiven.line(0, 2, 10, 42)}));
-    EXPECT_EQ(box("function2Graph").strokes(), (Strokes{kGiven.line(0, 0, 10, 30)}));
+    EXPECT_EQ(graph("function1Graph").strokes(), (Strokes{kGiven.line(0, 2, 10, 42)}));
+    EXPECT_EQ(graph("function2Graph").strokes(), (Strokes{kGiven.line(0, 0, 10, 30)}));
     EXPECT_TRUE(result().empty());
     next(kFirstThenLevel);
-    EXPECT_EQ(box("function1Graph").strokes(), (Strokes{kGiven.line(0, 10, 10, -30)}));
-    EXPECT_EQ(box("function2Graph").strokes(), (Strokes{kGiven.line(0, 3, 10, 3)}));
+    EXPECT_EQ(graph("function1Graph").strokes(), (Strokes{kGiven.line(0, 10, 10, -30)}));
+    EXPECT_EQ(graph("function2Graph").strokes(), (Strokes{kGiven.line(0, 3, 10, 3)}));
 }
 
 TEST_F(Vaddi1Form, ClearsTheThreeGraphsForTheNextExercise) {
     const FormDriver& f = open(kFalling);
-    f.click("help");
-    f.click("showSum");
+    f.click("help", "showSum");
     next(kRising);
-    EXPECT_EQ(box("function1Graph").strokes().size(), 1U);
-    EXPECT_EQ(box("function2Graph").strokes().size(), 1U);
+    EXPECT_EQ(graph("function1Graph").strokes().size(), 1U);
+    EXPECT_EQ(graph("function2Graph").strokes().size(), 1U);
     EXPECT_TRUE(result().empty());
 }
 
@@ -518,14 +458,12 @@ TEST_F(Vaddi1Form, LeavesForkertBehindRigtigt) {
     f.click("ok");
     EXPECT_TRUE(f.isShown("wrong"));
     answer(kFallingAnswer);
-    EXPECT_TRUE(f.isShown("wrong"));
-    EXPECT_TRUE(f.isShown("right"));
+    test::expectShown(f, {"wrong", "right"});
     const QObjectList& siblings = f.label("right").parent()->children();
     EXPECT_GT(siblings.indexOf(&f.label("right")), siblings.indexOf(&f.label("wrong")));
     EXPECT_EQ(f.label("wrong").place(), f.label("right").place());
     next(kRising);
-    EXPECT_FALSE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("right"));
+    test::expectHidden(f, {"wrong", "right"});
 }
 
 struct NudgeRow {
@@ -668,11 +606,8 @@ TEST_F(Vaddi1Form, GivesTheWholeAnswerOverTheTypedLines) {
     const DecimalMark danish(",");
     const FormDriver& f = open(kFalling);
     answer({"-1", "9", "2", "-2", "8", "1", "4"});
-    f.click("help");
-    f.click("giveAnswer");
-    for (const char* hidden : {"helpPanel", "ok", "giveAnswer", "wrong", "right"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    f.click("help", "giveAnswer");
+    test::expectHidden(f, {"helpPanel", "ok", "giveAnswer", "wrong", "right"});
     EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_EQ(column(kPrices), "10|8|0");
     EXPECT_EQ(column(kQuantities1), " |0|2");
@@ -717,8 +652,7 @@ TEST_F(Vaddi1Form, DrawsTheHiddenRowToOfALoneSegment) {
 
 TEST_F(Vaddi1Form, GivesWhatNoExerciseHasSetAsZeroOrNothing) {
     const FormDriver& f = open(kLevelSecond);
-    f.click("ok");
-    f.click("giveAnswer");
+    f.click("ok", "giveAnswer");
     EXPECT_EQ(column(kPrices), "8|8| ");
     EXPECT_EQ(column(kQuantities1), " | | ");
     EXPECT_EQ(column(kQuantities2), "0|oo| ");
@@ -740,8 +674,7 @@ TEST_F(Vaddi1Form, ShowsTheThirdTotalOfTheExerciseBeforeForALevelSecondFunction)
     for (const auto& [before, total] : {std::pair{kRising, "0|5.3| "}, {kLevelFirst, "0|oo| "}}) {
         next(before);
         next(kLevelSecond);
-        f.click("ok");
-        f.click("giveAnswer");
+        f.click("ok", "giveAnswer");
         EXPECT_EQ(column(kTotals), total);
     }
 }
@@ -753,8 +686,7 @@ TEST_F(Vaddi1Form, GivesTheAnswerWhateverIsTyped) {
         for (const std::string& name : kAnswerBoxes) {
             f.box(name).setContent(typed);
         }
-        f.click("ok");
-        f.click("giveAnswer");
+        f.click("ok", "giveAnswer");
         EXPECT_FALSE(f.page().grab().isNull());
         EXPECT_EQ(textOf("segment2Slope"), "-1.72");
         EXPECT_EQ(result().size(), 4U);
@@ -768,13 +700,7 @@ TEST_F(Vaddi1Form, OpensItsHelpAtTheFirstStepAndClosesItToTheTable) {
     const FormDriver& f = open(kFalling);
     f.click("help");
     EXPECT_TRUE(f.isShown("helpPanel"));
-    EXPECT_EQ(f.focus(), "showPrices");
-    f.press("showPrices", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "showQuantities");
-    f.press("showQuantities", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "showSum");
-    f.press("showSum", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "closeHelp");
+    test::expectWayByEnter(f, {"showPrices", "showQuantities", "showSum", "closeHelp"});
     f.press("closeHelp", Qt::Key_Return);
     EXPECT_FALSE(f.isShown("helpPanel"));
     EXPECT_EQ(f.focus(), "price1");
@@ -801,8 +727,7 @@ class Vaddi1Steps : public Vaddi1Form, public testing::WithParamInterface<StepsR
 TEST_P(Vaddi1Steps, MarkTheEndsAndThenTheQuantities) {
     const StepsRow& row = GetParam();
     const FormDriver& f = open(row.task);
-    f.click("help");
-    f.click("showPrices");
+    f.click("help", "showPrices");
     EXPECT_EQ(later("function1Graph"), row.marks1);
     EXPECT_EQ(later("function2Graph"), row.marks2);
     EXPECT_EQ(column(kQuantities1), " | | ");
@@ -869,12 +794,11 @@ class Vaddi1Stack : public Vaddi1Form, public testing::WithParamInterface<StackR
 TEST_P(Vaddi1Stack, PutsTheSecondQuantityOnTheFirst) {
     const StackRow& row = GetParam();
     const FormDriver& f = open(row.task);
-    f.click("help");
-    f.click("showSum");
+    f.click("help", "showSum");
     EXPECT_EQ(result(), row.stack + row.sum);
     EXPECT_EQ(f.focus(), "closeHelp");
-    EXPECT_FALSE(f.isShown("ok"));
     EXPECT_TRUE(f.isShown("helpPanel"));
+    EXPECT_FALSE(f.isShown("ok"));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -900,8 +824,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(Vaddi1Form, WritesItsPricesAtTheFirstStepAndTheRestAtTheSecond) {
     const DecimalMark danish(",");
     const FormDriver& f = open(kFalling);
-    f.click("help");
-    f.click("showPrices");
+    f.click("help", "showPrices");
     EXPECT_EQ(column(kPrices), "10|8|0");
     for (const Column& blank : {kQuantities1, kQuantities2, kTotals}) {
         EXPECT_EQ(column(blank), " | | ") << blank.front();
@@ -921,8 +844,7 @@ TEST_F(Vaddi1Form, WritesItsPricesAtTheFirstStepAndTheRestAtTheSecond) {
 
 TEST_F(Vaddi1Form, RunsTheStepsBeforeWhicheverIsPressedFirst) {
     const FormDriver& f = open(kFalling);
-    f.click("help");
-    f.click("showSum");
+    f.click("help", "showSum");
     EXPECT_EQ(column(kPrices), "10|8|0");
     EXPECT_EQ(column(kQuantities2), "0|0.67|3.33");
     EXPECT_NE(f.caption("quantitiesResult"), "");
@@ -940,22 +862,18 @@ TEST_F(Vaddi1Form, RunsTheStepsBeforeWhicheverIsPressedFirst) {
 
 TEST_F(Vaddi1Form, FillsTheAnswerAtTheThirdStepAndLeavesTheVerdictAlone) {
     const FormDriver& f = open(kFalling);
-    f.click("help");
-    f.click("showSum");
+    f.click("help", "showSum");
     for (std::size_t i = 0; i < kAnswerBoxes.size(); ++i) {
         EXPECT_EQ(textOf(kAnswerBoxes[i]), kFallingAnswer[i]) << kAnswerBoxes[i];
     }
-    EXPECT_FALSE(f.isShown("giveAnswer"));
-    EXPECT_FALSE(f.isShown("wrong"));
+    test::expectHidden(f, {"giveAnswer", "wrong"});
 
     next(kFalling);
     f.click("ok");
     EXPECT_FALSE(redBoxes().empty());
-    f.click("help");
-    f.click("showSum");
+    f.click("help", "showSum");
     EXPECT_TRUE(redBoxes().empty());
-    EXPECT_TRUE(f.isShown("giveAnswer"));
-    EXPECT_TRUE(f.isShown("wrong"));
+    test::expectShown(f, {"giveAnswer", "wrong"});
     EXPECT_FALSE(f.isShown("ok"));
     // What was filled in is drawn as if it had been typed.
     const std::size_t before = result().size();
@@ -968,12 +886,11 @@ TEST_F(Vaddi1Form, FillsTheAnswerAtTheThirdStepAndLeavesTheVerdictAlone) {
 
 TEST_F(Vaddi1Form, LeavesWhatIsDrawnUntilTheNextExercise) {
     const FormDriver& f = open(kRising);
-    f.click("help");
-    f.click("showQuantities");
-    const Strokes drawn = box("function1Graph").strokes();
+    f.click("help", "showQuantities");
+    const Strokes drawn = graph("function1Graph").strokes();
     f.click("closeHelp");
     answer(kRisingAnswer);
-    EXPECT_EQ(box("function1Graph").strokes(), drawn);
+    EXPECT_EQ(graph("function1Graph").strokes(), drawn);
     EXPECT_TRUE(f.isShown("right"));
 }
 
@@ -990,8 +907,7 @@ const std::string kTooLarge = messageFor(ArithmeticFailure::Kind::Overflow);
 
 TEST_F(Vaddi1Form, FailsAtTheThirdStepOnABlankPriceAfterItHasStackedTheSecondRow) {
     const FormDriver& f = open(kSameStart);
-    f.click("ok");
-    f.click("help");
+    f.click("ok", "help");
     EXPECT_EQ(failureOf(f.button("showSum")), kTypeMismatch);
     EXPECT_EQ(column(kPrices), "7|0| ");
     EXPECT_EQ(column(kQuantities1), "0|2.33| ");
@@ -999,9 +915,8 @@ TEST_F(Vaddi1Form, FailsAtTheThirdStepOnABlankPriceAfterItHasStackedTheSecondRow
     EXPECT_EQ(column(kTotals), "0|4.67| ");
     EXPECT_EQ(f.caption("quantitiesResult"), "Her fra ( 0 ; 7 ) til ( 4.67 ; 0 ).");
     EXPECT_EQ(later("function1Graph"), markAt(0, 7, 6) + markAt(2.33, 0, 7) + markOff(-5) + first(2.33, 0));
+    test::expectShown(f, {"giveAnswer", "wrong"});
     EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_TRUE(f.isShown("giveAnswer"));
-    EXPECT_TRUE(f.isShown("wrong"));
     EXPECT_EQ(f.focus(), "closeHelp");
     EXPECT_EQ(result(), blue(2.33, 0) + green(2.33, 2.33 + 2.33, 0));
     EXPECT_EQ(textOf("segment2Slope"), " ");
@@ -1033,36 +948,30 @@ TEST_F(Vaddi1Form, LeavesTheBandWithoutLengthOutWhereALevelFirstFunctionIsTheWho
 
 TEST_F(Vaddi1Form, OverflowsAfterTheTaskIsShownDrawnAndHasTheFocus) {
     const FormDriver& f = open(kFalling);
-    f.click("ok");
-    f.click("help");
-    f.click("showQuantities");
+    f.click("ok", "help", "showQuantities");
     draws.append(scriptOf(kOverflow));
     EXPECT_EQ(failureOf(f.button("newExercise")), kTooLarge);
-    EXPECT_EQ(f.caption("function1Slope"), "5");
-    EXPECT_EQ(f.caption("function1Intercept"), "3");
-    EXPECT_EQ(f.caption("function2Slope"), "2");
-    EXPECT_EQ(f.caption("function2Intercept"), "10");
-    EXPECT_EQ(f.caption("quantitiesResult"), "");
+    test::expectTexts(f, {{"function1Slope", "5"},
+                          {"function1Intercept", "3"},
+                          {"function2Slope", "2"},
+                          {"function2Intercept", "10"},
+                          {"quantitiesResult", ""}});
     for (const AnswerBox* each : f.page().findChildren<AnswerBox*>()) {
         EXPECT_EQ(each->content(), " ");
     }
     EXPECT_TRUE(redBoxes().empty());
-    for (const char* hidden :
-         {"helpPanel", "wrong", "right", "giveAnswer", "segment2End", "segment2EndLessOrEqual"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
-    EXPECT_TRUE(f.isShown("segment1Slope"));
-    EXPECT_TRUE(f.isShown("ok"));
-    EXPECT_EQ(box("function1Graph").strokes(), (Strokes{kGiven.line(0, 7, 10, -43)}));
-    EXPECT_EQ(box("function2Graph").strokes(), (Strokes{kGiven.line(0, 0, 10, -20)}));
+    test::expectHidden(
+        f, {"helpPanel", "wrong", "right", "giveAnswer", "segment2End", "segment2EndLessOrEqual"});
+    test::expectShown(f, {"segment1Slope", "ok"});
+    EXPECT_EQ(graph("function1Graph").strokes(), (Strokes{kGiven.line(0, 7, 10, -43)}));
+    EXPECT_EQ(graph("function2Graph").strokes(), (Strokes{kGiven.line(0, 0, 10, -20)}));
     EXPECT_TRUE(result().empty());
     EXPECT_EQ(f.focus(), "price1");
 }
 
 TEST_F(Vaddi1Form, TellsOfABlankPriceAndEndsTheProgramWithStatusOne) {
     const FormDriver& f = open(kLevelFirst);
-    f.click("help");
-    f.click("showSum");
+    f.click("help", "showSum");
     const test::ProgramEnd end = test::readFailure();
     EXPECT_EQ(end.message,
               "Der blev regnet med et felt, som ikke er et tal. Tavrune kan ikke fortsætte og lukker nu.");

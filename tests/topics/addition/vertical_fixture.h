@@ -1,17 +1,16 @@
 #pragma once
 
 #include <map>
-#include <memory>
+#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
-#include "support/form_driver.h"
-#include "support/scripted_draws.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
+#include "support/verdict.h"
+#include "topics/addition/addition_frames.h"
 
 namespace tavrune::test {
 
@@ -39,52 +38,139 @@ inline const StrokesIn kSum{{0, 0, 10, 20}};
     return control.place();
 }
 
+/// An answer with other texts in some boxes.
+[[nodiscard]] inline Typed with(Typed typed, const Typed& others) {
+    for (const auto& [box, text] : others) {
+        typed[box] = text;
+    }
+    return typed;
+}
+
+/// What is typed into an exercise, and the boxes that turn red; where none does, it is right.
+template <class Function>
+struct JudgeRow {
+    const char* name;
+    Function function1, function2;
+    Typed typed;
+    std::set<std::string> red;
+};
+
+template <class Function>
+void PrintTo(const JudgeRow<Function>& row, std::ostream* out) {
+    *out << row.name;
+}
+
 /// A form on which two functions are added by their prices, of straight lines or of two pieces each.
 template <class Function>
-class VerticalForm : public testing::Test {
+class VerticalForm : public ScriptedForm<const Function&, const Function&> {
 protected:
-    VerticalForm(PageName page, std::string right, std::size_t pieces)
-        : page_(page), right_(std::move(right)), pieces_(pieces) {}
+    VerticalForm(PageName page, std::size_t pieces)
+        : ScriptedForm<const Function&, const Function&>(page, scriptOf), pieces_(pieces) {}
 
-    /// Opens the form with the two functions drawn.
-    FormDriver& open(const Function& function1, const Function& function2) {
-        draws.append(scriptOf(function1, function2));
-        form = std::make_unique<FormDriver>(page_, draws);
-        return *form;
-    }
-
-    void nextExercise(const Function& function1, const Function& function2) {
-        draws.append(scriptOf(function1, function2));
-        form->click("newExercise");
-    }
-
-    void fill(const Typed& typed) const { form->fill(typed); }
+    void fill(const Typed& typed) const { this->form->fill(typed); }
 
     void answer(const Typed& typed) const {
         fill(typed);
-        form->click("ok");
-    }
-
-    [[nodiscard]] const Strokes& strokes(const std::string& box) const {
-        return form->find<GraphBox>(box).strokes();
+        this->form->click("ok");
     }
 
     /// What stands on the box of a given function behind its pieces.
     [[nodiscard]] Strokes drawnLater(const std::string& box) const {
-        return strokesFrom(form->find<GraphBox>(box), pieces_);
+        return strokesFrom(this->graph(box), pieces_);
     }
 
-    [[nodiscard]] std::set<std::string> redBoxes() const { return form->redBoxes(); }
+    /// The boxes of the given functions and of their sum lie on the ticks of their frames.
+    void expectBoxesOnTheirTicks() const {
+        struct Row {
+            const char* frame;
+            const char* box;
+            double unitX, unitY, top, bottom;
+        };
+        for (const Row& row : {Row{"function1GraphFrame", "function1Graph", 280.5, 280.5, 0.2, 8.2},
+                               Row{"function2GraphFrame", "function2Graph", 280.5, 280.5, 0.2, 8.2},
+                               Row{"resultGraphFrame", "resultGraph", 285.64, 242.93, 1, 19.5}}) {
+            const GraphBox& frame = this->graph(row.frame);
+            const QRectF box = whereIs(*this->form, row.box);
+            const QRectF around = whereIs(*this->form, row.frame);
+            EXPECT_NEAR(box.left(), fromTwips(row.unitX), 0.5) << row.box;
+            EXPECT_NEAR(box.right(), 9 * fromTwips(row.unitX), 0.75) << row.box;
+            EXPECT_NEAR(box.top(), row.top * fromTwips(row.unitY), 0.5) << row.box;
+            EXPECT_NEAR(box.bottom(), row.bottom * fromTwips(row.unitY), 0.7) << row.box;
+            EXPECT_NEAR(around.width() / frame.scale().x2, fromTwips(row.unitX), 0.005) << row.frame;
+            EXPECT_NEAR(around.height() / frame.scale().y2, fromTwips(row.unitY), 0.005) << row.frame;
+        }
+    }
 
-    [[nodiscard]] bool isRight() const { return form->isShown(right_); }
+    void expectJudged(const JudgeRow<Function>& row) {
+        this->open(row.function1, row.function2);
+        const std::string first = this->form->focus();
+        answer(row.typed);
+        const bool isRight = row.red.empty();
+        isRight ? expectSolved(*this->form) : expectWrong(*this->form, first);
+        EXPECT_EQ(this->redBoxes(), row.red);
+        EXPECT_EQ(this->strokes("resultGraph").empty(), !isRight);
+    }
 
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
+    /// `other` is what a first and a second try have else than the answer, a box each.
+    void expectTriesUntilItIsRight(const Typed& right,
+                                   std::initializer_list<std::pair<const char*, const char*>> other) {
+        for (const auto& [box, text] : other) {
+            answer(with(right, {{box, text}}));
+            EXPECT_EQ(this->redBoxes(), std::set<std::string>{box});
+        }
+        EXPECT_TRUE(this->form->isShown("wrong"));
+        answer(right);
+        EXPECT_TRUE(this->isRight());
+        expectHidden(*this->form, {"wrong", "giveAnswer"});
+        EXPECT_TRUE(this->redBoxes().empty());
+    }
+
+    /// Whatever is typed into every box, the answer to this exercise has this text in one of them.
+    void expectAnyTypedTextTaken(const Function& function1, const Function& function2, const char* box,
+                                 const char* given) {
+        this->open(function1, function2);
+        for (const std::string& typed :
+             {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
+            for (AnswerBox* each : this->form->page().template findChildren<AnswerBox*>()) {
+                each->setContent(typed);
+            }
+            this->form->click("ok", "giveAnswer");
+            EXPECT_FALSE(this->form->page().grab().isNull());
+            EXPECT_EQ(this->form->box(box).content(), given);
+            this->next(function1, function2);
+        }
+    }
 
 private:
-    PageName page_;
-    std::string right_;
     std::size_t pieces_;
 };
+
+/// Answers the exercise of a script wrongly, in one box, and has the answer given; types that into the same
+/// exercise, drawn again, which it solves. What was given. `look` is called with each of the two.
+template <class Look>
+[[nodiscard]] Typed solveByGivenAnswer(const FormDriver& f, ScriptedDraws& draws, const Script& script,
+                                       const char* wrongBox, const Look& look) {
+    draws.append(script);
+    f.button("newExercise").click();
+    look();
+    f.box(wrongBox).setContent("99");
+    f.button("ok").click();
+    EXPECT_TRUE(f.isShown("wrong"));
+    f.button("giveAnswer").click();
+    Typed given;
+    for (const AnswerBox* box : f.page().findChildren<AnswerBox*>()) {
+        given[nameOf(*box)] = box->content();
+    }
+    draws.append(script);
+    f.button("newExercise").click();
+    for (const auto& [box, content] : given) {
+        if (f.isShown(box)) {
+            f.box(box).setContent(content);
+        }
+    }
+    f.button("ok").click();
+    EXPECT_TRUE(f.isShown("right"));
+    return given;
+}
 
 }  // namespace tavrune::test

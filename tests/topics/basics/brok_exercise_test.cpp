@@ -30,11 +30,7 @@ using enum Operation;
 float type(Operation t) { return cellOf(static_cast<int>(t), 4); }
 
 BrokState exercise(int a, int b, int c, int d, Operation t) {
-    ScriptedDraws draws{part(a), part(b), part(c), part(d), type(t)};
-    BrokState state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    return state;
+    return test::exerciseOf<BrokState>({part(a), part(b), part(c), part(d), type(t)});
 }
 
 BrokState withResult(double numerator, double denominator) {

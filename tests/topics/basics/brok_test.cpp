@@ -4,9 +4,8 @@
 
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/scripted_draws.h"
+#include "support/scripted_form.h"
 #include "support/verdict.h"
 
 namespace tavrune {
@@ -14,55 +13,42 @@ namespace {
 
 using test::cellOf;
 using test::FormDriver;
-using test::ScriptedDraws;
 
 using enum Operation;
 
 float part(int value) { return cellOf(value + 10, 20); }
 
-class BrokForm : public testing::Test {
-protected:
-    void script(int a, int b, int c, int d, Operation type) {
-        draws.append({part(a), part(b), part(c), part(d), cellOf(static_cast<int>(type), 4)});
-    }
+test::Script scriptOf(int a, int b, int c, int d, Operation type) {
+    return {part(a), part(b), part(c), part(d), cellOf(static_cast<int>(type), 4)};
+}
 
-    FormDriver& open(int a, int b, int c, int d, Operation type) {
-        script(a, b, c, d, type);
-        form = std::make_unique<FormDriver>(PageName::Brok, draws);
-        return *form;
-    }
+class BrokForm : public test::ScriptedForm<int, int, int, int, Operation> {
+protected:
+    BrokForm() : ScriptedForm(PageName::Brok, scriptOf) {}
 
     void answer(const std::string& n, const std::string& m) const {
         form->type("numerator", n);
         form->type("denominator", m);
         form->click("ok");
     }
-
-    [[nodiscard]] QColor colour(const std::string& box) const { return form->box(box).backColour(); }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 TEST_F(BrokForm, IsBlankUntilItsOpening) {
     const FormDriver unshown = FormDriver::unshown(PageName::Brok, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Brøker");
-    EXPECT_EQ(unshown.caption("task"), "Løs opgaven");
-    EXPECT_EQ(unshown.caption("firstNumerator"), "");
-    for (const char* hidden : {"giveAnswer", "verdict", "reducedEquals", "reducedBar", "reducedWholeNumber",
-                               "helpPanel", "workedSolution"}) {
-        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
-    }
+    test::expectTexts(unshown, {{"task", "Løs opgaven"}, {"firstNumerator", ""}});
+    test::expectHidden(unshown, {"giveAnswer", "verdict", "reducedEquals", "reducedBar", "reducedWholeNumber",
+                                 "helpPanel", "workedSolution"});
 }
 
 TEST_F(BrokForm, LaysTheTaskOutAsTwoFractions) {
     const FormDriver& f = open(-10, 3, 2, -4, Add);
-    EXPECT_EQ(f.caption("firstNumerator"), "-10");
-    EXPECT_EQ(f.caption("firstDenominator"), "3");
-    EXPECT_EQ(f.caption("operatorSign"), "+");
-    EXPECT_EQ(f.caption("secondNumerator"), "2");
-    EXPECT_EQ(f.caption("secondDenominator"), "-4");
-    EXPECT_EQ(f.caption("answerEquals"), "=");
+    test::expectTexts(f, {{"firstNumerator", "-10"},
+                          {"firstDenominator", "3"},
+                          {"operatorSign", "+"},
+                          {"secondNumerator", "2"},
+                          {"secondDenominator", "-4"},
+                          {"answerEquals", "="}});
     EXPECT_EQ(f.focus(), "numerator");
     EXPECT_TRUE(f.isShown("ok"));
     EXPECT_FALSE(f.isShown("giveAnswer"));
@@ -132,8 +118,7 @@ TEST_F(BrokForm, MayBeTriedAgainAndAgain) {
     answer("-10", "-12");
     EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
     EXPECT_EQ(colour("numerator"), kWhite);
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
+    test::expectHidden(f, {"ok", "giveAnswer"});
 }
 
 TEST_F(BrokForm, TellsThatZeroDividesNothing) {
@@ -171,18 +156,15 @@ TEST_F(BrokForm, ShowsOneWhereTheResultIsOne) {
     const FormDriver& f = open(1, 2, 1, 2, Add);
     answer("2", "2");
     EXPECT_EQ(f.caption("reducedWholeNumber"), "1");
-    EXPECT_TRUE(f.isShown("reducedWholeNumber"));
-    EXPECT_TRUE(f.isShown("reducedEquals"));
+    test::expectShown(f, {"reducedWholeNumber", "reducedEquals"});
     EXPECT_FALSE(f.isShown("reducedBar"));
 }
 
 TEST_F(BrokForm, ShowsTheReducedFormOfAnUnreducedAnswer) {
     const FormDriver& f = open(1, 2, 1, 4, Add);  // 6/8
     answer("6", "8");
-    EXPECT_EQ(f.caption("reducedNumerator"), "3");
-    EXPECT_EQ(f.caption("reducedDenominator"), "4");
-    EXPECT_TRUE(f.isShown("reducedBar"));
-    EXPECT_TRUE(f.isShown("reducedEquals"));
+    test::expectTexts(f, {{"reducedNumerator", "3"}, {"reducedDenominator", "4"}});
+    test::expectShown(f, {"reducedBar", "reducedEquals"});
     EXPECT_FALSE(f.isShown("reducedWholeNumber"));
 }
 
@@ -190,16 +172,13 @@ TEST_F(BrokForm, ShowsNothingMoreForAReducedAnswer) {
     const FormDriver& f = open(1, 2, 1, 4, Add);
     answer("3", "4");
     EXPECT_EQ(f.caption("reducedNumerator"), "");
-    EXPECT_FALSE(f.isShown("reducedBar"));
-    EXPECT_FALSE(f.isShown("reducedEquals"));
+    test::expectHidden(f, {"reducedBar", "reducedEquals"});
 }
 
 TEST_F(BrokForm, ShowsMinusThreeOverFourForThreeOverMinusFour) {
     const FormDriver& f = open(-3, 2, 1, 2, Multiply);  // -3/4
     answer("3", "-4");
-    EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
-    EXPECT_EQ(f.caption("reducedNumerator"), "-3");
-    EXPECT_EQ(f.caption("reducedDenominator"), "4");
+    test::expectTexts(f, {{"verdict", "RIGTIGT"}, {"reducedNumerator", "-3"}, {"reducedDenominator", "4"}});
 }
 
 TEST_F(BrokForm, ShowsAWholeNumberForMinusTwelveSixths) {
@@ -212,29 +191,23 @@ TEST_F(BrokForm, GivesTheUnreducedAnswerWithTheReducedBesideIt) {
     const FormDriver& f = open(1, 2, 1, 4, Add);
     answer("1", "9");
     f.click("giveAnswer");
-    EXPECT_EQ(f.box("numerator").content(), "6");
-    EXPECT_EQ(f.box("denominator").content(), "8");
+    test::expectContents(f, {{"numerator", "6"}, {"denominator", "8"}});
     EXPECT_EQ(colour("numerator"), kWhite);
     EXPECT_EQ(colour("denominator"), kWhite);
     EXPECT_EQ(f.caption("reducedNumerator"), "3");
     EXPECT_FALSE(f.isShown("verdict"));
     EXPECT_EQ(f.caption("verdict"), "RIGTIGT") << "made ready, not shown";
-    EXPECT_FALSE(f.isShown("ok"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
+    test::expectHidden(f, {"ok", "giveAnswer"});
     EXPECT_EQ(f.focus(), "newExercise");
 }
 
 TEST_F(BrokForm, ForgetsEverythingWithTheNextExercise) {
     const FormDriver& f = open(1, 2, 1, 4, Add);
     answer("6", "8");
-    f.click("help");
-    f.click("showWorkedSolution");
-    script(1, 2, 1, 3, Add);
-    f.click("newExercise");
-    for (const char* hidden : {"helpPanel", "workedSolution", "reducedWholeNumber", "reducedEquals",
-                               "reducedBar", "verdict", "giveAnswer"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    f.click("help", "showWorkedSolution");
+    next(1, 2, 1, 3, Add);
+    test::expectHidden(f, {"helpPanel", "workedSolution", "reducedWholeNumber", "reducedEquals", "reducedBar",
+                           "verdict", "giveAnswer"});
     EXPECT_EQ(f.caption("reducedNumerator") + f.caption("reducedDenominator"), "");
     EXPECT_EQ(f.box("numerator").content() + f.box("denominator").content(), "");
 }
@@ -253,10 +226,10 @@ TEST_F(BrokForm, OpensTheGeneralMethodOfItsOperator) {
     EXPECT_TRUE(f.isShown("helpPanel"));
     EXPECT_FALSE(f.isShown("workedSolution"));
     EXPECT_EQ(f.focus(), "showWorkedSolution");
-    EXPECT_EQ(f.caption("generalOperatorSign"), "-");
-    EXPECT_EQ(f.caption("generalTask"), "I denne opgave skal du trække én brøk fra en anden");
-    EXPECT_EQ(f.caption("generalResultNumerator"), "a*d - c*b");
-    EXPECT_EQ(f.caption("generalResultDenominator"), "b*d");
+    test::expectTexts(f, {{"generalOperatorSign", "-"},
+                          {"generalTask", "I denne opgave skal du trække én brøk fra en anden"},
+                          {"generalResultNumerator", "a*d - c*b"},
+                          {"generalResultDenominator", "b*d"}});
     EXPECT_EQ(f.label("generalResultDenominator").place().width(),
               f.label("generalResultNumerator").place().width());
     EXPECT_EQ(f.find<LineControl>("generalResultBar").ends().x2(),
@@ -265,16 +238,14 @@ TEST_F(BrokForm, OpensTheGeneralMethodOfItsOperator) {
 
 TEST_F(BrokForm, HasTheHeadingsAndButtonsOfAPanel) {
     const FormDriver& f = open(1, 2, 1, 3, Subtract);
-    EXPECT_EQ(f.caption("generalHeading"), "Generel løsning");
-    EXPECT_EQ(f.caption("workedHeading"), "Aktuel løsning");
-    EXPECT_EQ(f.button("showWorkedSolution").caption(), "Vis");
-    EXPECT_EQ(f.button("closeHelp").caption(), "&Luk");
-    for (const auto& [label, text] : {std::pair{"generalFirstNumerator", "a"},
-                                      {"generalFirstDenominator", "b"},
-                                      {"generalSecondNumerator", "c"},
-                                      {"generalSecondDenominator", "d"}}) {
-        EXPECT_EQ(f.caption(label), text);
-    }
+    test::expectTexts(f, {{"generalHeading", "Generel løsning"},
+                          {"workedHeading", "Aktuel løsning"},
+                          {"showWorkedSolution", "Vis"},
+                          {"closeHelp", "&Luk"},
+                          {"generalFirstNumerator", "a"},
+                          {"generalFirstDenominator", "b"},
+                          {"generalSecondNumerator", "c"},
+                          {"generalSecondDenominator", "d"}});
 }
 
 TEST_F(BrokForm, WorksTheTaskOutInARow) {
@@ -301,49 +272,34 @@ TEST_F(BrokForm, WorksTheTaskOutInARow) {
 
 TEST_F(BrokForm, EndsTheRowInAWholeNumber) {
     const FormDriver& f = open(-4, 2, 3, 3, Multiply);
-    f.click("help");
-    f.click("showWorkedSolution");
+    f.click("help", "showWorkedSolution");
     EXPECT_EQ(f.caption("workedReducedWholeNumber"), "-2");
-    EXPECT_TRUE(f.isShown("workedReducedWholeNumber"));
-    EXPECT_TRUE(f.isShown("workedReducedEquals"));
-    for (const char* hidden : {"workedReducedNumerator", "workedReducedDenominator", "workedReducedBar"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectShown(f, {"workedReducedWholeNumber", "workedReducedEquals"});
+    test::expectHidden(f, {"workedReducedNumerator", "workedReducedDenominator", "workedReducedBar"});
 }
 
 TEST_F(BrokForm, EndsTheRowEarlyWhereNothingCancels) {
     const FormDriver& f = open(1, 2, 1, 3, Add);
-    f.click("help");
-    f.click("showWorkedSolution");
-    for (const char* hidden : {"workedReducedEquals", "workedReducedNumerator", "workedReducedDenominator",
-                               "workedReducedBar", "workedReducedWholeNumber"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    f.click("help", "showWorkedSolution");
+    test::expectHidden(f, {"workedReducedEquals", "workedReducedNumerator", "workedReducedDenominator",
+                           "workedReducedBar", "workedReducedWholeNumber"});
 }
 
 TEST_F(BrokForm, ShowsTheEndOfTheRowAgainAfterAShorterOne) {
     const FormDriver& f = open(1, 2, 1, 3, Add);
-    f.click("help");
-    f.click("showWorkedSolution");
+    f.click("help", "showWorkedSolution");
     script(1, 2, 1, 4, Add);
-    f.click("newExercise");
-    f.click("help");
-    f.click("showWorkedSolution");
-    for (const char* shown :
-         {"workedReducedEquals", "workedReducedNumerator", "workedReducedDenominator", "workedReducedBar"}) {
-        EXPECT_TRUE(f.isShown(shown)) << shown;
-    }
+    f.click("newExercise", "help", "showWorkedSolution");
+    test::expectShown(
+        f, {"workedReducedEquals", "workedReducedNumerator", "workedReducedDenominator", "workedReducedBar"});
     EXPECT_EQ(f.caption("workedReducedNumerator"), "3");
 }
 
 TEST_F(BrokForm, ClosesItsHelpAndKeepsWhatWasTyped) {
     const FormDriver& f = open(1, 2, 1, 3, Add);
     f.type("numerator", "4");
-    f.click("help");
-    f.click("showWorkedSolution");
-    f.click("closeHelp");
-    EXPECT_FALSE(f.isShown("helpPanel"));
-    EXPECT_FALSE(f.isShown("workedSolution"));
+    f.click("help", "showWorkedSolution", "closeHelp");
+    test::expectHidden(f, {"helpPanel", "workedSolution"});
     EXPECT_EQ(f.box("numerator").content(), "4");
 }
 
@@ -351,9 +307,7 @@ TEST_F(BrokForm, HasRoomForTheLongestNumbers) {
     for (const Operation type : {Subtract, Add, Multiply, Divide}) {
         const FormDriver& f = open(-10, -10, -10, 9, type);
         answer("1", "1");
-        f.click("giveAnswer");
-        f.click("help");
-        f.click("showWorkedSolution");
+        f.click("giveAnswer", "help", "showWorkedSolution");
         EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{}) << operatorSign(type);
     }
 }

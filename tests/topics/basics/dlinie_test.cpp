@@ -2,13 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
-#include "support/fixed_texts.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
 #include "support/verdict.h"
 #include "topics/basics/dlinie_script.h"
 
@@ -17,7 +14,6 @@ namespace {
 
 using test::DecimalMark;
 using test::FormDriver;
-using test::ScriptedDraws;
 using test::dlinie::Numbers;
 
 constexpr test::StrokesIn kGraph{{-10, 10, 10, -10}};
@@ -38,28 +34,18 @@ std::vector<Stroke> axes() {
     return strokes;
 }
 
-class DlinieForm : public testing::Test {
+class DlinieForm : public test::ScriptedForm<LineTask, const Numbers&> {
 protected:
-    void script(LineTask task, const Numbers& n) { draws.append(test::dlinie::script(task, n)); }
+    DlinieForm() : ScriptedForm(PageName::Dlinie, test::dlinie::script) {}
 
-    FormDriver& open(LineTask task, const Numbers& numbers = {}) {
-        script(task, numbers);
-        form = std::make_unique<FormDriver>(PageName::Dlinie, draws);
-        return *form;
-    }
-
-    void next(LineTask task, const Numbers& numbers = {}) {
-        script(task, numbers);
-        form->click("newExercise");
-    }
+    FormDriver& open(LineTask task, const Numbers& numbers = {}) { return ScriptedForm::open(task, numbers); }
+    void next(LineTask task, const Numbers& numbers = {}) { ScriptedForm::next(task, numbers); }
 
     void answer(const std::string& slope, const std::string& intercept) const {
         form->type("slope", slope);
         form->type("intercept", intercept);
         form->click("ok");
     }
-
-    [[nodiscard]] QColor colour(const std::string& box) const { return form->box(box).backColour(); }
 
     /// What was drawn since the axes.
     [[nodiscard]] std::vector<Stroke> drawn() const {
@@ -85,24 +71,18 @@ protected:
     }
 
     using Names = std::vector<std::string>;
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 TEST_F(DlinieForm, IsBlankUntilItsOpening) {
     const FormDriver unshown = FormDriver::unshown(PageName::Dlinie, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Den rette linie");
-    for (const char* empty : {"task", "firstFact", "secondFact"}) {
-        EXPECT_EQ(unshown.caption(empty), "") << empty;
-    }
-    for (const char* hidden :
-         {"giveAnswer", "verdict", "twoPointsHelpPanel", "twoPointsSlopeStep", "twoPointsWorkedPointInserted",
-          "twoPointsWorkedIntercept", "slopeAndPointHelpPanel", "slopeAndPointWorkedPointInserted",
-          "slopeAndPointWorkedIntercept", "slopeAndYCrossHelpPanel", "slopeAndXCrossHelpPanel",
-          "slopeAndXCrossInterceptStep", "bothCrossesHelpPanel", "bothCrossesSlopeStep"}) {
-        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
-    }
+    test::expectBlank(unshown, {"task", "firstFact", "secondFact"});
+    test::expectHidden(
+        unshown,
+        {"giveAnswer", "verdict", "twoPointsHelpPanel", "twoPointsSlopeStep", "twoPointsWorkedPointInserted",
+         "twoPointsWorkedIntercept", "slopeAndPointHelpPanel", "slopeAndPointWorkedPointInserted",
+         "slopeAndPointWorkedIntercept", "slopeAndYCrossHelpPanel", "slopeAndXCrossHelpPanel",
+         "slopeAndXCrossInterceptStep", "bothCrossesHelpPanel", "bothCrossesSlopeStep"});
     EXPECT_TRUE(unshown.find<GraphBox>("graph").strokes().empty());
     EXPECT_EQ(unshown.find<GraphBox>("graph").backColour(), kWhite);
 }
@@ -111,16 +91,15 @@ TEST_F(DlinieForm, AsksInTheFrameOfTheEquation) {
     const FormDriver& f = open(LineTask::SlopeAndPoint, {.x1 = -4, .y1 = 5, .slopeGiven = -3});
     EXPECT_EQ(f.caption("task"),
               "Du kender en ret linies hældningskoeficient og et punkt på linien. Bestem liniens forskrift.");
-    EXPECT_EQ(f.caption("firstFact"), "Hældningskoefficienten(a) = -3");
-    EXPECT_EQ(f.caption("secondFact"), "(X,Y) = (-4,5)");
+    test::expectTexts(f, {{"firstFact", "Hældningskoefficienten(a) = -3"}, {"secondFact", "(X,Y) = (-4,5)"}});
     for (const char* bold : {"task", "firstFact", "secondFact"}) {
         EXPECT_TRUE(f.label(bold).font().bold()) << bold;
     }
-    EXPECT_EQ(f.caption("lineEquationIs"), "Liniens ligning er:");
-    EXPECT_EQ(f.caption("yEquals"), "Y =");
-    EXPECT_EQ(f.caption("timesXPlus"), "X +");
-    EXPECT_EQ(f.caption("xAxisName"), "X");
-    EXPECT_EQ(f.caption("yAxisName"), "Y");
+    test::expectTexts(f, {{"lineEquationIs", "Liniens ligning er:"},
+                          {"yEquals", "Y ="},
+                          {"timesXPlus", "X +"},
+                          {"xAxisName", "X"},
+                          {"yAxisName", "Y"}});
     EXPECT_EQ(f.focus(), "slope");
     EXPECT_EQ(shownPanels(), Names{});
 }
@@ -262,16 +241,10 @@ TEST_F(DlinieForm, GivesThePositiveInterceptWithItsPlus) {
     const FormDriver& f = open(LineTask::SlopeAndYCross, {.slopeGiven = -4, .yCross = 3});
     answer("1", "1");
     f.click("giveAnswer");
-    EXPECT_EQ(f.box("slope").content(), "-4");
-    EXPECT_EQ(f.box("intercept").content(), "+3");
+    test::expectContents(f, {{"slope", "-4"}, {"intercept", "+3"}});
     EXPECT_EQ(f.box("intercept").value(), 3);
-    EXPECT_EQ(colour("slope"), kWhite);
-    EXPECT_EQ(colour("intercept"), kWhite);
     EXPECT_EQ(drawn(), (std::vector{graphOf(1, 1, kRed), graphOf(-4, 3, kGreen)}));
-    for (const char* hidden : {"ok", "giveAnswer", "verdict"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
-    EXPECT_EQ(f.focus(), "newExercise");
+    test::expectGiven(f);
 }
 
 TEST_F(DlinieForm, GivesANegativeInterceptAsItIs) {
@@ -279,16 +252,14 @@ TEST_F(DlinieForm, GivesANegativeInterceptAsItIs) {
     const FormDriver& f = open(LineTask::TwoPoints, {.x1 = -3, .y1 = 2, .x2 = 9, .y2 = -7});
     answer("1", "1");
     f.click("giveAnswer");
-    EXPECT_EQ(f.box("slope").content(), "-0,75");
-    EXPECT_EQ(f.box("intercept").content(), "-0,25");
+    test::expectContents(f, {{"slope", "-0,75"}, {"intercept", "-0,25"}});
 }
 
 TEST_F(DlinieForm, GivesTheLineAlongTheXAxisAsZeroPlusZero) {
     const FormDriver& f = open(LineTask::BothCrosses, {.yCross = 0, .xCross = 7});
     answer("1", "1");
     f.click("giveAnswer");
-    EXPECT_EQ(f.box("slope").content(), "0");
-    EXPECT_EQ(f.box("intercept").content(), "+0");
+    test::expectContents(f, {{"slope", "0"}, {"intercept", "+0"}});
 }
 
 TEST_F(DlinieForm, WithoutAKindKeepsTheTaskOnScreenAndHasNoHelp) {
@@ -298,8 +269,7 @@ TEST_F(DlinieForm, WithoutAKindKeepsTheTaskOnScreenAndHasNoHelp) {
     EXPECT_EQ(f.caption("task"),
               "Du kender en ret linies hældningskoefficient og liniens skæring med Y-aksen. Bestem liniens "
               "forskrift.");
-    EXPECT_EQ(f.caption("firstFact"), "Hældningskoefficient(a) = 2");
-    EXPECT_EQ(f.caption("secondFact"), "Y = 3");
+    test::expectTexts(f, {{"firstFact", "Hældningskoefficient(a) = 2"}, {"secondFact", "Y = 3"}});
     EXPECT_EQ(f.box("slope").content(), "");
     EXPECT_EQ(drawn(), std::vector<Stroke>{});
     EXPECT_EQ(dynamic_cast<const Dlinie&>(f.page()).state().yCross, 9);
@@ -370,10 +340,8 @@ TEST_P(DliniePanels, OpenByKindAndCloseWhole) {
     showEveryStep();
     f.click(row.close);
     EXPECT_EQ(shownPanels(), Names{});
-    for (const char* hidden : {"twoPointsWorkedPointInserted", "twoPointsWorkedIntercept",
-                               "slopeAndPointWorkedPointInserted", "slopeAndPointWorkedIntercept"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectHidden(f, {"twoPointsWorkedPointInserted", "twoPointsWorkedIntercept",
+                           "slopeAndPointWorkedPointInserted", "slopeAndPointWorkedIntercept"});
     EXPECT_EQ(f.box("slope").content(), "12");
     EXPECT_EQ(drawn(), std::vector<Stroke>{});
 }
@@ -388,16 +356,13 @@ TEST_P(DliniePanels, StayThroughJudgingAndTheAnswerAndGoWithTheNextExercise) {
     EXPECT_EQ(shownPanels(), shown);
     f.click("giveAnswer");
     EXPECT_EQ(shownPanels(), shown);
-    f.click(row.close);
-    f.click("help");
+    f.click(row.close, "help");
     EXPECT_EQ(shownPanels(), Names{row.panel}) << "the steps are hidden again";
     showEveryStep();
     next(LineTask::None);
     EXPECT_EQ(shownPanels(), Names{});
-    for (const char* hidden : {"twoPointsWorkedPointInserted", "twoPointsWorkedIntercept",
-                               "slopeAndPointWorkedPointInserted", "slopeAndPointWorkedIntercept"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectHidden(f, {"twoPointsWorkedPointInserted", "twoPointsWorkedIntercept",
+                           "slopeAndPointWorkedPointInserted", "slopeAndPointWorkedIntercept"});
     EXPECT_EQ(f.focus(), "slope");
 }
 
@@ -580,21 +545,18 @@ TEST_F(DlinieForm, WorksTheSlopeOfTwoPointsOutAsAFraction) {
 
 TEST_F(DlinieForm, WorksTheInterceptOfTwoPointsOutWithADecimalSlope) {
     const FormDriver& f = open(LineTask::TwoPoints, {.x1 = -3, .y1 = 2, .x2 = 9, .y2 = -7});
-    f.click("help");
-    f.click("showTwoPointsIntercept");
+    f.click("help", "showTwoPointsIntercept");
     EXPECT_EQ(shownPanels(), Names{"twoPointsHelpPanel"}) << "each step by itself";
-    EXPECT_TRUE(f.isShown("twoPointsWorkedPointInserted"));
-    EXPECT_TRUE(f.isShown("twoPointsWorkedIntercept"));
-    EXPECT_EQ(f.caption("twoPointsWorkedPointInserted"), "2 = (-0.75)*(-3) + b   => ");
-    EXPECT_EQ(f.caption("twoPointsWorkedIntercept"), "b = 2 - (-0.75)*(-3) = -0.25");
+    test::expectShown(f, {"twoPointsWorkedPointInserted", "twoPointsWorkedIntercept"});
+    test::expectTexts(f, {{"twoPointsWorkedPointInserted", "2 = (-0.75)*(-3) + b   => "},
+                          {"twoPointsWorkedIntercept", "b = 2 - (-0.75)*(-3) = -0.25"}});
 }
 
 TEST_F(DlinieForm, WorksTheInterceptOfTwoPointsOutWithASlopeAsAFraction) {
     const FormDriver& f = open(LineTask::TwoPoints, {.x1 = -3, .y1 = 2, .x2 = 4, .y2 = -1});
-    f.click("help");
-    f.click("showTwoPointsIntercept");
-    EXPECT_EQ(f.caption("twoPointsWorkedPointInserted"), "2 = (3/-7)*(-3) + b   => ");
-    EXPECT_EQ(f.caption("twoPointsWorkedIntercept"), "b = 2 - (3/-7)*(-3) = 0.71");
+    f.click("help", "showTwoPointsIntercept");
+    test::expectTexts(f, {{"twoPointsWorkedPointInserted", "2 = (3/-7)*(-3) + b   => "},
+                          {"twoPointsWorkedIntercept", "b = 2 - (3/-7)*(-3) = 0.71"}});
 }
 
 TEST_F(DlinieForm, WorksTheKnownPointOut) {
@@ -602,31 +564,28 @@ TEST_F(DlinieForm, WorksTheKnownPointOut) {
     f.click("help");
     EXPECT_FALSE(f.isShown("slopeAndPointWorkedPointInserted"));
     f.click("showSlopeAndPointIntercept");
-    EXPECT_TRUE(f.isShown("slopeAndPointWorkedPointInserted"));
-    EXPECT_TRUE(f.isShown("slopeAndPointWorkedIntercept"));
-    EXPECT_EQ(f.caption("slopeAndPointWorkedPointInserted"), "5 = (-3)*(-4) + b =>");
-    EXPECT_EQ(f.caption("slopeAndPointWorkedIntercept"), "b = 5 - (-3)*(-4) = -7");
+    test::expectShown(f, {"slopeAndPointWorkedPointInserted", "slopeAndPointWorkedIntercept"});
+    test::expectTexts(f, {{"slopeAndPointWorkedPointInserted", "5 = (-3)*(-4) + b =>"},
+                          {"slopeAndPointWorkedIntercept", "b = 5 - (-3)*(-4) = -7"}});
 }
 
 TEST_F(DlinieForm, WorksTheCrossingOfTheXAxisOut) {
     const FormDriver& f = open(LineTask::SlopeAndXCross, {.slopeGiven = -2, .xCross = -9});
-    f.click("help");
-    f.click("showSlopeAndXCrossIntercept");
+    f.click("help", "showSlopeAndXCrossIntercept");
     EXPECT_EQ(shownPanels(), (Names{"slopeAndXCrossHelpPanel", "slopeAndXCrossInterceptStep"}));
-    EXPECT_EQ(f.caption("slopeAndXCrossWorkedXInserted"), "Y = -2*(-9) + b   =>");
-    EXPECT_EQ(f.caption("slopeAndXCrossWorkedYInserted"), "0 = -2*(-9) + b   =>");
-    EXPECT_EQ(f.caption("slopeAndXCrossWorkedIntercept"), "b = -(-2)*(-9)");
-    EXPECT_EQ(f.caption("slopeAndXCrossWorkedResult"), "= -18");
+    test::expectTexts(f, {{"slopeAndXCrossWorkedXInserted", "Y = -2*(-9) + b   =>"},
+                          {"slopeAndXCrossWorkedYInserted", "0 = -2*(-9) + b   =>"},
+                          {"slopeAndXCrossWorkedIntercept", "b = -(-2)*(-9)"},
+                          {"slopeAndXCrossWorkedResult", "= -18"}});
 }
 
 TEST_F(DlinieForm, WorksTheSlopeOfBothCrossingsOut) {
     const FormDriver& f = open(LineTask::BothCrosses, {.yCross = -4, .xCross = -6});
-    f.click("help");
-    f.click("showBothCrossesSlope");
+    f.click("help", "showBothCrossesSlope");
     EXPECT_EQ(shownPanels(), (Names{"bothCrossesHelpPanel", "bothCrossesSlopeStep"}));
-    EXPECT_EQ(f.caption("bothCrossesWorkedSlopeNumerator"), "-4 - 0");
-    EXPECT_EQ(f.caption("bothCrossesWorkedSlopeDenominator"), "0 - (-6)");
-    EXPECT_EQ(f.caption("bothCrossesWorkedSlopeResult"), "= -(-4/-6) = -0.67");
+    test::expectTexts(f, {{"bothCrossesWorkedSlopeNumerator", "-4 - 0"},
+                          {"bothCrossesWorkedSlopeDenominator", "0 - (-6)"},
+                          {"bothCrossesWorkedSlopeResult", "= -(-4/-6) = -0.67"}});
 }
 
 }  // namespace

@@ -5,12 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
 #include "support/decimal_mark.h"
-#include "support/fixed_texts.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
 #include "support/verdict.h"
 #include "topics/basics/konvert_script.h"
 
@@ -19,37 +16,27 @@ namespace {
 
 using test::DecimalMark;
 using test::FormDriver;
-using test::ScriptedDraws;
 namespace konvert = test::konvert;
 
 const QColor kLightGreen(0, 190, 0);
 constexpr test::StrokesIn kGraph{{0, 0, 20, 15}};
 constexpr test::StrokesIn kExample{{0, 0, 20, 10}};
 
-class KonvertForm : public testing::Test {
+/// Where 1 Q is a whole number of K.
+constexpr int kWhole = 0;
+
+/// a from -5 to 4, b from 0 to 7, 1 Q is n/m K.
+test::Script scriptOf(int a, int b, int n, int m) {
+    return konvert::slope(a) + konvert::constant(b) +
+           (m == kWhole ? konvert::wholeFactor(n) : konvert::fractionFactor(n, m));
+}
+
+class KonvertForm : public test::ScriptedForm<int, int, int, int> {
 protected:
-    /// a from -5 to 4, b from 0 to 7, 1 Q is f K.
-    void script(int a, int b, int f) {
-        draws.append(konvert::slope(a) + konvert::constant(b) + konvert::wholeFactor(f));
-    }
+    KonvertForm() : ScriptedForm(PageName::Konvert, scriptOf) {}
 
-    /// 1 Q is n/m K.
-    void script(int a, int b, int n, int m) {
-        draws.append(konvert::slope(a) + konvert::constant(b) + konvert::fractionFactor(n, m));
-    }
-
-    template <class... Numbers>
-    FormDriver& open(Numbers... numbers) {
-        script(numbers...);
-        form = std::make_unique<FormDriver>(PageName::Konvert, draws);
-        return *form;
-    }
-
-    template <class... Numbers>
-    void next(Numbers... numbers) {
-        script(numbers...);
-        form->click("newExercise");
-    }
+    FormDriver& open(int a, int b, int n, int m = kWhole) { return ScriptedForm::open(a, b, n, m); }
+    void next(int a, int b, int n, int m = kWhole) { ScriptedForm::next(a, b, n, m); }
 
     void answer(const std::string& slope, const std::string& constant) const {
         form->type("slope", slope);
@@ -62,19 +49,11 @@ protected:
         form->press("showWorkedSolution", Qt::Key_Return);
     }
 
-    [[nodiscard]] QColor colour(const std::string& box) const { return form->box(box).backColour(); }
-
-    [[nodiscard]] const GraphBox& graph(const std::string& name) const { return form->find<GraphBox>(name); }
-
     [[nodiscard]] double left(const std::string& name) const {
         return graph("helpPanel").leftOf(form->label(name));
     }
     [[nodiscard]] double right(const std::string& name) const {
         return graph("helpPanel").rightOf(form->label(name));
-    }
-
-    [[nodiscard]] const std::vector<Stroke>& drawnOn(const std::string& name) const {
-        return graph(name).strokes();
     }
 
     [[nodiscard]] Stroke bar(double from, double to) const {
@@ -85,9 +64,6 @@ protected:
     [[nodiscard]] std::vector<Stroke> barsWith(const std::string& one, const std::string& other) const {
         return {bar(1.58, 2.4), bar(3.8, 4.3), barOver(one), barOver(other)};
     }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 constexpr const char* kFilledIn[] = {"workedPriceEquals",
@@ -151,9 +127,7 @@ TEST_F(KonvertForm, IsBlankUntilItsOpening) {
     const FormDriver unshown = FormDriver::unshown(PageName::Konvert, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Funktionskonvertering");
     EXPECT_EQ(unshown.caption("task") + unshown.caption("givenFunction"), "");
-    for (const char* hidden : {"giveAnswer", "wrong", "right", "helpPanel", "workedRule"}) {
-        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
-    }
+    test::expectHidden(unshown, {"giveAnswer", "wrong", "right", "helpPanel", "workedRule"});
     EXPECT_TRUE(unshown.find<GraphBox>("graphFrame").strokes().empty());
 }
 
@@ -187,9 +161,9 @@ TEST_F(KonvertForm, DrawsTheTicksOfBothAxesOnTheFrame) {
     for (int y = 0; y <= 15; ++y) {
         ticks.push_back(onFrame.line(0.8, y + 0.2, 1, y + 0.2));
     }
-    EXPECT_EQ(drawnOn("graphFrame"), ticks);
+    EXPECT_EQ(strokes("graphFrame"), ticks);
     next(1, 1, 1);
-    EXPECT_EQ(drawnOn("graphFrame"), ticks) << "once, with every exercise";
+    EXPECT_EQ(strokes("graphFrame"), ticks) << "once, with every exercise";
 }
 
 TEST_F(KonvertForm, HasItsGraphAndItsNumbersAtTheTicks) {
@@ -227,11 +201,11 @@ TEST_F(KonvertForm, HasItsGraphAndItsNumbersAtTheTicks) {
 
 TEST_F(KonvertForm, DrawsTheFunctionInBlackAndOnlyTheOneThatIsAsked) {
     open(-3, 5, 4);
-    EXPECT_EQ(drawnOn("graph"), (std::vector<Stroke>{kGraph.line(0, 10, 20, 70)}));
+    EXPECT_EQ(strokes("graph"), (std::vector<Stroke>{kGraph.line(0, 10, 20, 70)}));
     answer("1", "1");
     form->click("giveAnswer");
     next(2, 7, 1);
-    EXPECT_EQ(drawnOn("graph"), (std::vector<Stroke>{kGraph.line(0, 8, 20, -32)}));
+    EXPECT_EQ(strokes("graph"), (std::vector<Stroke>{kGraph.line(0, 8, 20, -32)}));
 }
 
 TEST_F(KonvertForm, IsSolvedByKeysAlone) {
@@ -245,7 +219,7 @@ TEST_F(KonvertForm, IsSolvedByKeysAlone) {
     EXPECT_EQ(f.focus(), "ok");
     f.press("ok", Qt::Key_Return);
     test::expectSolved(f);
-    script(1, 1, 1);
+    script(1, 1, 1, kWhole);
     f.press("newExercise", Qt::Key_Return);
     EXPECT_FALSE(f.isShown("right"));
     EXPECT_EQ(f.focus(), "slope");
@@ -261,7 +235,7 @@ TEST_F(KonvertForm, EnterInTheLastBoxGoesOnToTheNextExerciseOnceSolved) {
 TEST_F(KonvertForm, DrawsTheRightFunctionInGreenWhereItIsSolved) {
     open(4, 7, 2);
     answer("1", "3.5");
-    EXPECT_EQ(drawnOn("graph"), (std::vector<Stroke>{kGraph.line(0, 8, 20, -72),
+    EXPECT_EQ(strokes("graph"), (std::vector<Stroke>{kGraph.line(0, 8, 20, -72),
                                                      kGraph.line(0, 11.5F, 20, -8.5F, kLightGreen)}));
 }
 
@@ -270,8 +244,8 @@ TEST_F(KonvertForm, DrawsTheSolutionAndNotWhatWasTyped) {
     answer("-2.81", "0.75");
     const double slope = -5.0F / ((4.0F / 3.0F) * (4.0F / 3.0F));
     const double constant = 1.0F / (4.0F / 3.0F);
-    ASSERT_EQ(drawnOn("graph").size(), 2U);
-    EXPECT_EQ(drawnOn("graph")[1],
+    ASSERT_EQ(strokes("graph").size(), 2U);
+    EXPECT_EQ(strokes("graph")[1],
               kGraph.line(0, 15 - constant, 20, 15 - (20 * slope + constant), kLightGreen));
 }
 
@@ -293,7 +267,7 @@ TEST_F(KonvertForm, MarksOnlyTheWrongSlope) {
     EXPECT_EQ(colour("slope"), kRed);
     EXPECT_EQ(colour("intercept"), kWhite);
     test::expectWrong(f, "slope");
-    EXPECT_EQ(drawnOn("graph").size(), 1U) << "a wrong answer draws nothing";
+    EXPECT_EQ(strokes("graph").size(), 1U) << "a wrong answer draws nothing";
 }
 
 TEST_F(KonvertForm, MarksOnlyTheWrongConstantAndGoesToTheSlopeAllTheSame) {
@@ -325,16 +299,10 @@ TEST_F(KonvertForm, GivesTheAnswerRoundedWithBothLines) {
     const FormDriver& f = open(-3, 5, 4);
     answer("0.5", "2");
     f.click("giveAnswer");
-    EXPECT_EQ(f.box("slope").content(), "-0,188");
-    EXPECT_EQ(f.box("intercept").content(), "1,25");
-    EXPECT_EQ(colour("slope"), kWhite);
-    EXPECT_EQ(colour("intercept"), kWhite);
-    EXPECT_EQ(f.focus(), "newExercise");
-    for (const char* hidden : {"wrong", "right", "ok", "giveAnswer"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectContents(f, {{"slope", "-0,188"}, {"intercept", "1,25"}});
+    test::expectGiven(f);
     // The green line is the solution as it was before its rounding.
-    EXPECT_EQ(drawnOn("graph"),
+    EXPECT_EQ(strokes("graph"),
               (std::vector<Stroke>{kGraph.line(0, 10, 20, 70), kGraph.line(0, 13, 20, 3, kRed),
                                    kGraph.line(0, 13.75F, 20, 17.5F, kLightGreen)}));
 }
@@ -343,8 +311,8 @@ TEST_F(KonvertForm, DrawsTheLineOfEmptyBoxesToo) {
     open(-3, 5, 4);
     answer("", "");
     form->click("giveAnswer");
-    ASSERT_EQ(drawnOn("graph").size(), 3U);
-    EXPECT_EQ(drawnOn("graph")[1], kGraph.line(0, 15, 20, 15, kRed));
+    ASSERT_EQ(strokes("graph").size(), 3U);
+    EXPECT_EQ(strokes("graph")[1], kGraph.line(0, 15, 20, 15, kRed));
 }
 
 TEST_F(KonvertForm, DrawsTheLineOfWhatStandsInTheBoxesNow) {
@@ -353,7 +321,7 @@ TEST_F(KonvertForm, DrawsTheLineOfWhatStandsInTheBoxesNow) {
     form->type("slope", "1");
     form->type("intercept", "2");
     form->click("giveAnswer");
-    EXPECT_EQ(drawnOn("graph")[1], kGraph.line(0, 13, 20, -7, kRed));
+    EXPECT_EQ(strokes("graph")[1], kGraph.line(0, 13, 20, -7, kRed));
 }
 
 TEST_F(KonvertForm, SurvivesAnswersOfEverySize) {
@@ -370,24 +338,22 @@ TEST_F(KonvertForm, RoundsTheSlopeOfFourThirdsFromItsSingle) {
     const FormDriver& f = open(-5, 1, 4, 3);
     answer("1", "1");
     f.click("giveAnswer");
-    EXPECT_EQ(f.box("slope").content(), "-2.812");
-    EXPECT_EQ(f.box("intercept").content(), "0.75");
+    test::expectContents(f, {{"slope", "-2.812"}, {"intercept", "0.75"}});
 }
 
 TEST_F(KonvertForm, OpensItsExampleInsteadOfTheTask) {
     const FormDriver& f = open(-3, 5, 4);
     f.click("help");
     EXPECT_TRUE(f.isShown("helpPanel"));
-    EXPECT_FALSE(f.isShown("task"));
-    EXPECT_FALSE(f.isShown("workedRule"));
+    test::expectHidden(f, {"task", "workedRule"});
     EXPECT_EQ(f.focus(), "showWorkedSolution");
-    EXPECT_EQ(f.caption("workedGivenFunction"), "P= -3 Q + 5");
-    EXPECT_EQ(f.caption("workedConversionFactor"), "1 Q svarer til 4 K");
-    EXPECT_EQ(drawnOn("helpGraph"),
+    test::expectTexts(
+        f, {{"workedGivenFunction", "P= -3 Q + 5"}, {"workedConversionFactor", "1 Q svarer til 4 K"}});
+    EXPECT_EQ(strokes("helpGraph"),
               (std::vector<Stroke>{kExample.line(1, 1, 1, 9), kExample.line(0, 10, 20, 10),
                                    kExample.line(0, 0, 10, 10), kExample.line(0, 5, 20, 10, kLightGreen)}));
     EXPECT_EQ(graph("helpGraph").scale(), (GraphScale{0, 0, 20, 10}));
-    EXPECT_EQ(drawnOn("helpPanel"), exampleBars());
+    EXPECT_EQ(strokes("helpPanel"), exampleBars());
 }
 
 TEST_F(KonvertForm, NamesTheFractionInItsHelp) {
@@ -422,7 +388,7 @@ TEST_F(KonvertForm, WorksOutAWholeFactor) {
     EXPECT_NEAR(left("workedInterceptDenominator"), left("workedInterceptNumerator"), 1e-6);
     EXPECT_NEAR(right("workedInterceptDenominator"), right("workedInterceptNumerator"), 1e-6);
     EXPECT_NEAR(left("workedResult"), right("workedInterceptDenominator") + 0.4, 1e-6);
-    EXPECT_EQ(drawnOn("helpPanel"), barsWith("workedSlopeDenominator", "workedInterceptNumerator"));
+    EXPECT_EQ(strokes("helpPanel"), barsWith("workedSlopeDenominator", "workedInterceptNumerator"));
 }
 
 TEST_F(KonvertForm, WorksOutAFraction) {
@@ -444,23 +410,22 @@ TEST_F(KonvertForm, WorksOutAFraction) {
     EXPECT_NEAR(left("workedInterceptNumerator"), left("workedInterceptDenominator"), 1e-6);
     EXPECT_NEAR(right("workedInterceptNumerator"), right("workedInterceptDenominator"), 1e-6);
     EXPECT_NEAR(left("workedResult"), right("workedInterceptDenominator") + 0.4, 1e-6);
-    EXPECT_EQ(drawnOn("helpPanel"), barsWith("workedSlopeDenominator", "workedInterceptDenominator"));
+    EXPECT_EQ(strokes("helpPanel"), barsWith("workedSlopeDenominator", "workedInterceptDenominator"));
 }
 
 TEST_F(KonvertForm, ShowsTheSamePictureEveryTimeItIsAsked) {
     open(-3, 5, 3, 8);
     openHelpWithSolution();
-    const std::vector<Stroke> once = drawnOn("helpPanel");
+    const std::vector<Stroke> once = strokes("helpPanel");
     std::vector<QRectF> places;
     for (const char* name : kFilledIn) {
         places.push_back(form->label(name).place());
     }
-    form->click("showWorkedSolution");
-    form->click("closeHelp");
+    form->click("showWorkedSolution", "closeHelp");
     openHelpWithSolution();
-    EXPECT_EQ(drawnOn("helpPanel"), once);
+    EXPECT_EQ(strokes("helpPanel"), once);
     // The example is drawn over itself.
-    const std::vector<Stroke> example = drawnOn("helpGraph");
+    const std::vector<Stroke> example = strokes("helpGraph");
     ASSERT_EQ(example.size(), 8U);
     EXPECT_TRUE(std::equal(example.begin(), example.begin() + 4, example.begin() + 4));
     for (std::size_t i = 0; i < places.size(); ++i) {
@@ -471,12 +436,12 @@ TEST_F(KonvertForm, ShowsTheSamePictureEveryTimeItIsAsked) {
 TEST_F(KonvertForm, WorksOutAWholeFactorAlikeAfterAFraction) {
     open(-3, 5, 4);
     openHelpWithSolution();
-    const std::vector<Stroke> once = drawnOn("helpPanel");
+    const std::vector<Stroke> once = strokes("helpPanel");
     next(1, 1, 3, 8);
     openHelpWithSolution();
     next(-3, 5, 4);
     openHelpWithSolution();
-    EXPECT_EQ(drawnOn("helpPanel"), once);
+    EXPECT_EQ(strokes("helpPanel"), once);
     EXPECT_NEAR(right("workedInterceptDenominator"), left("workedInterceptDenominator") + 1, 1e-6);
 }
 
@@ -484,15 +449,15 @@ TEST_F(KonvertForm, KeepsTheWorkedSolutionWhileItsHelpIsClosed) {
     const FormDriver& f = open(-3, 5, 4);
     openHelpWithSolution();
     f.click("closeHelp");
-    EXPECT_FALSE(f.isShown("helpPanel"));
     EXPECT_TRUE(f.isShown("task"));
+    EXPECT_FALSE(f.isShown("helpPanel"));
     EXPECT_EQ(f.focus(), "slope");
     f.click("help");
     EXPECT_EQ(f.focus(), "showWorkedSolution");
     EXPECT_EQ(f.caption("workedResult"), "= -0.188 K + 1.25");
     EXPECT_TRUE(f.isShown("workedRule"));
     // The bars of the solution, between the example's and the example's once more.
-    EXPECT_EQ(drawnOn("helpPanel").size(), 6U);
+    EXPECT_EQ(strokes("helpPanel").size(), 6U);
 }
 
 TEST_F(KonvertForm, JudgesByTheRoundedSolutionOnceItWasShown) {
@@ -503,7 +468,7 @@ TEST_F(KonvertForm, JudgesByTheRoundedSolutionOnceItWasShown) {
     openHelpWithSolution();
     answer("-0.193", "1.25");
     EXPECT_TRUE(form->isShown("right"));
-    EXPECT_EQ(drawnOn("graph")[1], kGraph.line(0, 13.75F, 20, 15 - (20 * -0.188 + 1.25), kLightGreen));
+    EXPECT_EQ(strokes("graph")[1], kGraph.line(0, 13.75F, 20, 15 - (20 * -0.188 + 1.25), kLightGreen));
 }
 
 TEST_F(KonvertForm, ClosesItsHelpWithARightAnswerAndKeepsTheTaskAway) {
@@ -512,20 +477,16 @@ TEST_F(KonvertForm, ClosesItsHelpWithARightAnswerAndKeepsTheTaskAway) {
     answer("1", "1");
     EXPECT_TRUE(f.isShown("helpPanel")) << "a wrong answer leaves it open";
     answer("2", "3");
-    EXPECT_FALSE(f.isShown("helpPanel"));
-    EXPECT_FALSE(f.isShown("task"));
-    f.click("help");
-    f.click("closeHelp");
+    test::expectHidden(f, {"helpPanel", "task"});
+    f.click("help", "closeHelp");
     EXPECT_TRUE(f.isShown("task"));
 }
 
 TEST_F(KonvertForm, ClosesItsHelpWithTheGivenAnswerAndKeepsTheTaskAway) {
     const FormDriver& f = open(2, 3, 1);
     answer("1", "1");
-    f.click("help");
-    f.click("giveAnswer");
-    EXPECT_FALSE(f.isShown("helpPanel"));
-    EXPECT_FALSE(f.isShown("task"));
+    f.click("help", "giveAnswer");
+    test::expectHidden(f, {"helpPanel", "task"});
     next(1, 1, 1);
     EXPECT_TRUE(f.isShown("task"));
 }
@@ -535,17 +496,15 @@ TEST_F(KonvertForm, ForgetsEverythingWithTheNextExercise) {
     answer("1", "1");
     openHelpWithSolution();
     next(1, 1, 1);
-    for (const char* hidden : {"helpPanel", "workedRule", "wrong", "right", "giveAnswer"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectHidden(f, {"helpPanel", "workedRule", "wrong", "right", "giveAnswer"});
     for (const char* name : kFilledIn) {
         EXPECT_EQ(f.caption(name), " ") << name;
     }
     EXPECT_EQ(f.box("slope").content() + f.box("intercept").content(), "");
     EXPECT_EQ(colour("slope"), kWhite);
-    EXPECT_TRUE(drawnOn("helpPanel").empty());
+    EXPECT_TRUE(strokes("helpPanel").empty());
     f.click("help");
-    EXPECT_EQ(drawnOn("helpPanel"), exampleBars());
+    EXPECT_EQ(strokes("helpPanel"), exampleBars());
 }
 
 TEST_F(KonvertForm, HasRoomForTheLongestNumbers) {

@@ -32,11 +32,7 @@ using test::lininter::points;
 using test::lininter::script;
 
 LininterState exercise(int qa, int pa, int qb, int pb, Coordinate which, int g) {
-    ScriptedDraws draws(script(qa, pa, qb, pb, which, g));
-    LininterState state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    return state;
+    return test::exerciseOf<LininterState>(script(qa, pa, qb, pb, which, g));
 }
 
 LininterState withTarget(float target) {
@@ -160,10 +156,8 @@ TEST(LininterGenerator, DrawsOnlyTheGivenCoordinateAgainWhileTheTargetIsSixteenO
 
 TEST(LininterGenerator, DrawsOnlyTheGivenCoordinateAgainInBothDirectionsAndBelowZero) {
     // Q = 1 gives -16.5.
-    ScriptedDraws draws(script(8, 1, 10, 6, Coordinate::Quantity, 1) + Script{given(2)});
-    LininterState s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
+    LininterState s =
+        test::exerciseOf<LininterState>(script(8, 1, 10, 6, Coordinate::Quantity, 1) + Script{given(2)});
     EXPECT_EQ(s.target, -14);
 
     // Q = 22 - 2P
@@ -223,32 +217,28 @@ TEST(LininterTexts, GiveTheAnswerWithTwoDecimalsHalvesAwayFromZero) {
     EXPECT_EQ(answerText(withTarget(2.0F / 3)), "0,67");
 }
 
-TEST(LininterWorked, BearsTheChangesFromAToB) {
-    const LininterWorked q = workedSolution(exercise(1, 2, 4, 7, Coordinate::Quantity, 8));
-    EXPECT_EQ(q.numerator, "7 - 2");
-    EXPECT_EQ(q.denominator, "4 - 1");
-    EXPECT_EQ(q.ratio, " = 1.67");
-    EXPECT_EQ(q.result, "P=2 - ( 1 - 8 )·1.67 = 13.67");
+void expectWorked(const LininterState& state, const LininterWorked& expected) {
+    const LininterWorked worked = workedSolution(state);
+    EXPECT_EQ(worked.numerator, expected.numerator);
+    EXPECT_EQ(worked.denominator, expected.denominator);
+    EXPECT_EQ(worked.ratio, expected.ratio);
+    EXPECT_EQ(worked.result, expected.result);
+}
 
-    const LininterWorked p = workedSolution(exercise(1, 2, 4, 7, Coordinate::Price, 8));
-    EXPECT_EQ(p.numerator, "4 - 1");
-    EXPECT_EQ(p.denominator, "7 - 2");
-    EXPECT_EQ(p.ratio, " = 0.6");
-    EXPECT_EQ(p.result, "Q = 1 - ( 2 - 8 )·0.6 = 4.6");
+TEST(LininterWorked, BearsTheChangesFromAToB) {
+    expectWorked(exercise(1, 2, 4, 7, Coordinate::Quantity, 8),
+                 {"7 - 2", "4 - 1", " = 1.67", "P=2 - ( 1 - 8 )·1.67 = 13.67"});
+
+    expectWorked(exercise(1, 2, 4, 7, Coordinate::Price, 8),
+                 {"4 - 1", "7 - 2", " = 0.6", "Q = 1 - ( 2 - 8 )·0.6 = 4.6"});
 }
 
 TEST(LininterWorked, WritesANegativeRatioInBrackets) {
-    const LininterWorked q = workedSolution(exercise(4, 6, 1, 8, Coordinate::Quantity, 8));
-    EXPECT_EQ(q.numerator, "8 - 6");
-    EXPECT_EQ(q.denominator, "1 - 4");
-    EXPECT_EQ(q.ratio, " = -0.67");
-    EXPECT_EQ(q.result, "P=6 - ( 4 - 8 )·(-0.67) = 3.33");
+    expectWorked(exercise(4, 6, 1, 8, Coordinate::Quantity, 8),
+                 {"8 - 6", "1 - 4", " = -0.67", "P=6 - ( 4 - 8 )·(-0.67) = 3.33"});
 
-    const LininterWorked p = workedSolution(exercise(4, 6, 1, 8, Coordinate::Price, 1));
-    EXPECT_EQ(p.numerator, "1 - 4");
-    EXPECT_EQ(p.denominator, "8 - 6");
-    EXPECT_EQ(p.ratio, " = -1.5");
-    EXPECT_EQ(p.result, "Q = 4 - ( 6 - 1 )·(-1.5) = 11.5");
+    expectWorked(exercise(4, 6, 1, 8, Coordinate::Price, 1),
+                 {"1 - 4", "8 - 6", " = -1.5", "Q = 4 - ( 6 - 1 )·(-1.5) = 11.5"});
 }
 
 TEST(LininterWorked, ComputesTheResultFromTheUnroundedRatio) {

@@ -2,12 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
 #include "support/decimal_mark.h"
-#include "support/fixed_texts.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
 #include "support/verdict.h"
 #include "topics/basics/lininter_script.h"
 
@@ -16,7 +13,6 @@ namespace {
 
 using test::DecimalMark;
 using test::FormDriver;
-using test::ScriptedDraws;
 
 constexpr test::StrokesIn kGraph{{-7, 16.5, 15, -5}};
 // Two axes, 22 ticks on each of them, and two crosses of two strokes.
@@ -29,17 +25,9 @@ bool isInside(const Stroke& s) {
            isBetween(-5, s.y2, 16.5F);
 }
 
-class LininterForm : public testing::Test {
+class LininterForm : public test::ScriptedForm<int, int, int, int, Coordinate, int> {
 protected:
-    void script(int qa, int pa, int qb, int pb, Coordinate which, int given) {
-        draws.append(test::lininter::script(qa, pa, qb, pb, which, given));
-    }
-
-    FormDriver& open(int qa, int pa, int qb, int pb, Coordinate which, int given) {
-        script(qa, pa, qb, pb, which, given);
-        form = std::make_unique<FormDriver>(PageName::Lininter, draws);
-        return *form;
-    }
+    LininterForm() : ScriptedForm(PageName::Lininter, test::lininter::script) {}
 
     // One exercise for each row of the table of arrowheads; the line is P = 2Q, P = 2Q - 14 or P = Q/2 + 5.
     FormDriver& openQAbove() { return open(1, 2, 3, 6, Coordinate::Quantity, 4); }   // P is 8.
@@ -57,28 +45,19 @@ protected:
         form->click("giveAnswer");
     }
 
-    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("graph"); }
-
     /// What was drawn after the task.
     [[nodiscard]] std::vector<Stroke> drawnLater() const {
         return test::strokesFrom(graph(), kStrokesOfTask);
     }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 TEST_F(LininterForm, IsBlankUntilItsOpening) {
     const FormDriver unshown = FormDriver::unshown(PageName::Lininter, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Lineær interpolation/ekstrapolation");
-    for (const char* blank : {"pointA", "pointB", "givenLetter", "givenCoordinate", "askedLetter",
-                              "workedPrice", "workedQuantity"}) {
-        EXPECT_EQ(unshown.caption(blank), "") << blank;
-    }
-    for (const char* hidden :
-         {"giveAnswer", "wrong", "right", "helpPanel", "workedSolution", "pointAName", "pointBName"}) {
-        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
-    }
+    test::expectBlank(unshown, {"pointA", "pointB", "givenLetter", "givenCoordinate", "askedLetter",
+                                "workedPrice", "workedQuantity"});
+    test::expectHidden(
+        unshown, {"giveAnswer", "wrong", "right", "helpPanel", "workedSolution", "pointAName", "pointBName"});
     EXPECT_FALSE(unshown.button("showPriceSolution").isEnabled());
     EXPECT_FALSE(unshown.button("showQuantitySolution").isEnabled());
 }
@@ -150,13 +129,13 @@ TEST_F(LininterForm, BearsItsFixedTexts) {
 
 TEST_F(LininterForm, GivesQAndAsksForP) {
     const FormDriver& f = openQAbove();
-    EXPECT_EQ(f.caption("pointA"), "A : ( 1 ; 2 )");
-    EXPECT_EQ(f.caption("pointB"), "B : ( 3 ; 6 )");
-    EXPECT_EQ(f.caption("givenLetter"), "Q");
-    EXPECT_EQ(f.caption("givenEquals"), "=");
-    EXPECT_EQ(f.caption("givenCoordinate"), "4");
-    EXPECT_EQ(f.caption("askedLetter"), "P");
-    EXPECT_EQ(f.caption("askedEquals"), "=");
+    test::expectTexts(f, {{"pointA", "A : ( 1 ; 2 )"},
+                          {"pointB", "B : ( 3 ; 6 )"},
+                          {"givenLetter", "Q"},
+                          {"givenEquals", "="},
+                          {"givenCoordinate", "4"},
+                          {"askedLetter", "P"},
+                          {"askedEquals", "="}});
     EXPECT_EQ(f.focus(), "askedCoordinate");
     EXPECT_TRUE(f.isShown("ok"));
     EXPECT_FALSE(f.isShown("giveAnswer"));
@@ -164,9 +143,7 @@ TEST_F(LininterForm, GivesQAndAsksForP) {
 
 TEST_F(LininterForm, GivesPAndAsksForQ) {
     const FormDriver& f = openPAbove();
-    EXPECT_EQ(f.caption("givenLetter"), "P");
-    EXPECT_EQ(f.caption("givenCoordinate"), "5");
-    EXPECT_EQ(f.caption("askedLetter"), "Q");
+    test::expectTexts(f, {{"givenLetter", "P"}, {"givenCoordinate", "5"}, {"askedLetter", "Q"}});
 }
 
 TEST_F(LininterForm, DrawsAxesThenTicksThenACrossForEachPoint) {
@@ -188,8 +165,7 @@ TEST_F(LininterForm, DrawsAxesThenTicksThenACrossForEachPoint) {
 
 TEST_F(LininterForm, PutsTheNamesByThePoints) {
     const FormDriver& f = openPBelow();
-    EXPECT_TRUE(f.isShown("pointAName"));
-    EXPECT_TRUE(f.isShown("pointBName"));
+    test::expectShown(f, {"pointAName", "pointBName"});
     const double unitsToOne = graph().Control::place().height() / 21.5;
     EXPECT_NEAR(graph().leftOf(f.label("pointAName")), 2, 1e-6);
     EXPECT_NEAR(f.label("pointAName").place().top(), (16.5 - 5.5) * unitsToOne, 1e-6);
@@ -201,8 +177,7 @@ TEST_F(LininterForm, ClearsTheGraphWithEachExercise) {
     const FormDriver& f = openQAbove();
     answer("8");
     EXPECT_GT(graph().strokes().size(), kStrokesOfTask);
-    script(9, 4, 10, 6, Coordinate::Quantity, 1);
-    f.click("newExercise");
+    next(9, 4, 10, 6, Coordinate::Quantity, 1);
     EXPECT_EQ(graph().strokes().size(), kStrokesOfTask);
     EXPECT_EQ(graph().scale(), kGraph.scale);
     EXPECT_NEAR(graph().leftOf(f.label("pointAName")), 9, 1e-6);
@@ -246,11 +221,9 @@ TEST_F(LininterForm, StaysRedUntilTheAnswerIsGivenOrTheNextExercise) {
     const FormDriver& f = openQAbove();
     giveAfter("7");
     EXPECT_EQ(f.box("askedCoordinate").backColour(), kWhite);
-    script(1, 2, 3, 6, Coordinate::Quantity, 4);
-    f.click("newExercise");
+    next(1, 2, 3, 6, Coordinate::Quantity, 4);
     answer("7");
-    script(1, 2, 3, 6, Coordinate::Quantity, 4);
-    f.click("newExercise");
+    next(1, 2, 3, 6, Coordinate::Quantity, 4);
     EXPECT_EQ(f.box("askedCoordinate").backColour(), kWhite);
     EXPECT_FALSE(f.isShown("wrong"));
 }
@@ -264,8 +237,7 @@ TEST_F(LininterForm, TakesTheHalfOpenBandRoundTheTarget) {
     answer("3.37001");
     EXPECT_TRUE(f.isShown("right"));
     for (const char* right : {"3.38", "3.375"}) {
-        script(2, 4, 10, 9, Coordinate::Quantity, 1);
-        f.click("newExercise");
+        next(2, 4, 10, 9, Coordinate::Quantity, 1);
         answer(right);
         EXPECT_TRUE(f.isShown("right")) << right;
     }
@@ -409,20 +381,17 @@ TEST_F(LininterForm, TakesAnyTypedText) {
     for (const std::string& typed :
          {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
         f.box("askedCoordinate").setContent(typed);
-        f.click("ok");
-        f.click("giveAnswer");
+        f.click("ok", "giveAnswer");
         EXPECT_FALSE(f.page().grab().isNull());
         EXPECT_EQ(f.box("askedCoordinate").content(), "8");
-        script(1, 2, 3, 6, Coordinate::Quantity, 4);
-        f.click("newExercise");
+        next(1, 2, 3, 6, Coordinate::Quantity, 4);
     }
 }
 
 TEST_F(LininterForm, ExplainsBothDirections) {
     const FormDriver& f = openQAbove();
     f.click("help");
-    EXPECT_TRUE(f.isShown("helpPanel"));
-    EXPECT_TRUE(f.isShown("workedSolution"));
+    test::expectShown(f, {"helpPanel", "workedSolution"});
 }
 
 TEST_F(LininterForm, OpensOnlyTheSolutionOfItsDirection) {
@@ -431,11 +400,11 @@ TEST_F(LininterForm, OpensOnlyTheSolutionOfItsDirection) {
     EXPECT_TRUE(q.button("showPriceSolution").isEnabled());
     EXPECT_FALSE(q.button("showQuantitySolution").isEnabled());
     EXPECT_EQ(q.focus(), "showPriceSolution");
-    EXPECT_EQ(q.caption("workedSlopeNumerator"), "6 - 2");
-    EXPECT_EQ(q.caption("workedSlopeDenominator"), "3 - 1");
-    EXPECT_EQ(q.caption("workedSlope"), " = 2");
-    EXPECT_EQ(q.caption("workedPrice"), "P=2 - ( 1 - 4 )·2 = 8");
-    EXPECT_EQ(q.caption("workedQuantity"), "");
+    test::expectTexts(q, {{"workedSlopeNumerator", "6 - 2"},
+                          {"workedSlopeDenominator", "3 - 1"},
+                          {"workedSlope", " = 2"},
+                          {"workedPrice", "P=2 - ( 1 - 4 )·2 = 8"},
+                          {"workedQuantity", ""}});
 
     script(2, 6, 4, 7, Coordinate::Price, 1);
     q.click("newExercise");
@@ -445,19 +414,17 @@ TEST_F(LininterForm, OpensOnlyTheSolutionOfItsDirection) {
     EXPECT_FALSE(q.button("showPriceSolution").isEnabled());
     EXPECT_TRUE(q.button("showQuantitySolution").isEnabled());
     EXPECT_EQ(q.focus(), "showQuantitySolution");
-    EXPECT_EQ(q.caption("workedInverseSlopeNumerator"), "4 - 2");
-    EXPECT_EQ(q.caption("workedInverseSlopeDenominator"), "7 - 6");
-    EXPECT_EQ(q.caption("workedInverseSlope"), " = 2");
-    EXPECT_EQ(q.caption("workedQuantity"), "Q = 2 - ( 6 - 1 )·2 = -8");
+    test::expectTexts(q, {{"workedInverseSlopeNumerator", "4 - 2"},
+                          {"workedInverseSlopeDenominator", "7 - 6"},
+                          {"workedInverseSlope", " = 2"},
+                          {"workedQuantity", "Q = 2 - ( 6 - 1 )·2 = -8"}});
 }
 
 TEST_F(LininterForm, LeavesTheOtherSolutionFromBeforeUnderItsCover) {
     const FormDriver& f = openQAbove();
-    f.click("help");
-    f.click("showPriceSolution");
+    f.click("help", "showPriceSolution");
     script(2, 6, 4, 7, Coordinate::Price, 1);
-    f.click("newExercise");
-    f.click("help");
+    f.click("newExercise", "help");
     EXPECT_EQ(f.caption("workedPrice"), "P=2 - ( 1 - 4 )·2 = 8");
     EXPECT_TRUE(f.isShown("priceSolutionCover"));
 }
@@ -465,11 +432,10 @@ TEST_F(LininterForm, LeavesTheOtherSolutionFromBeforeUnderItsCover) {
 TEST_F(LininterForm, UncoversTheSolutionAndGoesToTheCloseButton) {
     const FormDriver& q = openQAbove();
     q.click("help");
-    EXPECT_TRUE(q.isShown("priceSolutionCover"));
-    EXPECT_TRUE(q.isShown("quantitySolutionCover"));
+    test::expectShown(q, {"priceSolutionCover", "quantitySolutionCover"});
     q.press("showPriceSolution", Qt::Key_Return);
-    EXPECT_FALSE(q.isShown("priceSolutionCover"));
     EXPECT_TRUE(q.isShown("quantitySolutionCover"));
+    EXPECT_FALSE(q.isShown("priceSolutionCover"));
     EXPECT_EQ(q.focus(), "closeHelp");
 
     const FormDriver& p = openPAbove();
@@ -482,30 +448,23 @@ TEST_F(LininterForm, UncoversTheSolutionAndGoesToTheCloseButton) {
 
 TEST_F(LininterForm, CoversTheSolutionsAgainWhenThePanelCloses) {
     const FormDriver& f = openQAbove();
-    f.click("help");
-    f.click("showPriceSolution");
-    f.click("closeHelp");
+    f.click("help", "showPriceSolution", "closeHelp");
+    test::expectShown(f, {"priceSolutionCover", "quantitySolutionCover"});
     EXPECT_FALSE(f.isShown("helpPanel"));
-    EXPECT_TRUE(f.isShown("priceSolutionCover"));
-    EXPECT_TRUE(f.isShown("quantitySolutionCover"));
     EXPECT_TRUE(f.button("showPriceSolution").isEnabled());
 }
 
 TEST_F(LininterForm, CoversTheSolutionsAgainWithTheNextExercise) {
     const FormDriver& f = openQAbove();
-    f.click("help");
-    f.click("showPriceSolution");
-    script(1, 2, 3, 6, Coordinate::Quantity, 4);
-    f.click("newExercise");
-    EXPECT_FALSE(f.isShown("helpPanel"));
+    f.click("help", "showPriceSolution");
+    next(1, 2, 3, 6, Coordinate::Quantity, 4);
     EXPECT_TRUE(f.isShown("priceSolutionCover"));
+    EXPECT_FALSE(f.isShown("helpPanel"));
 }
 
 TEST_F(LininterForm, KeepsAnOpenSolutionWhereHelpIsAskedForAgain) {
     const FormDriver& f = openQAbove();
-    f.click("help");
-    f.click("showPriceSolution");
-    f.click("help");
+    f.click("help", "showPriceSolution", "help");
     EXPECT_FALSE(f.isShown("priceSolutionCover"));
     EXPECT_EQ(f.focus(), "showPriceSolution");
 }

@@ -212,11 +212,9 @@ TEST(TomtoGenerator, KeepsTheSolutionOfARejectedTry) {
 
 TEST(TomtoGenerator, LetsALeftNegativePForceANewDraw) {
     // (3; -1) stays behind: Q becomes 0, P is still negative.
-    ScriptedDraws draws(script({-1, 1, 2, -2, 1, 5}, Explicit) + script({4, 1, 3, 4, 2, 8}, Explicit) +
-                        script(kCrossing, Explicit));
-    TomtoState s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
+    const TomtoState s =
+        test::exerciseOf<TomtoState>(script({-1, 1, 2, -2, 1, 5}, Explicit) +
+                                     script({4, 1, 3, 4, 2, 8}, Explicit) + script(kCrossing, Explicit));
     EXPECT_EQ(s.relation, Relation::Crossing);
 }
 

@@ -5,13 +5,10 @@
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
-#include "support/fixed_texts.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
 #include "support/verdict.h"
 #include "topics/basics/tomto_script.h"
 
@@ -19,7 +16,6 @@ namespace tavrune {
 namespace {
 
 using test::FormDriver;
-using test::ScriptedDraws;
 using test::tomto::Coefficients;
 using test::tomto::Explicit;
 using test::tomto::Implicit;
@@ -44,26 +40,17 @@ constexpr Task kCrossingOfThree{{-9, -10, 9, -10, -9, 9}, Implicit};  // (0.47; 
 constexpr Task kParallelOfThree{{2, 3, 4, 4, 6, 5}, Implicit};
 constexpr Task kCoincidingOfThree{{2, 3, 4, 4, 6, -4}, Implicit};
 
-class TomtoForm : public testing::Test {
-protected:
-    void script(const Task& t) { draws.append(test::tomto::script(t.coefficients, t.form)); }
+test::Script scriptOf(const Task& t) { return test::tomto::script(t.coefficients, t.form); }
 
-    FormDriver& open(const Task& task) {
-        script(task);
-        form = std::make_unique<FormDriver>(PageName::Tomto, draws);
-        return *form;
-    }
+class TomtoForm : public test::ScriptedForm<const Task&> {
+protected:
+    TomtoForm() : ScriptedForm(PageName::Tomto, scriptOf) {}
 
     /// Opens with a crossing, so that lines of two terms that do not cross can follow.
     FormDriver& openThen(const Task& task) {
         open(kCrossing);
         next(task);
         return *form;
-    }
-
-    void next(const Task& task) {
-        script(task);
-        form->click("newExercise");
     }
 
     void answer(const std::string& q, const std::string& p) const {
@@ -73,14 +60,7 @@ protected:
         form->click("ok");
     }
 
-    void choose(const std::string& option) const {
-        form->click(option);
-        form->click("ok");
-    }
-
-    [[nodiscard]] QColor colour(const std::string& box) const { return form->box(box).backColour(); }
-    [[nodiscard]] GraphBox& graph() const { return form->find<GraphBox>("graph"); }
-    [[nodiscard]] const std::vector<Stroke>& strokes() const { return graph().strokes(); }
+    void choose(const std::string& option) const { form->click(option, "ok"); }
 
     [[nodiscard]] std::string choices() const {
         std::string chosen;
@@ -89,16 +69,6 @@ protected:
         }
         return chosen;
     }
-
-    [[nodiscard]] bool isRight() const {
-        return form->isShown("verdict") && form->caption("verdict") == "RIGTIGT";
-    }
-    [[nodiscard]] bool isWrong() const {
-        return form->isShown("verdict") && form->caption("verdict") == "FORKERT";
-    }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 constexpr test::FixedText kFixedTexts[]{
@@ -174,15 +144,13 @@ TEST_F(TomtoForm, StandsReadyBeforeItsOpening) {
     EXPECT_EQ(f.page().windowTitle().toStdString(), "Tavrune - 2 ligninger med 2 ubekendte");
     EXPECT_EQ(f.caption("givenEquation1") + f.caption("givenEquation2"), "");
     test::expectTexts(f, kFixedTexts);
-    for (const char* hidden :
-         {"crossingPointEquals", "crossingPoint", "verdict", "giveAnswer", "explicitHelpPanel",
-          "explicitDerivation", "implicitHelpPanel", "implicitDerivation", "explicitWorkedEquated",
-          "explicitWorkedCollected", "explicitWorkedQuantity", "explicitWorkedPrice",
-          "implicitWorkedQuantityEquals", "implicitWorkedQuantityNumerator",
-          "implicitWorkedQuantityDenominator", "implicitWorkedQuantity", "implicitWorkedInserted",
-          "implicitWorkedPrice", "implicitWorkedQuantityBar"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectHidden(
+        f, {"crossingPointEquals", "crossingPoint", "verdict", "giveAnswer", "explicitHelpPanel",
+            "explicitDerivation", "implicitHelpPanel", "implicitDerivation", "explicitWorkedEquated",
+            "explicitWorkedCollected", "explicitWorkedQuantity", "explicitWorkedPrice",
+            "implicitWorkedQuantityEquals", "implicitWorkedQuantityNumerator",
+            "implicitWorkedQuantityDenominator", "implicitWorkedQuantity", "implicitWorkedInserted",
+            "implicitWorkedPrice", "implicitWorkedQuantityBar"});
 }
 
 TEST_F(TomtoForm, HasAGraphOfItsSizeWithTicksBesideIt) {
@@ -213,13 +181,10 @@ TEST_F(TomtoForm, HasAGraphOfItsSizeWithTicksBesideIt) {
 
 TEST_F(TomtoForm, ShowsTheTwoLinesAndAsksForTheirRelationFirst) {
     const FormDriver& f = open(kCrossing);
-    EXPECT_EQ(f.caption("givenEquation1"), "l: P = -2Q + 8");
-    EXPECT_EQ(f.caption("givenEquation2"), "m: P = 3Q - 5");
+    test::expectTexts(f, {{"givenEquation1", "l: P = -2Q + 8"}, {"givenEquation2", "m: P = 3Q - 5"}});
     EXPECT_EQ(choices(), "---");
-    EXPECT_FALSE(f.isShown("crossingPoint"));
-    EXPECT_FALSE(f.isShown("crossingPointEquals"));
-    EXPECT_TRUE(f.isShown("ok"));
-    EXPECT_TRUE(f.isShown("equationsBackground"));
+    test::expectShown(f, {"ok", "equationsBackground"});
+    test::expectHidden(f, {"crossingPoint", "crossingPointEquals"});
     EXPECT_EQ(f.caption("priceMarkMiddle") + f.caption("quantityMarkMiddle"), "55");
     EXPECT_EQ(graph().scale(), kToTen.scale);
     EXPECT_TRUE(strokes().empty());
@@ -227,17 +192,15 @@ TEST_F(TomtoForm, ShowsTheTwoLinesAndAsksForTheirRelationFirst) {
 
 TEST_F(TomtoForm, ShowsLinesOfThreeTerms) {
     const FormDriver& f = open(kCrossingOfThree);
-    EXPECT_EQ(f.caption("givenEquation1"), "-10P - 9Q + 9 =  0");
-    EXPECT_EQ(f.caption("givenEquation2"), "-9P - 10Q + 9 =  0");
+    test::expectTexts(f,
+                      {{"givenEquation1", "-10P - 9Q + 9 =  0"}, {"givenEquation2", "-9P - 10Q + 9 =  0"}});
 }
 
 TEST_F(TomtoForm, OpensWithItsOwnReplacementsForZeros) {
     const FormDriver& f = open({{0, 0, 0, 0, 0, 0}, Explicit});
-    EXPECT_EQ(f.caption("givenEquation1"), "l: P = 3Q + 2");
-    EXPECT_EQ(f.caption("givenEquation2"), "m: P = 1Q + 5");
+    test::expectTexts(f, {{"givenEquation1", "l: P = 3Q + 2"}, {"givenEquation2", "m: P = 1Q + 5"}});
     next({{0, 0, 0, 0, 0, 0}, Explicit});
-    EXPECT_EQ(f.caption("givenEquation1"), "l: P = 7Q + 3");
-    EXPECT_EQ(f.caption("givenEquation2"), "m: P = 1Q + 5");
+    test::expectTexts(f, {{"givenEquation1", "l: P = 7Q + 3"}, {"givenEquation2", "m: P = 1Q + 5"}});
 }
 
 TEST_F(TomtoForm, RepeatsTheDrawWhereItWouldOpenWithParallelLinesOfTwoTerms) {
@@ -250,8 +213,7 @@ TEST_F(TomtoForm, RepeatsTheDrawWhereItWouldOpenWithParallelLinesOfTwoTerms) {
 TEST_F(TomtoForm, OpensTheFieldsForACrossingAndStartsInTheRightHandOne) {
     const FormDriver& f = open(kCrossing);
     f.click("crossing");
-    EXPECT_TRUE(f.isShown("crossingPoint"));
-    EXPECT_TRUE(f.isShown("crossingPointEquals"));
+    test::expectShown(f, {"crossingPoint", "crossingPointEquals"});
     EXPECT_EQ(f.focus(), "crossingPointPrice");
     EXPECT_LT(f.box("crossingPointQuantity").place().left(), f.box("crossingPointPrice").place().left());
 }
@@ -259,8 +221,7 @@ TEST_F(TomtoForm, OpensTheFieldsForACrossingAndStartsInTheRightHandOne) {
 TEST_F(TomtoForm, ClosesTheFieldsForTheOtherRelations) {
     const FormDriver& f = open(kCrossing);
     for (const char* other : {"parallel", "coinciding"}) {
-        f.click("crossing");
-        f.click(other);
+        f.click("crossing", other);
         EXPECT_FALSE(f.isShown("crossingPoint")) << other;
         EXPECT_FALSE(f.isShown("crossingPointEquals")) << other;
     }
@@ -344,8 +305,7 @@ TEST_F(TomtoForm, MarksHiddenFieldsByTheirNumbersWhateverIsChosen) {
 
 TEST_F(TomtoForm, TakesParallelLinesByTheChoiceAlone) {
     const FormDriver& f = openThen(kParallel);
-    EXPECT_EQ(f.caption("givenEquation1"), "l: P = 4Q + 3");
-    EXPECT_EQ(f.caption("givenEquation2"), "m: P = 4Q + 8");
+    test::expectTexts(f, {{"givenEquation1", "l: P = 4Q + 3"}, {"givenEquation2", "m: P = 4Q + 8"}});
     answer("5", "5");
     EXPECT_TRUE(isWrong());
     EXPECT_EQ(colour("crossingPointQuantity"), kRed);
@@ -459,10 +419,8 @@ TEST_F(TomtoForm, GivesACrossing) {
     EXPECT_EQ(choices(), "x--");
     EXPECT_EQ(f.option("crossing").backColour(), kGreen);
     EXPECT_NE(f.option("parallel").backColour(), kGreen);
-    EXPECT_TRUE(f.isShown("crossingPoint"));
-    EXPECT_TRUE(f.isShown("crossingPointEquals"));
-    EXPECT_EQ(f.box("crossingPointQuantity").content(), "2.6");
-    EXPECT_EQ(f.box("crossingPointPrice").content(), "2.8");
+    test::expectShown(f, {"crossingPoint", "crossingPointEquals"});
+    test::expectContents(f, {{"crossingPointQuantity", "2.6"}, {"crossingPointPrice", "2.8"}});
     test::expectGiven(f);
     EXPECT_EQ(strokes(),
               (std::vector<Stroke>{kToTen.line(0, 8, 10, -12, kGreen), kToTen.line(0, -5, 10, 25, kGreen),
@@ -533,17 +491,13 @@ TEST_F(TomtoForm, ForgetsEverythingWithTheNextExercise) {
     const FormDriver& f = open(kCrossing);
     const QColor face = f.option("crossing").backColour();
     answer("1", "1");
-    f.click("giveAnswer");
-    f.click("help");
-    f.click("showExplicitWorkedSolution");
+    f.click("giveAnswer", "help", "showExplicitWorkedSolution");
     next(kCrossingOfThree);
     EXPECT_EQ(choices(), "---");
     EXPECT_EQ(f.option("crossing").backColour(), face);
-    for (const char* hidden : {"crossingPoint", "crossingPointEquals", "verdict", "giveAnswer",
-                               "explicitHelpPanel", "explicitDerivation", "explicitWorkedEquated",
-                               "explicitWorkedCollected", "explicitWorkedQuantity", "explicitWorkedPrice"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectHidden(f, {"crossingPoint", "crossingPointEquals", "verdict", "giveAnswer",
+                           "explicitHelpPanel", "explicitDerivation", "explicitWorkedEquated",
+                           "explicitWorkedCollected", "explicitWorkedQuantity", "explicitWorkedPrice"});
     EXPECT_TRUE(f.isShown("ok"));
     EXPECT_EQ(f.box("crossingPointQuantity").content() + f.box("crossingPointPrice").content(), "");
     EXPECT_TRUE(strokes().empty());
@@ -553,8 +507,7 @@ TEST_F(TomtoForm, ForgetsEverythingWithTheNextExercise) {
 TEST_F(TomtoForm, TeachesLinesOfTwoTerms) {
     const FormDriver& f = open(kCrossing);
     f.click("help");
-    EXPECT_TRUE(f.isShown("explicitHelpPanel"));
-    EXPECT_TRUE(f.isShown("explicitDerivation"));
+    test::expectShown(f, {"explicitHelpPanel", "explicitDerivation"});
     EXPECT_FALSE(f.isShown("implicitHelpPanel"));
     EXPECT_EQ(f.focus(), "showExplicitWorkedSolution");
     EXPECT_FALSE(f.isShown("explicitWorkedEquated"));
@@ -565,19 +518,15 @@ TEST_F(TomtoForm, WorksLinesOfTwoTermsOut) {
     const FormDriver& f = open(kCrossing);
     f.click("help");
     f.press("showExplicitWorkedSolution", Qt::Key_Return);
-    EXPECT_EQ(f.caption("explicitWorkedEquated"), "-2Q + 8 = 3Q - 5 =>");
-    EXPECT_EQ(f.caption("explicitWorkedCollected"), "(-2 - 3) * Q = -5 - 8 =>");
-    EXPECT_EQ(f.caption("explicitWorkedQuantity"), "Q = 13/5 = 2.6");
-    EXPECT_EQ(f.caption("explicitWorkedPrice"), "P = -2*(13/5) + 8 = 2.8");
-    for (const char* shown : {"explicitWorkedEquated", "explicitWorkedCollected", "explicitWorkedQuantity",
-                              "explicitWorkedPrice"}) {
-        EXPECT_TRUE(f.isShown(shown)) << shown;
-    }
+    test::expectTexts(f, {{"explicitWorkedEquated", "-2Q + 8 = 3Q - 5 =>"},
+                          {"explicitWorkedCollected", "(-2 - 3) * Q = -5 - 8 =>"},
+                          {"explicitWorkedQuantity", "Q = 13/5 = 2.6"},
+                          {"explicitWorkedPrice", "P = -2*(13/5) + 8 = 2.8"}});
+    test::expectShown(f, {"explicitWorkedEquated", "explicitWorkedCollected", "explicitWorkedQuantity",
+                          "explicitWorkedPrice"});
     f.click("closeExplicitHelp");
-    for (const char* hidden : {"explicitHelpPanel", "explicitDerivation", "explicitWorkedEquated",
-                               "explicitWorkedCollected", "explicitWorkedQuantity", "explicitWorkedPrice"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectHidden(f, {"explicitHelpPanel", "explicitDerivation", "explicitWorkedEquated",
+                           "explicitWorkedCollected", "explicitWorkedQuantity", "explicitWorkedPrice"});
 }
 
 TEST_F(TomtoForm, TeachesNoDerivationForEqualSlopes) {
@@ -596,8 +545,7 @@ TEST_F(TomtoForm, TeachesNoDerivationForEqualSlopes) {
 TEST_F(TomtoForm, TeachesLinesOfThreeTerms) {
     const FormDriver& f = open(kCrossingOfThree);
     f.click("help");
-    EXPECT_TRUE(f.isShown("implicitHelpPanel"));
-    EXPECT_TRUE(f.isShown("implicitDerivation"));
+    test::expectShown(f, {"implicitHelpPanel", "implicitDerivation"});
     EXPECT_FALSE(f.isShown("explicitHelpPanel"));
     EXPECT_EQ(f.focus(), "showImplicitWorkedSolution");
     test::expectTexts(f, kFixedTexts);
@@ -607,11 +555,11 @@ TEST_F(TomtoForm, WorksLinesOfThreeTermsOut) {
     const FormDriver& f = open(kCrossingOfThree);
     f.click("help");
     f.press("showImplicitWorkedSolution", Qt::Key_Return);
-    EXPECT_EQ(f.caption("implicitWorkedQuantityNumerator"), "9*(-9) - 9*(-10)");
-    EXPECT_EQ(f.caption("implicitWorkedQuantityDenominator"), "-10*(-10) - (-9)*(-9)");
-    EXPECT_EQ(f.caption("implicitWorkedQuantity"), "= 9/19 = 0.47");
-    EXPECT_EQ(f.caption("implicitWorkedInserted"), "I   -10*P - 9*(9/19)+9 = 0 ");
-    EXPECT_EQ(f.caption("implicitWorkedPrice"), "=> P = 0.47");
+    test::expectTexts(f, {{"implicitWorkedQuantityNumerator", "9*(-9) - 9*(-10)"},
+                          {"implicitWorkedQuantityDenominator", "-10*(-10) - (-9)*(-9)"},
+                          {"implicitWorkedQuantity", "= 9/19 = 0.47"},
+                          {"implicitWorkedInserted", "I   -10*P - 9*(9/19)+9 = 0 "},
+                          {"implicitWorkedPrice", "=> P = 0.47"}});
     const char* const revealed[] = {"implicitWorkedQuantityEquals",
                                     "implicitWorkedQuantityNumerator",
                                     "implicitWorkedQuantityDenominator",
@@ -619,21 +567,15 @@ TEST_F(TomtoForm, WorksLinesOfThreeTermsOut) {
                                     "implicitWorkedInserted",
                                     "implicitWorkedPrice",
                                     "implicitWorkedQuantityBar"};
-    for (const char* shown : revealed) {
-        EXPECT_TRUE(f.isShown(shown)) << shown;
-    }
+    test::expectShown(f, revealed);
     f.click("closeImplicitHelp");
-    for (const char* hidden : revealed) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
-    EXPECT_FALSE(f.isShown("implicitHelpPanel"));
-    EXPECT_FALSE(f.isShown("implicitDerivation"));
+    test::expectHidden(f, revealed);
+    test::expectHidden(f, {"implicitHelpPanel", "implicitDerivation"});
 }
 
 TEST_F(TomtoForm, RunsTheBarToTheEndOfTheWiderNumber) {
     const FormDriver& f = open(kCrossingOfThree);
-    f.click("help");
-    f.click("showImplicitWorkedSolution");
+    f.click("help", "showImplicitWorkedSolution");
     EXPECT_EQ(f.find<LineControl>("implicitWorkedQuantityBar").ends().x2(),
               f.label("implicitWorkedQuantityDenominator").place().right());
     EXPECT_EQ(f.label("implicitWorkedQuantityDenominator").place().width(),
@@ -641,8 +583,7 @@ TEST_F(TomtoForm, RunsTheBarToTheEndOfTheWiderNumber) {
         << "the wider one";
     // The shorter texts that follow are not measured by the longer ones.
     next({{1, 1, -3, -2, 1, -2}, Implicit});
-    f.click("help");
-    f.click("showImplicitWorkedSolution");
+    f.click("help", "showImplicitWorkedSolution");
     EXPECT_EQ(f.caption("implicitWorkedQuantityNumerator"), "-3*1 - (-2)*1");
     EXPECT_EQ(f.find<LineControl>("implicitWorkedQuantityBar").ends().x2(),
               f.label("implicitWorkedQuantityNumerator").place().left() +
@@ -651,21 +592,17 @@ TEST_F(TomtoForm, RunsTheBarToTheEndOfTheWiderNumber) {
 
 TEST_F(TomtoForm, ClosesHelpOfThreeTermsWithTheNextExercise) {
     const FormDriver& f = open(kCrossingOfThree);
-    f.click("help");
-    f.click("showImplicitWorkedSolution");
+    f.click("help", "showImplicitWorkedSolution");
     next(kCrossing);
-    for (const char* hidden : {"implicitHelpPanel", "implicitDerivation", "implicitWorkedQuantityEquals",
-                               "implicitWorkedQuantityNumerator", "implicitWorkedQuantityBar"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectHidden(f, {"implicitHelpPanel", "implicitDerivation", "implicitWorkedQuantityEquals",
+                           "implicitWorkedQuantityNumerator", "implicitWorkedQuantityBar"});
 }
 
 TEST_F(TomtoForm, KeepsWhatWasTypedWhileHelpComesAndGoes) {
     const FormDriver& f = open(kCrossing);
     f.click("crossing");
     f.type("crossingPointQuantity", "4");
-    f.click("help");
-    f.click("closeExplicitHelp");
+    f.click("help", "closeExplicitHelp");
     EXPECT_EQ(f.box("crossingPointQuantity").content(), "4");
     EXPECT_EQ(choices(), "x--");
     EXPECT_TRUE(f.isShown("crossingPoint"));
@@ -684,12 +621,10 @@ TEST_F(TomtoForm, TakesAnyTypedText) {
 
 TEST_F(TomtoForm, HasRoomForTheLongestNumbers) {
     const FormDriver& f = open({{-10, -10, 6, 7, -10, -4}, Implicit});
-    f.click("help");
-    f.click("showImplicitWorkedSolution");
+    f.click("help", "showImplicitWorkedSolution");
     EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
     next({{-10, 8, 7, 5, 6, -3}, Explicit});
-    f.click("help");
-    f.click("showExplicitWorkedSolution");
+    f.click("help", "showExplicitWorkedSolution");
     EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
     f.click("closeExplicitHelp");
     answer("11.11", "111.11");

@@ -35,13 +35,7 @@ using test::ScriptedDraws;
 /// P=  1Q², which is accepted.
 const DiffDraws kAccepted{.patternCase = 2};
 
-DiffState exercise(const DiffDraws& drawn) {
-    ScriptedDraws draws(drawn.script());
-    DiffState state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    return state;
-}
+DiffState exercise(const DiffDraws& drawn) { return test::exerciseOf<DiffState>(drawn.script()); }
 
 /// True if just these draws are taken for an exercise, which is then in `state`.
 bool isAccepted(const DiffDraws& drawn, DiffState& state) {
@@ -354,10 +348,7 @@ TEST(DiffGenerator, DrawsASecondAFromTheNineteenthPatternOn) {
 }
 
 TEST(DiffGenerator, ReachesBothEndsOfEachRange) {
-    ScriptedDraws lowest{0, 0, 0, 0, 0, 0};
-    DiffState s;
-    newExercise(s, lowest);
-    EXPECT_TRUE(lowest.isUsedUp());
+    DiffState s = test::exerciseOf<DiffState>({0, 0, 0, 0, 0, 0});
     EXPECT_EQ(textsOf(s).polynomial, "P=  1Q² +1Q +1 ");
     EXPECT_EQ(s.pointQ, 1);
 

@@ -6,12 +6,10 @@
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
 #include "support/decimal_mark.h"
-#include "support/fixed_texts.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
+#include "support/verdict.h"
 #include "topics/calculus/diff_script.h"
 
 namespace tavrune {
@@ -20,7 +18,6 @@ namespace {
 using test::DecimalMark;
 using test::DiffDraws;
 using test::FormDriver;
-using test::ScriptedDraws;
 
 const GraphScale kScale{-1, 65, 8, -65};
 const test::StrokesIn kIn{kScale};
@@ -68,19 +65,21 @@ std::vector<Stroke> cubic(double a, double b, double c, double d) {
     return pieces(-7, 5000, [=](double x) { return a * std::pow(x, 3) + b * std::pow(x, 2) + c * x + d; });
 }
 
-class DiffForm : public testing::Test {
+test::Script scriptOf(const DiffDraws& drawn) { return drawn.script(); }
+
+class DiffForm : public test::ScriptedForm<const DiffDraws&> {
 protected:
+    DiffForm() : ScriptedForm(PageName::Diff, scriptOf) {}
+
     FormDriver& open(const DiffDraws& drawn) {
-        draws.append(drawn.script());
-        form = std::make_unique<FormDriver>(PageName::Diff, draws);
-        strokesOfTask = graph().strokes().size();
+        ScriptedForm::open(drawn);
+        strokesOfTask = strokes().size();
         return *form;
     }
 
-    void nextExercise(const DiffDraws& drawn) {
-        draws.append(drawn.script());
-        form->click("newExercise");
-        strokesOfTask = graph().strokes().size();
+    void next(const DiffDraws& drawn) {
+        ScriptedForm::next(drawn);
+        strokesOfTask = strokes().size();
     }
 
     void answer(const std::string& slope) const {
@@ -88,56 +87,33 @@ protected:
         form->click("ok");
     }
 
-    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("graph"); }
-
     /// What was drawn after the task.
     [[nodiscard]] std::vector<Stroke> drawnLater() const { return test::strokesFrom(graph(), strokesOfTask); }
 
-    [[nodiscard]] bool areShown(std::initializer_list<const char*> names, bool shown = true) const {
-        bool all = true;
-        for (const char* name : names) {
-            EXPECT_EQ(form->isShown(name), shown) << name;
-            all = all && form->isShown(name) == shown;
-        }
-        return all;
-    }
-
-    [[nodiscard]] bool areHidden(std::initializer_list<const char*> names) const {
-        return areShown(names, false);
-    }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
     std::size_t strokesOfTask = 0;
 };
 
 TEST_F(DiffForm, HidesTheButtonOfTheNextExerciseUntilItIsOnScreen) {
     const FormDriver unshown = FormDriver::unshown(PageName::Diff, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Differentialregning");
-    for (const char* hidden : {"newExercise", "giveAnswer", "right", "wrong", "helpPanel"}) {
-        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
-    }
-    for (const char* blank : {"givenFunction", "pointQuantity", "workedFunction", "workedDerivative",
-                              "workedForQuantity", "workedDerivativeAtPoint", "workedResult"}) {
-        EXPECT_EQ(unshown.caption(blank), "") << blank;
-    }
+    test::expectHidden(unshown, {"newExercise", "giveAnswer", "right", "wrong", "helpPanel"});
+    test::expectBlank(unshown, {"givenFunction", "pointQuantity", "workedFunction", "workedDerivative",
+                                "workedForQuantity", "workedDerivativeAtPoint", "workedResult"});
 }
 
 TEST_F(DiffForm, AsksForTheDerivativeAtAPoint) {
     const FormDriver& f = open(kQuadratic);
-    EXPECT_EQ(f.caption("task"), "Bestem differentialkvotienten for Q =");
-    EXPECT_EQ(f.caption("pointQuantity"), "3");
-    EXPECT_EQ(f.caption("givenFunction"), "P=  2Q² +2Q");
-    EXPECT_EQ(f.caption("derivativeEquals"), "Differentialkvotienten =");
+    test::expectTexts(f, {{"task", "Bestem differentialkvotienten for Q ="},
+                          {"pointQuantity", "3"},
+                          {"givenFunction", "P=  2Q² +2Q"},
+                          {"derivativeEquals", "Differentialkvotienten ="}});
     EXPECT_EQ(f.box("derivative").content(), "");
     EXPECT_EQ(f.box("derivative").backColour(), kWhite);
-    EXPECT_TRUE(areShown({"task", "pointQuantity", "givenFunction", "derivativeEquals", "derivative", "ok",
-                          "newExercise", "help"}));
-    EXPECT_TRUE(areHidden({"giveAnswer", "right", "wrong", "helpPanel", "workedDerivative",
-                           "workedDerivativeAtPoint", "workedResult"}));
-    EXPECT_EQ(f.focus(), "derivative");
-    f.press("derivative", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "ok");
+    test::expectShown(*form, {"task", "pointQuantity", "givenFunction", "derivativeEquals", "derivative",
+                              "ok", "newExercise", "help"});
+    test::expectHidden(*form, {"giveAnswer", "right", "wrong", "helpPanel", "workedDerivative",
+                               "workedDerivativeAtPoint", "workedResult"});
+    test::expectWayByEnter(f, {"derivative", "ok"});
 }
 
 TEST_F(DiffForm, SetsThePointRightBehindItsQuestion) {
@@ -161,8 +137,7 @@ TEST_F(DiffForm, NumbersItsAxesWhereTheTicksAre) {
         }
     }
     EXPECT_EQ(captions, (std::multiset<std::string>{"60", "30", "-30", "-60", "5", "Q", "P"}));
-    EXPECT_EQ(form->caption("quantityAxisName"), "Q");
-    EXPECT_EQ(form->caption("priceAxisName"), "P");
+    test::expectTexts(*form, {{"quantityAxisName", "Q"}, {"priceAxisName", "P"}});
 }
 
 TEST_F(DiffForm, DrawsAxesTicksAndTheParabolaOfAQuadratic) {
@@ -174,7 +149,7 @@ TEST_F(DiffForm, DrawsAxesTicksAndTheParabolaOfAQuadratic) {
 TEST_F(DiffForm, DrawsTheCurveOfACubic) {
     open(kCubic);
     EXPECT_EQ(graph().strokes(), axesAndTicks() + cubic(1, -2, -3, 4));
-    nextExercise({.a = 2, .b = 4, .c = 5, .x = 1, .patternCase = 40});
+    next({.a = 2, .b = 4, .c = 5, .x = 1, .patternCase = 40});
     EXPECT_EQ(graph().strokes(), axesAndTicks() + cubic(-2, 4, 5, 0));
 }
 
@@ -184,7 +159,7 @@ TEST_F(DiffForm, DrawsAParabolaForTheFirstTwoCubics) {
     EXPECT_EQ(graph().strokes(), axesAndTicks() + parabola(3, 1, 2));
     DiffDraws eighteenth = kMismatched;
     eighteenth.patternCase = 18;
-    nextExercise(eighteenth);
+    next(eighteenth);
     EXPECT_EQ(form->caption("givenFunction"), "P=  3Q³ +1Q² +2Q-5");
     EXPECT_EQ(graph().strokes(), axesAndTicks() + parabola(3, 1, 2));
 }
@@ -216,8 +191,7 @@ TEST_F(DiffForm, DrawsTheAxesOnceHoweverManyCurvesAreOutOfReach) {
     EXPECT_TRUE(draws.isUsedUp());
     EXPECT_EQ(draws.randomized(), 3);
     EXPECT_EQ(graph().strokes(), axesAndTicks() + parabola(2, 2, 0));
-    EXPECT_EQ(f.caption("givenFunction"), "P=  2Q² +2Q");
-    EXPECT_EQ(f.caption("workedFunction"), "P= 2Q² +2Q");
+    test::expectTexts(f, {{"givenFunction", "P=  2Q² +2Q"}, {"workedFunction", "P= 2Q² +2Q"}});
 }
 
 TEST_F(DiffForm, IsSolvedByKeysAlone) {
@@ -230,10 +204,9 @@ TEST_F(DiffForm, IsSolvedByKeysAlone) {
     EXPECT_EQ(f.focus(), "newExercise");
     draws.append(kCubic.script());
     f.press("newExercise", Qt::Key_Return);
-    EXPECT_TRUE(areHidden({"right", "wrong", "giveAnswer"}));
-    EXPECT_TRUE(areShown({"ok", "newExercise"}));
-    EXPECT_EQ(f.caption("givenFunction"), "P=  1Q³ -2Q² -3Q+4");
-    EXPECT_EQ(f.caption("pointQuantity"), "2");
+    test::expectHidden(*form, {"right", "wrong", "giveAnswer"});
+    test::expectShown(*form, {"ok", "newExercise"});
+    test::expectTexts(f, {{"givenFunction", "P=  1Q³ -2Q² -3Q+4"}, {"pointQuantity", "2"}});
     EXPECT_EQ(f.box("derivative").content(), "");
     EXPECT_EQ(f.focus(), "derivative");
 }
@@ -241,11 +214,8 @@ TEST_F(DiffForm, IsSolvedByKeysAlone) {
 TEST_F(DiffForm, LeavesOnlyTheNextExerciseWhenSolved) {
     const FormDriver& f = open(kQuadratic);
     answer("14");
-    EXPECT_TRUE(areShown({"right", "newExercise"}));
-    EXPECT_TRUE(areHidden({"wrong", "ok", "giveAnswer"}));
-    EXPECT_EQ(f.box("derivative").backColour(), kWhite);
+    test::expectSolved(f);
     EXPECT_EQ(f.box("derivative").content(), "14");
-    EXPECT_EQ(f.focus(), "newExercise");
     f.box("derivative").setFocus();
     f.press("derivative", Qt::Key_Return);
     EXPECT_EQ(f.focus(), "derivative");
@@ -313,8 +283,8 @@ TEST_P(DiffFirstCubics, DrawBothTangentsThroughTheParabolaWhenTheAnswerIsGiven) 
 TEST_F(DiffForm, DrawsTheSlopeThatWasTypedInRed) {
     const FormDriver& f = open(kQuadratic);
     answer("1.5");
-    EXPECT_TRUE(areShown({"wrong", "ok", "giveAnswer", "newExercise"}));
-    EXPECT_TRUE(areHidden({"right"}));
+    test::expectShown(*form, {"wrong", "ok", "giveAnswer", "newExercise"});
+    test::expectHidden(*form, {"right"});
     EXPECT_EQ(f.box("derivative").backColour(), kRed);
     EXPECT_EQ(f.box("derivative").content(), "1.5");
     EXPECT_EQ(f.focus(), "derivative");
@@ -329,7 +299,7 @@ TEST_F(DiffForm, PilesUpTheTangentsOfAllTriesUntilTheNextExercise) {
     answer("14");
     EXPECT_EQ(drawnLater(), (std::vector{kIn.line(5, 26, 1, 22, kRed), kIn.line(5, 24, 1, 24, kRed),
                                          kIn.line(5, 19.5, 1, 28.5, kRed), kIn.line(6, 66, 0, -18, kGreen)}));
-    nextExercise(kCubic);
+    next(kCubic);
     EXPECT_EQ(graph().strokes(), axesAndTicks() + cubic(1, -2, -3, 4));
 }
 
@@ -337,16 +307,16 @@ TEST_F(DiffForm, ShowsRightInFrontOfAWrongThatStays) {
     const FormDriver& f = open(kQuadratic);
     answer("13");
     answer("14");
-    EXPECT_TRUE(areShown({"right", "wrong"}));
-    EXPECT_TRUE(areHidden({"ok", "giveAnswer"}));
+    test::expectShown(*form, {"right", "wrong"});
+    test::expectHidden(*form, {"ok", "giveAnswer"});
     EXPECT_EQ(f.box("derivative").backColour(), kWhite);
     const Label& right = f.label("right");
     const Label& wrong = f.label("wrong");
     EXPECT_EQ(right.place(), wrong.place());
     ASSERT_EQ(right.parent(), wrong.parent());
     EXPECT_GT(right.parent()->children().indexOf(&right), right.parent()->children().indexOf(&wrong));
-    nextExercise(kCubic);
-    EXPECT_TRUE(areHidden({"right", "wrong"}));
+    next(kCubic);
+    test::expectHidden(*form, {"right", "wrong"});
 }
 
 struct TypedRow {
@@ -385,11 +355,8 @@ TEST_F(DiffForm, GivesTheAnswerWithTheRightTangentAndThenTheTypedOne) {
     answer("1,5");
     f.click("giveAnswer");
     EXPECT_EQ(f.box("derivative").content(), "14");
-    EXPECT_EQ(f.box("derivative").backColour(), kWhite);
     EXPECT_TRUE(f.isShown("derivative"));
-    EXPECT_TRUE(areHidden({"ok", "giveAnswer", "right", "wrong"}));
-    EXPECT_TRUE(f.isShown("newExercise"));
-    EXPECT_EQ(f.focus(), "newExercise");
+    test::expectGiven(f);
     EXPECT_EQ(drawnLater(), (std::vector{kIn.line(5, 27, 1, 21, kRed), kIn.line(6, 66, 0, -18, kGreen),
                                          kIn.line(5, 27, 1, 21, kRed)}));
 }
@@ -423,7 +390,7 @@ TEST_F(DiffForm, TakesAnyTypedText) {
         f.click("giveAnswer");
         EXPECT_FALSE(f.page().grab().isNull());
         EXPECT_EQ(f.box("derivative").content(), "1");
-        nextExercise(kCubic);
+        next(kCubic);
     }
 }
 
@@ -440,39 +407,39 @@ TEST_F(DiffForm, ExplainsTheGeneralSolution) {
         {"closeHelp", "&Luk"}};
     test::expectTexts(f, kTexts);
     f.click("help");
-    EXPECT_EQ(f.caption("generalFunction"), "P = aQ³ + bQ² + cQ + d");
-    EXPECT_EQ(f.caption("generalDerivative"), "P'= 3aQ³ + 2bQ + c");
-    EXPECT_TRUE(areShown({"generalFunction", "generalRule", "generalDerivative"}));
+    test::expectTexts(
+        f, {{"generalFunction", "P = aQ³ + bQ² + cQ + d"}, {"generalDerivative", "P'= 3aQ³ + 2bQ + c"}});
+    test::expectShown(*form, {"generalFunction", "generalRule", "generalDerivative"});
 }
 
 TEST_F(DiffForm, WorksTheSolutionOutWithTheNumbersOfTheExercise) {
     const FormDriver& f = open(kMismatched);
-    EXPECT_EQ(f.caption("workedFunction"), "P=  3Q³ +1Q² +2Q+5");
-    EXPECT_EQ(f.caption("workedDerivative"), "P'=3·3Q² +2·1Q + 2");
-    EXPECT_EQ(f.caption("workedForQuantity"), "For Q = 3 fås");
-    EXPECT_EQ(f.caption("workedDerivativeAtPoint"), "P'(3)=3·3·3² +2·1·3+2");
-    EXPECT_EQ(f.caption("workedResult"), "P'(3)=89");
-    nextExercise({.a = 2, .c = 3, .x = 1, .patternCase = 13});
-    EXPECT_EQ(f.caption("givenFunction"), "P= -2Q² +3");
-    EXPECT_EQ(f.caption("workedFunction"), "P=-2Q² +3");
-    EXPECT_EQ(f.caption("workedDerivative"), "P'=2·(-2)Q");
-    EXPECT_EQ(f.caption("workedForQuantity"), "For Q = 1 fås");
-    EXPECT_EQ(f.caption("workedDerivativeAtPoint"), "P'(1)=2·(-2)·1");
-    EXPECT_EQ(f.caption("workedResult"), "P'(1)=-4");
+    test::expectTexts(f, {{"workedFunction", "P=  3Q³ +1Q² +2Q+5"},
+                          {"workedDerivative", "P'=3·3Q² +2·1Q + 2"},
+                          {"workedForQuantity", "For Q = 3 fås"},
+                          {"workedDerivativeAtPoint", "P'(3)=3·3·3² +2·1·3+2"},
+                          {"workedResult", "P'(3)=89"}});
+    next({.a = 2, .c = 3, .x = 1, .patternCase = 13});
+    test::expectTexts(f, {{"givenFunction", "P= -2Q² +3"},
+                          {"workedFunction", "P=-2Q² +3"},
+                          {"workedDerivative", "P'=2·(-2)Q"},
+                          {"workedForQuantity", "For Q = 1 fås"},
+                          {"workedDerivativeAtPoint", "P'(1)=2·(-2)·1"},
+                          {"workedResult", "P'(1)=-4"}});
 }
 
 TEST_F(DiffForm, OpensItsHelpStepByStep) {
     const FormDriver& f = open(kQuadratic);
     f.click("help");
-    EXPECT_TRUE(areShown({"helpPanel", "workedFunction", "workedForQuantity"}));
-    EXPECT_TRUE(areHidden({"workedDerivative", "workedDerivativeAtPoint", "workedResult"}));
+    test::expectShown(*form, {"helpPanel", "workedFunction", "workedForQuantity"});
+    test::expectHidden(*form, {"workedDerivative", "workedDerivativeAtPoint", "workedResult"});
     EXPECT_EQ(f.focus(), "showDerivative");
     f.press("showDerivative", Qt::Key_Return);
     EXPECT_TRUE(f.isShown("workedDerivative"));
-    EXPECT_TRUE(areHidden({"workedDerivativeAtPoint", "workedResult"}));
+    test::expectHidden(*form, {"workedDerivativeAtPoint", "workedResult"});
     EXPECT_EQ(f.focus(), "showDerivativeAtPoint");
     f.press("showDerivativeAtPoint", Qt::Key_Return);
-    EXPECT_TRUE(areShown({"workedDerivative", "workedDerivativeAtPoint", "workedResult"}));
+    test::expectShown(*form, {"workedDerivative", "workedDerivativeAtPoint", "workedResult"});
     EXPECT_EQ(f.focus(), "closeHelp");
     f.press("closeHelp", Qt::Key_Return);
     EXPECT_FALSE(f.isShown("helpPanel"));
@@ -481,21 +448,17 @@ TEST_F(DiffForm, OpensItsHelpStepByStep) {
 
 TEST_F(DiffForm, ShowsTheFirstStepWithTheSecond) {
     const FormDriver& f = open(kQuadratic);
-    f.click("help");
-    f.click("showDerivativeAtPoint");
-    EXPECT_TRUE(areShown({"workedDerivative", "workedDerivativeAtPoint", "workedResult"}));
+    f.click("help", "showDerivativeAtPoint");
+    test::expectShown(*form, {"workedDerivative", "workedDerivativeAtPoint", "workedResult"});
 }
 
 TEST_F(DiffForm, KeepsTheShownStepsUntilTheNextExercise) {
     const FormDriver& f = open(kQuadratic);
-    f.click("help");
-    f.click("showDerivativeAtPoint");
-    f.click("closeHelp");
-    f.click("help");
-    EXPECT_TRUE(areShown({"workedDerivative", "workedDerivativeAtPoint", "workedResult", "generalRule"}));
+    f.click("help", "showDerivativeAtPoint", "closeHelp", "help");
+    test::expectShown(*form, {"workedDerivative", "workedDerivativeAtPoint", "workedResult", "generalRule"});
     EXPECT_EQ(f.focus(), "showDerivative");
-    nextExercise(kCubic);
-    EXPECT_TRUE(areHidden({"helpPanel", "workedDerivative", "workedDerivativeAtPoint", "workedResult"}));
+    next(kCubic);
+    test::expectHidden(*form, {"helpPanel", "workedDerivative", "workedDerivativeAtPoint", "workedResult"});
     EXPECT_TRUE(f.isShown("generalRule"));
 }
 
@@ -503,7 +466,7 @@ TEST_F(DiffForm, LeavesThePanelOpenWhileTheExerciseGoesOn) {
     const FormDriver& f = open(kQuadratic);
     f.click("help");
     answer("1");
-    EXPECT_TRUE(areShown({"helpPanel", "wrong"}));
+    test::expectShown(*form, {"helpPanel", "wrong"});
     f.click("giveAnswer");
     EXPECT_TRUE(f.isShown("helpPanel"));
     EXPECT_EQ(f.focus(), "newExercise");
@@ -515,10 +478,9 @@ TEST_F(DiffForm, HasRoomForTheTextsOfEveryPattern) {
         if (form == nullptr) {
             open(drawn);
         } else {
-            nextExercise(drawn);
+            next(drawn);
         }
-        form->click("help");
-        form->click("showDerivativeAtPoint");
+        form->click("help", "showDerivativeAtPoint");
         ASSERT_EQ(test::flawsOf(form->page()), std::vector<std::string>{}) << form->caption("givenFunction");
         form->click("closeHelp");
         ASSERT_EQ(test::flawsOf(form->page()), std::vector<std::string>{}) << form->caption("givenFunction");

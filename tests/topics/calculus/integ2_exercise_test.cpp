@@ -46,13 +46,7 @@ constexpr Family kTwoFalls = Family::TwoFalls;
 /// One try that every family takes: the family shows in what it makes of the draws.
 const Script kTakenByAll{0.25F, 0.65F, 0.25F, 0.6F, 0.3F, 0.1F, 0.1F};
 
-Integ2State draw(const Script& script) {
-    ScriptedDraws draws(script);
-    Integ2State state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    return state;
-}
+Integ2State draw(const Script& script) { return test::exerciseOf<Integ2State>(script); }
 
 Integ2State exercise(Family family, const Numbers& n) { return draw(drawOf(family) + numbers(family, n)); }
 

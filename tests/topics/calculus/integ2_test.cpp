@@ -11,13 +11,10 @@
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
-#include "support/fixed_texts.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
 #include "support/verdict.h"
 #include "topics/calculus/integ2_script.h"
 #include "topics/calculus/integ2_space.h"
@@ -28,7 +25,6 @@ namespace {
 using test::DecimalMark;
 using test::FixedText;
 using test::FormDriver;
-using test::ScriptedDraws;
 using test::integ2::Family;
 using test::integ2::Numbers;
 
@@ -77,22 +73,11 @@ std::vector<Stroke> hatched(const Line& line, int from, int to, const QColor& co
     return each(from, to, [&](double x) { return kIn.line(x, 0, x, line.at(x), colour); });
 }
 
-class Integ2Form : public testing::Test {
+class Integ2Form : public test::ScriptedForm<Family, const Numbers&> {
 protected:
-    void script(Family family, const Numbers& n) { draws.append(test::integ2::script(family, n)); }
-
-    FormDriver& open(Family family, const Numbers& n) {
-        script(family, n);
-        form = std::make_unique<FormDriver>(PageName::Integ2, draws);
-        return *form;
-    }
+    Integ2Form() : ScriptedForm(PageName::Integ2, test::integ2::script) {}
 
     FormDriver& openPlain() { return open(kFall, kPlain); }
-
-    void nextExercise(Family family, const Numbers& n) {
-        script(family, n);
-        form->click("newExercise");
-    }
 
     void answer(const std::string& typed) const {
         form->type("integral", typed);
@@ -105,8 +90,6 @@ protected:
         }
     }
 
-    [[nodiscard]] const GraphBox& graph(const std::string& name) const { return form->find<GraphBox>(name); }
-
     [[nodiscard]] std::vector<Stroke> plotOf(const std::string& box) const {
         return test::strokesFrom(graph(box), kStrokesOfAxes);
     }
@@ -116,33 +99,18 @@ protected:
         return form->caption("workedSumSegment1") + form->caption("workedSumPlus") +
                form->caption("workedSumSegment2") + form->caption("workedResult");
     }
-
-    [[nodiscard]] std::string row(std::initializer_list<const char*> labels) const {
-        std::string joined;
-        for (const char* label : labels) {
-            joined += form->caption(label);
-        }
-        return joined;
-    }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 TEST_F(Integ2Form, StandsCoveredAndEmptyUntilItIsOnScreen) {
     const FormDriver unshown = FormDriver::unshown(PageName::Integ2, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(),
               "Tavrune - Integralregning - Bestemt integrale - Niveau 2");
-    for (const char* hidden : {"giveAnswer", "right", "wrong", "helpPanel"}) {
-        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
-    }
+    test::expectHidden(unshown, {"giveAnswer", "right", "wrong", "helpPanel"});
     EXPECT_TRUE(unshown.isShown("newExercise"));
-    for (const char* blank :
-         {"segment1Slope", "segment1Intercept", "segment1End", "segment2Slope", "segment2Intercept",
-          "segment2Start", "segment1LowerLimit", "segment1UpperLimit", "segment2LowerLimit",
-          "segment2UpperLimit", "workedSegment1Result", "workedSegment2Result", "workedResult"}) {
-        EXPECT_EQ(unshown.caption(blank), "") << blank;
-    }
+    test::expectBlank(
+        unshown, {"segment1Slope", "segment1Intercept", "segment1End", "segment2Slope", "segment2Intercept",
+                  "segment2Start", "segment1LowerLimit", "segment1UpperLimit", "segment2LowerLimit",
+                  "segment2UpperLimit", "workedSegment1Result", "workedSegment2Result", "workedResult"});
 }
 
 TEST_F(Integ2Form, HasItsFixedTextsToTheLetter) {
@@ -200,21 +168,18 @@ TEST_F(Integ2Form, HasItsFixedTextsToTheLetter) {
 TEST_F(Integ2Form, AsksForTheSumOfTwoIntegrals) {
     const DecimalMark danish(",");
     const FormDriver& f = open(kRise, kHalves);
-    EXPECT_EQ(row({"segment1PriceEquals", "segment1Slope", "segment1TimesQuantity", "segment1Plus",
-                   "segment1Intercept", "segment1ZeroLessThanQuantity", "segment1End"}),
+    EXPECT_EQ(joined({"segment1PriceEquals", "segment1Slope", "segment1TimesQuantity", "segment1Plus",
+                      "segment1Intercept", "segment1ZeroLessThanQuantity", "segment1End"}),
               "P1=1,5Q+2for 0<Q<5");
-    EXPECT_EQ(row({"segment2PriceEquals", "segment2Slope", "segment2TimesQuantity", "segment2Plus",
-                   "segment2Intercept", "segment2ValidFor", "segment2Start", "segment2QuantityBelowTen"}),
+    EXPECT_EQ(joined({"segment2PriceEquals", "segment2Slope", "segment2TimesQuantity", "segment2Plus",
+                      "segment2Intercept", "segment2ValidFor", "segment2Start", "segment2QuantityBelowTen"}),
               "P2=-1,5Q+7for5<Q<10");
-    EXPECT_EQ(row({"segment1LowerLimit", "segment1UpperLimit", "segment2LowerLimit", "segment2UpperLimit"}),
-              "2558");
-    for (const char* hidden : {"giveAnswer", "right", "wrong", "helpPanel"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
-    for (const char* shown :
-         {"ok", "newExercise", "help", "workedSolutionCover", "segment1Slope", "segment2UpperLimit"}) {
-        EXPECT_TRUE(f.isShown(shown)) << shown;
-    }
+    EXPECT_EQ(
+        joined({"segment1LowerLimit", "segment1UpperLimit", "segment2LowerLimit", "segment2UpperLimit"}),
+        "2558");
+    test::expectHidden(f, {"giveAnswer", "right", "wrong", "helpPanel"});
+    test::expectShown(
+        f, {"ok", "newExercise", "help", "workedSolutionCover", "segment1Slope", "segment2UpperLimit"});
     EXPECT_EQ(f.focus(), "integral");
 }
 
@@ -304,12 +269,12 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(Integ2Form, LeavesTheFocusWhereItWasIfThePlotLeavesTheGraph) {
     openPlain();
-    nextExercise(kFall, kSteep);
+    next(kFall, kSteep);
     EXPECT_EQ(form->focus(), "newExercise");
     script(kFall, kPlain);
     form->press("newExercise", Qt::Key_Return);
     EXPECT_EQ(form->focus(), "integral");
-    nextExercise(kTwoFalls, kBelow);
+    next(kTwoFalls, kBelow);
     EXPECT_EQ(form->focus(), "integral");
 }
 
@@ -349,7 +314,7 @@ TEST_F(Integ2Form, ClearsBothBoxesWithEachExercise) {
     form->click("showWorkedSolution");
     EXPECT_EQ(plotOf("graph").size(), 1600U);
     EXPECT_EQ(plotOf("helpGraph").size(), 1600U);
-    nextExercise(kTwoFalls, kBelow);
+    next(kTwoFalls, kBelow);
     for (const char* box : {"graph", "helpGraph"}) {
         EXPECT_EQ(plotOf(box), dots({-1, 1}, 0, 6) + dots({-0.5, 1}, 6, 10)) << box;
     }
@@ -366,8 +331,8 @@ TEST_F(Integ2Form, IsSolvedByKeysAlone) {
     EXPECT_EQ(f.focus(), "newExercise");
     script(kFall, kPlain);
     f.press("newExercise", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("right"));
     EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("right"));
     EXPECT_EQ(f.box("integral").content(), "");
     EXPECT_EQ(f.focus(), "integral");
 }
@@ -376,13 +341,8 @@ TEST_F(Integ2Form, HatchesBothPiecesInBlueWhenSolved) {
     const FormDriver& f = open(kRise, kHalves);
     answer("1");
     answer("13.5");
-    EXPECT_TRUE(f.isShown("right"));
-    for (const char* hidden : {"wrong", "ok", "giveAnswer"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
-    EXPECT_EQ(f.box("integral").backColour(), kWhite);
+    test::expectSolved(f);
     EXPECT_EQ(f.box("integral").content(), "13.5");
-    EXPECT_EQ(f.focus(), "newExercise");
     const std::vector<Stroke> plot = dots({1.5, 2}, 0, 5) + dots({-1.5, 7}, 5, 10);
     EXPECT_EQ(plotOf("graph"), plot + hatched({1.5, 2}, 2, 5, kBlue) + hatched({-1.5, 7}, 5, 8, kBlue));
     EXPECT_EQ(plotOf("helpGraph"), plot);
@@ -390,7 +350,7 @@ TEST_F(Integ2Form, HatchesBothPiecesInBlueWhenSolved) {
 
 TEST_F(Integ2Form, HatchesDownwardBelowTheAxis) {
     openPlain();
-    nextExercise(kTwoFalls, kBelow);
+    next(kTwoFalls, kBelow);
     answer("-12.75");
     const std::vector<Stroke> hatch = test::strokesFrom(graph("graph"), kStrokesOfAxes + 1000);
     EXPECT_EQ(hatch, hatched({-1, 1}, 5, 6, kBlue) + hatched({-0.5, 1}, 6, 9, kBlue));
@@ -415,7 +375,7 @@ TEST_F(Integ2Form, TakesABandThatIsOpenBelowAndClosedAbove) {
         EXPECT_TRUE(form->isShown("wrong")) << wrong;
     }
     for (const char* right : {"33.005", "32.9951"}) {
-        nextExercise(kFall, kPlain);
+        next(kFall, kPlain);
         answer(right);
         EXPECT_TRUE(form->isShown("right")) << right;
     }
@@ -427,11 +387,7 @@ TEST_F(Integ2Form, GivesTheAnswerWithTheHatchAndWithoutAVerdict) {
     answer("1");
     f.click("giveAnswer");
     EXPECT_EQ(f.box("integral").content(), "54,5");
-    EXPECT_EQ(f.box("integral").backColour(), kWhite);
-    for (const char* hidden : {"ok", "giveAnswer", "right", "wrong"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
-    EXPECT_EQ(f.focus(), "newExercise");
+    test::expectGiven(f);
     // 400 and 202 dots before it.
     EXPECT_EQ(test::strokesFrom(graph("graph"), kStrokesOfAxes + 602),
               hatched({-2, 6}, 3, 4, kBlue) + hatched({3, 2}, 4, 7, kBlue));
@@ -446,7 +402,7 @@ TEST_F(Integ2Form, HatchesFromTheAxisToTheLastWholeNumber) {
     answer("33");
     EXPECT_EQ(test::strokesFrom(graph("graph"), kStrokesOfAxes + 1000),
               hatched({-1, 6}, 0, 3, kBlue) + hatched({1, 2}, 3, 6, kBlue));
-    nextExercise(kTwoFalls, kBelow);
+    next(kTwoFalls, kBelow);
     answer("-12.75");
     EXPECT_NEAR(graph("graph").strokes().back().x1, 8.99, 1e-5);
 }
@@ -461,7 +417,7 @@ TEST_F(Integ2Form, TakesAnyTypedText) {
         form->click("giveAnswer");
         EXPECT_FALSE(form->page().grab().isNull());
         EXPECT_EQ(form->box("integral").content(), "33");
-        nextExercise(kFall, kPlain);
+        next(kFall, kPlain);
     }
 }
 
@@ -469,17 +425,17 @@ TEST_F(Integ2Form, WorksTheRedAndTheGreenIntegralOut) {
     const DecimalMark danish(",");
     open(kRise, kHalves);
     openHelp();
-    EXPECT_EQ(row({"workedSegment1UpperLimit", "workedSegment1LowerLimit"}), "52");
-    EXPECT_EQ(row({"workedSegment1Integrand", "workedSegment1DifferentialEquals"}), "(1,5Q+2)dQ =");
-    EXPECT_EQ(row({"workedSegment1UpperQuadraticTerm", "workedSegment1UpperSquare",
-                   "workedSegment1UpperLinearTerm", "workedSegment1LowerQuadraticTerm",
-                   "workedSegment1LowerSquare", "workedSegment1LowerLinearTerm", "workedSegment1Result"}),
+    EXPECT_EQ(joined({"workedSegment1UpperLimit", "workedSegment1LowerLimit"}), "52");
+    EXPECT_EQ(joined({"workedSegment1Integrand", "workedSegment1DifferentialEquals"}), "(1,5Q+2)dQ =");
+    EXPECT_EQ(joined({"workedSegment1UpperQuadraticTerm", "workedSegment1UpperSquare",
+                      "workedSegment1UpperLinearTerm", "workedSegment1LowerQuadraticTerm",
+                      "workedSegment1LowerSquare", "workedSegment1LowerLinearTerm", "workedSegment1Result"}),
               "((1,5/2)*5²+2*5)-((1,5/2)*2²+2*2) = 21,75");
-    EXPECT_EQ(row({"workedSegment2UpperLimit", "workedSegment2LowerLimit"}), "85");
-    EXPECT_EQ(row({"workedSegment2Integrand", "workedSegment2DifferentialEquals"}), "(-1,5Q+7)dQ =");
-    EXPECT_EQ(row({"workedSegment2UpperQuadraticTerm", "workedSegment2UpperSquare",
-                   "workedSegment2UpperLinearTerm", "workedSegment2LowerQuadraticTerm",
-                   "workedSegment2LowerSquare", "workedSegment2LowerLinearTerm", "workedSegment2Result"}),
+    EXPECT_EQ(joined({"workedSegment2UpperLimit", "workedSegment2LowerLimit"}), "85");
+    EXPECT_EQ(joined({"workedSegment2Integrand", "workedSegment2DifferentialEquals"}), "(-1,5Q+7)dQ =");
+    EXPECT_EQ(joined({"workedSegment2UpperQuadraticTerm", "workedSegment2UpperSquare",
+                      "workedSegment2UpperLinearTerm", "workedSegment2LowerQuadraticTerm",
+                      "workedSegment2LowerSquare", "workedSegment2LowerLinearTerm", "workedSegment2Result"}),
               "((-1,5/2)*8²+7*8)-((-1,5/2)*5²+7*5) = -8,25");
     EXPECT_EQ(form->caption("workedResult"), " = 13,5");
 }
@@ -508,12 +464,14 @@ TEST_F(Integ2Form, ShowsBothIntegralsAndTheirSumForAllPairsOfFalls) {
 TEST_F(Integ2Form, ComposesItsRowsWithTheExerciseButItsResultsOnlyWhenHelpIsOpened) {
     openPlain();
     EXPECT_EQ(form->caption("workedSegment1UpperQuadraticTerm"), "((-1/2)*3");
-    EXPECT_EQ(row({"workedSegment1Result", "workedSegment2Result", "workedResult"}), "");
+    EXPECT_EQ(joined({"workedSegment1Result", "workedSegment2Result", "workedResult"}), "");
     openHelp();
-    EXPECT_EQ(row({"workedSegment1Result", "workedSegment2Result", "workedResult"}), " = 13.5 = 19.5 = 33");
-    nextExercise(kTwoFalls, kBelow);
+    EXPECT_EQ(joined({"workedSegment1Result", "workedSegment2Result", "workedResult"}),
+              " = 13.5 = 19.5 = 33");
+    next(kTwoFalls, kBelow);
     EXPECT_EQ(form->caption("workedSegment1UpperQuadraticTerm"), "((-1/2)*6");
-    EXPECT_EQ(row({"workedSegment1Result", "workedSegment2Result", "workedResult"}), " = 13.5 = 19.5 = 33");
+    EXPECT_EQ(joined({"workedSegment1Result", "workedSegment2Result", "workedResult"}),
+              " = 13.5 = 19.5 = 33");
     EXPECT_EQ(lastRow(), "13.5+19.5 = 33");
 }
 
@@ -531,11 +489,11 @@ TEST_F(Integ2Form, BracketsTheOldTermOfTheLastRowForAnIntegralThatIsNotPositive)
     EXPECT_EQ(lastRow(), "(rødt integrale)+(grønt integrale) = -12,75");
     openHelp();
     EXPECT_EQ(lastRow(), "((rødt integrale))+((grønt integrale)) = -12,75");
-    nextExercise(kFall, kSteep);
+    next(kFall, kSteep);
     EXPECT_EQ(lastRow(), "((rødt integrale))+((grønt integrale)) = -12,75");
     openHelp();
     EXPECT_EQ(lastRow(), "(((rødt integrale)))+55,5 = 54,5");
-    nextExercise(kRise, kHalves);
+    next(kRise, kHalves);
     openHelp();
     EXPECT_EQ(lastRow(), "21,75+(55,5) = 13,5");
     openHelp();
@@ -553,8 +511,7 @@ TEST_F(Integ2Form, BracketsTheOldTermForAnIntegralOfZero) {
 TEST_F(Integ2Form, OpensItsHelpCoveredAndUncoversItWithARedAndAGreenHatch) {
     const FormDriver& f = open(kRise, kHalves);
     openHelp();
-    EXPECT_TRUE(f.isShown("helpPanel"));
-    EXPECT_TRUE(f.isShown("workedSolutionCover"));
+    test::expectShown(f, {"helpPanel", "workedSolutionCover"});
     EXPECT_EQ(f.focus(), "showWorkedSolution");
     const std::vector<Stroke> plot = plotOf("helpGraph");
     EXPECT_EQ(plot.size(), 1000U);
@@ -568,22 +525,21 @@ TEST_F(Integ2Form, OpensItsHelpCoveredAndUncoversItWithARedAndAGreenHatch) {
     f.click("showWorkedSolution");
     EXPECT_EQ(plotOf("helpGraph"), plot + hatch + hatch) << "each Vis hatches once more";
     f.press("closeHelp", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("helpPanel"));
     EXPECT_TRUE(f.isShown("workedSolutionCover"));
+    EXPECT_FALSE(f.isShown("helpPanel"));
     EXPECT_NE(f.focus(), "closeHelp");
 }
 
 TEST_F(Integ2Form, IsCoveredAgainWheneverItsHelpIsOpened) {
     openPlain();
     openHelp();
-    form->click("showWorkedSolution");
-    form->click("closeHelp");
+    form->click("showWorkedSolution", "closeHelp");
     openHelp();
     EXPECT_TRUE(form->isShown("workedSolutionCover"));
     form->click("showWorkedSolution");
-    nextExercise(kTwoFalls, kBelow);
-    EXPECT_FALSE(form->isShown("helpPanel"));
+    next(kTwoFalls, kBelow);
     EXPECT_TRUE(form->isShown("workedSolutionCover"));
+    EXPECT_FALSE(form->isShown("helpPanel"));
 }
 
 TEST_F(Integ2Form, LeavesThePanelOpenWhileTheExerciseGoesOn) {

@@ -39,13 +39,7 @@ constexpr int kShapes = 26;
 /// p = 1Q²+1Q+1 from 1 to 2, which is accepted.
 constexpr IntegDraws kAccepted{1, 1, 1, 2, 1, 1};
 
-IntegState exercise(const IntegDraws& drawn) {
-    ScriptedDraws draws(drawn.script());
-    IntegState state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    return state;
-}
+IntegState exercise(const IntegDraws& drawn) { return test::exerciseOf<IntegState>(drawn.script()); }
 
 /// How many draws went by before the exercise that was drawn last.
 std::size_t thrownAway(const Script& tried) {

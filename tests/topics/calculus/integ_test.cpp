@@ -6,12 +6,10 @@
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
 #include "support/decimal_mark.h"
-#include "support/fixed_texts.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
+#include "support/verdict.h"
 #include "topics/calculus/integ_script.h"
 
 namespace tavrune {
@@ -21,7 +19,6 @@ using test::DecimalMark;
 using test::FixedText;
 using test::FormDriver;
 using test::IntegDraws;
-using test::ScriptedDraws;
 
 using Names = std::vector<std::string>;
 
@@ -81,18 +78,11 @@ std::vector<Stroke> hatchOf(double a, double b, double c, int v, int w) {
     return lines;
 }
 
-class IntegForm : public testing::Test {
-protected:
-    FormDriver& open(const IntegDraws& drawn) {
-        draws.append(drawn.script());
-        form = std::make_unique<FormDriver>(PageName::Integ, draws);
-        return *form;
-    }
+test::Script scriptOf(const IntegDraws& drawn) { return drawn.script(); }
 
-    void nextExercise(const IntegDraws& drawn) {
-        draws.append(drawn.script());
-        form->click("newExercise");
-    }
+class IntegForm : public test::ScriptedForm<const IntegDraws&> {
+protected:
+    IntegForm() : ScriptedForm(PageName::Integ, scriptOf) {}
 
     void answer(const std::string& typed) const {
         form->type("integral", typed);
@@ -104,35 +94,18 @@ protected:
         form->click("giveAnswer");
     }
 
-    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("graph"); }
-
     [[nodiscard]] std::vector<Stroke> drawnAfterTheAxes() const {
         return test::strokesFrom(graph(), kStrokesOfAxes);
     }
-
-    [[nodiscard]] std::string joined(const Names& labels) const {
-        std::string text;
-        for (const std::string& name : labels) {
-            text += form->caption(name);
-        }
-        return text;
-    }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 TEST_F(IntegForm, HidesTheButtonOfTheNextExerciseUntilItIsOnScreen) {
     const FormDriver unshown = FormDriver::unshown(PageName::Integ, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(),
               "Tavrune - Integralregning - Bestemt integrale - Niveau 1");
-    for (const char* hidden : {"newExercise", "giveAnswer", "right", "wrong", "helpPanel"}) {
-        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
-    }
-    for (const char* blank : {"givenFunction", "upperLimit", "lowerLimit", "workedFunction", "workedResult",
-                              "generalPrimitive", "generalResult"}) {
-        EXPECT_EQ(unshown.caption(blank), "") << blank;
-    }
+    test::expectHidden(unshown, {"newExercise", "giveAnswer", "right", "wrong", "helpPanel"});
+    test::expectBlank(unshown, {"givenFunction", "upperLimit", "lowerLimit", "workedFunction", "workedResult",
+                                "generalPrimitive", "generalResult"});
 }
 
 TEST_F(IntegForm, AsksForTheIntegralBetweenTheLimits) {
@@ -145,12 +118,8 @@ TEST_F(IntegForm, AsksForTheIntegralBetweenTheLimits) {
                             {"lowerLimit", "1"},
                             {"integrandEquals", "p  dQ ="}};
     test::expectTexts(f, texts);
-    for (const char* shown : {"ok", "newExercise", "help", "integral", "workedSolutionCover"}) {
-        EXPECT_TRUE(f.isShown(shown)) << shown;
-    }
-    for (const char* hidden : {"giveAnswer", "right", "wrong", "helpPanel"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectShown(f, {"ok", "newExercise", "help", "integral", "workedSolutionCover"});
+    test::expectHidden(f, {"giveAnswer", "right", "wrong", "helpPanel"});
     EXPECT_EQ(f.focus(), "integral");
     EXPECT_EQ(f.box("integral").content(), "");
     EXPECT_EQ(f.box("integral").backColour(), kWhite);
@@ -226,7 +195,7 @@ TEST_F(IntegForm, DrawsAFallingCurveDownToTwoThousandBelow) {
 TEST_F(IntegForm, DrawsAConstantOrLinearFunctionAsOneLine) {
     open(kLine);
     EXPECT_EQ(drawnAfterTheAxes(), std::vector{kIn.line(-15, -33, 15, 27)});
-    nextExercise(kNegativeConstant);
+    next(kNegativeConstant);
     EXPECT_EQ(drawnAfterTheAxes(), std::vector{kIn.line(-15, -3, 15, -3)});
 }
 
@@ -251,8 +220,8 @@ TEST_F(IntegForm, IsSolvedByKeysAlone) {
     draws.append(kSquare.script());
     f.press("newExercise", Qt::Key_Return);
     EXPECT_EQ(f.caption("givenFunction"), "1Q²+2Q+3");
-    EXPECT_FALSE(f.isShown("right"));
     EXPECT_TRUE(f.isShown("ok"));
+    EXPECT_FALSE(f.isShown("right"));
     EXPECT_EQ(f.box("integral").content(), "");
     EXPECT_EQ(f.focus(), "integral");
 }
@@ -261,13 +230,8 @@ TEST_F(IntegForm, HatchesTheAreaInBlueAHundredLinesAUnitWhenSolved) {
     const FormDriver& f = open(kSquare);
     answer("1");
     answer("45");
-    EXPECT_TRUE(f.isShown("right"));
-    for (const char* hidden : {"wrong", "ok", "giveAnswer"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectSolved(f);
     EXPECT_TRUE(f.isShown("help"));
-    EXPECT_EQ(f.box("integral").backColour(), kWhite);
-    EXPECT_EQ(f.focus(), "newExercise");
     EXPECT_EQ(drawnAfterTheAxes(), curve(1, 2, 3, 2000) + hatchOf(1, 2, 3, 1, 4));
     f.box("integral").setFocus();
     f.press("integral", Qt::Key_Return);
@@ -306,10 +270,9 @@ TEST_F(IntegForm, DrawsNothingForAWrongAnswerAndWhitensWithTheNextExercise) {
     const FormDriver& f = open(kLine);
     answer("1");
     EXPECT_EQ(drawnAfterTheAxes().size(), 1U);
-    nextExercise(kSquare);
+    next(kSquare);
     EXPECT_EQ(f.box("integral").backColour(), kWhite);
-    EXPECT_FALSE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
+    test::expectHidden(f, {"wrong", "giveAnswer"});
 }
 
 TEST_F(IntegForm, TakesTheBandThatIsOpenBelowAndClosedAbove) {
@@ -320,7 +283,7 @@ TEST_F(IntegForm, TakesTheBandThatIsOpenBelowAndClosedAbove) {
     }
     answer("6.005");
     EXPECT_TRUE(f.isShown("right"));
-    nextExercise(kConstant);
+    next(kConstant);
     answer("5.9951");
     EXPECT_TRUE(f.isShown("right"));
 }
@@ -330,14 +293,10 @@ TEST_F(IntegForm, GivesTheAnswerWithTheCurveAnewAndTheArea) {
     const FormDriver& f = open(kThirds);
     giveAfterAWrongTry();
     EXPECT_EQ(f.box("integral").content(), "2,33");
-    EXPECT_EQ(f.box("integral").backColour(), kWhite);
-    for (const char* hidden : {"ok", "giveAnswer", "right", "wrong"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
-    EXPECT_EQ(f.focus(), "newExercise");
+    test::expectGiven(f);
     // The curve drawn anew ends at a lower bound than the one of the task.
     EXPECT_EQ(drawnAfterTheAxes(), curve(1, 0, 0, 2000) + curve(1, 0, 0, 1000) + hatchOf(1, 0, 0, 1, 2));
-    nextExercise(kLine);
+    next(kLine);
     EXPECT_EQ(drawnAfterTheAxes().size(), 1U);
 }
 
@@ -357,7 +316,7 @@ TEST_F(IntegForm, TakesAnyTypedText) {
         EXPECT_TRUE(f.isShown("wrong"));
         f.click("giveAnswer");
         EXPECT_EQ(f.box("integral").content(), "2.33");
-        nextExercise(kThirds);
+        next(kThirds);
     }
 }
 
@@ -410,9 +369,8 @@ TEST_F(IntegForm, WorksTheSolutionOutWithItsNumbers) {
     EXPECT_EQ(f.caption("workedNumbersIntegrand"), "(-2Q²+3Q-5)");
     EXPECT_EQ(joined(kUpperWithNumbers), "((-2/3)·3³+(3/2)·3²-5·3)");
     EXPECT_EQ(joined(kLowerWithNumbers), "- ((-2/3)·2³+(3/2)·2²-5·2)");
-    EXPECT_EQ(f.caption("workedResult"), "= -10,17");
-    EXPECT_EQ(f.caption("workedPrimitiveCube"), "³");
-    EXPECT_EQ(f.caption("workedPrimitiveSquare"), "²");
+    test::expectTexts(
+        f, {{"workedResult", "= -10,17"}, {"workedPrimitiveCube", "³"}, {"workedPrimitiveSquare", "²"}});
 }
 
 TEST_F(IntegForm, PutsAConstantAloneInTheMiddleOfTheDifference) {
@@ -427,37 +385,33 @@ TEST_F(IntegForm, PutsAConstantAloneInTheMiddleOfTheDifference) {
          kPrimitive + kUpperWithLetters + kLowerWithLetters + kUpperWithNumbers + kLowerWithNumbers) {
         EXPECT_EQ(f.caption(name), filled.contains(name) ? filled.at(name) : "") << name;
     }
-    nextExercise(kConstant);
-    EXPECT_EQ(f.caption("workedLettersUpperLinearTerm"), "(3·w)");
-    EXPECT_EQ(f.caption("workedLettersLowerCubicTerm"), "-(3·v)");
-    EXPECT_EQ(f.caption("workedNumbersUpperLinearTerm"), "(3·3)");
-    EXPECT_EQ(f.caption("workedNumbersLowerCubicTerm"), "-(3·1)");
-    EXPECT_EQ(f.caption("workedPrimitiveLinearTerm"), "3·Q");
+    next(kConstant);
+    test::expectTexts(f, {{"workedLettersUpperLinearTerm", "(3·w)"},
+                          {"workedLettersLowerCubicTerm", "-(3·v)"},
+                          {"workedNumbersUpperLinearTerm", "(3·3)"},
+                          {"workedNumbersLowerCubicTerm", "-(3·1)"},
+                          {"workedPrimitiveLinearTerm", "3·Q"}});
 }
 
 TEST_F(IntegForm, ShowsARaisedTwoInTheIntegrandForASquareOnly) {
     const FormDriver& f = open(kLine);
     f.click("help");
     EXPECT_EQ(f.caption("workedLettersIntegrandHead"), "(2Q -3)");
-    EXPECT_FALSE(f.isShown("workedLettersIntegrandSquare"));
-    EXPECT_FALSE(f.isShown("workedLettersIntegrandTail"));
-    nextExercise(kThirds);
+    test::expectHidden(f, {"workedLettersIntegrandSquare", "workedLettersIntegrandTail"});
+    next(kThirds);
     f.click("help");
     EXPECT_EQ(f.caption("workedLettersIntegrandHead"), "(1Q");
-    EXPECT_TRUE(f.isShown("workedLettersIntegrandSquare"));
-    EXPECT_TRUE(f.isShown("workedLettersIntegrandTail"));
+    test::expectShown(f, {"workedLettersIntegrandSquare", "workedLettersIntegrandTail"});
     EXPECT_EQ(f.caption("workedLettersIntegrandTail"), ")");
 }
 
 TEST_F(IntegForm, BuildsTheFirstIntegrandAndTheGeneralFormulasWhenHelpOpens) {
     const FormDriver& f = open(kLine);
-    EXPECT_EQ(f.caption("generalPrimitive"), "");
-    EXPECT_EQ(f.caption("generalResult"), "");
-    EXPECT_EQ(f.caption("workedLettersIntegrandHead"), "");
+    test::expectTexts(f,
+                      {{"generalPrimitive", ""}, {"generalResult", ""}, {"workedLettersIntegrandHead", ""}});
     f.click("help");
-    nextExercise(kSquare);
-    EXPECT_EQ(f.caption("workedLettersIntegrandHead"), "(2Q -3)");
-    EXPECT_EQ(f.caption("workedFunction"), "1Q²+2Q+3");
+    next(kSquare);
+    test::expectTexts(f, {{"workedLettersIntegrandHead", "(2Q -3)"}, {"workedFunction", "1Q²+2Q+3"}});
     f.click("help");
     EXPECT_EQ(f.caption("workedLettersIntegrandHead"), "(1Q");
 }
@@ -465,24 +419,22 @@ TEST_F(IntegForm, BuildsTheFirstIntegrandAndTheGeneralFormulasWhenHelpOpens) {
 TEST_F(IntegForm, OpensItsHelpCoveredUncoversItAndCoversItAgain) {
     const FormDriver& f = open(kSquare);
     f.click("help");
-    EXPECT_TRUE(f.isShown("helpPanel"));
-    EXPECT_TRUE(f.isShown("workedSolutionCover"));
+    test::expectShown(f, {"helpPanel", "workedSolutionCover"});
     EXPECT_EQ(f.focus(), "showWorkedSolution");
     f.press("showWorkedSolution", Qt::Key_Return);
     EXPECT_FALSE(f.isShown("workedSolutionCover"));
     EXPECT_EQ(f.focus(), "closeHelp");
     f.press("closeHelp", Qt::Key_Return);
-    EXPECT_FALSE(f.isShown("helpPanel"));
     EXPECT_TRUE(f.isShown("workedSolutionCover"));
+    EXPECT_FALSE(f.isShown("helpPanel"));
 }
 
 TEST_F(IntegForm, CoversItsHelpAgainWithTheNextExercise) {
     const FormDriver& f = open(kSquare);
-    f.click("help");
-    f.click("showWorkedSolution");
-    nextExercise(kLine);
-    EXPECT_FALSE(f.isShown("helpPanel"));
+    f.click("help", "showWorkedSolution");
+    next(kLine);
     EXPECT_TRUE(f.isShown("workedSolutionCover"));
+    EXPECT_FALSE(f.isShown("helpPanel"));
 }
 
 TEST_F(IntegForm, LeavesThePanelOpenWhileTheExerciseGoesOn) {
@@ -491,8 +443,7 @@ TEST_F(IntegForm, LeavesThePanelOpenWhileTheExerciseGoesOn) {
     giveAfterAWrongTry();
     EXPECT_TRUE(f.isShown("helpPanel"));
     EXPECT_EQ(f.box("integral").content(), "45");
-    f.click("closeHelp");
-    f.click("help");
+    f.click("closeHelp", "help");
     EXPECT_TRUE(f.isShown("helpPanel"));
 }
 
@@ -507,7 +458,7 @@ TEST_F(IntegForm, SetsEachRowOfItsHelpSideBySide) {
         kUpperWithNumbers + kLowerWithNumbers,
     };
     for (int shape = 1; shape <= 26; ++shape) {
-        nextExercise({2, 3, 4, 5, 2, shape});
+        next({2, 3, 4, 5, 2, shape});
         f.click("help");
         for (const Names& row : rows) {
             double next = f.label(row.front()).place().left();
@@ -557,9 +508,8 @@ TEST_F(IntegForm, HasRoomForTheLongestNumbersOfEveryShape) {
     const FormDriver& f = open(kSquare);
     for (int shape = 1; shape <= 26; ++shape) {
         // Where all signs are alike p is beyond 60 sooner.
-        nextExercise({shape == 2 || shape == 23 ? 3 : 2, 4, 5, 7, 4, shape});
-        f.click("help");
-        f.click("showWorkedSolution");
+        next({shape == 2 || shape == 23 ? 3 : 2, 4, 5, 7, 4, shape});
+        f.click("help", "showWorkedSolution");
         ASSERT_EQ(test::flawsOf(f.page()), std::vector<std::string>{}) << shape;
     }
 }

@@ -239,13 +239,7 @@ inline void PrintTo(const Sample& sample, std::ostream* out) { *out << sample.na
 }
 
 /// The exercise that comes of just these draws.
-[[nodiscard]] inline AfsaetState exercise(const Script& script) {
-    ScriptedDraws draws(script);
-    AfsaetState state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    return state;
-}
+[[nodiscard]] inline AfsaetState exercise(const Script& script) { return exerciseOf<AfsaetState>(script); }
 
 [[nodiscard]] inline AfsaetState exercise(const char* name) { return exercise(sample(name).script()); }
 

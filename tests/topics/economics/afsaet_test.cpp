@@ -2,13 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
-#include "support/fixed_texts.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
 #include "support/verdict.h"
 #include "topics/economics/afsaet_script.h"
 
@@ -19,7 +16,6 @@ using test::DecimalMark;
 using test::FixedText;
 using test::FormDriver;
 using test::Script;
-using test::ScriptedDraws;
 using test::afsaet::sample;
 
 using Names = std::vector<std::string>;
@@ -38,20 +34,11 @@ Stroke lineOf(double a, double b, double Qlo, double Qhi, const QColor& colour) 
     return kGraph.line(Qlo, 10 - (a * Qlo + b), Qhi, 10 - (a * Qhi + b), colour);
 }
 
-class AfsaetForm : public testing::Test {
+Script scriptOf(std::string_view name) { return sample(name).script(); }
+
+class AfsaetForm : public test::ScriptedForm<std::string_view> {
 protected:
-    FormDriver& open(const Script& script) {
-        draws.append(script);
-        form = std::make_unique<FormDriver>(PageName::Afsaet, draws);
-        return *form;
-    }
-
-    FormDriver& open(std::string_view name) { return open(sample(name).script()); }
-
-    void next(std::string_view name) {
-        draws.append(sample(name).script());
-        form->click("newExercise");
-    }
+    AfsaetForm() : ScriptedForm(PageName::Afsaet, scriptOf) {}
 
     void answer(const std::array<std::string, 4>& typed) const {
         for (std::size_t i = 0; i < typed.size(); ++i) {
@@ -74,16 +61,6 @@ protected:
         return found;
     }
 
-    [[nodiscard]] Names contents() const {
-        Names found;
-        for (const char* box : kBoxes) {
-            found.push_back(form->box(box).content());
-        }
-        return found;
-    }
-
-    [[nodiscard]] const std::vector<Stroke>& drawn() const { return form->find<GraphBox>("graph").strokes(); }
-
     [[nodiscard]] Names shownPanels() const {
         Names shown;
         for (const char* name : kPanels) {
@@ -93,9 +70,6 @@ protected:
         }
         return shown;
     }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 const std::vector<QColor> kAllWhite(4, kWhite);
@@ -104,15 +78,9 @@ const std::vector<QColor> kAllRed(4, kRed);
 TEST_F(AfsaetForm, IsBlankUntilItsOpening) {
     const FormDriver unshown = FormDriver::unshown(PageName::Afsaet, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Afsætningsfunktioner");
-    for (const char* empty : {"task", "firstFact", "secondFact", "givenRange"}) {
-        EXPECT_EQ(unshown.caption(empty), "") << empty;
-    }
-    for (const char* hidden : {"giveAnswer", "verdict"}) {
-        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
-    }
-    for (const char* hidden : kPanels) {
-        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
-    }
+    test::expectBlank(unshown, {"task", "firstFact", "secondFact", "givenRange"});
+    test::expectHidden(unshown, {"giveAnswer", "verdict"});
+    test::expectHidden(unshown, kPanels);
     EXPECT_TRUE(unshown.find<GraphBox>("graph").strokes().empty());
 }
 
@@ -121,16 +89,16 @@ TEST_F(AfsaetForm, AsksInTheFrameOfTheAnswer) {
     EXPECT_EQ(f.caption("task"),
               "Du kender et punkt på en lineær afsætningsfunktion og priselasticiteten til en bestemt pris "
               "på samme funktion. Bestem afsætningsfunktionens forskrift.");
-    EXPECT_EQ(f.caption("firstFact"), "(P1; Q1) = (8;1) ");
-    EXPECT_EQ(f.caption("secondFact"), "Ep. = -3   P2 = 7");
-    EXPECT_EQ(f.caption("givenRange"), "Funktionen gælder i intervallet 4<P<9");
+    test::expectTexts(f, {{"firstFact", "(P1; Q1) = (8;1) "},
+                          {"secondFact", "Ep. = -3   P2 = 7"},
+                          {"givenRange", "Funktionen gælder i intervallet 4<P<9"}});
     constexpr FixedText kFrame[]{{"priceEquals", "P="},
                                  {"timesQuantityPlus", "Q +"},
                                  {"validFor", "for"},
                                  {"quantityBetween", "< Q <"}};
     test::expectTexts(f, kFrame);
     EXPECT_EQ(f.focus(), "slope");
-    EXPECT_EQ(contents(), Names(4));
+    EXPECT_EQ(contentsOf(kBoxes), Names(4));
     EXPECT_EQ(colours(), kAllWhite);
     EXPECT_EQ(shownPanels(), Names{});
 }
@@ -139,14 +107,13 @@ TEST_F(AfsaetForm, ReplacesTheWholeTaskWithTheNextExercise) {
     const FormDriver& f = open("ElasticityAtOtherPriceInPrices");
     answer({"1", "2", "3", "4"});
     next("PointAndSlopeInQuantities");
-    EXPECT_EQ(f.caption("firstFact"), "(P; Q) = (4;2) ");
-    EXPECT_EQ(f.caption("secondFact"), "Hældningskoefficienten(a) = -3");
-    EXPECT_EQ(f.caption("givenRange"), "I intervallet 1<Q<3 er funktionen retlinet.");
-    EXPECT_EQ(contents(), Names(4));
+    test::expectTexts(f, {{"firstFact", "(P; Q) = (4;2) "},
+                          {"secondFact", "Hældningskoefficienten(a) = -3"},
+                          {"givenRange", "I intervallet 1<Q<3 er funktionen retlinet."}});
+    EXPECT_EQ(contentsOf(kBoxes), Names(4));
     EXPECT_EQ(colours(), kAllWhite);
-    EXPECT_EQ(drawn(), std::vector<Stroke>{});
-    EXPECT_FALSE(f.isShown("verdict"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
+    EXPECT_EQ(strokes(), std::vector<Stroke>{});
+    test::expectHidden(f, {"verdict", "giveAnswer"});
     EXPECT_EQ(f.focus(), "slope");
 }
 
@@ -173,8 +140,7 @@ TEST_F(AfsaetForm, NumbersTheGridFromZeroToTen) {
         EXPECT_NEAR(label.place().center().y(), graph.bottom() - price * graph.height() / 10, 1.5) << price;
         ++price;
     }
-    EXPECT_EQ(f.caption("priceAxisName"), "P");
-    EXPECT_EQ(f.caption("quantityAxisName"), "Q");
+    test::expectTexts(f, {{"priceAxisName", "P"}, {"quantityAxisName", "Q"}});
 
     // All quantities stand in one caption, each below its tick.
     const Label& quantities = f.label("quantityMarks");
@@ -202,15 +168,15 @@ TEST_F(AfsaetForm, IsSolvedByKeysAlone) {
         f.type(kBoxes[i], typed[i]);
         f.press(kBoxes[i], Qt::Key_Return);
     }
-    EXPECT_EQ(contents(), (Names{"-1.33", "9.33", ".25", "4"}));
+    EXPECT_EQ(contentsOf(kBoxes), (Names{"-1.33", "9.33", ".25", "4"}));
     EXPECT_EQ(f.focus(), "ok");
     f.press("ok", Qt::Key_Return);
     test::expectSolved(f);
-    EXPECT_EQ(drawn(), std::vector{lineOf(-1.33, 9.33, 0.25, 4, kLightGreen)});
+    EXPECT_EQ(strokes(), std::vector{lineOf(-1.33, 9.33, 0.25, 4, kLightGreen)});
     draws.append(sample("TwoPointsInPrices").script());
     f.press("newExercise", Qt::Key_Return);
     EXPECT_EQ(f.caption("firstFact"), "(P1; Q1) = (8;1)");
-    EXPECT_EQ(drawn(), std::vector<Stroke>{});
+    EXPECT_EQ(strokes(), std::vector<Stroke>{});
 }
 
 TEST_F(AfsaetForm, MarksEachWrongBoxAlone) {
@@ -234,17 +200,17 @@ TEST_F(AfsaetForm, PlotsEveryLineOfTheStudentUntilTheNextExercise) {
     answer({"", "abc", "2x", "1e1"});
     answer({"-1", "9", "1", "7"});
     EXPECT_EQ(colours(), kAllWhite);
-    EXPECT_EQ(drawn(), (std::vector{lineOf(-2, 8.5, 1, 4, kRed), lineOf(0, 0, 2, 10, kRed),
-                                    lineOf(-1, 9, 1, 7, kLightGreen)}));
+    EXPECT_EQ(strokes(), (std::vector{lineOf(-2, 8.5, 1, 4, kRed), lineOf(0, 0, 2, 10, kRed),
+                                      lineOf(-1, 9, 1, 7, kLightGreen)}));
     EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
     next("TwoPointsInQuantities");
-    EXPECT_EQ(drawn(), std::vector<Stroke>{});
+    EXPECT_EQ(strokes(), std::vector<Stroke>{});
 }
 
 TEST_F(AfsaetForm, PutsAPriceAtTenAtTheTopOfTheGraph) {
     open("PointAndSlopeInQuantities");
     answer({"-1", "10", "0", "10"});
-    EXPECT_EQ(drawn(), std::vector{kGraph.line(0, 0, 10, 10, kRed)});
+    EXPECT_EQ(strokes(), std::vector{kGraph.line(0, 0, 10, 10, kRed)});
 }
 
 TEST_F(AfsaetForm, TakesMinusTwoThirdsWithTwoDecimalsOnly) {
@@ -273,13 +239,9 @@ TEST_F(AfsaetForm, GivesTheStoredNumbersAndTheirLine) {
     answer({"1", "1", "1", "2"});
     EXPECT_EQ(colours(), kAllRed);
     f.click("giveAnswer");
-    EXPECT_EQ(contents(), (Names{"-1,33", "9,33", "0,25", "4"}));
-    EXPECT_EQ(colours(), kAllWhite);
-    EXPECT_EQ(drawn(), (std::vector{lineOf(1, 1, 1, 2, kRed), lineOf(-1.33, 9.33, 0.25, 4, kLightGreen)}));
-    for (const char* hidden : {"ok", "giveAnswer", "verdict"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
-    EXPECT_EQ(f.focus(), "newExercise");
+    EXPECT_EQ(contentsOf(kBoxes), (Names{"-1,33", "9,33", "0,25", "4"}));
+    EXPECT_EQ(strokes(), (std::vector{lineOf(1, 1, 1, 2, kRed), lineOf(-1.33, 9.33, 0.25, 4, kLightGreen)}));
+    test::expectGiven(f);
 }
 
 TEST_F(AfsaetForm, EnterInTheLastBoxDoesNothingOnceSolved) {
@@ -297,7 +259,7 @@ TEST_F(AfsaetForm, TellsAnEmptyIntervalAndTakesIt) {
     EXPECT_EQ(f.caption("givenRange"), "Funktionen gælder i intervallet 1<Q<0");
     answer({"-6", "4.5", "1", "0"});
     EXPECT_EQ(f.caption("verdict"), "RIGTIGT");
-    EXPECT_EQ(drawn(), std::vector{lineOf(-6, 4.5, 1, 0, kLightGreen)});
+    EXPECT_EQ(strokes(), std::vector{lineOf(-6, 4.5, 1, 0, kLightGreen)});
 }
 
 TEST_F(AfsaetForm, JudgesAHundredHostileRowsWithOneStrokeEach) {
@@ -315,7 +277,7 @@ TEST_F(AfsaetForm, JudgesAHundredHostileRowsWithOneStrokeEach) {
             }
             f.click("ok");
             ASSERT_EQ(f.caption("verdict"), "FORKERT");
-            ASSERT_EQ(drawn().size(), ++rows);
+            ASSERT_EQ(strokes().size(), ++rows);
         }
     }
     EXPECT_EQ(rows, 100U);
@@ -534,7 +496,7 @@ TEST_P(AfsaetPanels, CloseWholeAndLeaveTheExerciseAlone) {
     expectShown(0);
     EXPECT_EQ(f.focus(), "slope");
     EXPECT_EQ(f.box("intercept").content(), "12");
-    EXPECT_EQ(drawn(), std::vector<Stroke>{});
+    EXPECT_EQ(strokes(), std::vector<Stroke>{});
     f.click("help");
     EXPECT_EQ(shownPanels(), Names{row.panel});
     expectShown(0);
@@ -563,7 +525,7 @@ TEST_P(AfsaetPanels, OpenOnceSolvedToo) {
     f.click("help");
     EXPECT_EQ(shownPanels(), Names{row.panel});
     EXPECT_TRUE(f.isShown("verdict"));
-    EXPECT_EQ(drawn().size(), 1U);
+    EXPECT_EQ(strokes().size(), 1U);
 }
 
 TEST_P(AfsaetPanels, LeaveTheTaskTheAnswerAndTheButtonsInReach) {
@@ -593,15 +555,12 @@ INSTANTIATE_TEST_SUITE_P(Rows, AfsaetPanels, testing::ValuesIn(panelRows()),
 
 TEST_F(AfsaetForm, RebuildsTheStepsForTheNextExercise) {
     const FormDriver& f = open("TwoPointsInPrices");
-    f.click("help");
-    f.click("showTwoPointsSlope");
-    f.click("showTwoPointsIntercept");
+    f.click("help", "showTwoPointsSlope", "showTwoPointsIntercept");
     EXPECT_EQ(f.caption("twoPointsWorkedIntercept"), "b = 8 - (-1.5)*1 = 9.5");
     next("TwoPointsInQuantities");
-    f.click("help");
-    f.click("showTwoPointsIntercept");
-    EXPECT_EQ(f.caption("twoPointsWorkedIntercept"), "b = 6 - (-1)*3 = 9");
-    EXPECT_EQ(f.caption("twoPointsWorkedResult"), "P = -1Q + 9");
+    f.click("help", "showTwoPointsIntercept");
+    test::expectTexts(
+        f, {{"twoPointsWorkedIntercept", "b = 6 - (-1)*3 = 9"}, {"twoPointsWorkedResult", "P = -1Q + 9"}});
     f.click("showTwoPointsSlope");
     EXPECT_EQ(f.caption("twoPointsWorkedSlopeResult"), "= -1");
 }

@@ -7,13 +7,10 @@
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
-#include "support/fixed_texts.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
 #include "support/verdict.h"
 #include "topics/economics/gtm_script.h"
 
@@ -22,7 +19,6 @@ namespace {
 
 using test::DecimalMark;
 using test::FormDriver;
-using test::ScriptedDraws;
 using test::gtm::Avc;
 using test::gtm::firstScript;
 using test::gtm::Kind;
@@ -96,18 +92,11 @@ constexpr std::array<std::array<const char*, 4>, 4> kWays{{
      "wayFromAverageToTotalRightBarb"},
 }};
 
-class GtmForm : public testing::Test {
+class GtmForm : public test::ScriptedForm<const Numbers&, Kind> {
 protected:
-    FormDriver& open(const Numbers& k, Kind kind) {
-        draws.append(firstScript(k, kind));
-        form = std::make_unique<FormDriver>(PageName::Gtm, draws);
-        return *form;
-    }
+    GtmForm() : ScriptedForm(PageName::Gtm, test::gtm::script) {}
 
-    void next(const Numbers& k, Kind kind) {
-        draws.append(test::gtm::script(k, kind));
-        form->click("newExercise");
-    }
+    FormDriver& open(const Numbers& k, Kind kind) { return openBy(firstScript(k, kind)); }
 
     /// AVC = Q² - 2Q + 4.
     FormDriver& openPlain() { return open({1, -2, 4}, Avc); }
@@ -123,14 +112,6 @@ protected:
         form->click("ok");
     }
 
-    [[nodiscard]] std::vector<std::string> contents() const {
-        std::vector<std::string> all;
-        for (const char* box : kBoxes) {
-            all.push_back(form->box(box).content());
-        }
-        return all;
-    }
-
     /// The numbers of the red boxes.
     [[nodiscard]] std::set<int> redBoxes() const {
         std::set<int> red;
@@ -143,8 +124,6 @@ protected:
         }
         return red;
     }
-
-    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("graph"); }
 
     [[nodiscard]] Strokes drawnAfter(std::size_t strokes) const {
         return test::strokesFrom(graph(), strokes);
@@ -182,27 +161,10 @@ protected:
         return red;
     }
 
-    [[nodiscard]] std::set<std::string> shownOf(const std::vector<const char*>& names) const {
-        std::set<std::string> shown;
-        for (const char* name : names) {
-            if (form->isShown(name)) {
-                shown.insert(name);
-            }
-        }
-        return shown;
-    }
-
-    [[nodiscard]] std::set<std::string> shownPanels() const {
-        return shownOf({"diagramHelpPanel", "avcGivenHelpPanel", "tvcGivenHelpPanel", "mcGivenHelpPanel"});
-    }
-
-    [[nodiscard]] std::set<std::string> shownSteps() const {
+    [[nodiscard]] std::vector<std::string> shownSteps() const {
         return shownOf({"avcGivenTvcStep", "avcGivenMcStep", "tvcGivenAvcStep", "tvcGivenMcStep",
                         "mcGivenTvcStep", "mcGivenAvcStep"});
     }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 TEST_F(GtmForm, StartsEmptyWithItsTitle) {
@@ -211,11 +173,9 @@ TEST_F(GtmForm, StartsEmptyWithItsTitle) {
     for (const char* box : kBoxes) {
         EXPECT_EQ(f.box(box).content(), "");
     }
-    for (const char* hidden : {"giveAnswer", "verdict", "diagramHelpPanel", "avcGivenHelpPanel",
-                               "tvcGivenHelpPanel", "mcGivenHelpPanel", "avcGivenTvcStep", "avcGivenMcStep",
-                               "tvcGivenAvcStep", "tvcGivenMcStep", "mcGivenTvcStep", "mcGivenAvcStep"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectHidden(f, {"giveAnswer", "verdict", "diagramHelpPanel", "avcGivenHelpPanel",
+                           "tvcGivenHelpPanel", "mcGivenHelpPanel", "avcGivenTvcStep", "avcGivenMcStep",
+                           "tvcGivenAvcStep", "tvcGivenMcStep", "mcGivenTvcStep", "mcGivenAvcStep"});
     EXPECT_TRUE(f.find<GraphBox>("graph").strokes().empty());
 }
 
@@ -262,14 +222,14 @@ TEST_P(GtmTasks, FillTheBoxesOfTheGivenFunctionOnly) {
     const DecimalMark danish(",");
     const ShownRow& row = GetParam();
     const FormDriver& f = open(row.drawn, row.kind);
-    EXPECT_EQ(contents(), row.contents);
+    EXPECT_EQ(contentsOf(kBoxes), row.contents);
     EXPECT_EQ(f.focus(), "avcQuadraticCoefficient");
     EXPECT_TRUE(f.isShown("ok"));
     EXPECT_FALSE(f.isShown("giveAnswer"));
     answer({"1", "2", "3", "4", "5", "6", "7", "8", "9"});
     EXPECT_FALSE(redBoxes().empty());
     next(row.drawn, row.kind);
-    EXPECT_EQ(contents(), row.contents);
+    EXPECT_EQ(contentsOf(kBoxes), row.contents);
     EXPECT_EQ(f.focus(), "avcQuadraticCoefficient");
     EXPECT_EQ(redBoxes(), std::set<int>{});
 }
@@ -286,7 +246,7 @@ TEST_F(GtmForm, LeavesNoTextOfARejectedFirstTryBehind) {
     // MC = 3Q² - 8Q + 4 crosses the axis.
     draws.append(test::gtm::script({1, -4, 4}, Avc));
     open({2, -3, 8}, Mc);
-    EXPECT_EQ(contents(), (std::vector<std::string>{"", "", "", "", "", "", "2", "-3", "8"}));
+    EXPECT_EQ(contentsOf(kBoxes), (std::vector<std::string>{"", "", "", "", "", "", "2", "-3", "8"}));
     EXPECT_EQ(graph().strokes().size(), 171U);
 }
 
@@ -377,7 +337,7 @@ TEST_P(GtmMarks, ReddenEachWrongBoxAndColourTheCurveOfItsFunction) {
     EXPECT_EQ(redBoxes(), row.red);
     EXPECT_EQ(coloursOf(drawnAfter(171)), row.colours);
     test::expectWrong(f, "avcQuadraticCoefficient");
-    EXPECT_EQ(contents(), std::vector<std::string>(row.typed.begin(), row.typed.end()));
+    EXPECT_EQ(contentsOf(kBoxes), std::vector<std::string>(row.typed.begin(), row.typed.end()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, GtmMarks,
@@ -467,13 +427,9 @@ TEST_F(GtmForm, GivesTheCoefficientsAndDrawsAvcThenMcThenTvc) {
     answer({"", "", "", "", "", "", "", "", ""});
     const std::size_t before = graph().strokes().size();
     f.click("giveAnswer");
-    EXPECT_EQ(contents(),
+    EXPECT_EQ(contentsOf(kBoxes),
               (std::vector<std::string>{"0,17", "-1,5", "9", "0,17", "-1,5", "9", "0,5", "-3", "9"}));
-    EXPECT_EQ(redBoxes(), std::set<int>{});
-    for (const char* hidden : {"ok", "giveAnswer", "verdict"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
-    EXPECT_EQ(f.focus(), "newExercise");
+    test::expectGiven(f);
     const auto avc = [](double q) { return 0.17 * q * q - 1.5 * q + 9; };
     const auto mc = [](double q) { return 0.5 * q * q - 3 * q + 9; };
     const auto tvc = [&](double q) { return q * avc(q); };
@@ -573,8 +529,8 @@ TEST_P(GtmGuides, LightUpTheWayOfTheExerciseAndOpenItsPanel) {
     f.click("help");
     EXPECT_EQ(redWays(), row.ways);
     EXPECT_EQ(redNames(), std::set<std::string>{row.given});
-    EXPECT_EQ(shownPanels(), (std::set<std::string>{"diagramHelpPanel", row.panel}));
-    EXPECT_EQ(shownSteps(), std::set<std::string>{});
+    EXPECT_EQ(form->helpPanels(), (std::set<std::string>{"diagramHelpPanel", row.panel}));
+    EXPECT_EQ(shownSteps(), std::vector<std::string>{});
     EXPECT_EQ(f.caption("diagramStep1Text"), row.firstText);
     EXPECT_EQ(f.caption("diagramStep2Text"), row.secondText);
     EXPECT_EQ(f.focus(), row.firstVis);
@@ -585,34 +541,31 @@ TEST_P(GtmGuides, RevealTheirTwoStepsAndHideThemWithThePanel) {
     const FormDriver& f = open({1, -2, 4}, row.kind);
     f.click("help");
     f.press(row.firstVis, Qt::Key_Return);
-    EXPECT_EQ(shownSteps(), std::set<std::string>{row.firstStep});
+    EXPECT_EQ(shownSteps(), std::vector<std::string>{row.firstStep});
     f.press(row.secondVis, Qt::Key_Return);
-    EXPECT_EQ(shownSteps(), (std::set<std::string>{row.firstStep, row.secondStep}));
+    EXPECT_EQ(shownSteps(), (std::vector<std::string>{row.firstStep, row.secondStep}));
     f.click(row.close);
-    EXPECT_EQ(shownSteps(), std::set<std::string>{});
-    EXPECT_EQ(shownPanels(), std::set<std::string>{});
+    EXPECT_EQ(shownSteps(), std::vector<std::string>{});
+    EXPECT_EQ(form->helpPanels(), std::set<std::string>{});
     EXPECT_EQ(redWays(), "");
     f.click("help");
-    EXPECT_EQ(shownSteps(), std::set<std::string>{});
+    EXPECT_EQ(shownSteps(), std::vector<std::string>{});
 }
 
 TEST_P(GtmGuides, BlackenTheNamesOnlyWhereMcIsGiven) {
     const GuideRow& row = GetParam();
     const FormDriver& f = open({1, -2, 4}, row.kind);
-    f.click("help");
-    f.click(row.close);
+    f.click("help", row.close);
     EXPECT_EQ(redNames(), row.kind == Mc ? std::set<std::string>{} : std::set<std::string>{row.given});
 }
 
 TEST_P(GtmGuides, CloseWithTheNextExerciseAndStayRed) {
     const GuideRow& row = GetParam();
     const FormDriver& f = open({1, -2, 4}, row.kind);
-    f.click("help");
-    f.click(row.firstVis);
-    f.click(row.secondVis);
+    f.click("help", row.firstVis, row.secondVis);
     next({1, -2, 4}, row.kind);
-    EXPECT_EQ(shownPanels(), std::set<std::string>{});
-    EXPECT_EQ(shownSteps(), std::set<std::string>{});
+    EXPECT_EQ(form->helpPanels(), std::set<std::string>{});
+    EXPECT_EQ(shownSteps(), std::vector<std::string>{});
     EXPECT_EQ(redWays(), row.ways);
     EXPECT_EQ(redNames(), std::set<std::string>{row.given});
 }
@@ -635,15 +588,14 @@ TEST_F(GtmForm, LetsTheRedOfEarlierHelpStandUntilALuk) {
 
 TEST_F(GtmForm, LeavesPanelsAndBoxesAsTheyAreWhileTheHelpIsOpen) {
     const FormDriver& f = openPlain();
-    f.click("help");
-    f.click("showAvcGivenTvc");
+    f.click("help", "showAvcGivenTvc");
     answer({"1", "-2", "4", "1", "-2", "4", "3", "-4", "1"});
-    EXPECT_EQ(shownPanels(), (std::set<std::string>{"diagramHelpPanel", "avcGivenHelpPanel"}));
-    EXPECT_EQ(shownSteps(), std::set<std::string>{"avcGivenTvcStep"});
+    EXPECT_EQ(form->helpPanels(), (std::set<std::string>{"diagramHelpPanel", "avcGivenHelpPanel"}));
+    EXPECT_EQ(shownSteps(), std::vector<std::string>{"avcGivenTvcStep"});
     f.click("giveAnswer");
-    EXPECT_EQ(shownPanels(), (std::set<std::string>{"diagramHelpPanel", "avcGivenHelpPanel"}));
+    EXPECT_EQ(form->helpPanels(), (std::set<std::string>{"diagramHelpPanel", "avcGivenHelpPanel"}));
     f.click("help");
-    EXPECT_EQ(shownSteps(), std::set<std::string>{"avcGivenTvcStep"});
+    EXPECT_EQ(shownSteps(), std::vector<std::string>{"avcGivenTvcStep"});
 }
 
 TEST_F(GtmForm, KeepsTheTryItsVerdictAndItsCurvesWhenTheHelpIsClosed) {
@@ -651,10 +603,8 @@ TEST_F(GtmForm, KeepsTheTryItsVerdictAndItsCurvesWhenTheHelpIsClosed) {
     const Nine typed{"1", "-2", "4", "1", "-2", "4", "3", "-4", "1"};
     answer(typed);
     const Strokes strokes = graph().strokes();
-    f.click("help");
-    f.click("showAvcGivenTvc");
-    f.click("closeAvcGivenHelp");
-    EXPECT_EQ(contents(), std::vector<std::string>(typed.begin(), typed.end()));
+    f.click("help", "showAvcGivenTvc", "closeAvcGivenHelp");
+    EXPECT_EQ(contentsOf(kBoxes), std::vector<std::string>(typed.begin(), typed.end()));
     EXPECT_EQ(redBoxes(), std::set<int>{9});
     EXPECT_TRUE(f.isShown("verdict"));
     EXPECT_EQ(f.caption("verdict"), "FORKERT");
@@ -733,9 +683,7 @@ using Texts = std::vector<std::string>;
 TEST_F(GtmForm, SetsEachPieceWhereTheOneBeforeItEnds) {
     const DecimalMark danish(",");
     const FormDriver& f = open({1.5, -3, 8}, Avc);
-    f.click("help");
-    f.click("showAvcGivenTvc");
-    f.click("showAvcGivenMc");
+    f.click("help", "showAvcGivenTvc", "showAvcGivenMc");
     const StepText product(f.find("avcGivenTvcStep"));
     EXPECT_EQ(product.texts(), (Texts{"TVC = Q*(1,5Q -3Q +8)", "= 1,5Q -3Q +8Q"}));
     EXPECT_EQ(product.exponents.size(), 3U);
@@ -773,16 +721,13 @@ std::vector<double> exponentOffsets(const StepText& step) {
 
 TEST_F(GtmForm, RaisesExponentsBehindTheirQ) {
     const FormDriver& f = open({1.5, -3, 8}, Mc);
-    f.click("help");
-    f.click("showMcGivenTvc");
-    f.click("showMcGivenAvc");
+    f.click("help", "showMcGivenTvc", "showMcGivenAvc");
     const StepText integral(f.find("mcGivenTvcStep"));
     EXPECT_EQ(integral.exponents.size(), 5U);
     EXPECT_EQ(exponentOffsets(integral), (std::vector<double>{120, 100, 100, 120, 120}));
     EXPECT_EQ(exponentOffsets(StepText(f.find("mcGivenAvcStep"))), (std::vector<double>{100, 100, 120}));
     next({1.5, -3, 8}, Tvc);
-    f.click("help");
-    f.click("showTvcGivenAvc");
+    f.click("help", "showTvcGivenAvc");
     EXPECT_EQ(exponentOffsets(StepText(f.find("tvcGivenAvcStep"))), (std::vector<double>{120, 120, 120}));
 }
 
@@ -805,16 +750,14 @@ TEST_F(GtmForm, SetsExponentsNearerInTwoRows) {
           Step{Mc, "showMcGivenTvc", "mcGivenTvcStep", {120, 100, 100, 120, 120}},
           Step{Mc, "showMcGivenAvc", "mcGivenAvcStep", {100, 100, 120}}}) {
         next({0.5, -3, 9}, given);
-        f.click("help");
-        f.click(vis);
+        f.click("help", vis);
         EXPECT_EQ(exponentOffsets(StepText(f.find(box))), offsets) << vis;
     }
 }
 
 TEST_F(GtmForm, SetsItsFractionsWithBarsIntoTheRow) {
     const FormDriver& f = open({1.5, -3, 8}, Mc);
-    f.click("help");
-    f.click("showMcGivenTvc");
+    f.click("help", "showMcGivenTvc");
     const QWidget& box = f.find("mcGivenTvcStep");
     const auto bars = box.findChildren<LineControl*>();
     ASSERT_EQ(bars.size(), 2);
@@ -835,15 +778,11 @@ TEST_F(GtmForm, SetsItsFractionsWithBarsIntoTheRow) {
 
 TEST_F(GtmForm, RewritesAStepWithTheNumbersOfTheNextExercise) {
     const FormDriver& f = open({1.5, -3, 8}, Tvc);
-    f.click("help");
-    f.click("showTvcGivenAvc");
-    f.click("showTvcGivenAvc");
+    f.click("help", "showTvcGivenAvc", "showTvcGivenAvc");
     EXPECT_EQ(StepText(f.find("tvcGivenAvcStep")).texts(),
               (Texts{"AVC = (1.5Q -3Q +8Q)/Q", "= 1.5Q -3Q +8"}));
     next({2, 0, 5}, Tvc);
-    f.click("help");
-    f.click("showTvcGivenAvc");
-    f.click("showTvcGivenMc");
+    f.click("help", "showTvcGivenAvc", "showTvcGivenMc");
     EXPECT_EQ(StepText(f.find("tvcGivenAvcStep")).texts(), (Texts{"AVC = (2Q +0Q +5Q)/Q", "= 2Q +0Q +5"}));
     EXPECT_EQ(StepText(f.find("tvcGivenMcStep")).texts(),
               (Texts{"TVC = 2Q +0Q +5Q", "3 * 2Q + 2 * 0Q +5", "= 6Q +0Q +5"}));

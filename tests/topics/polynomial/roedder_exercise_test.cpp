@@ -26,11 +26,8 @@ using test::typedAgain;
 
 /// The exercise of three sizes and a pattern.
 RoedderState exercise(int a, int b, int c, int patternCase) {
-    ScriptedDraws draws{cellOf(a - 1, 5), cellOf(b - 1, 5), cellOf(c - 1, 5), cellOf(patternCase - 1, 18)};
-    RoedderState state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    return state;
+    return test::exerciseOf<RoedderState>(
+        {cellOf(a - 1, 5), cellOf(b - 1, 5), cellOf(c - 1, 5), cellOf(patternCase - 1, 18)});
 }
 
 TEST(RoedderGenerator, MakesJustThisExerciseOfItsDraws) {

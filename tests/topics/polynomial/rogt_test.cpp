@@ -6,22 +6,19 @@
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
 #include "numeric/rounding.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/scripted_draws.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
 #include "topics/polynomial/all_polynomials.h"
+#include "topics/polynomial/curve.h"
 
 namespace tavrune {
 namespace {
 
 using test::cellOf;
 using test::FormDriver;
-using test::ScriptedDraws;
 
 const QColor kGreen(0, 130, 0);
 constexpr GraphScale kScale{-15, 15, 15, -15};
@@ -51,34 +48,13 @@ struct Typed {
     std::string p;
 };
 
-std::vector<Stroke> curve(double a, double b, double c) {
-    std::vector<Stroke> pieces;
-    double y = 0;
-    for (double x = -7; std::abs(y) <= 1000; x += 0.05) {
-        const double next = x + 0.05;
-        y = a * x * x + b * x + c;
-        pieces.push_back(kIn.line(x, y, next, a * next * next + b * next + c));
-    }
-    return pieces;
+test::Script scriptOf(const Task& t) {
+    return {cellOf(t.a - 1, 5), cellOf(t.b - 1, 5), cellOf(t.c - 1, 5), cellOf(t.patternCase - 1, 18)};
 }
 
-class RogtForm : public testing::Test {
+class RogtForm : public test::ScriptedForm<const Task&> {
 protected:
-    void script(const Task& t) {
-        draws.append(
-            {cellOf(t.a - 1, 5), cellOf(t.b - 1, 5), cellOf(t.c - 1, 5), cellOf(t.patternCase - 1, 18)});
-    }
-
-    FormDriver& open(const Task& task) {
-        script(task);
-        form = std::make_unique<FormDriver>(PageName::Rogt, draws);
-        return *form;
-    }
-
-    void next(const Task& task) {
-        script(task);
-        form->click("newExercise");
-    }
+    RogtForm() : ScriptedForm(PageName::Rogt, scriptOf) {}
 
     /// Fills the boxes, hidden ones too, and leaves the focus alone.
     void fill(const Typed& typed) const {
@@ -155,9 +131,6 @@ protected:
         return names;
     }
 
-    [[nodiscard]] GraphBox& graph() const { return form->find<GraphBox>("graph"); }
-    [[nodiscard]] const std::vector<Stroke>& strokes() const { return graph().strokes(); }
-
     /// Where ticks of wrong roots stand.
     [[nodiscard]] std::vector<float> redTicks() const {
         std::vector<float> places;
@@ -172,34 +145,29 @@ protected:
 
     /// Expects the curve of aQ²+bQ+c, and nothing but it, after `before` other strokes.
     void expectCurve(const Polynomial& p, std::size_t before) const {
-        EXPECT_EQ(test::strokesFrom(graph(), before), curve(p.a, p.b, p.c));
+        EXPECT_EQ(test::strokesFrom(graph(), before), test::curveIn(kIn, p.a, p.b, p.c));
     }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 TEST_F(RogtForm, StandsReadyBeforeItsOpening) {
     const FormDriver f = FormDriver::unshown(PageName::Rogt, draws);
     EXPECT_EQ(f.page().windowTitle().toStdString(), "Tavrune - Andengradspolynomiet - Rødder og toppunkt");
-    EXPECT_EQ(f.caption("task"), "Bestem rødder og toppunktet i følgende andengradspolynomium");
-    EXPECT_EQ(f.caption("priceEquals"), "P =");
-    EXPECT_EQ(f.caption("givenFunction"), "");
+    test::expectTexts(f, {{"task", "Bestem rødder og toppunktet i følgende andengradspolynomium"},
+                          {"priceEquals", "P ="},
+                          {"givenFunction", ""}});
     EXPECT_EQ(f.find<Frame>("rootCountChoice").caption(), "Rødder");
     EXPECT_EQ(f.option("twoRoots").caption(), "&To rødder");
     EXPECT_EQ(f.option("doubleRoot").caption(), "&Dobbelt rod");
     EXPECT_EQ(f.option("noRoots").caption(), "Ingen &rødder");
-    EXPECT_EQ(f.caption("rootOneCaption"), "Rod 1");
-    EXPECT_EQ(f.caption("rootTwoCaption"), "Rod 2");
-    EXPECT_EQ(f.caption("doubleRootCaption"), "Rod");
-    EXPECT_EQ(f.caption("vertexEquals"), "Toppunkt: (Q;P)=(");
-    EXPECT_EQ(f.caption("vertexSemicolon"), " ;");
-    EXPECT_EQ(f.caption("vertexClosingBracket"), ")");
+    test::expectTexts(f, {{"rootOneCaption", "Rod 1"},
+                          {"rootTwoCaption", "Rod 2"},
+                          {"doubleRootCaption", "Rod"},
+                          {"vertexEquals", "Toppunkt: (Q;P)=("},
+                          {"vertexSemicolon", " ;"},
+                          {"vertexClosingBracket", ")"}});
     EXPECT_EQ(f.caption("quantityAxisName") + f.caption("priceAxisName"), "QP");
-    for (const char* hidden : {"newExercise", "ok", "giveAnswer", "right", "wrong", "rootOne", "rootTwo",
-                               "rootOneCaption", "rootTwoCaption", "doubleRootCaption"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectHidden(f, {"newExercise", "ok", "giveAnswer", "right", "wrong", "rootOne", "rootTwo",
+                           "rootOneCaption", "rootTwoCaption", "doubleRootCaption"});
 }
 
 TEST_F(RogtForm, PutsTheWrongVerdictInFrontOfTheRightOne) {
@@ -235,10 +203,8 @@ TEST_F(RogtForm, ShowsThePolynomialAndAsksForTheNumberOfRootsFirst) {
     EXPECT_EQ(shownBoxes(), "vertexQuantity vertexPrice");
     EXPECT_EQ(shownRootLabels() + verdicts() + judgeButtons(), "");
     EXPECT_TRUE(f.isShown("newExercise"));
-    for (const char* name : {"vertexEquals", "vertexSemicolon", "vertexClosingBracket", "priceEquals", "task",
-                             "givenFunction", "rootCountChoice", "twoRoots", "doubleRoot", "noRoots"}) {
-        EXPECT_TRUE(f.isShown(name)) << name;
-    }
+    test::expectShown(f, {"vertexEquals", "vertexSemicolon", "vertexClosingBracket", "priceEquals", "task",
+                          "givenFunction", "rootCountChoice", "twoRoots", "doubleRoot", "noRoots"});
 }
 
 TEST_F(RogtForm, DrawsAxesAndSixRowsOfPointsInOrder) {
@@ -274,8 +240,7 @@ TEST_F(RogtForm, SetsNoFocusWithANewExercise) {
 
 TEST_F(RogtForm, AsksForTwoRootsAndTheVertex) {
     const FormDriver& f = open(kTwo);
-    f.click("doubleRoot");
-    f.click("twoRoots");
+    f.click("doubleRoot", "twoRoots");
     EXPECT_EQ(shownBoxes(), "rootOne rootTwo vertexQuantity vertexPrice");
     EXPECT_EQ(shownRootLabels(), "rootOneCaption rootTwoCaption");
     EXPECT_EQ(judgeButtons(), "ok");
@@ -285,8 +250,7 @@ TEST_F(RogtForm, AsksForTwoRootsAndTheVertex) {
 
 TEST_F(RogtForm, AsksForADoubleRootAndTheVertex) {
     const FormDriver& f = open(kTwo);
-    f.click("twoRoots");
-    f.click("doubleRoot");
+    f.click("twoRoots", "doubleRoot");
     EXPECT_EQ(shownBoxes(), "rootTwo vertexQuantity vertexPrice");
     EXPECT_EQ(shownRootLabels(), "doubleRootCaption");
     EXPECT_EQ(judgeButtons(), "ok");
@@ -296,8 +260,7 @@ TEST_F(RogtForm, AsksForADoubleRootAndTheVertex) {
 
 TEST_F(RogtForm, AsksForTheVertexAloneWithoutRoots) {
     const FormDriver& f = open(kTwo);
-    f.click("twoRoots");
-    f.click("noRoots");
+    f.click("twoRoots", "noRoots");
     EXPECT_EQ(shownBoxes(), "vertexQuantity vertexPrice");
     EXPECT_EQ(shownRootLabels(), "");
     EXPECT_EQ(judgeButtons(), "ok");
@@ -596,10 +559,8 @@ TEST_F(RogtForm, GivesTwoRootsAndTheVertexWhateverIsChosen) {
         f.click("giveAnswer");
         EXPECT_EQ(shownBoxes(), "rootOne rootTwo vertexQuantity vertexPrice");
         EXPECT_EQ(shownRootLabels(), "rootOneCaption rootTwoCaption");
-        EXPECT_EQ(f.box("rootOne").content(), "2");
-        EXPECT_EQ(f.box("rootTwo").content(), "1");
-        EXPECT_EQ(f.box("vertexQuantity").content(), "1,5");
-        EXPECT_EQ(f.box("vertexPrice").content(), "-0,25");
+        test::expectContents(
+            f, {{"rootOne", "2"}, {"rootTwo", "1"}, {"vertexQuantity", "1,5"}, {"vertexPrice", "-0,25"}});
         EXPECT_EQ(verdicts() + judgeButtons() + redBoxes() + greenOptions(), "");
         EXPECT_EQ(chosenOption(), option);
         EXPECT_EQ(f.focus(), "newExercise");
@@ -616,10 +577,8 @@ TEST_F(RogtForm, GivesADoubleRootAndTheVertexWhateverIsChosen) {
         EXPECT_EQ(shownBoxes(), "rootTwo vertexQuantity vertexPrice");
         EXPECT_EQ(shownRootLabels(), "doubleRootCaption");
         // The hidden box keeps what was typed.
-        EXPECT_EQ(f.box("rootOne").content(), "7");
-        EXPECT_EQ(f.box("rootTwo").content(), "-1");
-        EXPECT_EQ(f.box("vertexQuantity").content(), "-1");
-        EXPECT_EQ(f.box("vertexPrice").content(), "0");
+        test::expectContents(
+            f, {{"rootOne", "7"}, {"rootTwo", "-1"}, {"vertexQuantity", "-1"}, {"vertexPrice", "0"}});
         EXPECT_EQ(verdicts() + judgeButtons() + redBoxes(), "");
         EXPECT_EQ(greenOptions(), "doubleRoot");
         EXPECT_EQ(chosenOption(), option);
@@ -638,8 +597,7 @@ TEST_F(RogtForm, GivesTheVertexAloneWhereThereAreNoRoots) {
         EXPECT_EQ(shownBoxes(), "vertexQuantity vertexPrice");
         EXPECT_EQ(shownRootLabels(), "");
         EXPECT_EQ(f.box("rootOne").content() + f.box("rootTwo").content(), "78");
-        EXPECT_EQ(f.box("vertexQuantity").content(), "-0,5");
-        EXPECT_EQ(f.box("vertexPrice").content(), "0,75");
+        test::expectContents(f, {{"vertexQuantity", "-0,5"}, {"vertexPrice", "0,75"}});
         EXPECT_EQ(verdicts() + judgeButtons() + redBoxes(), "");
         EXPECT_EQ(greenOptions(), "noRoots");
         EXPECT_EQ(f.focus(), "newExercise");
@@ -652,10 +610,8 @@ TEST_F(RogtForm, GivesANegativeHalfThatItWouldJudgeWrong) {
     const FormDriver& f = open(kHalf);
     answer("twoRoots", {"0", "-0.25", "9", "9"});
     f.click("giveAnswer");
-    EXPECT_EQ(f.box("vertexQuantity").content(), "-0.13");
-    EXPECT_EQ(f.box("vertexPrice").content(), "-0.06");
-    f.click("twoRoots");
-    f.click("ok");
+    test::expectContents(f, {{"vertexQuantity", "-0.13"}, {"vertexPrice", "-0.06"}});
+    f.click("twoRoots", "ok");
     EXPECT_EQ(redBoxes(), "vertexQuantity");
 }
 

@@ -42,11 +42,7 @@ std::vector<float> operator+(std::vector<float> first, const std::vector<float>&
 }
 
 ToppState exercise(int a, int b, int c, int patternCase) {
-    ScriptedDraws draws(script(a, b, c, patternCase));
-    ToppState state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    return state;
+    return test::exerciseOf<ToppState>(script(a, b, c, patternCase));
 }
 
 /// True if the first four draws are taken for an exercise.
@@ -152,10 +148,7 @@ TEST(ToppGenerator, ReseedsBeforeEachSetOfDraws) {
 }
 
 TEST(ToppGenerator, DrawsAllFourAgainWhileTheVertexIsOutOfReach) {
-    ScriptedDraws draws(script(1, 10, 1, 5) + script(1, 10, 10, 7) + kAccepted);
-    ToppState s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
+    const ToppState s = test::exerciseOf<ToppState>(script(1, 10, 1, 5) + script(1, 10, 10, 7) + kAccepted);
     EXPECT_EQ(s.polynomialText, "1Q²-5Q+6");
     EXPECT_EQ(s.vertexP, -0.25);
 }

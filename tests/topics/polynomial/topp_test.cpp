@@ -7,13 +7,11 @@
 
 #include <gtest/gtest.h>
 
-#include "graph/graph_box.h"
 #include "support/decimal_mark.h"
-#include "support/form_driver.h"
 #include "support/looks.h"
-#include "support/scripted_draws.h"
-#include "support/strokes.h"
+#include "support/scripted_form.h"
 #include "support/verdict.h"
+#include "topics/polynomial/curve.h"
 
 namespace tavrune {
 namespace {
@@ -21,7 +19,6 @@ namespace {
 using test::cellOf;
 using test::DecimalMark;
 using test::FormDriver;
-using test::ScriptedDraws;
 
 const GraphScale kScale{-2, 15, 15, -15};
 // Two axes, then the ticks: 30 on each axis, 6 on each, 7 and 6.
@@ -29,28 +26,13 @@ constexpr std::size_t kStrokesOfTask = 87;
 
 const test::StrokesIn kIn{kScale};
 
-std::vector<Stroke> curve(double a, double b, double c) {
-    std::vector<Stroke> pieces;
-    double y = 0;
-    for (double x = -7; std::abs(y) <= 1000; x += 0.05) {
-        const double next = x + 0.05;
-        y = a * x * x + b * x + c;
-        pieces.push_back(kIn.line(x, y, next, a * next * next + b * next + c));
-    }
-    return pieces;
+test::Script scriptOf(int a, int b, int c, int patternCase) {
+    return {cellOf(a - 1, 3), cellOf(b - 1, 10), cellOf(c - 1, 10), cellOf(patternCase - 1, 11)};
 }
 
-class ToppForm : public testing::Test {
+class ToppForm : public test::ScriptedForm<int, int, int, int> {
 protected:
-    void script(int a, int b, int c, int patternCase) {
-        draws.append({cellOf(a - 1, 3), cellOf(b - 1, 10), cellOf(c - 1, 10), cellOf(patternCase - 1, 11)});
-    }
-
-    FormDriver& open(int a, int b, int c, int patternCase) {
-        script(a, b, c, patternCase);
-        form = std::make_unique<FormDriver>(PageName::Topp, draws);
-        return *form;
-    }
+    ToppForm() : ScriptedForm(PageName::Topp, scriptOf) {}
 
     FormDriver& openPlain() { return open(1, 5, 6, 3); }     // 1Q²-5Q+6: the vertex is (2.5;-0.25).
     FormDriver& openNegative() { return open(1, 6, 5, 7); }  // -1Q²+6Q+5: the vertex is (3;14).
@@ -66,56 +48,37 @@ protected:
         form->click("giveAnswer");
     }
 
-    void nextExercise(int a, int b, int c, int patternCase) {
-        script(a, b, c, patternCase);
-        form->click("newExercise");
-    }
-
-    [[nodiscard]] const GraphBox& graph() const { return form->find<GraphBox>("graph"); }
-
     /// What was drawn after the task.
     [[nodiscard]] std::vector<Stroke> drawnLater() const {
         return test::strokesFrom(graph(), kStrokesOfTask);
     }
-
-    ScriptedDraws draws;
-    std::unique_ptr<FormDriver> form;
 };
 
 TEST_F(ToppForm, HidesTheButtonOfTheNextExerciseUntilItIsOnScreen) {
     const FormDriver unshown = FormDriver::unshown(PageName::Topp, draws);
     EXPECT_EQ(unshown.page().windowTitle().toStdString(), "Tavrune - Andengradspolynomiet - Toppunkt");
-    for (const char* hidden : {"newExercise", "giveAnswer", "right", "wrong", "helpPanel"}) {
-        EXPECT_FALSE(unshown.isShown(hidden)) << hidden;
-    }
-    for (const char* blank :
-         {"workedFunction", "task", "workedResult", "workedDiscriminant", "givenFunction"}) {
-        EXPECT_EQ(unshown.caption(blank), "") << blank;
-    }
+    test::expectHidden(unshown, {"newExercise", "giveAnswer", "right", "wrong", "helpPanel"});
+    test::expectBlank(unshown,
+                      {"workedFunction", "task", "workedResult", "workedDiscriminant", "givenFunction"});
 }
 
 TEST_F(ToppForm, AsksForTheVertex) {
     const FormDriver& f = openPlain();
-    EXPECT_EQ(f.caption("task"), "Bestem toppunktet i følgende andengradspolynomium");
-    EXPECT_EQ(f.caption("priceEquals"), "P =");
-    EXPECT_EQ(f.caption("givenFunction"), "1Q²-5Q+6");
-    EXPECT_EQ(f.caption("vertexEquals"), "Toppunkt: (Q;P) = (");
-    EXPECT_EQ(f.caption("vertexSemicolon"), " ;");
-    EXPECT_EQ(f.caption("vertexClosingBracket"), ")");
-    for (const char* shown :
-         {"task", "priceEquals", "givenFunction", "vertexEquals", "vertexQuantity", "vertexSemicolon",
-          "vertexPrice", "vertexClosingBracket", "ok", "newExercise", "workedSolutionCover"}) {
-        EXPECT_TRUE(f.isShown(shown)) << shown;
-    }
-    for (const char* hidden : {"giveAnswer", "right", "wrong", "helpPanel"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
+    test::expectTexts(f, {{"task", "Bestem toppunktet i følgende andengradspolynomium"},
+                          {"priceEquals", "P ="},
+                          {"givenFunction", "1Q²-5Q+6"},
+                          {"vertexEquals", "Toppunkt: (Q;P) = ("},
+                          {"vertexSemicolon", " ;"},
+                          {"vertexClosingBracket", ")"}});
+    test::expectShown(
+        f, {"task", "priceEquals", "givenFunction", "vertexEquals", "vertexQuantity", "vertexSemicolon",
+            "vertexPrice", "vertexClosingBracket", "ok", "newExercise", "workedSolutionCover"});
+    test::expectHidden(f, {"giveAnswer", "right", "wrong", "helpPanel"});
 }
 
 TEST_F(ToppForm, NamesTheAxesAndTheirTicks) {
     const FormDriver& f = openPlain();
-    EXPECT_EQ(f.caption("priceAxisName"), "P");
-    EXPECT_EQ(f.caption("quantityAxisName"), "Q");
+    test::expectTexts(f, {{"priceAxisName", "P"}, {"quantityAxisName", "Q"}});
     std::multiset<std::string> captions;
     for (const Label* label : graph().findChildren<Label*>()) {
         captions.insert(label->caption());
@@ -128,9 +91,7 @@ TEST_F(ToppForm, StartsInTheRightHandBoxAndGoesToTheLeftHandOne) {
     EXPECT_EQ(f.focus(), "vertexPrice");
     EXPECT_GT(f.box("vertexPrice").place().left(), f.box("vertexQuantity").place().left());
     f.press("vertexPrice", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "vertexQuantity");
-    f.press("vertexQuantity", Qt::Key_Return);
-    EXPECT_EQ(f.focus(), "ok");
+    test::expectWayByEnter(f, {"vertexQuantity", "ok"});
 }
 
 TEST_F(ToppForm, DrawsAxesThenRowsOfTicks) {
@@ -163,15 +124,14 @@ TEST_F(ToppForm, DrawsTheAxesOnceHoweverManyVerticesAreOutOfReach) {
     script(1, 10, 10, 7);
     const FormDriver& f = openPlain();
     EXPECT_EQ(graph().strokes().size(), kStrokesOfTask);
-    EXPECT_EQ(f.caption("givenFunction"), "1Q²-5Q+6");
-    EXPECT_EQ(f.caption("workedFunction"), "1Q²-5Q+6");
+    test::expectTexts(f, {{"givenFunction", "1Q²-5Q+6"}, {"workedFunction", "1Q²-5Q+6"}});
 }
 
 TEST_F(ToppForm, ClearsTheGraphWithEachExercise) {
     openPlain();
     giveAfter("1", "1");
     EXPECT_GT(graph().strokes().size(), kStrokesOfTask);
-    nextExercise(1, 6, 5, 7);
+    next(1, 6, 5, 7);
     EXPECT_EQ(graph().strokes().size(), kStrokesOfTask);
     EXPECT_EQ(form->caption("givenFunction"), "-1Q²+6Q+5");
 }
@@ -187,11 +147,9 @@ TEST_F(ToppForm, IsSolvedByKeysAlone) {
     EXPECT_EQ(f.focus(), "newExercise");
     script(1, 6, 5, 7);
     f.press("newExercise", Qt::Key_Return);
+    test::expectShown(f, {"newExercise", "ok"});
     EXPECT_FALSE(f.isShown("right"));
-    EXPECT_TRUE(f.isShown("newExercise"));
-    EXPECT_TRUE(f.isShown("ok"));
-    EXPECT_EQ(f.box("vertexQuantity").content(), "");
-    EXPECT_EQ(f.box("vertexPrice").content(), "");
+    test::expectContents(f, {{"vertexQuantity", ""}, {"vertexPrice", ""}});
     EXPECT_EQ(f.focus(), "vertexPrice");
 }
 
@@ -200,7 +158,7 @@ TEST_F(ToppForm, DrawsTheCurveAndLeavesOnlyTheNextExerciseWhenSolved) {
     answer("1", "1");
     answer("2.5", "-0.25");
     test::expectSolved(f);
-    EXPECT_EQ(drawnLater(), curve(1, -5, 6));
+    EXPECT_EQ(drawnLater(), test::curveIn(kIn, 1, -5, 6));
     f.box("vertexQuantity").setFocus();
     f.press("vertexQuantity", Qt::Key_Return);
     EXPECT_EQ(f.focus(), "vertexQuantity");
@@ -209,7 +167,7 @@ TEST_F(ToppForm, DrawsTheCurveAndLeavesOnlyTheNextExerciseWhenSolved) {
 TEST_F(ToppForm, DrawsADownwardCurve) {
     openNegative();
     answer("3", "14");
-    EXPECT_EQ(drawnLater(), curve(-1, 6, 5));
+    EXPECT_EQ(drawnLater(), test::curveIn(kIn, -1, 6, 5));
 }
 
 struct MarkRow {
@@ -249,10 +207,9 @@ TEST_F(ToppForm, WhitensABoxThatHasBecomeRight) {
     answer("2.5", "1");
     EXPECT_EQ(f.box("vertexQuantity").backColour(), kWhite);
     EXPECT_EQ(f.box("vertexPrice").backColour(), kRed);
-    nextExercise(1, 6, 5, 7);
+    next(1, 6, 5, 7);
     EXPECT_EQ(f.box("vertexPrice").backColour(), kWhite);
-    EXPECT_FALSE(f.isShown("wrong"));
-    EXPECT_FALSE(f.isShown("giveAnswer"));
+    test::expectHidden(f, {"wrong", "giveAnswer"});
 }
 
 TEST_F(ToppForm, TakesTheHalfOpenBandRoundTheVertex) {
@@ -276,30 +233,24 @@ TEST_F(ToppForm, TakesTwoEmptyBoxesForTheVertexOfABareSquare) {
 
 TEST_F(ToppForm, WantsTheVertexOfPlusBWhereCaseEightShowsMinusB) {
     const FormDriver& f = open(1, 4, 7, 8);
-    EXPECT_EQ(f.caption("givenFunction"), "-1Q²-4Q");
-    EXPECT_EQ(f.caption("workedFunction"), "-1Q²-4Q");
-    EXPECT_EQ(f.caption("workedDiscriminant"), "d = 4² - 4 · (-1) · 0 = 16");
+    test::expectTexts(f, {{"givenFunction", "-1Q²-4Q"},
+                          {"workedFunction", "-1Q²-4Q"},
+                          {"workedDiscriminant", "d = 4² - 4 · (-1) · 0 = 16"}});
     answer("-2", "4");
     EXPECT_TRUE(f.isShown("wrong"));
     answer("2", "4");
     EXPECT_TRUE(f.isShown("right"));
-    EXPECT_EQ(drawnLater(), curve(-1, 4, 0));
+    EXPECT_EQ(drawnLater(), test::curveIn(kIn, -1, 4, 0));
 }
 
 TEST_F(ToppForm, GivesTheAnswerWithACrossAtWhatWasTyped) {
     const DecimalMark danish(",");
     const FormDriver& f = openPlain();
     giveAfter("3", "-4,5");
-    EXPECT_EQ(f.box("vertexQuantity").content(), "2,5");
-    EXPECT_EQ(f.box("vertexPrice").content(), "-0,25");
-    EXPECT_EQ(f.box("vertexQuantity").backColour(), kWhite);
-    EXPECT_EQ(f.box("vertexPrice").backColour(), kWhite);
-    for (const char* hidden : {"ok", "giveAnswer", "right", "wrong"}) {
-        EXPECT_FALSE(f.isShown(hidden)) << hidden;
-    }
-    EXPECT_EQ(f.focus(), "newExercise");
+    test::expectContents(f, {{"vertexQuantity", "2,5"}, {"vertexPrice", "-0,25"}});
+    test::expectGiven(f);
     const std::vector<Stroke> cross{kIn.line(2.5, -4.5, 3.5, -4.5, kRed), kIn.line(3, -5, 3, -4, kRed)};
-    EXPECT_EQ(drawnLater(), cross + curve(1, -5, 6));
+    EXPECT_EQ(drawnLater(), cross + test::curveIn(kIn, 1, -5, 6));
 }
 
 TEST_F(ToppForm, CrossesAtWhatStandsInTheBoxesWhenTheAnswerIsAskedFor) {
@@ -320,67 +271,61 @@ TEST_F(ToppForm, TakesAnyTypedText) {
          {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
         f.box("vertexQuantity").setContent(typed);
         f.box("vertexPrice").setContent(typed);
-        f.click("ok");
-        f.click("giveAnswer");
+        f.click("ok", "giveAnswer");
         EXPECT_FALSE(f.page().grab().isNull());
         EXPECT_EQ(f.box("vertexQuantity").content(), "2.5");
-        nextExercise(1, 5, 6, 3);
+        next(1, 5, 6, 3);
     }
 }
 
 TEST_F(ToppForm, ExplainsTheGeneralSolution) {
     const FormDriver& f = openPlain();
-    const std::pair<const char*, const char*> texts[]{
-        {"generalHeading", "Generel løsning"},
-        {"generalFunction", "P = aQ² + bQ + c"},
-        {"generalDiscriminant", "d = b² - 4 · a · c"},
-        {"generalText", "Toppunktet (T) findes ved hjælp af følgende formel:"},
-        {"generalVertexEquals", "T: (P; Q) ="},
-        {"generalVertexOpeningBracket", "("},
-        {"generalVertexPriceNumerator", "-d"},
-        {"generalVertexPriceDenominator", "4 · a"},
-        {"generalVertexSemicolon", ";"},
-        {"generalVertexQuantityNumerator", "-b"},
-        {"generalVertexQuantityDenominator", "2 · a"},
-        {"generalVertexClosingBracket", ")"},
-        {"workedHeading", "Aktuel løsning"},
-        {"workedPriceEquals", "P="},
-        {"workedVertexEquals", "T: (P;Q) ="},
-        {"workedVertexOpeningBracket", "("},
-        {"workedVertexSemicolon", ";"},
-        {"workedVertexClosingBracket", ")"}};
-    for (const auto& [name, text] : texts) {
-        EXPECT_EQ(f.caption(name), text) << name;
-    }
-    EXPECT_EQ(f.button("showWorkedSolution").caption(), "Vis");
-    EXPECT_EQ(f.button("closeHelp").caption(), "&Luk");
+    test::expectTexts(f, {{"generalHeading", "Generel løsning"},
+                          {"generalFunction", "P = aQ² + bQ + c"},
+                          {"generalDiscriminant", "d = b² - 4 · a · c"},
+                          {"generalText", "Toppunktet (T) findes ved hjælp af følgende formel:"},
+                          {"generalVertexEquals", "T: (P; Q) ="},
+                          {"generalVertexOpeningBracket", "("},
+                          {"generalVertexPriceNumerator", "-d"},
+                          {"generalVertexPriceDenominator", "4 · a"},
+                          {"generalVertexSemicolon", ";"},
+                          {"generalVertexQuantityNumerator", "-b"},
+                          {"generalVertexQuantityDenominator", "2 · a"},
+                          {"generalVertexClosingBracket", ")"},
+                          {"workedHeading", "Aktuel løsning"},
+                          {"workedPriceEquals", "P="},
+                          {"workedVertexEquals", "T: (P;Q) ="},
+                          {"workedVertexOpeningBracket", "("},
+                          {"workedVertexSemicolon", ";"},
+                          {"workedVertexClosingBracket", ")"},
+                          {"showWorkedSolution", "Vis"},
+                          {"closeHelp", "&Luk"}});
 }
 
 TEST_F(ToppForm, WorksTheSolutionOutWithTheNumbersOfTheExercise) {
     const DecimalMark danish(",");
     const FormDriver& f = openPlain();
-    EXPECT_EQ(f.caption("workedFunction"), "1Q²-5Q+6");
-    EXPECT_EQ(f.caption("workedDiscriminant"), "d = (-5)² - 4 · 1 · 6 = 1");
-    EXPECT_EQ(f.caption("workedVertexPriceNumerator"), "-1");
-    EXPECT_EQ(f.caption("workedVertexPriceDenominator"), "4·1");
-    EXPECT_EQ(f.caption("workedVertexQuantityNumerator"), "-(-5)");
-    EXPECT_EQ(f.caption("workedVertexQuantityDenominator"), "2·1");
-    EXPECT_EQ(f.caption("workedResult"), "T: (P;Q) = (-0,25 ; 2,5)");
-    nextExercise(2, 5, 6, 11);
-    EXPECT_EQ(f.caption("workedFunction"), "-2Q²-6");
-    EXPECT_EQ(f.caption("workedDiscriminant"), "d = 0² - 4 · (-2) · (-6) = -48");
-    EXPECT_EQ(f.caption("workedVertexPriceNumerator"), "-(-48)");
-    EXPECT_EQ(f.caption("workedVertexPriceDenominator"), "4·(-2)");
-    EXPECT_EQ(f.caption("workedVertexQuantityNumerator"), "-0");
-    EXPECT_EQ(f.caption("workedVertexQuantityDenominator"), "2·(-2)");
-    EXPECT_EQ(f.caption("workedResult"), "T: (P;Q) = (-6 ; 0)");
+    test::expectTexts(f, {{"workedFunction", "1Q²-5Q+6"},
+                          {"workedDiscriminant", "d = (-5)² - 4 · 1 · 6 = 1"},
+                          {"workedVertexPriceNumerator", "-1"},
+                          {"workedVertexPriceDenominator", "4·1"},
+                          {"workedVertexQuantityNumerator", "-(-5)"},
+                          {"workedVertexQuantityDenominator", "2·1"},
+                          {"workedResult", "T: (P;Q) = (-0,25 ; 2,5)"}});
+    next(2, 5, 6, 11);
+    test::expectTexts(f, {{"workedFunction", "-2Q²-6"},
+                          {"workedDiscriminant", "d = 0² - 4 · (-2) · (-6) = -48"},
+                          {"workedVertexPriceNumerator", "-(-48)"},
+                          {"workedVertexPriceDenominator", "4·(-2)"},
+                          {"workedVertexQuantityNumerator", "-0"},
+                          {"workedVertexQuantityDenominator", "2·(-2)"},
+                          {"workedResult", "T: (P;Q) = (-6 ; 0)"}});
 }
 
 TEST_F(ToppForm, OpensItsHelpCoveredAndUncoversIt) {
     const FormDriver& f = openPlain();
     f.click("help");
-    EXPECT_TRUE(f.isShown("helpPanel"));
-    EXPECT_TRUE(f.isShown("workedSolutionCover"));
+    test::expectShown(f, {"helpPanel", "workedSolutionCover"});
     EXPECT_EQ(f.focus(), "showWorkedSolution");
     f.press("showWorkedSolution", Qt::Key_Return);
     EXPECT_FALSE(f.isShown("workedSolutionCover"));
@@ -392,13 +337,10 @@ TEST_F(ToppForm, OpensItsHelpCoveredAndUncoversIt) {
 
 TEST_F(ToppForm, StaysUncoveredUntilTheNextExercise) {
     const FormDriver& f = openPlain();
-    f.click("help");
-    f.click("showWorkedSolution");
-    f.click("closeHelp");
-    f.click("help");
+    f.click("help", "showWorkedSolution", "closeHelp", "help");
     EXPECT_FALSE(f.isShown("workedSolutionCover"));
     EXPECT_EQ(f.focus(), "showWorkedSolution");
-    nextExercise(1, 6, 5, 7);
+    next(1, 6, 5, 7);
     EXPECT_TRUE(f.isShown("workedSolutionCover"));
     EXPECT_FALSE(f.isShown("helpPanel"));
 }
@@ -476,8 +418,7 @@ TEST_F(ToppForm, HasRoomForTheLongestNumbers) {
         const int c = patternCase == 3 || patternCase == 9 ? 10 : 6;
         const FormDriver& f = open(3, 10, c, patternCase);
         giveAfter("-123456.75", "-123456.75");
-        f.click("help");
-        f.click("showWorkedSolution");
+        f.click("help", "showWorkedSolution");
         EXPECT_EQ(test::flawsOf(f.page()), std::vector<std::string>{});
     }
 }
