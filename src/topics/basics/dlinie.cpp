@@ -17,14 +17,12 @@ constexpr double kFractionLeft = fromTwips(480);
 constexpr double kGap = 6;
 
 // Kept (dlinie-missing-dots): the far ends go without a dot, and the Y axis without its lowest.
-const Axes& axes() {
-    static const Axes kAxes{
-        .scale = {-kEnd, kEnd, kEnd, -kEnd},
-        .level = {-kEnd, kEnd},
-        .upright = {kEnd, -kEnd},
-        .ticks = {{.along = Along::X, .from = -kEnd, .before = kEnd, .offAxis = {0.1}},
-                  {.along = Along::Y, .from = -kEnd + 1, .before = kEnd, .offAxis = {0.07}}}};
-    return kAxes;
+Axes axesIn(const GraphScale& scale) {
+    return {.scale = scale,
+            .level = {-kEnd, kEnd},
+            .upright = {kEnd, -kEnd},
+            .ticks = {{.along = Along::X, .from = -kEnd, .before = kEnd, .offAxis = {0.1}},
+                      {.along = Along::Y, .from = -kEnd + 1, .before = kEnd, .offAxis = {0.07}}}};
 }
 
 /// A number at an axis, and where its top left corner stands.
@@ -112,6 +110,7 @@ Dlinie::Dlinie(Draws& draws) : ExerciseForm(PageName::Dlinie, draws), ui_(std::m
 Dlinie::~Dlinie() = default;
 
 void Dlinie::opened() {
+    ui_->graph->Scale(-kEnd, kEnd, kEnd, -kEnd);
     // Kept (dlinie-level-first): the first exercise alone may have a slope of 0.
     ask(ZeroSlope::Allowed);
 }
@@ -128,7 +127,7 @@ void Dlinie::ask(ZeroSlope zeroSlope) {
     showAsking();
     ui_->slope->setContent("");
     ui_->intercept->setContent("");
-    drawAxes(*ui_->graph, axes());
+    drawAxes(*ui_->graph, axesIn(ui_->graph->scale()));
     for (const auto& [name, x, y] : kAxisMarks) {
         ui_->graph->place(*design()->findChild<Label*>(name), x, y);
     }
