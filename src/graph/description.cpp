@@ -128,21 +128,21 @@ private:
                 tellLine(view, figure);
                 break;
             case Meaning::ThickLine:
-                tellThickLine(view, figure, boxAround(seen));
+                tellThickLine(view, figure, boundsOf(seen));
                 break;
             case Meaning::DottedCurve:
                 tellDottedCurve(seen, pen);
                 break;
             case Meaning::Hatching:
-                tellHatching(figure, boxAround(seen));
+                tellHatching(figure, boundsOf(seen));
                 break;
             case Meaning::Point:
                 say("Punkt i " + pointText(seen.front().p1()), pen);
                 break;
-            case Meaning::Mark:
+            case Meaning::Dash:
                 say("Mærke i " + pointText(seen.front().center()), pen);
                 break;
-            case Meaning::EndMark:
+            case Meaning::Square:
                 say("Mærke ved " + pointText(middleOf(view, figure)), pen);
                 break;
             case Meaning::Cross:

@@ -45,9 +45,9 @@ enum class Meaning {
     Hatching,
     Point,
     /// A short line across an axis.
-    Mark,
+    Dash,
     /// A square of lines side by side where a line ends.
-    EndMark,
+    Square,
     /// Two lines through one point.
     Cross,
     /// Two lines from one point.

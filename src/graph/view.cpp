@@ -62,7 +62,7 @@ QPointF View::middleOf(Strokes figure) const {
     std::vector<QLineF> lines;
     std::transform(figure.begin(), figure.end(), std::back_inserter(lines),
                    [this](const Stroke& stroke) { return whole(stroke); });
-    return boxAround(lines).center();
+    return boundsOf(lines).center();
 }
 
 QPointF View::upright(QPointF p) const { return runsDown() ? QPointF(p.x(), scale_.turned(p.y())) : p; }
@@ -72,7 +72,7 @@ bool View::areNear(QPointF p, QPointF q) const {
            std::abs(p.y() - q.y()) <= kGap * bounds_.height();
 }
 
-QRectF boxAround(const std::vector<QLineF>& lines) {
+QRectF boundsOf(const std::vector<QLineF>& lines) {
     QPointF least = lines.front().p1();
     QPointF most = least;
     for (const QLineF& line : lines) {

@@ -48,6 +48,6 @@ private:
 };
 
 /// Round all the lines. Precondition: there is one at least.
-[[nodiscard]] QRectF boxAround(const std::vector<QLineF>& lines);
+[[nodiscard]] QRectF boundsOf(const std::vector<QLineF>& lines);
 
 }  // namespace tavrune

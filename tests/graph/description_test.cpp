@@ -147,13 +147,13 @@ TEST_F(Told, TellsTheHeadOfAnArrow) {
 }
 
 TEST_F(Told, TellsAMarkByItsMiddle) {
-    draw(Meaning::Mark, {{3, -0.5, 3, 0.5}}, kRed);
+    draw(Meaning::Dash, {{3, -0.5, 3, 0.5}}, kRed);
     EXPECT_EQ(told(), "Mærke i (3; 0), rød.");
 }
 
 TEST_F(Told, TellsMarksSideBySideEachByItself) {
     for (const double x : {3.0, 3.1, 3.2}) {
-        draw(Meaning::Mark, {{x, -0.5, x, 0.5}}, kRed);
+        draw(Meaning::Dash, {{x, -0.5, x, 0.5}}, kRed);
     }
     EXPECT_EQ(told(), "Mærke i (3; 0), rød. Mærke i (3.1; 0), rød. Mærke i (3.2; 0), rød.");
 }
@@ -172,18 +172,18 @@ TEST_F(Told, TellsTheEndsOfALongLineOfWhichLittleIsSeen) {
 }
 
 TEST_F(Told, TakesAMarkDrawnTwiceForOne) {
-    draw(Meaning::Mark, {{3, -0.5, 3, 0.5}}, kRed);
-    draw(Meaning::Mark, {{3, -0.5, 3, 0.5}}, kRed);
+    draw(Meaning::Dash, {{3, -0.5, 3, 0.5}}, kRed);
+    draw(Meaning::Dash, {{3, -0.5, 3, 0.5}}, kRed);
     EXPECT_EQ(told(), "Mærke i (3; 0), rød.");
 }
 
 TEST_F(Told, TellsTheMarkOfAnEndByItsMiddle) {
-    repeat(Meaning::EndMark, 7, 0.05, [this](double t) { box.Line(2.85, 3.85 + t, 3.15, 3.85 + t, kRed); });
+    repeat(Meaning::Square, 7, 0.05, [this](double t) { box.Line(2.85, 3.85 + t, 3.15, 3.85 + t, kRed); });
     EXPECT_EQ(told(), "Mærke ved (3; 4), rød.");
 }
 
 TEST_F(Told, TellsTheMiddleOfAMarkOfWhichHalfIsSeen) {
-    repeat(Meaning::EndMark, 7, 0.05, [this](double t) { box.Line(9.85, 3.85 + t, 10.15, 3.85 + t, kRed); });
+    repeat(Meaning::Square, 7, 0.05, [this](double t) { box.Line(9.85, 3.85 + t, 10.15, 3.85 + t, kRed); });
     EXPECT_EQ(told(), "Mærke ved (10; 4), rød.");
 }
 

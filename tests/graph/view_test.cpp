@@ -47,7 +47,7 @@ TEST(View, HasTheMiddleOfAFigureOfWhichHalfIsSeen) {
 }
 
 TEST(BoxAround, HasALineWithoutHeight) {
-    EXPECT_EQ(boxAround({{1, 2, 5, 2}, {0, 2, 1, 2}}), QRectF(0, 2, 5, 0));
+    EXPECT_EQ(boundsOf({{1, 2, 5, 2}, {0, 2, 1, 2}}), QRectF(0, 2, 5, 0));
 }
 
 }  // namespace

@@ -3,9 +3,9 @@
 namespace tavrune {
 namespace {
 
-/// The left edge of a mark that ends with the box.
-constexpr double kLeftOfLastMark = 9.85;
-constexpr double kMarkSize = 2 * kHalfMark;
+/// The left edge of a square that ends with the graph.
+constexpr double kLeftOfLastSquare = 9.85;
+constexpr double kSquareSize = 2 * kHalfSquare;
 
 constexpr double kHalfThickness = 0.1;
 constexpr double kThickness = 2 * kHalfThickness;
@@ -16,6 +16,15 @@ constexpr double kLastWideTick = 19.1;
 constexpr double kWideTickStep = 0.9;
 
 }  // namespace
+
+FramedGraph FramedGraph::of(const QWidget& page, const QString& prefix) {
+    return {page.findChild<GraphBox*>(prefix + "GraphFrame"), page.findChild<GraphBox*>(prefix + "Graph")};
+}
+
+void FramedGraph::clear(void (*drawTicks)(GraphBox& frame)) const {
+    graph->Cls();
+    drawTicks(*frame);
+}
 
 void drawTickOfQ(GraphBox& frame, double x, double top, double bottom) {
     const Figure tick(frame, Meaning::TickOfX);
@@ -40,36 +49,36 @@ void drawWideFrameTicks(GraphBox& frame) {
                 [&frame](double t) { drawTickOfQ(frame, t, 9, 9.2); });
 }
 
-void drawPiece(GraphBox& box, const Piece& piece, double from, double to, const QColor& colour) {
-    box.Line(from, piece.at(from), to, piece.at(to), colour);
+void drawPiece(GraphBox& graph, const Piece& piece, double from, double to, const QColor& colour) {
+    graph.Line(from, piece.at(from), to, piece.at(to), colour);
 }
 
-void drawMarkStroke(GraphBox& box, double x, double price) {
-    box.Line({x, price, kHalfMark}, {x, price, -kHalfMark}, kRed);
+void drawSquareStroke(GraphBox& graph, double x, double price) {
+    graph.Line({x, price, kHalfSquare}, {x, price, -kHalfSquare}, kRed);
 }
 
-void drawMark(GraphBox& box, const TableCell& quantity, double price) {
-    double left = kBesideTheBox;
+void drawSquare(GraphBox& graph, const TableCell& quantity, double price) {
+    double left = kOffTheGraph;
     if (quantity.isUnbounded()) {
-        left = kLeftOfLastMark;
+        left = kLeftOfLastSquare;
     } else if (quantity.isNumeric()) {
-        left = quantity.number() - kHalfMark;
+        left = quantity.number() - kHalfSquare;
     }
-    const Figure mark(box, Meaning::EndMark);
-    stepThrough(left, left + kMarkSize, kStroke, [&](double x) { drawMarkStroke(box, x, price); });
+    const Figure square(graph, Meaning::Square);
+    stepThrough(left, left + kSquareSize, kStroke, [&](double x) { drawSquareStroke(graph, x, price); });
 }
 
-void drawThickLine(GraphBox& box, double from, double to, double price, const QColor& colour) {
-    const Figure line(box, Meaning::ThickLine);
+void drawThickLine(GraphBox& graph, double from, double to, double price, const QColor& colour) {
+    const Figure line(graph, Meaning::ThickLine);
     stepThrough(-kHalfThickness, kHalfThickness, kStroke, [&](double t) {
-        box.Line({from, price, t}, {to, price, t}, colour);
+        graph.Line({from, price, t}, {to, price, t}, colour);
     });
 }
 
-void drawBand(GraphBox& box, double from, double to, double price, const QColor& colour) {
+void drawBand(GraphBox& graph, double from, double to, double price, const QColor& colour) {
     const double base = price == 0 ? 0 : price - kHalfThickness;
-    const Figure band(box, Meaning::ThickLine);
-    stepThrough(base, base + kThickness, kStroke, [&](double y) { box.Line(from, y, to, y, colour); });
+    const Figure band(graph, Meaning::ThickLine);
+    stepThrough(base, base + kThickness, kStroke, [&](double y) { graph.Line(from, y, to, y, colour); });
 }
 
 }  // namespace tavrune

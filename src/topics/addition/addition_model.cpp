@@ -2,9 +2,15 @@
 
 #include "numeric/arithmetic.h"
 #include "numeric/judging.h"
+#include "numeric/rounding.h"
 #include "numeric/text.h"
 
 namespace tavrune {
+namespace {
+
+constexpr std::size_t kSegmentsInALine = 2;
+
+}  // namespace
 
 double TableCell::number() const {
     if (!isNumeric()) {
@@ -31,6 +37,27 @@ std::string stretchText(const TableCell& fromQ, const TableCell& fromP, const Ta
                         const TableCell& toP) {
     return "( " + fromQ.text() + " ; " + fromP.text() + " ) til ( " + toQ.text() + " ; " + toP.text() + " )";
 }
+
+std::array<std::string, 2> pathTexts(const std::vector<std::string>& stretches) {
+    std::array<std::string, 2> lines{"Her fra ", ""};
+    const std::size_t count = stretches.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string end = i + 1 == count ? "." : (i + 2 == count ? " og fra " : ", fra ");
+        lines.at(i / kSegmentsInALine) += stretches[i] + end;
+    }
+    return lines;
+}
+
+std::array<std::string, 2> pathTexts(std::span<const TableCell> quantities, std::span<const TableCell> prices,
+                                     int segmentCount) {
+    std::vector<std::string> stretches;
+    for (std::size_t row = 0; row < static_cast<std::size_t>(segmentCount); ++row) {
+        stretches.push_back(stretchText(quantities[row], prices[row], quantities[row + 1], prices[row + 1]));
+    }
+    return pathTexts(stretches);
+}
+
+Piece rounded(const Piece& piece) { return {RoundSigned2Fine(piece.slope), RoundUp2(piece.intercept)}; }
 
 bool isOnEdge(const Piece& piece) {
     return piece.slope == 0 && (piece.intercept == 0 || piece.intercept == kTopPrice);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <span>
 #include <string>
 #include <variant>
 #include <vector>
@@ -13,23 +15,24 @@ namespace tavrune {
 class TableCell {
 public:
     TableCell() = default;
-    // Numbers stand where cells are wanted throughout.
+    // Not explicit, so that tables can be written as rows of numbers.
     TableCell(double number) : content_(number) {}
 
     [[nodiscard]] static TableCell blank() { return TableCell(Blank{}); }
     [[nodiscard]] static TableCell unbounded() { return TableCell(Unbounded{}); }
 
-    /// Nothing has filled it yet: its text is empty, its number 0.
+    /// Returns whether no exercise has filled it yet.
     [[nodiscard]] bool isEmpty() const { return std::holds_alternative<std::monostate>(content_); }
     [[nodiscard]] bool isBlank() const { return std::holds_alternative<Blank>(content_); }
     [[nodiscard]] bool isUnbounded() const { return std::holds_alternative<Unbounded>(content_); }
-    /// Neither blank nor "oo".
+    /// Returns whether it is neither blank nor "oo".
     [[nodiscard]] bool isNumeric() const { return !isBlank() && !isUnbounded(); }
 
-    /// Throws ArithmeticFailure, a type mismatch, for a blank and for "oo".
+    /// Returns the number, 0 for an empty cell. Throws ArithmeticFailure, a type mismatch, for a blank and
+    /// for "oo".
     [[nodiscard]] double number() const;
 
-    /// As the student sees it: the number, " ", "oo" or nothing.
+    /// Returns what the student sees: the number, " ", "oo" or nothing.
     [[nodiscard]] std::string text() const;
 
     /// Two numbers are equal as numbers; all else is equal where it reads the same.
@@ -50,12 +53,22 @@ private:
     Content content_;
 };
 
-/// The cell through one of the rounding rules if it is a number, otherwise as it is.
+/// Returns the cell rounded by `rule` if it is a number, otherwise as it is.
 [[nodiscard]] TableCell rounded(const TableCell& cell, double (*rule)(double));
 
-/// "( 0 ; 10 ) til ( 2.5 ; 5 )": a segment of the sum by its ends, quantity before price.
+/// Returns a segment of the sum by its ends, quantity before price: "( 0 ; 10 ) til ( 2.5 ; 5 )".
 [[nodiscard]] std::string stretchText(const TableCell& fromQ, const TableCell& fromP, const TableCell& toQ,
                                       const TableCell& toP);
+
+/// Returns the path of the sum from one segment to the next, the first two in the first line and the others
+/// in the second: "Her fra ( 0 ; 9 ) til ( 3 ; 6 ) og fra ( 3 ; 6 ) til ( 9 ; 0 )." Precondition: there are
+/// four segments at most.
+[[nodiscard]] std::array<std::string, 2> pathTexts(const std::vector<std::string>& stretches);
+
+/// Returns the path of a sum whose segments run from row to row of a help table. Precondition: the columns
+/// have more rows than there are segments.
+[[nodiscard]] std::array<std::string, 2> pathTexts(std::span<const TableCell> quantities,
+                                                   std::span<const TableCell> prices, int segmentCount);
 
 /// A straight piece of a function, P = slope·Q + intercept.
 struct Piece {
@@ -63,34 +76,41 @@ struct Piece {
     double intercept = 0;
 
     [[nodiscard]] double at(double q) const { return slope * q + intercept; }
+
+    bool operator==(const Piece&) const = default;
 };
+
+/// Returns the piece as the answer has it: its slope through `RoundSigned2Fine`, its intercept through
+/// `RoundUp2`.
+[[nodiscard]] Piece rounded(const Piece& piece);
 
 /// The highest price on the graph of a given function.
 inline constexpr double kTopPrice = 10;
 
-/// A level line along an edge of the graph of a given function.
+/// Returns whether a piece is a level line along an edge of the graph of a given function.
 [[nodiscard]] bool isOnEdge(const Piece& piece);
 
 /// Which way the functions run that are added by their quantities. The sum goes from price to price the same
 /// way.
 enum class Direction { Rising, Falling };
 
-/// +1 for rising functions, -1 for falling ones: of prices times it, the sum comes to the lower one first.
+/// Returns +1 for rising functions and -1 for falling ones. The sum starts at the price that is lowest when
+/// multiplied by it.
 [[nodiscard]] constexpr int factorOf(Direction direction) { return direction == Direction::Rising ? 1 : -1; }
 
-/// The edge of the graph at which the sum ends, unless a level function ends it before.
+/// Returns the price at which the sum ends, at an edge of the graph, unless a level function ends it before.
 [[nodiscard]] constexpr double endPrice(Direction direction) {
     return direction == Direction::Rising ? kTopPrice : 0;
 }
 
-/// How a typed value is tested against its target, for the verdict and for the red mark.
+/// How a typed value is compared with its target, for the verdict and for the red mark.
 enum class Rule {
     /// target - 0.005 < typed <= target + 0.005. Kept (addition-white-lower-end): a value just at the lower
     /// end is wrong and stays white.
     Near,
     /// As `Near`, and a value just at the lower end turns red as well.
     NearAllMarked,
-    /// Both ends fit.
+    /// As `Near`, but a value just at the lower end is right.
     NearClosed,
     Exactly,
     /// Kept (addition-any-break): the verdict compares the truth of target - 0.005 < typed, as -1 or 0, with
@@ -102,8 +122,9 @@ struct Target {
     double value = 0;
     Rule rule = Rule::Near;
 
+    /// Returns whether the verdict takes the value for right.
     [[nodiscard]] bool isFit(double typed) const;
-    /// True if a wrong answer turns the field red.
+    /// Returns whether the field turns red if the answer is wrong.
     [[nodiscard]] bool isMarked(double typed) const;
 };
 
@@ -125,11 +146,11 @@ struct AnswerField {
     Target target;
 };
 
-/// Judges what is typed in the fields, in their order: solved where each is fit, right what is not marked.
-/// Precondition: one value for each field.
+/// Returns what is solved if every value is fit, and right where it is not marked. Precondition: there is a
+/// value for each field, in the order of the fields.
 [[nodiscard]] Judgement judge(const std::vector<AnswerField>& fields, const std::vector<double>& typed);
 
-/// The row in which a segment, counted from 0, is typed.
+/// Returns the row in which a segment, counted from 0, is typed.
 [[nodiscard]] constexpr int rowOf(int segment, int segmentCount) {
     return segmentCount == 1 ? kLoneRow : segment;
 }

@@ -42,7 +42,7 @@ AnswerRows::Row rowOf(const QWidget& page, const QString& name) {
     if (row.start != nullptr) {
         row.startSign = startSign;
     } else if (startSign != nullptr) {
-        // After the 0 of the first row.
+        // It stands after the 0 of the first row, which has no box.
         row.captions.push_back(startSign);
     }
     row.endSign = find(page, name + "EndLessOrEqual");
@@ -154,34 +154,59 @@ void AnswerRows::write(int row, Slot slot, const TableCell& content) const {
     box(row, slot)->setContent(content.text());
 }
 
+void AnswerRows::write(int row, const Piece& segment) const {
+    write(row, Slot::Slope, segment.slope);
+    write(row, Slot::Intercept, segment.intercept);
+}
+
+void AnswerRows::write(const std::vector<AnswerField>& fields) const {
+    for (const AnswerField& field : fields) {
+        write(field.row, field.slot, field.target.value);
+    }
+}
+
 QString wholeFunction(const std::string& slope, const std::string& intercept, const std::string& where) {
     const bool isNegative = intercept.front() == '-';
     return fromUtf8("P = " + slope + "Q " + (isNegative ? "- " + intercept.substr(1) : "+ " + intercept) +
                     " for " + where);
 }
 
-GivenFunction GivenFunction::of(const QWidget& page, const QString& prefix) {
+FunctionLabels FunctionLabels::of(const QWidget& page, const QString& prefix) {
     return {page.findChild<Label*>(prefix + "Text"), page.findChild<Label*>(prefix + "Slope"),
             page.findChild<Label*>(prefix + "Intercept")};
 }
 
-void GivenFunction::fill(const std::string& slopeText, const std::string& interceptText) const {
+void FunctionLabels::fill(const std::string& slopeText, const std::string& interceptText) const {
     slope->setCaption(slopeText);
     intercept->setCaption(interceptText);
 }
 
-void GivenFunction::tell(const std::string& slopeText, const std::string& interceptText,
-                         const std::string& where) const {
+void FunctionLabels::tell(const std::string& slopeText, const std::string& interceptText,
+                          const std::string& where) const {
     fill(slopeText, interceptText);
     text->setAccessibleName(wholeFunction(slopeText, interceptText, where));
 }
 
-FramedGraph FramedGraph::of(const QWidget& page, const QString& prefix) {
-    return {page.findChild<GraphBox*>(prefix + "GraphFrame"), page.findChild<GraphBox*>(prefix + "Graph")};
+HelpTable helpTableOf(const QWidget& page, const std::vector<QString>& names) {
+    HelpTable table;
+    for (const QString& name : names) {
+        table.push_back(helpColumnOf(page, name));
+    }
+    return table;
 }
 
-void blankColumn(const HelpColumn& column) {
-    for (AnswerBox* box : column) {
+std::vector<AnswerBox*> rowByRow(const HelpTable& table) {
+    std::vector<AnswerBox*> boxes;
+    for (std::size_t row = 0; row < table.front().size(); ++row) {
+        for (const HelpColumn& column : table) {
+            boxes.push_back(column[row]);
+        }
+    }
+    return boxes;
+}
+
+void blank(const HelpTable& table) {
+    for (AnswerBox* box : rowByRow(table)) {
         box->setContent(kBlankText);
     }
 }

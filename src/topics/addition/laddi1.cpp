@@ -1,10 +1,19 @@
 #include "topics/addition/laddi1.h"
 
-#include "controls/panel.h"
 #include "topics/addition/ui_laddi1.h"
 #include "topics/addition/vertical_graphs.h"
 
 namespace tavrune {
+namespace {
+
+void drawEndSquares(GraphBox& graph, const Piece& function) {
+    drawLevelSquare(graph, 0, function.intercept);
+    if (function.slope < 0) {
+        drawLevelSquare(graph, zeroOf(function), 0);
+    }
+}
+
+}  // namespace
 
 Laddi1::Laddi1(Draws& draws) : VerticalForm(PageName::Laddi1, draws), ui_(std::make_unique<Ui::Laddi1>()) {
     setUp(*ui_);
@@ -28,11 +37,11 @@ void Laddi1::newExercise() {
 }
 
 void Laddi1::showTask() {
-    ui_->function1Formula->setCaption(functionText(state_.function1()));
-    ui_->function2Formula->setCaption(functionText(state_.function2()));
+    ui_->function1Formula->setCaption(functionText(state_.function1));
+    ui_->function2Formula->setCaption(functionText(state_.function2));
     clearGraphs();
-    drawPiece(*ui_->function1Graph, state_.function1(), 0, kLastGivenQ);
-    drawPiece(*ui_->function2Graph, state_.function2(), 0, kLastGivenQ);
+    drawPiece(*ui_->function1Graph, state_.function1, 0, kFunctionEndQ);
+    drawPiece(*ui_->function2Graph, state_.function2, 0, kFunctionEndQ);
 }
 
 void Laddi1::showRows() {
@@ -44,9 +53,9 @@ void Laddi1::showRows() {
 
 void Laddi1::showIntervals() {
     focusOn(ui_->showFunctions);
-    markEnds(*ui_->function1Graph, state_.function1());
-    markEnds(*ui_->function2Graph, state_.function2());
-    // With one segment too, at Q = 0.
+    drawEndSquares(*ui_->function1Graph, state_.function1);
+    drawEndSquares(*ui_->function2Graph, state_.function2);
+    // With one segment the kink stands at Q = 0, and has a line too.
     std::vector<double> ends{state_.kinkQuantity};
     if (state_.upperEndAsked) {
         ends.push_back(state_.upperEnd);
@@ -55,13 +64,6 @@ void Laddi1::showIntervals() {
     drawUprights(*ui_->function2Graph, ends);
     roundKink(state_);
     ui_->intervalsResult->setCaption(intervalsText(state_));
-}
-
-void Laddi1::markEnds(GraphBox& box, const Piece& function) {
-    drawLevelMark(box, 0, function.intercept);
-    if (function.slope < 0) {
-        drawLevelMark(box, zeroOf(function), 0);
-    }
 }
 
 void Laddi1::showSum() {

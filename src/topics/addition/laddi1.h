@@ -32,7 +32,6 @@ protected:
 private:
     void showTask();
     void showRows();
-    static void markEnds(GraphBox& box, const Piece& function);
     void showIntervals();
     void showSum();
 

@@ -20,38 +20,33 @@ double endOf(const Piece& function) {
 void drawFunctions(Laddi1State& s, Draws& draws) {
     do {
         draws.Randomize();
-        s.slope1 = drawSlope(draws, draws.Rnd() < kFallingShare);
-        s.intercept1 = Int(draws.Rnd() * 5);
-    } while (isOnEdge(s.function1()));
-    // Kept (laddi1-axis): function 2 is taken as it comes, the axis P = 0 too.
-    s.slope2 = drawSlope(draws, draws.Rnd() < kFallingShare);
-    s.intercept2 = Int(draws.Rnd() * 5);
+        s.function1 = drawPieceFromAxis(draws, kFallingShare);
+    } while (isOnEdge(s.function1));
+    // Kept (laddi1-axis): function 2 may be the axis P = 0.
+    s.function2 = drawPieceFromAxis(draws, kFallingShare);
 }
 
 void goOnWith(Laddi1State& s, const Piece& function, double kink) {
     s.segmentCount = 2;
-    s.secondSlope = function.slope;
-    s.secondIntercept = function.intercept;
+    s.secondSegment = function;
     s.kinkQuantity = kink;
 }
 
 void solve(Laddi1State& s) {
-    const Piece sum = addedUp(s.function1(), s.function2());
-    s.firstSlope = sum.slope;
-    s.firstIntercept = sum.intercept;
-    const double end1 = endOf(s.function1());
-    const double end2 = endOf(s.function2());
+    s.firstSegment = addedUp(s.function1, s.function2);
+    const double end1 = endOf(s.function1);
+    const double end2 = endOf(s.function2);
     if (end1 < end2) {
-        goOnWith(s, s.function2(), end1);
+        goOnWith(s, s.function2, end1);
     } else if (end2 < end1) {
-        goOnWith(s, s.function1(), end2);
+        goOnWith(s, s.function1, end2);
     } else {
         s.segmentCount = 1;
         s.kinkQuantity = 0;
     }
-    s.upperEndAsked = s.slope1 < 0 && s.slope2 < 0;
+    s.upperEndAsked = s.function1.slope < 0 && s.function2.slope < 0;
     if (s.upperEndAsked) {
-        s.upperEnd = std::max(zeroOf(s.function1()), zeroOf(s.function2()));
+        s.upperEnd = std::max(zeroOf(s.function1), zeroOf(s.function2));
     }
 }
 
@@ -63,9 +58,9 @@ void newExercise(Laddi1State& s, Draws& draws) {
 }
 
 VerticalSum sumOf(const Laddi1State& s) {
-    VerticalSum sum{{s.firstSegment()}, {}, s.upperEndAsked, s.upperEnd};
+    VerticalSum sum{{s.firstSegment}, {}, s.upperEndAsked, s.upperEnd};
     if (s.segmentCount == 2) {
-        sum.segments.push_back(s.secondSegment());
+        sum.segments.push_back(s.secondSegment);
         sum.breaks.push_back(s.kinkQuantity);
     }
     return sum;
@@ -88,11 +83,11 @@ std::string intervalsText(const Laddi1State& s) {
 }
 
 std::string firstSegmentText(const Laddi1State& s) {
-    return "P= " + workedSumText(s.function1(), s.function2()) + " for " + rangeText(sumOf(s), 0, kQuantity);
+    return "P= " + workedSumText(s.function1, s.function2) + " for " + rangeText(sumOf(s), 0, kQuantity);
 }
 
 std::string secondSegmentText(const Laddi1State& s) {
-    return functionText(s.secondSegment()) + " for " + rangeText(sumOf(s), 1, kQuantity);
+    return functionText(s.secondSegment) + " for " + rangeText(sumOf(s), 1, kQuantity);
 }
 
 }  // namespace tavrune

@@ -1,6 +1,5 @@
 #include "topics/addition/laddi2.h"
 
-#include "controls/panel.h"
 #include "numeric/text.h"
 #include "topics/addition/ui_laddi2.h"
 #include "topics/addition/vertical_graphs.h"
@@ -8,18 +7,18 @@
 namespace tavrune {
 namespace {
 
-void drawFunction(GraphBox& box, const KinkedFunction& f) {
-    const Figure line(box, Meaning::Line);
-    drawPiece(box, f.before, 0, f.kink);
-    drawPiece(box, f.after, f.kink, kLastGivenQ);
+void drawFunction(GraphBox& graph, const KinkedFunction& f) {
+    const Figure line(graph, Meaning::Line);
+    drawPiece(graph, f.before, 0, f.kink);
+    drawPiece(graph, f.after, f.kink, kFunctionEndQ);
 }
 
-void markEnds(GraphBox& box, const KinkedFunction& f) {
-    drawLevelMark(box, 0, f.before.at(0));
-    drawLevelMark(box, f.kink, f.before.at(f.kink));
-    drawLevelMark(box, f.kink, f.after.at(f.kink));
+void drawEndSquares(GraphBox& graph, const KinkedFunction& f) {
+    drawLevelSquare(graph, 0, f.before.at(0));
+    drawLevelSquare(graph, f.kink, f.before.at(f.kink));
+    drawLevelSquare(graph, f.kink, f.after.at(f.kink));
     if (f.after.slope < 0) {
-        drawLevelMark(box, f.zero(), 0);
+        drawLevelSquare(graph, f.zero(), 0);
     }
 }
 
@@ -60,12 +59,12 @@ void Laddi2::showTask() {
 void Laddi2::tellFunction(const QString& name, const KinkedFunction& function) {
     const std::string kink = NumberText(function.kink);
     const auto tellPart = [&](const QString& part, const Piece& piece, const std::string& where) {
-        const auto given = GivenFunction::of(*design(), part);
+        const auto labels = FunctionLabels::of(*design(), part);
         const std::string slope = NumberText(piece.slope);
-        given.tell(slope, NumberText(piece.intercept), where);
-        // The text has the sign.
-        given.fill(slope, sizeText(piece.intercept));
-        return given;
+        labels.tell(slope, NumberText(piece.intercept), where);
+        // The sign of the intercept stands in the text.
+        labels.fill(slope, sizeText(piece.intercept));
+        return labels;
     };
     tellPart(name + "Part1", function.before, "0 ≤ Q ≤ " + kink);
     tellPart(name + "Part2", function.after, kink + " < Q, P > 0")
@@ -74,8 +73,7 @@ void Laddi2::tellFunction(const QString& name, const KinkedFunction& function) {
     design()->findChild<Label*>(name + "Part2Start")->setCaption(kink);
 }
 
-/// A row is shown if it holds a segment; its end if the segment gives way to another, or its end is asked
-/// for.
+/// A row is shown if it has a segment; its end if another segment follows, or if the upper end is asked for.
 void Laddi2::showRows() {
     const int first = state_.sum.rowOfSegment(0);
     const int last = state_.sum.rowOfSegment(state_.sum.last());
@@ -86,9 +84,9 @@ void Laddi2::showRows() {
 
 void Laddi2::showIntervals() {
     focusOn(ui_->showFunctions);
-    markEnds(*ui_->function1Graph, state_.function1);
-    markEnds(*ui_->function2Graph, state_.function2);
-    // The one at which a function never ends falls beside the box.
+    drawEndSquares(*ui_->function1Graph, state_.function1);
+    drawEndSquares(*ui_->function2Graph, state_.function2);
+    // `kNeverEnds` lies beyond the graph, and is not seen.
     std::vector<double> ends = state_.breakPoints;
     if (state_.sum.upperEndAsked) {
         ends.push_back(state_.sum.upperEnd);

@@ -32,7 +32,7 @@ protected:
 
 private:
     void showTask();
-    /// The two parts of a given function, whose controls begin with `name`.
+    /// Shows the two parts of a given function. The names of its controls begin with `name`.
     void tellFunction(const QString& name, const KinkedFunction& function);
     void showRows();
     void showIntervals();

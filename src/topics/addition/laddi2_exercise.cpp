@@ -17,13 +17,7 @@ constexpr std::size_t kIntervalsInFirstLine = 2;
 
 double drawKink(Draws& draws) { return Int(draws.Rnd() * 5) + 3; }
 
-Piece drawBefore(Draws& draws) {
-    const double slope = drawSlope(draws, draws.Rnd() < kFallingShareBefore);
-    const double intercept = Int(draws.Rnd() * 5);
-    return {slope, intercept};
-}
-
-/// A level one stands at a price of 1..9, never on an edge: there is nothing to reject.
+/// A level piece stands at a price of 1..9, never on an edge, so that none is rejected.
 Piece drawAfter(double kink, Draws& draws) {
     const bool isFalling = draws.Rnd() < kFallingShareAfter;
     const double slope = drawSlope(draws, isFalling);
@@ -38,20 +32,21 @@ void drawFunctions(KinkedFunction& function1, KinkedFunction& function2, Draws& 
     function1.kink = drawKink(draws);
     function2.kink = drawKink(draws);
     do {
-        function1.before = drawBefore(draws);
+        function1.before = drawPieceFromAxis(draws, kFallingShareBefore);
     } while (endsBeforeItsKink(function1) || isOnEdge(function1.before));
-    // Kept (laddi2-drawn-back): where function 2 ends before its kink the second piece of function 1 is drawn
-    // again with it, where it is the axis it alone is.
+    // Kept (laddi2-drawn-back): if function 2 ends before its kink, the second piece of function 1 is drawn
+    // again too; if function 2 lies on an edge, it alone is drawn again.
     do {
         function1.after = drawAfter(function1.kink, draws);
         do {
-            function2.before = drawBefore(draws);
+            function2.before = drawPieceFromAxis(draws, kFallingShareBefore);
         } while (isOnEdge(function2.before));
     } while (endsBeforeItsKink(function2));
     function2.after = drawAfter(function2.kink, draws);
 }
 
-/// The piece of a function that holds in a segment up to the break point `end`; none beyond its zero.
+/// Returns the piece of a function that is added in the segment up to the break point `end`; nothing beyond
+/// the zero of the function.
 std::optional<Piece> pieceUpTo(double end, const KinkedFunction& f) {
     if (end <= f.kink) {
         return f.before;
@@ -59,7 +54,7 @@ std::optional<Piece> pieceUpTo(double end, const KinkedFunction& f) {
     return end <= f.zero() ? std::optional(f.after) : std::nullopt;
 }
 
-/// What a segment is made of: both functions, or the one that is left.
+/// The pieces that make a segment: one of each function, or of the one that is left.
 struct Addends {
     Piece one;
     std::optional<Piece> other;

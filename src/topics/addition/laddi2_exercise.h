@@ -20,7 +20,7 @@ struct KinkedFunction {
     /// Slope -4..4; at the kink its price is 5..9 if it falls, 1..5 if it rises.
     Piece after;
 
-    /// Where the second piece comes down to P = 0, beyond the kink; `kNeverEnds` where it does not fall.
+    /// Returns where the second piece comes down to P = 0, beyond the kink; `kNeverEnds` if it does not fall.
     [[nodiscard]] double zero() const { return after.slope < 0 ? zeroOf(after) : kNeverEnds; }
 };
 
@@ -29,12 +29,11 @@ struct Laddi2State {
     KinkedFunction function1;
     KinkedFunction function2;
 
-    /// Where a piece of either function ends, in order and each place once, `kNeverEnds` too: two of them to
-    /// four.
+    /// The quantities at which a piece of either function ends, rising, each once; `kNeverEnds` is one of
+    /// them if a function never ends. There are two to four.
     std::vector<double> breakPoints;
-    /// A segment up to each break point; the last goes on for good where one function does. The upper end is
-    /// rounded. Kept (addition-unseen-end): it is written with the answer of every later exercise, unseen
-    /// where there is none.
+    /// Has a segment up to each break point. The upper end is rounded. Kept (addition-unseen-end): it is
+    /// written with the answer of every later exercise, unseen where there is none.
     VerticalSum sum;
 };
 
@@ -44,17 +43,18 @@ void newExercise(Laddi2State& state, Draws& draws);
 /// Judges what is typed in the `answerFields` of the sum.
 [[nodiscard]] Judgement judge(const Laddi2State& state, const std::vector<double>& typed);
 
-/// The line that a second piece's numbers stand in, with their gaps: "P=    Q -       for    <Q, P>0"
+/// Returns the text of a second piece with gaps for its numbers: "P=    Q -       for    <Q, P>0".
 [[nodiscard]] std::string secondPieceText(const Piece& piece);
 
-/// "Definitonsintervallerne bliver:"
+/// Returns "Definitonsintervallerne bliver:", or its singular.
 [[nodiscard]] std::string intervalsHeading(const VerticalSum& sum);
 
-/// The intervals of the segments, two in the first line and the others in the second:
+/// Returns the intervals of the segments, two in the first line and the others in the second:
 /// "0<X<3, 3<X<4.25, " and "4.25<X<5 og 5<X"
 [[nodiscard]] std::array<std::string, 2> intervalsTexts(const VerticalSum& sum);
 
-/// "P = (-1 + 4)Q + (8 - 15) = 3Q + -7 for 3<X<5", or of one function alone "P = 4Q - 15 for 5<X"
+/// Returns "P = (-1 + 4)Q + (8 - 15) = 3Q + -7 for 3<X<5", or "P = 4Q - 15 for 5<X" where only one function
+/// is left.
 [[nodiscard]] std::string segmentText(const Laddi2State& state, std::size_t segment);
 
 }  // namespace tavrune

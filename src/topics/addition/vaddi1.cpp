@@ -1,8 +1,6 @@
 #include "topics/addition/vaddi1.h"
 
-#include "controls/panel.h"
 #include "numeric/text.h"
-#include "topics/addition/addition_graphs.h"
 #include "topics/addition/ui_vaddi1.h"
 
 namespace tavrune {
@@ -10,18 +8,10 @@ namespace tavrune {
 Vaddi1::Vaddi1(Draws& draws) : ExerciseForm(PageName::Vaddi1, draws), ui_(std::make_unique<Ui::Vaddi1>()) {
     setUp(*ui_);
     rows_ = AnswerRows::of(*design());
-    for (const char* name : {"price", "function1Quantity", "function2Quantity", "totalQuantity"}) {
-        table_.push_back(helpColumnOf(*design(), name));
-    }
+    table_ = helpTableOf(*design(), {"price", "function1Quantity", "function2Quantity", "totalQuantity"});
     ui_->tableHead->standOver(
         {ui_->price1, ui_->function1Quantity1, ui_->function2Quantity1, ui_->totalQuantity1});
-    std::vector<AnswerBox*> boxes;
-    for (std::size_t row = 0; row < table_.front().size(); ++row) {
-        for (const HelpColumn& column : table_) {
-            boxes.push_back(column[row]);
-        }
-    }
-    enterChain(boxes, {ui_->segment1Slope, ui_->segment2Slope});
+    enterChain(rowByRow(table_), {ui_->segment1Slope, ui_->segment2Slope});
     enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
     onClick(ui_->showPrices, &Vaddi1::showPrices);
     onClick(ui_->showQuantities, &Vaddi1::showQuantities);
@@ -56,26 +46,21 @@ void Vaddi1::showRows() {
 
 void Vaddi1::showTask() {
     rows_.blank();
-    for (const HelpColumn& column : table_) {
-        blankColumn(column);
-    }
+    blank(table_);
     showAsking();
     for (const auto& [name, function] :
-         {std::pair{"function1", state_.function1()}, {"function2", state_.function2()}}) {
-        GivenFunction::of(*design(), name)
+         {std::pair{"function1", state_.function1}, {"function2", state_.function2}}) {
+        FunctionLabels::of(*design(), name)
             .tell(NumberText(function.slope), NumberText(function.intercept), "Q ≥ 0, P ≥ 0");
     }
 }
 
 void Vaddi1::drawGraphs() {
-    for (GraphBox* box : {ui_->function2Graph, ui_->function1Graph, ui_->resultGraph}) {
-        box->Cls();
-    }
-    drawFrameTicks(*ui_->function1GraphFrame);
-    drawFrameTicks(*ui_->function2GraphFrame);
-    drawWideFrameTicks(*ui_->resultGraphFrame);
-    drawPiece(*ui_->function1Graph, state_.function1(), 0, kLastGivenQ);
-    drawPiece(*ui_->function2Graph, state_.function2(), 0, kLastGivenQ);
+    FramedGraph::of(*design(), "function1").clear(drawFrameTicks);
+    FramedGraph::of(*design(), "function2").clear(drawFrameTicks);
+    FramedGraph::of(*design(), "result").clear(drawWideFrameTicks);
+    drawPiece(*ui_->function1Graph, state_.function1, 0, kFunctionEndQ);
+    drawPiece(*ui_->function2Graph, state_.function2, 0, kFunctionEndQ);
 }
 
 void Vaddi1::judge() {
@@ -88,14 +73,12 @@ void Vaddi1::judge() {
 }
 
 void Vaddi1::drawSum() {
-    GraphBox& box = *ui_->resultGraph;
-    const Figure line(box, Meaning::Line);
+    GraphBox& graph = *ui_->resultGraph;
+    const Figure line(graph, Meaning::Line);
     if (state_.segmentCount == 2) {
-        drawPiece(box, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
-        drawPiece(box, state_.secondSegment(), state_.kinkQuantity, kLastSumQ, kSumGreen);
-    } else {
-        drawPiece(box, state_.secondSegment(), 0, kLastSumQ, kSumGreen);
+        drawPiece(graph, state_.firstSegment, 0, state_.kinkQuantity, kSumGreen);
     }
+    drawPiece(graph, state_.secondSegment, state_.kinkQuantity, kSumEndQ, kSumGreen);
 }
 
 void Vaddi1::giveAnswer() {
@@ -106,8 +89,6 @@ void Vaddi1::giveAnswer() {
     showGiven();
 }
 
-void Vaddi1::fillPrices() { writeColumn(table_.front(), state_.tableP); }
-
 void Vaddi1::fillTable() {
     auto column = table_.begin();
     for (const auto* cells : {&state_.tableP, &state_.tableQ1, &state_.tableQ2, &state_.tableQtotal}) {
@@ -116,49 +97,45 @@ void Vaddi1::fillTable() {
 }
 
 void Vaddi1::drawTypedSum() {
-    GraphBox& box = *ui_->resultGraph;
-    const Figure line(box, Meaning::Line);
+    GraphBox& graph = *ui_->resultGraph;
+    const Figure line(graph, Meaning::Line);
     // Kept (vaddi1-hidden-row): with one segment too, from what stands in the hidden row.
-    drawPiece(box, rows_.typedSegment(kFirstRow), 0, rows_.typed(kFirstRow, Slot::End), kRed);
-    const double end = state_.upperEndAsked ? rows_.typed(kSecondRow, Slot::End) : kLastSumQ;
-    drawPiece(box, rows_.typedSegment(kSecondRow), rows_.typed(kSecondRow, Slot::Start), end, kRed);
+    drawPiece(graph, rows_.typedSegment(kFirstRow), 0, rows_.typed(kFirstRow, Slot::End), kRed);
+    const double end = state_.upperEndAsked ? rows_.typed(kSecondRow, Slot::End) : kSumEndQ;
+    drawPiece(graph, rows_.typedSegment(kSecondRow), rows_.typed(kSecondRow, Slot::Start), end, kRed);
 }
 
 void Vaddi1::fillAnswer() {
-    const auto write = [this](int row, const Piece& segment) {
-        rows_.write(row, Slot::Slope, segment.slope);
-        rows_.write(row, Slot::Intercept, segment.intercept);
-    };
-    write(kSecondRow, state_.secondSegment());
+    rows_.write(kSecondRow, state_.secondSegment);
     rows_.write(kSecondRow, Slot::Start, state_.kinkQuantity);
-    write(kFirstRow, state_.firstSegment());
+    rows_.write(kFirstRow, state_.firstSegment);
     rows_.write(kFirstRow, Slot::End, state_.kinkQuantity);
     rows_.write(kSecondRow, Slot::End, state_.upperEnd);
     rows_.whiten();
     const Figure line(*ui_->resultGraph, Meaning::Line);
     // Kept (vaddi1-lone-dot): always as two segments, of which the first collapses to a dot with one.
-    drawPiece(*ui_->resultGraph, state_.firstSegment(), 0, state_.kinkQuantity, kSumGreen);
-    drawPiece(*ui_->resultGraph, state_.secondSegment(), state_.kinkQuantity, kLastSumQ, kSumGreen);
+    drawPiece(*ui_->resultGraph, state_.firstSegment, 0, state_.kinkQuantity, kSumGreen);
+    drawPiece(*ui_->resultGraph, state_.secondSegment, state_.kinkQuantity, kSumEndQ, kSumGreen);
 }
 
 void Vaddi1::help() { openPanel(ui_->helpPanel, ui_->showPrices); }
 
 void Vaddi1::showPrices() {
-    fillPrices();
-    markEnds(*ui_->function1Graph, state_.tableQ1);
-    markEnds(*ui_->function2Graph, state_.tableQ2);
+    writeColumn(table_.front(), state_.tableP);
+    drawEndSquares(*ui_->function1Graph, state_.tableQ1);
+    drawEndSquares(*ui_->function2Graph, state_.tableQ2);
     focusOn(ui_->showQuantities);
 }
 
-void Vaddi1::markEnds(GraphBox& box, const Vaddi1State::Column& quantities) {
+void Vaddi1::drawEndSquares(GraphBox& graph, const Vaddi1State::Column& quantities) {
     const auto& [startPrice, middlePrice, lastPrice] = state_.tableP;
     const auto& [start, middle, last] = quantities;
-    drawMark(box, start, startPrice.number());
+    drawSquare(graph, start, startPrice.number());
     if (start.isBlank() || last.isBlank()) {
-        drawMark(box, middle, middlePrice.number());
+        drawSquare(graph, middle, middlePrice.number());
     }
     if (middlePrice != lastPrice || middle != last) {
-        drawMark(box, last, lastPrice.isBlank() ? kBesideTheBox : lastPrice.number());
+        drawSquare(graph, last, lastPrice.isBlank() ? kOffTheGraph : lastPrice.number());
     }
 }
 
@@ -192,18 +169,18 @@ void Vaddi1::showSum() {
 }
 
 void Vaddi1::drawStack(std::size_t row) {
-    GraphBox& box = *ui_->resultGraph;
+    GraphBox& graph = *ui_->resultGraph;
     const double price = state_.tableP[row].number();
     const TableCell& first = state_.tableQ1[row];
     const TableCell& second = state_.tableQ2[row];
     if (first.isNumeric()) {
-        drawBand(box, 0, first.number(), price, kBlue);
+        drawBand(graph, 0, first.number(), price, kBlue);
         if (second.isNumeric()) {
-            drawBand(box, first.number(), first.number() + second.number(), price, kBandGreen);
+            drawBand(graph, first.number(), first.number() + second.number(), price, kBandGreen);
         }
     } else if (state_.tableQ2[Vaddi1State::kLastRow].isNumeric()) {
         // Kept (vaddi1-cell-below): the middle row asks for the cell below its own.
-        drawBand(box, 0, second.number(), price, kBandGreen);
+        drawBand(graph, 0, second.number(), price, kBandGreen);
     }
 }
 

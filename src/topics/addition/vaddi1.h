@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "graph/graph_box.h"
 #include "shell/exercise_form.h"
+#include "topics/addition/addition_graphs.h"
 #include "topics/addition/answer_rows.h"
 #include "topics/addition/vaddi1_exercise.h"
 
@@ -37,11 +37,9 @@ private:
     void drawGraphs();
     void drawTypedSum();
     void drawSum();
-    /// The first column of the help table; all of it.
-    void fillPrices();
     void fillTable();
     void fillAnswer();
-    void markEnds(GraphBox& box, const Vaddi1State::Column& quantities);
+    void drawEndSquares(GraphBox& graph, const Vaddi1State::Column& quantities);
     void drawStack(std::size_t row);
     void showPrices();
     void showQuantities();
@@ -49,8 +47,7 @@ private:
 
     std::unique_ptr<Ui::Vaddi1> ui_;
     AnswerRows rows_;
-    /// The columns of the help table, from the left.
-    std::vector<HelpColumn> table_;
+    HelpTable table_;
     Vaddi1State state_;
 };
 

@@ -13,8 +13,8 @@ const TableCell kUnbounded = TableCell::unbounded();
 
 /// The level function 1 is the whole sum.
 void solveLevelFirst(Vaddi1State& s) {
-    const TableCell beside = s.intercept1 == s.intercept2 ? 0.0 : kBlank;
-    s.tableP = {s.intercept1, s.intercept1, kBlank};
+    const TableCell beside = s.function1.intercept == s.function2.intercept ? 0.0 : kBlank;
+    s.tableP = {s.function1.intercept, s.function1.intercept, kBlank};
     s.tableQ1 = {0.0, kUnbounded, kBlank};
     s.tableQ2 = {beside, beside, kBlank};
     s.tableQtotal = {0.0, kUnbounded, kUnbounded};
@@ -23,7 +23,7 @@ void solveLevelFirst(Vaddi1State& s) {
 /// Function 2 down, or up, to the level function 1.
 void solveSecondThenLevel(Vaddi1State& s) {
     const double k = s.kinkQuantity;
-    s.tableP = {s.intercept2, s.intercept1, s.intercept1};
+    s.tableP = {s.function2.intercept, s.function1.intercept, s.function1.intercept};
     s.tableQ1 = {kBlank, 0.0, kUnbounded};
     s.tableQ2 = {0.0, k, k};
     s.tableQtotal = {0.0, k, kUnbounded};
@@ -31,8 +31,8 @@ void solveSecondThenLevel(Vaddi1State& s) {
 
 /// The level function 2 is the whole sum. Not the mirror image of the level function 1.
 void solveLevelSecond(Vaddi1State& s) {
-    const TableCell beside = s.intercept1 == s.intercept2 ? 0.0 : kBlank;
-    s.tableP = {s.intercept2, s.intercept2, kBlank};
+    const TableCell beside = s.function1.intercept == s.function2.intercept ? 0.0 : kBlank;
+    s.tableP = {s.function2.intercept, s.function2.intercept, kBlank};
     s.tableQ1 = {beside, beside, kBlank};
     s.tableQ2 = {0.0, kUnbounded, kBlank};
     // Kept (vaddi1-stale-total): the second cell is the third one of the exercise before.
@@ -42,26 +42,24 @@ void solveLevelSecond(Vaddi1State& s) {
 /// Function 1 down, or up, to the level function 2. Not the mirror image either.
 void solveFirstThenLevel(Vaddi1State& s) {
     const double k = s.kinkQuantity;
-    s.tableP = {s.intercept1, s.intercept2, s.intercept2};
+    s.tableP = {s.function1.intercept, s.function2.intercept, s.function2.intercept};
     s.tableQ1 = {0.0, k, k};
     s.tableQ2 = {kBlank, 0.0, kUnbounded};
     s.tableQtotal = {0.0, k, kBlank};
 }
 
 void solveLevel(Vaddi1State& s) {
-    const bool isFirstLevel = s.slope1 == 0;
-    const Piece level = isFirstLevel ? s.function1() : s.function2();
-    const Piece other = isFirstLevel ? s.function2() : s.function1();
-    s.secondSlope = 0;
-    s.secondIntercept = level.intercept;
+    const bool isFirstLevel = s.function1.slope == 0;
+    const Piece level = isFirstLevel ? s.function1 : s.function2;
+    const Piece other = isFirstLevel ? s.function2 : s.function1;
+    s.secondSegment = {0, level.intercept};
     if (isOneSegment(s)) {
         s.kinkQuantity = 0;
         s.segmentCount = 1;
         isFirstLevel ? solveLevelFirst(s) : solveLevelSecond(s);
         return;
     }
-    s.firstSlope = other.slope;
-    s.firstIntercept = other.intercept;
+    s.firstSegment = other;
     s.kinkQuantity = RoundUp2((level.intercept - other.intercept) / other.slope);
     s.segmentCount = 2;
     isFirstLevel ? solveSecondThenLevel(s) : solveFirstThenLevel(s);
@@ -69,28 +67,27 @@ void solveLevel(Vaddi1State& s) {
 
 void solveSloping(Vaddi1State& s) {
     const int factor = factorOf(s.direction);
-    const bool isFirstOuter = factor * s.intercept1 < factor * s.intercept2;
-    const Piece outer = isFirstOuter ? s.function1() : s.function2();
-    const double inner = isFirstOuter ? s.intercept2 : s.intercept1;
+    const bool isFirstOuter = factor * s.function1.intercept < factor * s.function2.intercept;
+    const Piece outer = isFirstOuter ? s.function1 : s.function2;
+    const double inner = isFirstOuter ? s.function2.intercept : s.function1.intercept;
     const double kink = RoundUp2((inner - outer.intercept) / outer.slope);
     s.kinkQuantity = kink;
-    s.firstSlope = outer.slope;
-    s.firstIntercept = outer.intercept;
+    s.firstSegment = outer;
 
     const auto quantity = [](double price, const Piece& f) { return (price - f.intercept) / f.slope; };
-    const double atKink1 = quantity(inner, s.function1());
-    const double atKink2 = quantity(inner, s.function2());
+    const double atKink1 = quantity(inner, s.function1);
+    const double atKink2 = quantity(inner, s.function2);
     const double end = endPrice(s.direction);
-    const double atEnd1 = quantity(end, s.function1());
-    const double atEnd2 = quantity(end, s.function2());
+    const double atEnd1 = quantity(end, s.function1);
+    const double atEnd2 = quantity(end, s.function2);
     const double sum = atEnd1 + atEnd2;
     // The line goes through the rounded kink.
     if (s.direction == Direction::Rising) {
-        s.secondSlope = divide(kTopPrice - inner, sum - kink);
-        s.secondIntercept = kTopPrice - s.secondSlope * sum;
+        const double slope = divide(kTopPrice - inner, sum - kink);
+        s.secondSegment = {slope, kTopPrice - slope * sum};
     } else {
-        s.secondSlope = divide(inner, kink - sum);
-        s.secondIntercept = -(s.secondSlope * sum);
+        const double slope = divide(inner, kink - sum);
+        s.secondSegment = {slope, -(slope * sum)};
     }
 
     s.segmentCount = 2;
@@ -98,7 +95,7 @@ void solveSloping(Vaddi1State& s) {
     s.tableQ1 = {isFirstOuter ? TableCell(0.0) : kBlank, RoundUp2(atKink1), RoundUp2(atEnd1)};
     s.tableQ2 = {isFirstOuter ? kBlank : TableCell(0.0), RoundUp2(atKink2), RoundUp2(atEnd2)};
     s.tableQtotal = {0.0, RoundUp2(atKink1 + atKink2), RoundUp2(sum)};
-    if (s.intercept1 != s.intercept2) {
+    if (s.function1.intercept != s.function2.intercept) {
         return;
     }
     // Both start at one price: the row of the kink falls away.
@@ -116,32 +113,32 @@ void drawTask(Vaddi1State& s, Draws& draws) {
     do {
         if (draws.Rnd() < kRisingShare) {
             s.direction = Direction::Rising;
-            s.slope1 = Int(draws.Rnd() * 6);
-            s.intercept1 = Int(draws.Rnd() * 6);
-            s.slope2 = Int(draws.Rnd() * 6);
+            s.function1 = {Int(draws.Rnd() * 6), Int(draws.Rnd() * 6)};
+            s.function2.slope = Int(draws.Rnd() * 6);
         } else {
             s.direction = Direction::Falling;
-            s.slope1 = Fix(draws.Rnd() * -6);
-            s.intercept1 = Int(draws.Rnd() * 6) + 5;
-            s.slope2 = Fix(draws.Rnd() * -6);
+            s.function1 = {Fix(draws.Rnd() * -6), Int(draws.Rnd() * 6) + 5};
+            s.function2.slope = Fix(draws.Rnd() * -6);
         }
         // The same for rising functions: the first never starts above the second.
-        s.intercept2 = Int(draws.Rnd() * 6) + 5;
-    } while ((s.slope1 == 0 && s.slope2 == 0) || isOnEdge(s.function1()) || isOnEdge(s.function2()));
+        s.function2.intercept = Int(draws.Rnd() * 6) + 5;
+    } while ((s.function1.slope == 0 && s.function2.slope == 0) || isOnEdge(s.function1) ||
+             isOnEdge(s.function2));
 }
 
 bool isOneSegment(const Vaddi1State& s) {
-    const double start1 = s.intercept1 * factorOf(s.direction);
-    const double start2 = s.intercept2 * factorOf(s.direction);
-    return start1 == start2 || (s.slope1 == 0 && start1 <= start2) || (s.slope2 == 0 && start2 <= start1);
+    const double start1 = s.function1.intercept * factorOf(s.direction);
+    const double start2 = s.function2.intercept * factorOf(s.direction);
+    return start1 == start2 || (s.function1.slope == 0 && start1 <= start2) ||
+           (s.function2.slope == 0 && start2 <= start1);
 }
 
 bool hasUpperEnd(const Vaddi1State& s) {
-    return s.direction == Direction::Falling && s.slope1 * s.slope2 != 0;
+    return s.direction == Direction::Falling && s.function1.slope * s.function2.slope != 0;
 }
 
 void solve(Vaddi1State& s) {
-    if (s.slope1 == 0 || s.slope2 == 0) {
+    if (s.function1.slope == 0 || s.function2.slope == 0) {
         solveLevel(s);
     } else {
         solveSloping(s);
@@ -151,21 +148,19 @@ void solve(Vaddi1State& s) {
         s.upperEnd = last.isEmpty() || last.isBlank() ? s.tableQtotal[Vaddi1State::kMiddleRow] : last;
         s.upperEndAsked = true;
     }
-    s.secondSlope = RoundSigned2Fine(s.secondSlope);
-    s.secondIntercept = RoundUp2(s.secondIntercept);
-    s.firstSlope = RoundSigned2Fine(s.firstSlope);
-    s.firstIntercept = RoundUp2(s.firstIntercept);
+    s.firstSegment = rounded(s.firstSegment);
+    s.secondSegment = rounded(s.secondSegment);
 }
 
 std::vector<AnswerField> answerFields(const Vaddi1State& s) {
     std::vector<AnswerField> fields;
     if (s.segmentCount == 2) {
-        fields = {{kFirstRow, Slot::Slope, {s.firstSlope}},
-                  {kFirstRow, Slot::Intercept, {s.firstIntercept}},
+        fields = {{kFirstRow, Slot::Slope, {s.firstSegment.slope}},
+                  {kFirstRow, Slot::Intercept, {s.firstSegment.intercept}},
                   {kFirstRow, Slot::End, {s.kinkQuantity}}};
     }
-    fields.push_back({kSecondRow, Slot::Slope, {s.secondSlope}});
-    fields.push_back({kSecondRow, Slot::Intercept, {s.secondIntercept}});
+    fields.push_back({kSecondRow, Slot::Slope, {s.secondSegment.slope}});
+    fields.push_back({kSecondRow, Slot::Intercept, {s.secondSegment.intercept}});
     fields.push_back({kSecondRow, Slot::Start, {s.kinkQuantity}});
     if (s.upperEndAsked) {
         fields.push_back({kSecondRow, Slot::End, {s.upperEnd.number()}});
@@ -177,12 +172,6 @@ Judgement judge(const Vaddi1State& s, const std::vector<double>& typed) {
     return judge(answerFields(s), typed);
 }
 
-std::string pathText(const Vaddi1State& s) {
-    const auto stretch = [&s](std::size_t row) {
-        return stretchText(s.tableQtotal[row], s.tableP[row], s.tableQtotal[row + 1], s.tableP[row + 1]);
-    };
-    return "Her fra " + stretch(Vaddi1State::kStartRow) +
-           (s.segmentCount == 2 ? " og fra " + stretch(Vaddi1State::kMiddleRow) : "") + ".";
-}
+std::string pathText(const Vaddi1State& s) { return pathTexts(s.tableQtotal, s.tableP, s.segmentCount)[0]; }
 
 }  // namespace tavrune

@@ -10,18 +10,16 @@
 
 namespace tavrune {
 
-/// Two straight functions and their horizontal sum. All of it lives as long as the form: what an exercise
-/// does not set keeps what the one before has left.
+/// Two straight functions and their horizontal sum. It lives as long as the form: what an exercise does not
+/// set keeps the value that an earlier one has left.
 struct Vaddi1State {
     /// Whole numbers.
-    double slope1 = 0;
-    double intercept1 = 0;
-    double slope2 = 0;
-    double intercept2 = 0;
+    Piece function1;
+    Piece function2;
     Direction direction = Direction::Rising;
 
-    // The rows of the help table: where the sum starts, where its kink or else its end is, and the end behind
-    // a kink.
+    // The rows of the help table: the start of the sum, its kink or, without one, its end, and the end after
+    // the kink.
     static constexpr std::size_t kStartRow = 0;
     static constexpr std::size_t kMiddleRow = 1;
     static constexpr std::size_t kLastRow = 2;
@@ -33,47 +31,40 @@ struct Vaddi1State {
     Column tableQtotal;
 
     /// From Q = 0 to the kink. Kept (vaddi1-stale-segment): a level lone segment leaves it as it was.
-    double firstSlope = 0;
-    double firstIntercept = 0;
+    Piece firstSegment;
     /// 0 with one segment.
     double kinkQuantity = 0;
     /// The second segment, or the only one.
-    double secondSlope = 0;
-    double secondIntercept = 0;
+    Piece secondSegment;
     int segmentCount = 1;
     /// Where a falling sum meets P = 0.
     TableCell upperEnd;
     /// Kept (vaddi1-latch): it stays set after the first exercise that has an upper end, so every later one
     /// is judged with it.
     bool upperEndAsked = false;
-
-    [[nodiscard]] Piece function1() const { return {slope1, intercept1}; }
-    [[nodiscard]] Piece function2() const { return {slope2, intercept2}; }
-    [[nodiscard]] Piece firstSegment() const { return {firstSlope, firstIntercept}; }
-    [[nodiscard]] Piece secondSegment() const { return {secondSlope, secondIntercept}; }
 };
 
 /// Draws until not both functions are level, and none of them lies on an edge of the graph.
 void drawTask(Vaddi1State& state, Draws& draws);
 
-/// True if the drawn functions add up to one segment: both start at one price, or a level one swallows the
-/// other.
+/// Returns whether the drawn functions add up to one segment: both start at one price, or a level one ends
+/// the sum before the other one starts.
 [[nodiscard]] bool isOneSegment(const Vaddi1State& state);
 
-/// True if the sum of the drawn functions ends at P = 0.
+/// Returns whether the sum of the drawn functions ends at P = 0.
 [[nodiscard]] bool hasUpperEnd(const Vaddi1State& state);
 
-/// Fills the help table and the answer. Kept (vaddi1-overflow): for two rising functions, the second from 10,
-/// whose kink is exact to two decimals, this fails with an overflow.
+/// Fills the help table and the answer. Kept (vaddi1-overflow): throws ArithmeticFailure, an overflow, for
+/// two rising functions of which the second has the intercept 10 and whose kink has two decimals at most.
 void solve(Vaddi1State& state);
 
-/// The fields that are judged; the help table is not among them.
+/// Returns the fields that are judged; the help table is not among them.
 [[nodiscard]] std::vector<AnswerField> answerFields(const Vaddi1State& state);
 
 /// Judges what is typed in the `answerFields`.
 [[nodiscard]] Judgement judge(const Vaddi1State& state, const std::vector<double>& typed);
 
-/// "Her fra ( 0 ; 10 ) til ( 2.5 ; 5 ) og fra ( 2.5 ; 5 ) til ( 12.5 ; 0 )."
+/// Returns "Her fra ( 0 ; 10 ) til ( 2.5 ; 5 ) og fra ( 2.5 ; 5 ) til ( 12.5 ; 0 )."
 [[nodiscard]] std::string pathText(const Vaddi1State& state);
 
 }  // namespace tavrune

@@ -1,8 +1,6 @@
 #include "topics/addition/vaddi2.h"
 
-#include "controls/panel.h"
 #include "numeric/text.h"
-#include "topics/addition/addition_graphs.h"
 #include "topics/addition/ui_vaddi2.h"
 
 namespace tavrune {
@@ -13,9 +11,9 @@ constexpr double kBeyondQ = 50;
 /// The middle of a thick line that stands on the axis.
 constexpr double kOnTheAxis = 0.1;
 
-/// A thick level line round a price; standing on the axis for the price 0.
-void drawBar(GraphBox& box, double from, double to, double price, const QColor& colour) {
-    drawThickLine(box, from, to, price == 0 ? kOnTheAxis : price, colour);
+/// Draws a thick level line round a price. For the price 0 it stands on the axis.
+void drawBar(GraphBox& graph, double from, double to, double price, const QColor& colour) {
+    drawThickLine(graph, from, to, price == 0 ? kOnTheAxis : price, colour);
 }
 
 }  // namespace
@@ -23,36 +21,24 @@ void drawBar(GraphBox& box, double from, double to, double price, const QColor& 
 Vaddi2::Vaddi2(Draws& draws) : ExerciseForm(PageName::Vaddi2, draws), ui_(std::make_unique<Ui::Vaddi2>()) {
     setUp(*ui_);
     rows_ = AnswerRows::of(*design());
-    columnP_ = helpColumnOf(*design(), "price");
+    table_ = helpTableOf(
+        *design(), {"price", "function1Quantity", "function2Quantity", "function3Quantity", "totalQuantity"});
     const std::array bands{kBlue, kBandGreen, QColor(kBlack)};
-    for (std::size_t f = 0; f < given_.size(); ++f) {
+    for (std::size_t f = 0; f < functions_.size(); ++f) {
         const QString name = QString("function%1").arg(f + 1);
-        given_[f] = {GivenFunction::of(*design(), name), FramedGraph::of(*design(), name),
-                     helpColumnOf(*design(), name + "Quantity"), bands[f]};
+        functions_[f] = {FunctionLabels::of(*design(), name), FramedGraph::of(*design(), name), table_[f + 1],
+                         bands[f]};
     }
-    columnQtotal_ = helpColumnOf(*design(), "totalQuantity");
     ui_->tableHead->standOver({ui_->price1, ui_->function1Quantity1, ui_->function2Quantity1,
                                ui_->function3Quantity1, ui_->totalQuantity1});
-    chainBoxes();
+    enterChain(rowByRow(table_), {ui_->segment1Slope, ui_->segment2Slope});
+    enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
     onClick(ui_->showPrices, &Vaddi2::showPrices);
     onClick(ui_->showQuantities, &Vaddi2::showQuantities);
     onClick(ui_->showSum, &Vaddi2::showSum);
 }
 
 Vaddi2::~Vaddi2() = default;
-
-void Vaddi2::chainBoxes() {
-    std::vector<AnswerBox*> table;
-    for (std::size_t row = 0; row < columnP_.size(); ++row) {
-        table.push_back(columnP_[row]);
-        for (const Given& given : given_) {
-            table.push_back(given.quantities[row]);
-        }
-        table.push_back(columnQtotal_[row]);
-    }
-    enterChain(table, {ui_->segment1Slope, ui_->segment2Slope});
-    enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
-}
 
 void Vaddi2::newExercise() {
     closePanel();
@@ -77,22 +63,19 @@ void Vaddi2::showRows() {
 
 void Vaddi2::showTask() {
     rows_.blank();
-    blankColumn(columnP_);
-    blankColumn(columnQtotal_);
+    blank(table_);
     showAsking();
-    for (std::size_t f = 0; f < given_.size(); ++f) {
-        blankColumn(given_[f].quantities);
-        given_[f].function.tell(NumberText(state_.slope[f]), NumberText(state_.intercept[f]), "Q ≥ 0, P ≥ 0");
+    for (std::size_t f = 0; f < functions_.size(); ++f) {
+        const auto& [slope, intercept] = state_.functions[f];
+        functions_[f].labels.tell(NumberText(slope), NumberText(intercept), "Q ≥ 0, P ≥ 0");
     }
 }
 
 void Vaddi2::drawGraphs() {
-    ui_->resultGraph->Cls();
-    drawWideFrameTicks(*ui_->resultGraphFrame);
-    for (std::size_t f = 0; f < given_.size(); ++f) {
-        given_[f].graph.box->Cls();
-        drawFrameTicks(*given_[f].graph.frame);
-        drawPiece(*given_[f].graph.box, state_.function(f), 0, kLastGivenQ);
+    FramedGraph::of(*design(), "result").clear(drawWideFrameTicks);
+    for (std::size_t f = 0; f < functions_.size(); ++f) {
+        functions_[f].framed.clear(drawFrameTicks);
+        drawPiece(*functions_[f].framed.graph, state_.functions[f], 0, kFunctionEndQ);
     }
 }
 
@@ -101,7 +84,7 @@ void Vaddi2::judge() {
     // Kept (shell-forkert-behind): "FORKERT" of a wrong try is not hidden.
     if (showJudgement(tavrune::judge(state_, valuesOf(boxes)), boxes,
                       state_.segmentCount == 1 ? ui_->segment2Slope : ui_->segment1Slope)) {
-        drawSum(kLastSumQ);
+        drawSum(kSumEndQ);
     }
 }
 
@@ -110,7 +93,8 @@ void Vaddi2::drawSum(double lastQ) {
     const int last = state_.segmentCount - 1;
     for (int s = 0; s <= last; ++s) {
         const double to = s == last ? lastQ : state_.endOf(s).number();
-        drawPiece(*ui_->resultGraph, state_.segment(s), state_.startOf(s).number(), to, kSumGreen);
+        drawPiece(*ui_->resultGraph, state_.segments[static_cast<std::size_t>(s)], state_.startOf(s).number(),
+                  to, kSumGreen);
     }
 }
 
@@ -124,8 +108,8 @@ void Vaddi2::giveAnswer() {
 }
 
 void Vaddi2::drawTypedSum() {
-    GraphBox& box = *ui_->resultGraph;
-    const Figure line(box, Meaning::Line);
+    GraphBox& graph = *ui_->resultGraph;
+    const Figure line(graph, Meaning::Line);
     const auto typedEnd = [this](int row, bool isLast) {
         return isLast && !state_.upperEndAsked() ? kBeyondQ : rows_.typed(row, Slot::End);
     };
@@ -136,32 +120,30 @@ void Vaddi2::drawTypedSum() {
         const Piece atFarEnd{typed.slope, rows_.typed(kThirdRow, Slot::Intercept)};
         const double from = rows_.typed(kLoneRow, Slot::Start);
         const double to = typedEnd(kLoneRow, true);
-        box.Line(from, typed.at(from), to, atFarEnd.at(to), kRed);
+        graph.Line(from, typed.at(from), to, atFarEnd.at(to), kRed);
         return;
     }
     for (int row = 0; row < state_.segmentCount; ++row) {
         const double from = row == kFirstRow ? 0 : rows_.typed(row, Slot::Start);
-        drawPiece(box, rows_.typedSegment(row), from, typedEnd(row, row == state_.segmentCount - 1), kRed);
+        drawPiece(graph, rows_.typedSegment(row), from, typedEnd(row, row == state_.segmentCount - 1), kRed);
     }
 }
 
 void Vaddi2::fillTable() {
-    writeColumn(columnP_, state_.tableP);
-    for (std::size_t f = 0; f < given_.size(); ++f) {
-        writeColumn(given_[f].quantities, state_.tableQ[f]);
+    writeColumn(table_.front(), state_.tableP);
+    for (std::size_t f = 0; f < functions_.size(); ++f) {
+        writeColumn(functions_[f].quantities, state_.tableQ[f]);
     }
-    writeColumn(columnQtotal_, state_.tableQtotal);
+    writeColumn(table_.back(), state_.tableQtotal);
 }
 
 void Vaddi2::fillAnswer() {
     rows_.whiten();
-    for (const AnswerField& field : answerFields(state_)) {
-        rows_.write(field.row, field.slot, field.target.value);
-    }
+    rows_.write(answerFields(state_));
 }
 
 void Vaddi2::help() {
-    // It stands half beside the panel.
+    // The panel covers it only in part.
     ui_->resultQuantityAxisName->hide();
     openPanel(ui_->helpPanel, ui_->showPrices);
 }
@@ -173,24 +155,24 @@ void Vaddi2::closePanel() {
 
 void Vaddi2::showPrices() {
     focusOn(ui_->showQuantities);
-    writeColumn(columnP_, state_.tableP);
+    writeColumn(table_.front(), state_.tableP);
     const double edge = endPrice(state_.direction);
-    for (std::size_t f = 0; f < given_.size(); ++f) {
+    for (std::size_t f = 0; f < functions_.size(); ++f) {
         const Vaddi2State::Column& quantities = state_.tableQ[f];
-        GraphBox& box = *given_[f].graph.box;
-        // One that starts beyond a level function has no quantities, and no marks.
+        GraphBox& graph = *functions_[f].framed.graph;
+        // A function that starts beyond a level one has no quantities, and no squares.
         for (std::size_t row = 0; row < quantities.size(); ++row) {
             if (quantities[row].isBlank()) {
                 continue;
             }
             const double price = state_.tableP[row].number();
-            drawMark(box, 0.0, price);
-            if (state_.slope[f] == 0) {
-                drawMark(box, TableCell::unbounded(), price);
+            drawSquare(graph, 0.0, price);
+            if (state_.functions[f].slope == 0) {
+                drawSquare(graph, TableCell::unbounded(), price);
             }
-            // Kept (vaddi2-edge-mark): the mark on the edge stands at the first quantity, not at the last.
+            // Kept (vaddi2-edge-mark): the square on the edge stands at the first quantity, not at the last.
             if (!state_.isAnyLevel()) {
-                drawMark(box, quantities[row], edge);
+                drawSquare(graph, quantities[row], edge);
             }
             break;
         }
@@ -200,14 +182,14 @@ void Vaddi2::showPrices() {
 void Vaddi2::showQuantities() {
     showPrices();
     focusOn(ui_->showSum);
-    const std::array<std::string, 2> lines = pathLines(state_);
+    const std::array<std::string, 2> lines = pathTexts(state_);
     ui_->quantitiesResult->setCaption(lines[0]);
     ui_->quantitiesResultRest->setCaption(lines[1]);
-    for (std::size_t f = 0; f < given_.size(); ++f) {
+    for (std::size_t f = 0; f < functions_.size(); ++f) {
         for (std::size_t row = 0; row < state_.tableP.size(); ++row) {
             if (const TableCell& quantity = state_.tableQ[f][row]; quantity.isNumeric()) {
-                drawBar(*given_[f].graph.box, 0, quantity.number(), state_.tableP[row].number(),
-                        given_[f].band);
+                drawBar(*functions_[f].framed.graph, 0, quantity.number(), state_.tableP[row].number(),
+                        functions_[f].band);
             }
         }
     }
@@ -227,11 +209,11 @@ void Vaddi2::showSum() {
 
 void Vaddi2::drawStack(std::size_t row) {
     double from = 0;
-    for (std::size_t f = 0; f < given_.size(); ++f) {
+    for (std::size_t f = 0; f < functions_.size(); ++f) {
         const TableCell& quantity = state_.tableQ[f][row];
         if (quantity.isNumeric()) {
             const double to = from + quantity.number();
-            drawBar(*ui_->resultGraph, from, to, state_.tableP[row].number(), given_[f].band);
+            drawBar(*ui_->resultGraph, from, to, state_.tableP[row].number(), functions_[f].band);
             from = to;
         }
     }

@@ -3,8 +3,8 @@
 #include <array>
 #include <memory>
 
-#include "graph/graph_box.h"
 #include "shell/exercise_form.h"
+#include "topics/addition/addition_graphs.h"
 #include "topics/addition/answer_rows.h"
 #include "topics/addition/vaddi2_exercise.h"
 
@@ -33,14 +33,13 @@ protected:
 
 private:
     /// What the form has for each of the functions.
-    struct Given {
-        GivenFunction function;
-        FramedGraph graph;
+    struct Function {
+        FunctionLabels labels;
+        FramedGraph framed;
         HelpColumn quantities;
         QColor band;
     };
 
-    void chainBoxes();
     void showRows();
     void showTask();
     void drawGraphs();
@@ -56,9 +55,8 @@ private:
 
     std::unique_ptr<Ui::Vaddi2> ui_;
     AnswerRows rows_;
-    HelpColumn columnP_;
-    std::array<Given, Vaddi2State::kFunctions> given_;
-    HelpColumn columnQtotal_;
+    HelpTable table_;
+    std::array<Function, Vaddi2State::kFunctions> functions_;
     Vaddi2State state_;
 };
 

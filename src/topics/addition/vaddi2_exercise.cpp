@@ -21,17 +21,11 @@ struct Start {
     bool isLevel;
 };
 
+bool isLevel(const Piece& function) { return function.slope == 0; }
+
 bool isRejected(const Vaddi2State& s) {
-    const auto levels = std::count(s.slope.begin(), s.slope.end(), 0);
-    if (levels > 1) {
-        return true;
-    }
-    for (std::size_t f = 0; f < Vaddi2State::kFunctions; ++f) {
-        if (isOnEdge(s.function(f))) {
-            return true;
-        }
-    }
-    return false;
+    return std::count_if(s.functions.begin(), s.functions.end(), isLevel) > 1 ||
+           std::any_of(s.functions.begin(), s.functions.end(), isOnEdge);
 }
 
 void drawFunctions(Vaddi2State& s, Draws& draws) {
@@ -39,19 +33,19 @@ void drawFunctions(Vaddi2State& s, Draws& draws) {
     s.direction = draws.Rnd() < kRisingShare ? Direction::Rising : Direction::Falling;
     const double lowest = s.direction == Direction::Rising ? 0 : 5;
     do {
-        for (std::size_t f = 0; f < Vaddi2State::kFunctions; ++f) {
+        for (Piece& function : s.functions) {
             const double steepness = Int(draws.Rnd() * 5);
-            s.slope[f] = factorOf(s.direction) * steepness;
-            s.intercept[f] = Int(draws.Rnd() * 5) + lowest;
+            function = {factorOf(s.direction) * steepness, Int(draws.Rnd() * 5) + lowest};
         }
     } while (isRejected(s));
 }
 
-/// The different starts, the outer one first: the lowest of rising functions, the highest of falling ones.
+/// Returns the starts, each price once, the outermost first: the lowest of rising functions, the highest of
+/// falling ones.
 std::vector<Start> startsOf(const Vaddi2State& s) {
     std::vector<Start> all;
-    for (std::size_t f = 0; f < Vaddi2State::kFunctions; ++f) {
-        all.push_back({s.intercept[f], s.slope[f] == 0});
+    for (const Piece& function : s.functions) {
+        all.push_back({function.intercept, isLevel(function)});
     }
     std::sort(all.begin(), all.end(), [factor = factorOf(s.direction)](const Start& one, const Start& other) {
         return factor * one.price < factor * other.price;
@@ -67,7 +61,7 @@ std::vector<Start> startsOf(const Vaddi2State& s) {
     return starts;
 }
 
-/// What a function offers at a price: nothing on the far side of its start.
+/// Returns the quantity of a function at a price; a blank on the far side of its start.
 TableCell quantityAt(double price, const Piece& f, Direction direction) {
     if (f.slope == 0) {
         if (factorOf(direction) * f.intercept < factorOf(direction) * price) {
@@ -90,14 +84,14 @@ void fillRow(Vaddi2State& s, std::size_t row, double price) {
     s.tableP[row] = price;
     TableCell total = 0.0;
     for (std::size_t f = 0; f < Vaddi2State::kFunctions; ++f) {
-        s.tableQ[f][row] = quantityAt(price, s.function(f), s.direction);
+        s.tableQ[f][row] = quantityAt(price, s.functions[f], s.direction);
         total = plus(total, s.tableQ[f][row]);
     }
     s.tableQtotal[row] = total;
     if (!total.isUnbounded()) {
         return;
     }
-    // The market price does not pass the level function, so the others keep their quantities.
+    // The price does not go beyond the level function, so the others keep their quantities.
     for (Vaddi2State::Column& column : s.tableQ) {
         if (!column[row].isUnbounded()) {
             column[row] = column[row - 1];
@@ -128,8 +122,7 @@ void joinRows(Vaddi2State& s) {
         if (!to.isUnbounded()) {
             slope = divide(fromP - s.tableP[row + 1].number(), fromQ - to.number());
         }
-        s.segmentSlope[row] = slope;
-        s.segmentIntercept[row] = fromP - slope * fromQ;
+        s.segments[row] = {slope, fromP - slope * fromQ};
     }
 }
 
@@ -144,7 +137,7 @@ void roundColumn(Vaddi2State::Column& column) {
 
 }  // namespace
 
-bool Vaddi2State::isAnyLevel() const { return std::find(slope.begin(), slope.end(), 0) != slope.end(); }
+bool Vaddi2State::isAnyLevel() const { return std::any_of(functions.begin(), functions.end(), isLevel); }
 
 void newExercise(Vaddi2State& state, Draws& draws) {
     drawFunctions(state, draws);
@@ -165,8 +158,7 @@ void solve(Vaddi2State& s) {
     }
     roundColumn(s.tableQtotal);
     for (std::size_t row = 0; row < static_cast<std::size_t>(s.segmentCount); ++row) {
-        s.segmentSlope[row] = RoundSigned2Fine(s.segmentSlope[row]);
-        s.segmentIntercept[row] = RoundUp2(s.segmentIntercept[row]);
+        s.segments[row] = rounded(s.segments[row]);
     }
 }
 
@@ -174,8 +166,8 @@ std::vector<AnswerField> answerFields(const Vaddi2State& s) {
     std::vector<AnswerField> fields;
     for (int segment = 0; segment < s.segmentCount; ++segment) {
         const int row = rowOf(segment, s.segmentCount);
-        fields.push_back({row, Slot::Slope, {s.segment(segment).slope}});
-        fields.push_back({row, Slot::Intercept, {s.segment(segment).intercept}});
+        fields.push_back({row, Slot::Slope, {s.segments[static_cast<std::size_t>(segment)].slope}});
+        fields.push_back({row, Slot::Intercept, {s.segments[static_cast<std::size_t>(segment)].intercept}});
         if (segment > 0) {
             fields.push_back({row, Slot::Start, {s.startOf(segment).number()}});
         } else if (s.segmentCount == 1) {
@@ -192,19 +184,8 @@ Judgement judge(const Vaddi2State& s, const std::vector<double>& typed) {
     return judge(answerFields(s), typed);
 }
 
-std::array<std::string, 2> pathLines(const Vaddi2State& s) {
-    const auto stretch = [&s](std::size_t row) {
-        return stretchText(s.tableQtotal[row], s.tableP[row], s.tableQtotal[row + 1], s.tableP[row + 1]);
-    };
-    const std::string first = "Her fra " + stretch(0);
-    switch (s.segmentCount) {
-        case 1:
-            return {first + ".", ""};
-        case 2:
-            return {first + " og fra " + stretch(1) + ".", ""};
-        default:
-            return {first + ", fra " + stretch(1) + " og fra ", stretch(2) + "."};
-    }
+std::array<std::string, 2> pathTexts(const Vaddi2State& s) {
+    return pathTexts(s.tableQtotal, s.tableP, s.segmentCount);
 }
 
 }  // namespace tavrune

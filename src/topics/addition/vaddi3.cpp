@@ -1,6 +1,5 @@
 #include "topics/addition/vaddi3.h"
 
-#include "controls/panel.h"
 #include "controls/text.h"
 #include "numeric/text.h"
 #include "topics/addition/addition_graphs.h"
@@ -12,24 +11,26 @@ namespace {
 /// The quantity of function 1 in a stack.
 const QColor kStackTeal = rgb(0, 200, 200);
 
-/// A red square at a quantity and a price.
-void drawEndMark(GraphBox& box, double quantity, double price) {
-    const Figure mark(box, Meaning::EndMark);
-    stepThrough(-kHalfMark, kHalfMark, kStroke,
-                [&](double offset) { drawMarkStroke(box, quantity + offset, price); });
+/// Draws a red square. Its strokes step from the middle, which gives other last digits than `drawSquare`.
+void drawSquareAt(GraphBox& graph, double quantity, double price) {
+    const Figure square(graph, Meaning::Square);
+    stepThrough(-kHalfSquare, kHalfSquare, kStroke,
+                [&](double offset) { drawSquareStroke(graph, quantity + offset, price); });
 }
 
-/// An upright line where one piece passes into the next.
-void drawJoin(GraphBox& box, const Piece& before, double end, const Piece& after, double start,
+/// Draws an upright line from the end of one piece to the start of the next.
+void drawJoin(GraphBox& graph, const Piece& before, double end, const Piece& after, double start,
               const QColor& colour) {
-    box.Line(end, before.at(end), start, after.at(start), colour);
+    graph.Line(end, before.at(end), start, after.at(start), colour);
 }
 
 }  // namespace
 
 Vaddi3::Vaddi3(Draws& draws) : ExerciseForm(PageName::Vaddi3, draws), ui_(std::make_unique<Ui::Vaddi3>()) {
     setUp(*ui_);
-    bindBoxes();
+    rows_ = AnswerRows::of(*design());
+    table_ = helpTableOf(*design(), {"wideTablePrice", "part1QuantityOrPrice", "function1OrPart2Quantity",
+                                     "function2Quantity", "totalOrPart1TotalQuantity", "part2TotalQuantity"});
     bindEnter();
     onClick(ui_->showPrices, &Vaddi3::showPrices);
     onClick(ui_->showQuantities, &Vaddi3::showQuantities);
@@ -38,22 +39,13 @@ Vaddi3::Vaddi3(Draws& draws) : ExerciseForm(PageName::Vaddi3, draws), ui_(std::m
 
 Vaddi3::~Vaddi3() = default;
 
-void Vaddi3::bindBoxes() {
-    rows_ = AnswerRows::of(*design());
-    for (const char* name : {"wideTablePrice", "part1QuantityOrPrice", "function1OrPart2Quantity",
-                             "function2Quantity", "totalOrPart1TotalQuantity", "part2TotalQuantity"}) {
-        table_.push_back(helpColumnOf(*design(), name));
-    }
-}
-
 void Vaddi3::bindEnter() {
     // Backwards through the table: from each box to the first one after it that is shown.
     std::vector<QWidget*> rest{ui_->segment1Slope, ui_->segment2Slope};
-    for (std::size_t row = table_.front().size(); row-- > 0;) {
-        for (std::size_t column = table_.size(); column-- > 0;) {
-            enterGoes(table_[column][row], rest);
-            rest.insert(rest.begin(), table_[column][row]);
-        }
+    const std::vector<AnswerBox*> boxes = rowByRow(table_);
+    for (auto box = boxes.rbegin(); box != boxes.rend(); ++box) {
+        enterGoes(*box, rest);
+        rest.insert(rest.begin(), *box);
     }
     enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
 }
@@ -62,7 +54,8 @@ void Vaddi3::newExercise() {
     ui_->quantitiesResult->setCaption("");
     ui_->quantitiesResultRest->setCaption("");
     ui_->helpPanel->hide();
-    blankBoxes();
+    rows_.blank();
+    blank(table_);
     showAsking();
     tavrune::newExercise(state_, draws());
     showTable();
@@ -70,13 +63,6 @@ void Vaddi3::newExercise() {
     showRows();
     drawGraphs();
     focusOnTable();
-}
-
-void Vaddi3::blankBoxes() {
-    rows_.blank();
-    for (const HelpColumn& column : table_) {
-        blankColumn(column);
-    }
 }
 
 void Vaddi3::showTable() {
@@ -112,19 +98,19 @@ void Vaddi3::nameTable() {
 }
 
 void Vaddi3::showTask() {
-    // Parts that meet share their point, which then belongs to the first.
-    const bool isJump = state_.kinkKind == KinkKind::JumpDown || state_.isJumpUp();
+    // Where the parts meet, the common point belongs to the first.
+    const bool isJump = state_.isJump();
     ui_->function1Part1EndLess->setVisible(isJump);
     ui_->function1Part1EndLessOrEqual->setVisible(!isJump);
     const std::string kink = NumberText(state_.kinkQuantity);
     ui_->function1Part1End->setCaption(kink);
     ui_->function1Part2Start->setCaption(kink);
-    GivenFunction::of(*design(), "function1Part1")
-        .tell(NumberText(state_.firstSlope), NumberText(state_.firstIntercept),
+    FunctionLabels::of(*design(), "function1Part1")
+        .tell(NumberText(state_.slope1Before), NumberText(state_.intercept1Before),
               (isJump ? "0 < Q < " : "0 < Q ≤ ") + kink);
-    GivenFunction::of(*design(), "function1Part2")
-        .tell(NumberText(state_.secondSlope), NumberText(state_.secondIntercept), kink + " < Q, P > 0");
-    GivenFunction::of(*design(), "function2")
+    FunctionLabels::of(*design(), "function1Part2")
+        .tell(NumberText(state_.slope1After), NumberText(state_.intercept1After), kink + " < Q, P > 0");
+    FunctionLabels::of(*design(), "function2")
         .tell(NumberText(state_.slope2), NumberText(state_.intercept2), "Q > 0, P > 0");
 }
 
@@ -143,30 +129,25 @@ void Vaddi3::showRows() {
 }
 
 void Vaddi3::drawGraphs() {
-    for (GraphBox* box : {ui_->function2Graph, ui_->function1Graph, ui_->resultGraph}) {
-        box->Cls();
-    }
-    drawFrameTicks(*ui_->function1GraphFrame);
-    drawFrameTicks(*ui_->function2GraphFrame);
-    drawWideFrameTicks(*ui_->resultGraphFrame);
+    FramedGraph::of(*design(), "function1").clear(drawFrameTicks);
+    FramedGraph::of(*design(), "function2").clear(drawFrameTicks);
+    FramedGraph::of(*design(), "result").clear(drawWideFrameTicks);
     drawGivenFunctions();
 }
 
 void Vaddi3::drawGivenFunctions() {
     const Vaddi3State& s = state_;
     GraphBox& first = *ui_->function1Graph;
-    const double kinkQ = s.kinkQuantity;
-    const double kinkFirst = s.priceAtKinkFirst;
-    const double kinkSecond = s.priceAtKinkSecond;
     {
         const Figure line(first, Meaning::Line);
-        first.Line(0, s.firstIntercept, kinkQ, kinkFirst);
-        first.Line(kinkQ, kinkSecond, kLastGivenQ, kLastGivenQ * s.secondSlope + s.secondIntercept);
+        first.Line(0, s.intercept1Before, s.kinkQuantity, s.kinkPriceBefore);
+        first.Line(s.kinkQuantity, s.kinkPriceAfter, kFunctionEndQ,
+                   kFunctionEndQ * s.slope1After + s.intercept1After);
     }
-    if (s.kinkKind == KinkKind::JumpDown || s.isJumpUp()) {
-        first.Line(kinkQ, kinkFirst, kinkQ, kinkSecond);
+    if (s.isJump()) {
+        first.Line(s.kinkQuantity, s.kinkPriceBefore, s.kinkQuantity, s.kinkPriceAfter);
     }
-    ui_->function2Graph->Line(0, s.intercept2, kLastGivenQ, kLastGivenQ * s.slope2 + s.intercept2);
+    ui_->function2Graph->Line(0, s.intercept2, kFunctionEndQ, kFunctionEndQ * s.slope2 + s.intercept2);
 }
 
 void Vaddi3::focusOnTable() {
@@ -189,7 +170,7 @@ void Vaddi3::drawSum() {
     for (int i = 0; i < count; ++i) {
         const SumSegment& segment = state_.segments[static_cast<std::size_t>(i)];
         drawPiece(*ui_->resultGraph, segment.piece, i == 0 ? 0 : segment.startQ.number(),
-                  i + 1 == count ? kLastSumQ : segment.endQ.number(), kSumGreen);
+                  i + 1 == count ? kSumEndQ : segment.endQ.number(), kSumGreen);
     }
 }
 
@@ -211,26 +192,22 @@ void Vaddi3::drawJoins() {
 void Vaddi3::giveAnswer() {
     ui_->helpPanel->hide();
     showGiven();
-    drawTypedSum();
+    drawTypedPieces();
+    drawTypedJoins();
     fillTable();
     fillAnswer();
 }
 
-void Vaddi3::drawTypedSum() {
-    drawTypedPieces();
-    drawTypedJoins();
-}
-
 void Vaddi3::drawTypedPieces() {
-    GraphBox& box = *ui_->resultGraph;
-    const Figure line(box, Meaning::Line);
+    GraphBox& graph = *ui_->resultGraph;
+    const Figure line(graph, Meaning::Line);
     const int count = state_.segmentCount();
     for (int i = 0; i < count; ++i) {
         const int row = rowOf(i, count);
         const bool endsByRow = i + 1 < count || state_.upperEndAsked;
-        drawPiece(box, rows_.typedSegment(row),
+        drawPiece(graph, rows_.typedSegment(row),
                   rows_.box(row, Slot::Start) == nullptr ? 0 : rows_.typed(row, Slot::Start),
-                  endsByRow ? rows_.typed(row, Slot::End) : kLastSumQ, kRed);
+                  endsByRow ? rows_.typed(row, Slot::End) : kSumEndQ, kRed);
     }
 }
 
@@ -246,11 +223,9 @@ void Vaddi3::drawTypedJoins() {
     }
 }
 
-void Vaddi3::fillPrices() { write(helpColumns(state_).price); }
-
 void Vaddi3::fillTable() {
-    fillPrices();
-    const HelpColumns columns = helpColumns(state_);
+    const ColumnRoles columns = columnRoles(state_);
+    write(columns.price);
     write(columns.quantity2);
     for (const auto& [part, quantity, total] : columns.function1) {
         write(quantity);
@@ -259,10 +234,7 @@ void Vaddi3::fillTable() {
 }
 
 void Vaddi3::fillAnswer() {
-    // The targets are the answer.
-    for (const AnswerField& field : answerFields(state_)) {
-        rows_.write(field.row, field.slot, field.target.value);
-    }
+    rows_.write(answerFields(state_));
     rows_.whiten();
     drawSum();
     drawJoins();
@@ -275,27 +247,27 @@ void Vaddi3::help() {
 }
 
 void Vaddi3::showPrices() {
-    fillPrices();
-    markEnds();
+    write(columnRoles(state_).price);
+    drawEndSquares();
     focusOn(ui_->showQuantities);
 }
 
-void Vaddi3::markEnds() {
+void Vaddi3::drawEndSquares() {
     const Vaddi3State& s = state_;
     GraphBox& first = *ui_->function1Graph;
-    drawEndMark(first, 0, s.firstIntercept);
-    drawEndMark(first, s.kinkQuantity, s.priceAtKinkFirst);
-    if (s.priceAtKinkSecond != s.priceAtKinkFirst) {
-        drawEndMark(first, s.kinkQuantity, s.priceAtKinkSecond);
+    drawSquareAt(first, 0, s.intercept1Before);
+    drawSquareAt(first, s.kinkQuantity, s.kinkPriceBefore);
+    if (s.kinkPriceAfter != s.kinkPriceBefore) {
+        drawSquareAt(first, s.kinkQuantity, s.kinkPriceAfter);
     }
-    drawEndMark(first, -s.secondIntercept / s.secondSlope, 0);
+    drawSquareAt(first, -s.intercept1After / s.slope1After, 0);
 
     GraphBox& second = *ui_->function2Graph;
-    drawEndMark(second, 0, s.intercept2);
+    drawSquareAt(second, 0, s.intercept2);
     if (s.slope2 == 0) {
-        drawEndMark(second, kLastGivenQ, s.intercept2);
+        drawSquareAt(second, kFunctionEndQ, s.intercept2);
     } else {
-        drawEndMark(second, -s.intercept2 / s.slope2, 0);
+        drawSquareAt(second, -s.intercept2 / s.slope2, 0);
     }
 }
 
@@ -310,17 +282,17 @@ void Vaddi3::showQuantities() {
 }
 
 void Vaddi3::drawBands() {
-    const HelpColumns columns = helpColumns(state_);
+    const ColumnRoles columns = columnRoles(state_);
     const Vaddi3State::Column& prices = state_.column(columns.price);
-    const auto draw = [this](GraphBox& box, TableColumn column, std::size_t row, double price,
+    const auto draw = [this](GraphBox& graph, TableColumn column, std::size_t row, double price,
                              const QColor& colour) {
         if (const TableCell& cell = state_.column(column)[row]; cell.isNumeric()) {
-            drawBand(box, 0, cell.number(), price, colour);
+            drawBand(graph, 0, cell.number(), price, colour);
         }
     };
     for (std::size_t row = 1; row < prices.size() && prices[row].isNumeric(); ++row) {
         const double price = prices[row].number();
-        for (const HelpColumns::OfFunction1& of1 : columns.function1) {
+        for (const ColumnRoles::OfFunction1& of1 : columns.function1) {
             draw(*ui_->function1Graph, of1.quantity, row, price, kBlue);
         }
         draw(*ui_->function2Graph, columns.quantity2, row, price, kBandGreen);
@@ -338,8 +310,8 @@ void Vaddi3::showSum() {
 }
 
 void Vaddi3::drawStacks() {
-    GraphBox& box = *ui_->resultGraph;
-    const HelpColumns columns = helpColumns(state_);
+    GraphBox& graph = *ui_->resultGraph;
+    const ColumnRoles columns = columnRoles(state_);
     const Vaddi3State::Column& prices = state_.column(columns.price);
     for (std::size_t row = 0; row < prices.size() && prices[row].isNumeric(); ++row) {
         const double price = prices[row].number();
@@ -350,11 +322,11 @@ void Vaddi3::drawStacks() {
             }
             const TableCell& first = state_.column(quantity)[row];
             if (first.isNumeric()) {
-                drawThickLine(box, 0, first.number(), price, kStackTeal);
+                drawThickLine(graph, 0, first.number(), price, kStackTeal);
             }
             if (second.isNumeric()) {
-                drawThickLine(box, first.isNumeric() ? first.number() : 0, state_.column(total)[row].number(),
-                              price, kBandGreen);
+                drawThickLine(graph, first.isNumeric() ? first.number() : 0,
+                              state_.column(total)[row].number(), price, kBandGreen);
             }
         }
     }

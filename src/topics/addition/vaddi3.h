@@ -1,9 +1,7 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
-#include "graph/graph_box.h"
 #include "shell/exercise_form.h"
 #include "topics/addition/answer_rows.h"
 #include "topics/addition/vaddi3_exercise.h"
@@ -37,25 +35,21 @@ private:
     }
     void write(TableColumn column) const { writeColumn(boxes(column), state_.column(column)); }
 
-    void bindBoxes();
     void bindEnter();
-    void blankBoxes();
     void showTable();
-    /// What its columns hold depends on the exercise.
+    /// Names its boxes for screen readers: what a column holds depends on the exercise.
     void nameTable();
     void showTask();
     void showRows();
     void drawGraphs();
     void drawGivenFunctions();
-    void drawTypedSum();
     void drawTypedPieces();
     void drawTypedJoins();
     void drawSum();
     void drawJoins();
-    void fillPrices();
     void fillTable();
     void fillAnswer();
-    void markEnds();
+    void drawEndSquares();
     void drawBands();
     void drawStacks();
     void showPrices();
@@ -65,8 +59,7 @@ private:
 
     std::unique_ptr<Ui::Vaddi3> ui_;
     AnswerRows rows_;
-    /// The columns of the help table as they stand on the form.
-    std::vector<HelpColumn> table_;
+    HelpTable table_;
     Vaddi3State state_;
 };
 

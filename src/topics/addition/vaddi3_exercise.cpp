@@ -39,17 +39,14 @@ private:
 
 const Carried kNone = 0.0F;
 
-/// Stands for any quantity; shown as "oo", with whatever is added to it.
+/// Stands for any quantity. It is shown as "oo", and so is its sum with another quantity.
 const Carried kUnboundedQuantity = 1000.0F;
 constexpr double kLargestShown = 999;
-
-/// Of the path of the sum.
-constexpr std::size_t kSegmentsInALine = 2;
 
 /// Nothing where a function does not exist.
 using Quantity = std::optional<Carried>;
 
-/// What is missing leaves the other alone.
+/// Returns the sum, or the one of them that is there.
 Quantity sum(const Quantity& a, const Quantity& b) { return a && b ? *a + *b : (a ? a : b); }
 
 TableCell shown(const Quantity& quantity) {
@@ -64,7 +61,7 @@ bool haveCommonPart(Parts one, Parts other) {
 }
 
 bool isIn(Part part, Parts parts) {
-    return haveCommonPart(parts, part == Part::First ? Parts::First : Parts::Second);
+    return haveCommonPart(parts, part == Part::BeforeKink ? Parts::BeforeKink : Parts::AfterKink);
 }
 
 struct PriceRow {
@@ -73,9 +70,9 @@ struct PriceRow {
 };
 
 struct Quantities {
-    Quantity first;
-    Quantity second;
-    Quantity other;
+    Quantity before;
+    Quantity after;
+    Quantity of2;
 };
 
 struct Point {
@@ -85,18 +82,18 @@ struct Point {
 
 // The draw.
 
-/// Flat, then steep.
+/// Returns whether function 1 is flat before the kink and steep after it, not the other way round.
 bool startsFlat(const Vaddi3State& s) {
     return s.kinkKind == KinkKind::JumpDown || s.kinkKind == KinkKind::Steeper;
 }
 
 float flatSlope(Draws& draws) { return Int(draws.Rnd() * -8) / 10; }
 
-/// False if the part does not suit.
-bool drawFirstPart(Vaddi3State& s, Draws& draws) {
-    s.firstIntercept = Int(draws.Rnd() * 5) + 5;
-    s.firstSlope = startsFlat(s) ? flatSlope(draws) : Int(draws.Rnd() * -3) - 2;
-    const float zero = divide(-s.firstIntercept, s.firstSlope);
+/// Returns false if the part is to be drawn again.
+bool drawPartBefore(Vaddi3State& s, Draws& draws) {
+    s.intercept1Before = Int(draws.Rnd() * 5) + 5;
+    s.slope1Before = startsFlat(s) ? flatSlope(draws) : Int(draws.Rnd() * -3) - 2;
+    const float zero = divide(-s.intercept1Before, s.slope1Before);
     const float nearest = startsFlat(s) ? 2 : 1;
     const float farthest = s.kinkKind == KinkKind::JumpDown ? 50 : 8;
     if (zero <= nearest || zero > farthest) {
@@ -106,36 +103,36 @@ bool drawFirstPart(Vaddi3State& s, Draws& draws) {
     if (s.kinkKind == KinkKind::JumpDown) {
         s.kinkQuantity = std::min(s.kinkQuantity, 8.0F);
     }
-    s.priceAtKinkFirst = s.firstSlope * s.kinkQuantity + s.firstIntercept;
-    return !startsFlat(s) || s.priceAtKinkFirst > 1;
+    s.kinkPriceBefore = s.slope1Before * s.kinkQuantity + s.intercept1Before;
+    return !startsFlat(s) || s.kinkPriceBefore > 1;
 }
 
-/// False if the part does not suit.
-bool drawSecondPart(Vaddi3State& s, Draws& draws) {
-    const float p = s.priceAtKinkFirst;
-    s.secondSlope = startsFlat(s) ? Int(draws.Rnd() * -4) : flatSlope(draws);
-    const float drop = s.secondSlope * s.kinkQuantity;
+/// Returns false if both parts are to be drawn again.
+bool drawPartAfter(Vaddi3State& s, Draws& draws) {
+    const float p = s.kinkPriceBefore;
+    s.slope1After = startsFlat(s) ? Int(draws.Rnd() * -4) : flatSlope(draws);
+    const float drop = s.slope1After * s.kinkQuantity;
     switch (s.kinkKind) {
         case KinkKind::JumpDown:
-            s.secondIntercept = Int(p - draws.Rnd() * (p - 2) - 0.5 - drop);
+            s.intercept1After = Int(p - draws.Rnd() * (p - 2) - 0.5 - drop);
             break;
         case KinkKind::JumpUp:
-            s.secondIntercept = Int((s.firstIntercept - p - 1.5) * draws.Rnd() + p - drop + 1.5);
+            s.intercept1After = Int((s.intercept1Before - p - 1.5) * draws.Rnd() + p - drop + 1.5);
             break;
         case KinkKind::Steeper:
         case KinkKind::Flatter:
-            s.secondIntercept = RoundUp1(p - drop);
-            s.priceAtKinkSecond = p;
+            s.intercept1After = RoundUp1(p - drop);
+            s.kinkPriceAfter = p;
             return true;
     }
-    s.priceAtKinkSecond = drop + s.secondIntercept;
-    return s.isJumpUp() || s.priceAtKinkSecond > 0.5;
+    s.kinkPriceAfter = drop + s.intercept1After;
+    return s.isJumpUp() || s.kinkPriceAfter > 0.5;
 }
 
 void drawTask(Vaddi3State& s, Draws& draws) {
     draws.Randomize();
     s.kinkKind = static_cast<KinkKind>(Int(draws.Rnd() * 4));
-    while (!drawFirstPart(s, draws) || !drawSecondPart(s, draws)) {
+    while (!drawPartBefore(s, draws) || !drawPartAfter(s, draws)) {
     }
     s.slope2 = Fix(draws.Rnd() * -5);
     s.intercept2 = Int(draws.Rnd() * 5) + 5;
@@ -143,62 +140,61 @@ void drawTask(Vaddi3State& s, Draws& draws) {
 
 // The sum.
 
-/// The quantity of the first part of function 1, 0 beside its own prices; at a jump down also for the prices
-/// that are jumped over.
-Carried firstQuantity(const Vaddi3State& s, Carried price) {
-    const Carried onLine = (price - s.firstIntercept) / s.firstSlope;
-    const Carried kink = s.priceAtKinkFirst;
-    if (price == kink || (price > s.priceAtKinkSecond && price < kink)) {
+/// Returns the quantity of function 1 before the kink, 0 for a price that this part does not have. At a jump
+/// down it has the prices that are jumped over.
+Carried quantityBefore(const Vaddi3State& s, Carried price) {
+    const Carried onLine = (price - s.intercept1Before) / s.slope1Before;
+    const Carried kink = s.kinkPriceBefore;
+    if (price == kink || (price > s.kinkPriceAfter && price < kink)) {
         return s.kinkQuantity;
     }
     return price < kink || onLine < kNone ? kNone : onLine;
 }
 
-/// The quantity of the second part of function 1, 0 beside its own prices and where it only touches the
-/// first.
-Carried secondQuantity(const Vaddi3State& s, Carried price) {
-    const Carried onLine = (price - s.secondIntercept) / s.secondSlope;
-    const bool isTouching = price == s.priceAtKinkFirst && price == s.priceAtKinkSecond;
-    return price > s.priceAtKinkSecond || isTouching || onLine < kNone ? kNone : onLine;
+/// Returns the quantity of function 1 after the kink, 0 for a price that this part does not have, and for the
+/// price at which it meets the part before.
+Carried quantityAfter(const Vaddi3State& s, Carried price) {
+    const Carried onLine = (price - s.intercept1After) / s.slope1After;
+    const bool isMeeting = price == s.kinkPriceBefore && price == s.kinkPriceAfter;
+    return price > s.kinkPriceAfter || isMeeting || onLine < kNone ? kNone : onLine;
 }
 
-/// The quantity of function 2.
-Carried otherQuantity(const Vaddi3State& s, Carried price) {
+/// Returns the quantity of function 2.
+Carried quantity2(const Vaddi3State& s, Carried price) {
     if (s.slope2 == 0) {
         return price < s.intercept2 ? kUnboundedQuantity : kNone;
     }
     return (price - s.intercept2) / s.slope2;
 }
 
-/// All that can be bought at a price; nothing above the start of a function.
+/// Returns the quantities at a price; nothing for a function that starts below it.
 Quantities quantitiesAt(const Vaddi3State& s, Carried price) {
-    Quantities found{firstQuantity(s, price), secondQuantity(s, price), otherQuantity(s, price)};
-    if (price > s.firstIntercept) {
-        found.first = found.second = std::nullopt;
+    Quantities found{quantityBefore(s, price), quantityAfter(s, price), quantity2(s, price)};
+    if (price > s.intercept1Before) {
+        found.before = found.after = std::nullopt;
     }
     if (price > s.intercept2) {
-        found.other = std::nullopt;
+        found.of2 = std::nullopt;
     }
     return found;
 }
 
 Parts partsAtIntercept2(const Vaddi3State& s) {
-    const auto [lower, higher] = std::minmax({double{s.priceAtKinkFirst}, s.priceAtKinkSecond});
+    const auto [lower, higher] = std::minmax({double{s.kinkPriceBefore}, s.kinkPriceAfter});
     if (s.intercept2 < lower) {
-        return Parts::Second;
+        return Parts::AfterKink;
     }
-    return s.intercept2 > higher ? Parts::First : Parts::Both;
+    return s.intercept2 > higher ? Parts::BeforeKink : Parts::Both;
 }
 
 /// The prices at which something begins or ends, falling, each once.
 std::vector<PriceRow> priceRows(const Vaddi3State& s) {
-    const bool isKink = s.kinkKind == KinkKind::Steeper || s.kinkKind == KinkKind::Flatter;
-    const Carried secondKink = isKink ? Carried(s.priceAtKinkFirst) : Carried(s.priceAtKinkSecond);
-    std::vector<PriceRow> rows{{s.firstIntercept, Parts::First},
-                               {s.priceAtKinkFirst, Parts::First},
-                               {secondKink, Parts::Second},
+    const Carried kinkAfter = s.isJump() ? Carried(s.kinkPriceAfter) : Carried(s.kinkPriceBefore);
+    std::vector<PriceRow> rows{{s.intercept1Before, Parts::BeforeKink},
+                               {s.kinkPriceBefore, Parts::BeforeKink},
+                               {kinkAfter, Parts::AfterKink},
                                {s.intercept2, partsAtIntercept2(s)},
-                               {kNone, Parts::Second}};
+                               {kNone, Parts::AfterKink}};
     std::stable_sort(rows.begin(), rows.end(),
                      [](const PriceRow& a, const PriceRow& b) { return a.price > b.price; });
     for (auto row = rows.begin(); row + 1 != rows.end();) {
@@ -219,16 +215,16 @@ void fillTable(Vaddi3State& s, const std::vector<PriceRow>& rows) {
         column.fill(TableCell::blank());
     }
     s.partsOfRows.fill(Parts::None);
-    const HelpColumns columns = helpColumns(s);
+    const ColumnRoles columns = columnRoles(s);
     for (std::size_t row = 0; row < rows.size(); ++row) {
         const Quantities q = quantitiesAt(s, rows[row].price);
         s.column(columns.price)[row] = RoundUp2(rows[row].price.value());
-        s.column(columns.quantity2)[row] = shown(q.other);
+        s.column(columns.quantity2)[row] = shown(q.of2);
         for (const auto& [part, quantity, total] : columns.function1) {
-            const Quantity ofPart = part == Part::First ? q.first : q.second;
-            const Quantity own = s.isJumpUp() ? ofPart : sum(q.first, q.second);
-            s.column(quantity)[row] = shown(own);
-            s.column(total)[row] = shown(sum(own, q.other));
+            const Quantity ofPart = part == Part::BeforeKink ? q.before : q.after;
+            const Quantity of1 = s.isJumpUp() ? ofPart : sum(q.before, q.after);
+            s.column(quantity)[row] = shown(of1);
+            s.column(total)[row] = shown(sum(of1, q.of2));
         }
         s.partsOfRows[row] = rows[row].parts;
     }
@@ -237,14 +233,11 @@ void fillTable(Vaddi3State& s, const std::vector<PriceRow>& rows) {
 }
 
 SumSegment segmentBetween(const Point& from, const Point& to, Carried slope, Carried intercept) {
-    return {{RoundSigned2Fine(slope.value()), RoundUp2(intercept.value())},
-            shown(from.quantity),
-            RoundUp2(from.price.value()),
-            shown(to.quantity),
-            RoundUp2(to.price.value())};
+    return {rounded({slope.value(), intercept.value()}), shown(from.quantity), RoundUp2(from.price.value()),
+            shown(to.quantity), RoundUp2(to.price.value())};
 }
 
-/// A segment between each point and the next; none where the sum falls upright.
+/// Adds a segment between each point and the next; none between two points of one quantity.
 void addSegments(Vaddi3State& s, const std::vector<Point>& points) {
     for (std::size_t i = 1; i < points.size(); ++i) {
         const Point& from = points[i - 1];
@@ -260,37 +253,38 @@ void addSegments(Vaddi3State& s, const std::vector<Point>& points) {
 void addUp(Vaddi3State& s, const std::vector<PriceRow>& rows) {
     // At a jump up each part is added to function 2 by itself, over its own prices.
     for (const Parts run :
-         s.isJumpUp() ? std::vector{Parts::First, Parts::Second} : std::vector{Parts::Both}) {
+         s.isJumpUp() ? std::vector{Parts::BeforeKink, Parts::AfterKink} : std::vector{Parts::Both}) {
         std::vector<Point> points;
         for (const PriceRow& row : rows) {
             if (!haveCommonPart(row.parts, run)) {
                 continue;
             }
             const Quantities q = quantitiesAt(s, row.price);
-            const Quantity first = isIn(Part::First, run) ? q.first : std::nullopt;
-            const Quantity second = isIn(Part::Second, run) ? q.second : std::nullopt;
-            points.push_back({sum(sum(first, second), q.other).value(), row.price});
+            const Quantity before = isIn(Part::BeforeKink, run) ? q.before : std::nullopt;
+            const Quantity after = isIn(Part::AfterKink, run) ? q.after : std::nullopt;
+            points.push_back({sum(sum(before, after), q.of2).value(), row.price});
         }
         addSegments(s, points);
     }
 }
 
-/// Function 1 down to a level function 2, which takes any quantity from there on.
+/// Adds the segments of function 1 down to a level function 2, and that of function 2, which has no end.
 void addUpOverLevel(Vaddi3State& s) {
     const Carried level = s.intercept2;
-    const Carried kink = s.priceAtKinkFirst;
-    Point end{kNone, s.firstIntercept};
+    const Carried kink = s.kinkPriceBefore;
+    Point end{kNone, s.intercept1Before};
     const auto runTo = [&s, &end](const Point& to, Carried slope, Carried intercept) {
         s.segments.push_back(segmentBetween(end, to, slope, intercept));
         end = to;
     };
-    if (level < s.firstIntercept) {
+    if (level < s.intercept1Before) {
         const Point atKink{s.kinkQuantity, kink};
-        runTo(level < kink ? atKink : Point{firstQuantity(s, level), level}, s.firstSlope, s.firstIntercept);
+        runTo(level < kink ? atKink : Point{quantityBefore(s, level), level}, s.slope1Before,
+              s.intercept1Before);
     }
-    if (level < kink && level < s.priceAtKinkSecond) {
-        end.price = s.priceAtKinkSecond;
-        runTo({secondQuantity(s, level), level}, s.secondSlope, s.secondIntercept);
+    if (level < kink && level < s.kinkPriceAfter) {
+        end.price = s.kinkPriceAfter;
+        runTo({quantityAfter(s, level), level}, s.slope1After, s.intercept1After);
     }
     end.price = level;
     runTo({kUnboundedQuantity, level}, kNone, level);
@@ -309,16 +303,16 @@ void solve(Vaddi3State& s) {
 
 }  // namespace
 
-HelpColumns helpColumns(const Vaddi3State& s) {
+ColumnRoles columnRoles(const Vaddi3State& s) {
     using enum TableColumn;
     if (s.isJumpUp()) {
         return {WidePrice,
-                {{Part::First, Part1QuantityOrPrice, TotalOrPart1Total},
-                 {Part::Second, Function1OrPart2Quantity, Part2Total}},
+                {{Part::BeforeKink, Part1QuantityOrPrice, TotalOrPart1Total},
+                 {Part::AfterKink, Function1OrPart2Quantity, Part2Total}},
                 Function2Quantity};
     }
     return {Part1QuantityOrPrice,
-            {{Part::First, Function1OrPart2Quantity, TotalOrPart1Total}},
+            {{Part::BeforeKink, Function1OrPart2Quantity, TotalOrPart1Total}},
             Function2Quantity};
 }
 
@@ -366,15 +360,11 @@ Judgement judge(const Vaddi3State& s, const Vaddi3Answer& answer) {
 }
 
 std::array<std::string, 2> pathTexts(const Vaddi3State& s) {
-    std::array<std::string, 2> lines{"Her fra ", ""};
-    const std::size_t count = s.segments.size();
-    for (std::size_t i = 0; i < count; ++i) {
-        const SumSegment& segment = s.segments[i];
-        std::string& line = lines.at(i / kSegmentsInALine);
-        line += stretchText(segment.startQ, segment.startP, segment.endQ, segment.endP);
-        line += i + 1 == count ? "." : (i + 2 == count ? " og fra " : ", fra ");
+    std::vector<std::string> stretches;
+    for (const auto& [piece, startQ, startP, endQ, endP] : s.segments) {
+        stretches.push_back(stretchText(startQ, startP, endQ, endP));
     }
-    return lines;
+    return pathTexts(stretches);
 }
 
 }  // namespace tavrune

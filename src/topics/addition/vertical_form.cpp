@@ -6,13 +6,11 @@
 namespace tavrune {
 namespace {
 
-/// The sum as the answer shows it. Kept (addition-unseen-end): the upper end is written whether it is asked
+/// Writes the right sum. Kept (addition-unseen-end): the upper end is written whether it is asked
 /// for or not.
 void write(const AnswerRows& rows, const VerticalSum& sum) {
     for (std::size_t segment = 0; segment < sum.segments.size(); ++segment) {
-        const int row = sum.rowOfSegment(segment);
-        rows.write(row, Slot::Slope, sum.segments[segment].slope);
-        rows.write(row, Slot::Intercept, sum.segments[segment].intercept);
+        rows.write(sum.rowOfSegment(segment), sum.segments[segment]);
     }
     for (std::size_t at = 0; at < sum.breaks.size(); ++at) {
         rows.write(sum.rowOfSegment(at), Slot::End, RoundUp2(sum.breaks[at]));
@@ -38,16 +36,16 @@ void VerticalForm::judge() {
     const VerticalSum right = sum();
     const std::vector<AnswerBox*> boxes = rows_.boxes(answerFields(right));
     if (showJudgement(judged(valuesOf(boxes)), boxes, firstBox())) {
-        drawSum(*result_.box, right);
+        drawSum(*result_.graph, right);
     }
 }
 
 void VerticalForm::giveAnswer() {
     helpPanel()->hide();
     const VerticalSum right = sum();
-    drawTypedSum(*result_.box, rows_, right);
+    drawTypedSum(*result_.graph, rows_, right);
     rows_.whiten();
-    drawSum(*result_.box, right);
+    drawSum(*result_.graph, right);
     write(rows_, right);
     showGiven();
 }
@@ -55,12 +53,9 @@ void VerticalForm::giveAnswer() {
 void VerticalForm::help() { openPanel(helpPanel(), helpPanel()->findChild<Button*>("showIntervals")); }
 
 void VerticalForm::clearGraphs() {
-    drawFrameTicks(*function1_.frame);
-    drawFrameTicks(*function2_.frame);
-    drawTallFrameTicks(*result_.frame);
-    for (const FramedGraph& graph : {function1_, function2_, result_}) {
-        graph.box->Cls();
-    }
+    function1_.clear(drawFrameTicks);
+    function2_.clear(drawFrameTicks);
+    result_.clear(drawTallFrameTicks);
 }
 
 void VerticalForm::askForSum() {

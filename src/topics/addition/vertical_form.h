@@ -2,9 +2,8 @@
 
 #include <vector>
 
-#include "controls/panel.h"
-#include "graph/graph_box.h"
 #include "shell/exercise_form.h"
+#include "topics/addition/addition_graphs.h"
 #include "topics/addition/answer_rows.h"
 #include "topics/addition/vertical_model.h"
 
@@ -23,27 +22,27 @@ protected:
         bindGraphsAndRows();
     }
 
-    /// The sum of the exercise.
+    /// Returns the sum of the exercise.
     [[nodiscard]] virtual VerticalSum sum() const = 0;
-    /// The judgement of the exercise on what is typed in the `answerFields` of its sum.
+    /// Returns what the exercise judges of the values typed in the `answerFields` of its sum.
     [[nodiscard]] virtual Judgement judged(const std::vector<double>& typed) const = 0;
 
     void judge() override;
     void giveAnswer() override;
     void help() override;
 
-    /// Ticks on the frames, nothing on the boxes.
+    /// Clears the graphs and draws the ticks of their frames.
     void clearGraphs();
-    /// Blank rows that wait for an answer.
+    /// Blanks the rows and asks for the sum.
     void askForSum();
-    /// To the slope of the first segment that is asked for.
+    /// Gives the focus to the slope of the first segment that is asked for.
     void focusOnFirstRow() { focusOn(firstBox()); }
 
     [[nodiscard]] const AnswerRows& rows() const { return rows_; }
 
 private:
     void bindGraphsAndRows();
-    /// The slope of the first segment that is asked for.
+    /// Returns the slope of the first segment that is asked for.
     [[nodiscard]] AnswerBox* firstBox() const;
 
     FramedGraph function1_;

@@ -16,38 +16,38 @@ void drawTallFrameTicks(GraphBox& frame) {
     stepThrough(kFirstTallTick, kLastTallTick, kTallTickStep, [&frame](double t) { drawTickOfP(frame, t); });
 }
 
-void drawLevelMark(GraphBox& box, double quantity, double price) {
-    const Figure mark(box, Meaning::EndMark);
-    stepThrough(-kHalfMark, kHalfMark, kStroke, [&](double t) {
-        box.Line({quantity - kHalfMark, price, -t}, {quantity + kHalfMark, price, -t}, kRed);
+void drawLevelSquare(GraphBox& graph, double quantity, double price) {
+    const Figure square(graph, Meaning::Square);
+    stepThrough(-kHalfSquare, kHalfSquare, kStroke, [&](double t) {
+        graph.Line({quantity - kHalfSquare, price, -t}, {quantity + kHalfSquare, price, -t}, kRed);
     });
 }
 
-void drawUprights(GraphBox& box, const std::vector<double>& quantities) {
-    box.DrawStyle(LineStyle::Dotted);
+void drawUprights(GraphBox& graph, const std::vector<double>& quantities) {
+    graph.DrawStyle(LineStyle::Dotted);
     for (const double quantity : quantities) {
-        box.Line(quantity, kTopPrice, quantity, 0);
+        graph.Line(quantity, kTopPrice, quantity, 0);
     }
-    box.DrawStyle(LineStyle::Solid);
+    graph.DrawStyle(LineStyle::Solid);
 }
 
-void drawSum(GraphBox& box, const VerticalSum& sum) {
-    const Figure line(box, Meaning::Line);
+void drawSum(GraphBox& graph, const VerticalSum& sum) {
+    const Figure line(graph, Meaning::Line);
     for (std::size_t segment = 0; segment < sum.segments.size(); ++segment) {
         const double from = segment == 0 ? 0 : sum.breaks[segment - 1];
-        const double to = segment == sum.last() ? kLastGivenQ : sum.breaks[segment];
-        drawPiece(box, sum.segments[segment], from, to, kSumGreen);
+        const double to = segment == sum.last() ? kFunctionEndQ : sum.breaks[segment];
+        drawPiece(graph, sum.segments[segment], from, to, kSumGreen);
     }
 }
 
-void drawTypedSum(GraphBox& box, const AnswerRows& rows, const VerticalSum& sum) {
-    const Figure line(box, Meaning::Line);
+void drawTypedSum(GraphBox& graph, const AnswerRows& rows, const VerticalSum& sum) {
+    const Figure line(graph, Meaning::Line);
     const int last = sum.rowOfSegment(sum.last());
     for (int row = 0; row <= last; ++row) {
         const double from = row == 0 ? 0 : rows.typed(row, Slot::Start);
         const bool isEndTyped = row != last || sum.upperEndAsked;
-        const double to = isEndTyped ? rows.typed(row, Slot::End) : kLastGivenQ;
-        drawPiece(box, rows.typedSegment(row), from, to, kRed);
+        const double to = isEndTyped ? rows.typed(row, Slot::End) : kFunctionEndQ;
+        drawPiece(graph, rows.typedSegment(row), from, to, kRed);
     }
 }
 

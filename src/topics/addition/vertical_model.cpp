@@ -18,6 +18,11 @@ double drawSlope(Draws& draws, bool isFalling) {
     return isFalling ? Fix(draws.Rnd() * -5) : Int(draws.Rnd() * 5);
 }
 
+Piece drawPieceFromAxis(Draws& draws, float fallingShare) {
+    const double slope = drawSlope(draws, draws.Rnd() < fallingShare);
+    return {slope, Int(draws.Rnd() * 5)};
+}
+
 double zeroOf(const Piece& piece) { return divide(-piece.intercept, piece.slope); }
 
 Piece addedUp(const Piece& one, const Piece& other) {

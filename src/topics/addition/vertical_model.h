@@ -16,7 +16,7 @@ inline constexpr double kNeverEnds = 100;
 /// break.
 struct VerticalSum {
     std::vector<Piece> segments;
-    /// Where one segment gives way to the next: one fewer than there are segments.
+    /// The quantities at which one segment ends and the next begins, one fewer than there are segments.
     std::vector<double> breaks;
     /// The last segment ends at `upperEnd`, and that is asked for.
     bool upperEndAsked = false;
@@ -28,25 +28,31 @@ struct VerticalSum {
     }
 };
 
-/// 0..-4 where it is to fall, otherwise 0..4.
+/// Draws a slope: 0..-4 if it is to fall, otherwise 0..4.
 [[nodiscard]] double drawSlope(Draws& draws, bool isFalling);
 
-/// Where a sloping line meets P = 0, on either side of Q = 0.
+/// Draws a piece with an intercept of 0..4. It falls where its first draw is below `fallingShare`.
+[[nodiscard]] Piece drawPieceFromAxis(Draws& draws, float fallingShare);
+
+/// Returns where the line of a piece meets P = 0, on either side of Q = 0. Throws ArithmeticFailure for a
+/// level piece.
 [[nodiscard]] double zeroOf(const Piece& piece);
 
+/// Returns the sum by prices of two pieces.
 [[nodiscard]] Piece addedUp(const Piece& one, const Piece& other);
 
-/// The fields that are judged: slopes and intercepts exactly, breaks by the chained comparison, the upper end
-/// with both bounds. A lone segment begins at just 0.
+/// Returns the fields that are judged: slopes and intercepts exactly, breaks by the chained comparison, the
+/// upper end with both bounds. The start of a lone segment has to be just 0.
 [[nodiscard]] std::vector<AnswerField> answerFields(const VerticalSum& sum);
 
-/// "-3Q + 4": plain numbers, negative ones too.
+/// Returns "-3Q + 4", or "-3Q + -4" for a negative intercept.
 [[nodiscard]] std::string termsText(const Piece& piece);
 
-/// "(-3 - 1)Q + (4 + 2) = -4Q + 6": the sum of two functions, worked out.
+/// Returns the sum of two functions worked out: "(-3 - 1)Q + (4 + 2) = -4Q + 6".
 [[nodiscard]] std::string workedSumText(const Piece& one, const Piece& other);
 
-/// "0<Q", "0<Q<1.33", "1.33<Q", "1.33<Q<2": where a segment is the sum, by the name of the quantity.
+/// Returns where a segment is the sum, with the name of the quantity: "0<Q", "0<Q<1.33", "1.33<Q",
+/// "1.33<Q<2".
 [[nodiscard]] std::string rangeText(const VerticalSum& sum, std::size_t segment, const std::string& quantity);
 
 }  // namespace tavrune

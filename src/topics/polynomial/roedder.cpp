@@ -120,7 +120,7 @@ void Roedder::drawCurve(double exactEnd) {
 }
 
 void Roedder::drawTick(double root) {
-    const Figure tick(*ui_->graph, Meaning::Mark);
+    const Figure tick(*ui_->graph, Meaning::Dash);
     ui_->graph->Line(root, -kHalfTick, root, kHalfTick, kRed);
 }
 

@@ -145,7 +145,7 @@ void Rogt::judge() {
 
 void Rogt::drawTypedRoots() {
     for (const AnswerBox* box : chosenRootBoxes()) {
-        const Figure mark(*ui_->graph, Meaning::Mark);
+        const Figure mark(*ui_->graph, Meaning::Dash);
         const double root = box->value();
         ui_->graph->Line(root, -kHalfTick, root, kHalfTick, kRed);
     }

@@ -73,18 +73,18 @@ TEST_F(AdditionGraph, DrawsAPieceUpFromTheLowerBorder) {
               (std::vector<Stroke>{in.line(0, 0, 10, 30), in.line(0.5, 1.5, 2, 6, rgb(0, 190, 0))}));
 }
 
-struct MarkRow {
+struct SquareRow {
     const char* name;
     TableCell quantity;
     double left;
     int strokes;
 };
 
-class Mark : public AdditionGraph, public testing::WithParamInterface<MarkRow> {};
+class Square : public AdditionGraph, public testing::WithParamInterface<SquareRow> {};
 
-TEST_P(Mark, IsASquareOfUprightStrokes) {
-    const MarkRow& row = GetParam();
-    drawMark(box, row.quantity, 8);
+TEST_P(Square, IsMadeOfUprightStrokes) {
+    const SquareRow& row = GetParam();
+    drawSquare(box, row.quantity, 8);
     std::vector<Stroke> expected;
     double x = row.left;
     for (int i = 0; i < row.strokes; ++i) {
@@ -94,18 +94,25 @@ TEST_P(Mark, IsASquareOfUprightStrokes) {
     EXPECT_EQ(box.strokes(), expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, Mark,
-                         testing::Values(MarkRow{"AtZero", 0.0, -0.15, 6},
-                                         MarkRow{"WithOneStrokeMore", 2.0, 1.85, 7},
-                                         MarkRow{"AtTwoDecimals", 0.67, 0.67 - 0.15, 6},
-                                         MarkRow{"BesideTheBoxForABlank", TableCell::blank(), -5, 7},
-                                         MarkRow{"AtTheRightEdgeForOo", TableCell::unbounded(), 9.85, 6}),
+INSTANTIATE_TEST_SUITE_P(Rows, Square,
+                         testing::Values(SquareRow{"AtZero", 0.0, -0.15, 6},
+                                         SquareRow{"WithOneStrokeMore", 2.0, 1.85, 7},
+                                         SquareRow{"AtTwoDecimals", 0.67, 0.67 - 0.15, 6},
+                                         SquareRow{"OffTheGraphForABlank", TableCell::blank(), -5, 7},
+                                         SquareRow{"AtTheRightEdgeForOo", TableCell::unbounded(), 9.85, 6}),
                          [](const auto& row) { return row.param.name; });
 
-TEST_F(AdditionGraph, MarksAPriceBelowTheBox) {
-    drawMark(box, TableCell::blank(), -5);
+TEST_F(AdditionGraph, HasASquareForAPriceBelowIt) {
+    drawSquare(box, TableCell::blank(), -5);
     ASSERT_EQ(box.strokes().size(), 7U);
     EXPECT_EQ(box.strokes().front(), in.line(-5, 14.85, -5, 15.15, kRed));
+}
+
+TEST_F(AdditionGraph, IsClearedAndItsFrameGetsTicks) {
+    drawPiece(box, {-3, 10}, 0, 10);
+    FramedGraph{&frame, &box}.clear([](GraphBox& cleared) { drawTickOfP(cleared, 3); });
+    EXPECT_TRUE(box.strokes().empty());
+    EXPECT_EQ(frame.strokes(), (std::vector<Stroke>{in.line(0.8, 3, 1, 3)}));
 }
 
 TEST_F(AdditionGraph, DrawsAThickLineOfFiveStrokesRoundItsMiddle) {

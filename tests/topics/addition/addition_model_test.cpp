@@ -89,6 +89,27 @@ TEST(StretchText, TellsTheQuantityBeforeThePrice) {
     EXPECT_EQ(stretchText(0.0, 8.0, TableCell(), 8.0), "( 0 ; 8 ) til (  ; 8 )");
 }
 
+TEST(PathTexts, BreakAfterTwoSegments) {
+    using Lines = std::array<std::string, 2>;
+    EXPECT_EQ(pathTexts({"a"}), (Lines{"Her fra a.", ""}));
+    EXPECT_EQ(pathTexts({"a", "b"}), (Lines{"Her fra a og fra b.", ""}));
+    EXPECT_EQ(pathTexts({"a", "b", "c"}), (Lines{"Her fra a, fra b og fra ", "c."}));
+    EXPECT_EQ(pathTexts({"a", "b", "c", "d"}), (Lines{"Her fra a, fra b, fra ", "c og fra d."}));
+}
+
+TEST(PathTexts, GoFromRowToRowOfAHelpTable) {
+    const std::array<TableCell, 3> quantities{0.0, 2.5, kUnbounded};
+    const std::array<TableCell, 3> prices{10.0, 5.0, 4.0};
+    EXPECT_EQ(pathTexts(quantities, prices, 1)[0], "Her fra ( 0 ; 10 ) til ( 2.5 ; 5 ).");
+    EXPECT_EQ(pathTexts(quantities, prices, 2)[0],
+              "Her fra ( 0 ; 10 ) til ( 2.5 ; 5 ) og fra ( 2.5 ; 5 ) til ( oo ; 4 ).");
+}
+
+TEST(Piece, IsRoundedBesideZeroInItsSlopeAndUpInItsIntercept) {
+    EXPECT_EQ(rounded(Piece{-0.125, -0.125}), (Piece{-0.13, -0.12}));
+    EXPECT_EQ(rounded(Piece{-0.12499995, 0.125}), (Piece{-0.12, 0.13}));
+}
+
 TEST(Piece, HasAPriceAtEachQuantity) {
     const Piece piece{-2, 10};
     EXPECT_EQ(piece.at(0), 10);

@@ -125,6 +125,20 @@ TEST_F(TwoRows, AreWrittenASlotAtATime) {
     EXPECT_EQ(end2.content(), "");
 }
 
+TEST_F(TwoRows, AreWrittenAFunctionAtATime) {
+    rows.write(1, Piece{-2.5, 7});
+    EXPECT_EQ(slope2.content(), "-2.5");
+    EXPECT_EQ(intercept2.content(), "7");
+    EXPECT_EQ(slope1.content(), "");
+}
+
+TEST_F(TwoRows, AreWrittenFromTheTargetsOfFields) {
+    rows.write({{1, Slot::End, {5.33}}, {0, Slot::Slope, {-2}}});
+    EXPECT_EQ(end2.content(), "5.33");
+    EXPECT_EQ(slope1.content(), "-2");
+    EXPECT_EQ(slope2.content(), "");
+}
+
 TEST_F(TwoRows, GiveTheBoxesOfFieldsInTheirOrder) {
     EXPECT_EQ(rows.boxes({{1, Slot::End, {5.33}}, {0, Slot::Slope, {-2}}}),
               (std::vector<AnswerBox*>{&end2, &slope1}));
@@ -143,7 +157,7 @@ TEST_F(TwoRows, NameTheirBoxesByTheOrderOfTheRows) {
     EXPECT_EQ(end2.accessibleName(), "slut i Q");
 }
 
-TEST(GivenFunction, FillsItsGapsAndTellsTheWhole) {
+TEST(FunctionLabels, FillsItsGapsAndTellsTheWhole) {
     QWidget page;
     Label text(&page);
     Label slope(&page);
@@ -151,7 +165,7 @@ TEST(GivenFunction, FillsItsGapsAndTellsTheWhole) {
     text.setObjectName("function2Text");
     slope.setObjectName("function2Slope");
     intercept.setObjectName("function2Intercept");
-    GivenFunction::of(page, "function2").tell("-3", "4", "Q > 0");
+    FunctionLabels::of(page, "function2").tell("-3", "4", "Q > 0");
     EXPECT_EQ(slope.caption(), "-3");
     EXPECT_EQ(intercept.caption(), "4");
     EXPECT_EQ(text.accessibleName(), "P = -3Q + 4 for Q > 0");
@@ -173,6 +187,21 @@ TEST(WholeFunction, SaysWhatIsLaidOutInPieces) {
     EXPECT_EQ(wholeFunction("2.5", "-4", "0 < Q"), "P = 2.5Q - 4 for 0 < Q");
 }
 
+TEST(HelpTable, IsFoundByTheNamesOfItsColumnsAndReadRowByRow) {
+    QWidget page;
+    AnswerBox price1(&page);
+    AnswerBox price2(&page);
+    AnswerBox total1(&page);
+    AnswerBox total2(&page);
+    price1.setObjectName("price1");
+    price2.setObjectName("price2");
+    total1.setObjectName("total1");
+    total2.setObjectName("total2");
+    const HelpTable table = helpTableOf(page, {"total", "price"});
+    EXPECT_EQ(table, (HelpTable{{&total1, &total2}, {&price1, &price2}}));
+    EXPECT_EQ(rowByRow(table), (std::vector<AnswerBox*>{&total1, &price1, &total2, &price2}));
+}
+
 TEST(HelpColumn, IsFilledFromTheTopAndBlankedWithoutLosingItsColour) {
     AnswerBox top;
     AnswerBox middle;
@@ -183,9 +212,10 @@ TEST(HelpColumn, IsFilledFromTheTopAndBlankedWithoutLosingItsColour) {
     EXPECT_EQ(middle.content(), "oo");
     EXPECT_EQ(bottom.content(), " ");
     top.mark(true);
-    blankColumn(column);
+    blank({column});
     EXPECT_EQ(top.content(), " ");
     EXPECT_EQ(middle.content(), " ");
+    EXPECT_EQ(bottom.content(), " ");
     EXPECT_EQ(top.backColour(), kRed);
 }
 

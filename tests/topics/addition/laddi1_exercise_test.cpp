@@ -49,15 +49,15 @@ class Laddi1Exercises : public testing::TestWithParam<ExerciseRow> {};
 TEST_P(Laddi1Exercises, AddUp) {
     const ExerciseRow& row = GetParam();
     const Laddi1State s = exercise(row.function1, row.function2);
-    EXPECT_EQ(s.slope1, row.function1.slope);
-    EXPECT_EQ(s.intercept1, row.function1.intercept);
-    EXPECT_EQ(s.slope2, row.function2.slope);
-    EXPECT_EQ(s.intercept2, row.function2.intercept);
+    EXPECT_EQ(s.function1.slope, row.function1.slope);
+    EXPECT_EQ(s.function1.intercept, row.function1.intercept);
+    EXPECT_EQ(s.function2.slope, row.function2.slope);
+    EXPECT_EQ(s.function2.intercept, row.function2.intercept);
     EXPECT_EQ(s.segmentCount, row.segmentCount);
-    EXPECT_EQ(s.firstSlope, row.first.slope);
-    EXPECT_EQ(s.firstIntercept, row.first.intercept);
-    EXPECT_EQ(s.secondSlope, row.second.slope);
-    EXPECT_EQ(s.secondIntercept, row.second.intercept);
+    EXPECT_EQ(s.firstSegment.slope, row.first.slope);
+    EXPECT_EQ(s.firstSegment.intercept, row.first.intercept);
+    EXPECT_EQ(s.secondSegment.slope, row.second.slope);
+    EXPECT_EQ(s.secondSegment.intercept, row.second.intercept);
     EXPECT_EQ(s.kinkQuantity, row.kink);
     EXPECT_EQ(s.upperEndAsked, row.upperEnd.has_value());
     EXPECT_EQ(s.upperEnd, row.upperEnd.value_or(0));
@@ -87,10 +87,10 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Laddi1Generator, TakesTheCoinThenTheSlopeThenTheInterceptOfEachFunction) {
     const Laddi1State s = test::exerciseOf<Laddi1State>({0.49F, 0.7F, 0.5F, 0.5F, 0.3F, 0.9F});
-    EXPECT_EQ(s.slope1, -3);
-    EXPECT_EQ(s.intercept1, 2);
-    EXPECT_EQ(s.slope2, 1);
-    EXPECT_EQ(s.intercept2, 4);
+    EXPECT_EQ(s.function1.slope, -3);
+    EXPECT_EQ(s.function1.intercept, 2);
+    EXPECT_EQ(s.function2.slope, 1);
+    EXPECT_EQ(s.function2.intercept, 4);
 }
 
 TEST(Laddi1Generator, LetsAFunctionRiseFromOneHalfOn) {
@@ -98,24 +98,24 @@ TEST(Laddi1Generator, LetsAFunctionRiseFromOneHalfOn) {
     ScriptedDraws draws{belowHalf, 0.7F, 0.5F, 0.5F, 0.7F, 0.5F};
     Laddi1State s;
     newExercise(s, draws);
-    EXPECT_EQ(s.slope1, -3);
-    EXPECT_EQ(s.slope2, 3);
+    EXPECT_EQ(s.function1.slope, -3);
+    EXPECT_EQ(s.function2.slope, 3);
 }
 
 TEST(Laddi1Generator, ReachesBothEndsOfEachRange) {
     ScriptedDraws falling{0, kLargestDraw, kLargestDraw, 0, kLargestDraw, 0};
     Laddi1State s;
     newExercise(s, falling);
-    EXPECT_EQ(s.slope1, -4);
-    EXPECT_EQ(s.intercept1, 4);
-    EXPECT_EQ(s.slope2, -4);
-    EXPECT_EQ(s.intercept2, 0);
+    EXPECT_EQ(s.function1.slope, -4);
+    EXPECT_EQ(s.function1.intercept, 4);
+    EXPECT_EQ(s.function2.slope, -4);
+    EXPECT_EQ(s.function2.intercept, 0);
     ScriptedDraws rising{0.5F, kLargestDraw, 0, kLargestDraw, kLargestDraw, kLargestDraw};
     newExercise(s, rising);
-    EXPECT_EQ(s.slope1, 4);
-    EXPECT_EQ(s.intercept1, 0);
-    EXPECT_EQ(s.slope2, 4);
-    EXPECT_EQ(s.intercept2, 4);
+    EXPECT_EQ(s.function1.slope, 4);
+    EXPECT_EQ(s.function1.intercept, 0);
+    EXPECT_EQ(s.function2.slope, 4);
+    EXPECT_EQ(s.function2.intercept, 4);
 }
 
 TEST(Laddi1Generator, DrawsTheFirstFunctionAgainWhileItIsTheAxisAndReseedsEachTime) {
@@ -124,9 +124,9 @@ TEST(Laddi1Generator, DrawsTheFirstFunctionAgainWhileItIsTheAxisAndReseedsEachTi
     newExercise(s, draws);
     EXPECT_TRUE(draws.isUsedUp());
     EXPECT_EQ(draws.randomized(), 3);
-    EXPECT_EQ(s.slope1, -3);
-    EXPECT_EQ(s.slope2, 0);
-    EXPECT_EQ(s.intercept2, 0);
+    EXPECT_EQ(s.function1.slope, -3);
+    EXPECT_EQ(s.function2.slope, 0);
+    EXPECT_EQ(s.function2.intercept, 0);
 }
 
 TEST(Laddi1Generator, NeverRejectsTheSecondFunctionNorReseedsForIt) {
@@ -136,8 +136,8 @@ TEST(Laddi1Generator, NeverRejectsTheSecondFunctionNorReseedsForIt) {
         newExercise(s, draws);
         EXPECT_TRUE(draws.isUsedUp());
         EXPECT_EQ(draws.randomized(), 1);
-        EXPECT_EQ(s.slope2, 0);
-        EXPECT_EQ(s.intercept2, 0);
+        EXPECT_EQ(s.function2.slope, 0);
+        EXPECT_EQ(s.function2.intercept, 0);
     }
 }
 
@@ -148,8 +148,8 @@ TEST(Laddi1Generator, KeepsTheUpperEndAndTheSecondSegmentWhereAnExerciseHasNone)
     newExercise(s, draws);
     EXPECT_FALSE(s.upperEndAsked);
     EXPECT_EQ(s.upperEnd, 2);
-    EXPECT_EQ(s.secondSlope, -1);
-    EXPECT_EQ(s.secondIntercept, 2);
+    EXPECT_EQ(s.secondSegment.slope, -1);
+    EXPECT_EQ(s.secondSegment.intercept, 2);
     EXPECT_EQ(s.kinkQuantity, 0);
 }
 
@@ -357,7 +357,7 @@ std::optional<double> answerAt(const Laddi1State& s, double q) {
     if (s.upperEndAsked && q > s.upperEnd) {
         return std::nullopt;
     }
-    const Piece segment = s.segmentCount == 2 && q > s.kinkQuantity ? s.secondSegment() : s.firstSegment();
+    const Piece segment = s.segmentCount == 2 && q > s.kinkQuantity ? s.secondSegment : s.firstSegment;
     return segment.at(q);
 }
 
@@ -389,7 +389,7 @@ TEST(Laddi1Space, HoldsTwoThousandFourHundredExercisesOfEveryKind) {
         newExercise(s, draws);
         ASSERT_TRUE(draws.isUsedUp()) << e.text();
         ASSERT_EQ(draws.randomized(), 2) << e.text();
-        ASSERT_EQ(s.slope1, 1) << e.text();
+        ASSERT_EQ(s.function1.slope, 1) << e.text();
     });
     EXPECT_EQ(accepted, 2400);
     EXPECT_EQ(rejected, 100);
@@ -415,8 +415,8 @@ TEST(Laddi1Space, GivesTheTrueSumPointByPoint) {
         }
         ++compared;
         ASSERT_TRUE(isTrueSum(e, s)) << e.text();
-        ASSERT_EQ(s.firstSlope, e.function1.slope + e.function2.slope) << e.text();
-        ASSERT_EQ(s.firstIntercept, e.function1.intercept + e.function2.intercept) << e.text();
+        ASSERT_EQ(s.firstSegment.slope, e.function1.slope + e.function2.slope) << e.text();
+        ASSERT_EQ(s.firstSegment.intercept, e.function1.intercept + e.function2.intercept) << e.text();
     });
     EXPECT_EQ(compared, 2024);
 }
@@ -447,8 +447,8 @@ TEST(Laddi1Space, AddsAFallingLineThroughTheOriginAsOneThatNeverEnds) {
         if (other.slope < 0) {
             const double zero = -static_cast<double>(other.intercept) / other.slope;
             ASSERT_EQ(s.kinkQuantity, zero) << e.text();
-            ASSERT_EQ(s.secondSlope, endless.slope) << e.text();
-            ASSERT_EQ(s.secondIntercept, 0) << e.text();
+            ASSERT_EQ(s.secondSegment.slope, endless.slope) << e.text();
+            ASSERT_EQ(s.secondSegment.intercept, 0) << e.text();
             ASSERT_EQ(s.upperEnd, zero) << e.text();
         }
     });
@@ -468,21 +468,21 @@ bool isInItsTexts(const Laddi1State& s) {
         return NumberText(p.slope) + "Q + " + NumberText(p.intercept) + " for ";
     };
     const std::string end = s.upperEndAsked ? "<" + NumberText(RoundUp2(s.upperEnd)) : "";
-    const std::string first = " = " + line(s.firstSegment()) + "0<Q";
+    const std::string first = " = " + line(s.firstSegment) + "0<Q";
     if (s.segmentCount == 1) {
         return test::endsIn(firstSegmentText(s), first + end);
     }
     const std::string kink = NumberText(RoundUp2(s.kinkQuantity));
     return test::endsIn(firstSegmentText(s), first + "<" + kink) &&
-           secondSegmentText(s) == "P= " + line(s.secondSegment()) + kink + "<Q" + end;
+           secondSegmentText(s) == "P= " + line(s.secondSegment) + kink + "<Q" + end;
 }
 
 TEST(Laddi1Space, IsSolvedByItsAnswerAndByNoOtherCoefficientOrUpperEnd) {
     Proof proof("Laddi1", 14);
     const auto sign = [](double x) { return (x > 0) - (x < 0); };
     forEachExercise([&](const SpacePoint& e, Laddi1State s) {
-        proof.visit(Proof::From::WholeSpace, 100 * sign(s.slope1) + 10 * sign(s.slope2) + 2 * s.segmentCount +
-                                                 (s.upperEndAsked ? 1 : 0));
+        proof.visit(Proof::From::WholeSpace, 100 * sign(s.function1.slope) + 10 * sign(s.function2.slope) +
+                                                 2 * s.segmentCount + (s.upperEndAsked ? 1 : 0));
         if (!isTrueSum(e, s)) {
             proof.unsolvable("judged as if a falling line through the origin went on below P = 0");
         }

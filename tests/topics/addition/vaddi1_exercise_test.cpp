@@ -55,8 +55,9 @@ Vaddi1State exercise(const Task& task) {
 }
 
 Task taskOf(const Vaddi1State& s) {
-    return {factorOf(s.direction), static_cast<int>(s.slope1), static_cast<int>(s.intercept1),
-            static_cast<int>(s.slope2), static_cast<int>(s.intercept2)};
+    return {factorOf(s.direction), static_cast<int>(s.function1.slope),
+            static_cast<int>(s.function1.intercept), static_cast<int>(s.function2.slope),
+            static_cast<int>(s.function2.intercept)};
 }
 
 std::string textOf(const Vaddi1State::Column& column) {
@@ -167,11 +168,11 @@ TEST_P(Vaddi1Solution, FillsTheTableAndTheSegments) {
     EXPECT_EQ(textOf(s.tableQ2), row.tableQ2);
     EXPECT_EQ(textOf(s.tableQtotal), row.tableQtotal);
     EXPECT_EQ(s.segmentCount, row.segmentCount);
-    EXPECT_EQ(s.firstSlope, row.first.slope);
-    EXPECT_EQ(s.firstIntercept, row.first.intercept);
+    EXPECT_EQ(s.firstSegment.slope, row.first.slope);
+    EXPECT_EQ(s.firstSegment.intercept, row.first.intercept);
     EXPECT_EQ(s.kinkQuantity, row.kinkQuantity);
-    EXPECT_EQ(s.secondSlope, row.second.slope);
-    EXPECT_EQ(s.secondIntercept, row.second.intercept);
+    EXPECT_EQ(s.secondSegment.slope, row.second.slope);
+    EXPECT_EQ(s.secondSegment.intercept, row.second.intercept);
     EXPECT_EQ(s.upperEnd.text(), row.upperEnd);
     EXPECT_EQ(s.upperEndAsked, *row.upperEnd != '\0');
     EXPECT_EQ(hasUpperEnd(s), s.upperEndAsked);
@@ -400,19 +401,19 @@ TEST(Vaddi1Solution, IsAlwaysOneSegmentForALevelFirstSupply) {
 
 TEST(Vaddi1Solution, RoundsANegativeHalfAwayFromZero) {
     // -1.875 on paper.
-    EXPECT_EQ(exercise({-1, -3, 7, -5, 7}).secondSlope, -1.88);
+    EXPECT_EQ(exercise({-1, -3, 7, -5, 7}).secondSegment.slope, -1.88);
 }
 
 TEST(Vaddi1Solution, RoundsAPositiveHalfAsTheDoubleFallsOut) {
     // 1.875 on paper, a little less as a double.
-    EXPECT_EQ(exercise({1, 3, 5, 5, 5}).secondSlope, 1.87);
+    EXPECT_EQ(exercise({1, 3, 5, 5, 5}).secondSegment.slope, 1.87);
 }
 
 TEST(Vaddi1Solution, GoesThroughTheRoundedKink) {
     const Vaddi1State s = exercise(kFalling);
     const double sum = 2 + 10.0 / 3;
-    EXPECT_EQ(s.secondSlope, std::round(100 * 8 / (0.67 - sum)) / 100);
-    EXPECT_NE(s.secondSlope, std::round(100 * 8 / (2.0 / 3 - sum)) / 100);
+    EXPECT_EQ(s.secondSegment.slope, std::round(100 * 8 / (0.67 - sum)) / 100);
+    EXPECT_NE(s.secondSegment.slope, std::round(100 * 8 / (2.0 / 3 - sum)) / 100);
 }
 
 // What outlives an exercise.
@@ -447,8 +448,8 @@ TEST(Vaddi1State, KeepsTheFirstPairInAnExerciseWithALevelLoneSegment) {
     play(s, kFalling);
     play(s, kLevelFirst);
     EXPECT_EQ(s.segmentCount, 1);
-    EXPECT_EQ(s.firstSlope, -3);
-    EXPECT_EQ(s.firstIntercept, 10);
+    EXPECT_EQ(s.firstSegment.slope, -3);
+    EXPECT_EQ(s.firstSegment.intercept, 10);
     EXPECT_EQ(s.kinkQuantity, 0);
 }
 
@@ -473,9 +474,9 @@ TEST(Vaddi1State, KeepsWhatTheExerciseBeforeHasLeftWhereTheNextOverflows) {
     play(s, kFalling);
     draw(s, kOverflow);
     EXPECT_THROW(solve(s), ArithmeticFailure);
-    EXPECT_EQ(s.intercept2, 10);
-    EXPECT_EQ(s.secondSlope, -1.72);
-    EXPECT_EQ(s.secondIntercept, 9.15);
+    EXPECT_EQ(s.function2.intercept, 10);
+    EXPECT_EQ(s.secondSegment.slope, -1.72);
+    EXPECT_EQ(s.secondSegment.intercept, 9.15);
     EXPECT_EQ(s.tableQtotal[2].text(), "5.33");
     EXPECT_EQ(s.upperEnd.text(), "5.33");
 }
@@ -667,8 +668,8 @@ TEST(Vaddi1Space, HasTwentyTasksWhoseTinyDenominatorGivesALevelLineAtTen) {
     forEachExercise([&found](const Task& t, const Vaddi1State& s) {
         if (t.direction == 1 && t.isSloping() && t.intercept2 == 10) {
             ++found;
-            ASSERT_EQ(s.secondSlope, 0) << nameOf(t);
-            ASSERT_EQ(s.secondIntercept, 10) << nameOf(t);
+            ASSERT_EQ(s.secondSegment.slope, 0) << nameOf(t);
+            ASSERT_EQ(s.secondSegment.intercept, 10) << nameOf(t);
         }
     });
     EXPECT_EQ(found, 20);
@@ -741,7 +742,7 @@ TEST(Vaddi1Space, HasItsPricesInTheirOrderFromTheStart) {
 TEST(Vaddi1Space, SpellsTheTrueSumPointByPoint) {
     int compared = 0;
     forEachExercise([&compared](const Task& t, const Vaddi1State& s) {
-        const double offAtKink = s.segmentCount == 2 ? 0.005 * std::abs(s.firstSlope) : 0;
+        const double offAtKink = s.segmentCount == 2 ? 0.005 * std::abs(s.firstSegment.slope) : 0;
         for (double q = 0.25; q <= 20; q += 0.25) {
             const double price = priceFor(q, t);
             if (std::isnan(price)) {
@@ -749,8 +750,8 @@ TEST(Vaddi1Space, SpellsTheTrueSumPointByPoint) {
             }
             ++compared;
             const bool isFirst = s.segmentCount == 2 && q < s.kinkQuantity;
-            const double answered = (isFirst ? s.firstSegment() : s.secondSegment()).at(q);
-            const bool isExact = isFirst ? q < s.kinkQuantity - 0.005 : s.secondSlope == 0;
+            const double answered = (isFirst ? s.firstSegment : s.secondSegment).at(q);
+            const bool isExact = isFirst ? q < s.kinkQuantity - 0.005 : s.secondSegment.slope == 0;
             const double tolerance = isExact ? 1e-9 : offAtKink + 0.005 * q + 0.005;
             const bool isNearKink = std::abs(q - s.kinkQuantity) <= 0.005;
             ASSERT_NEAR(answered, price, (isNearKink ? offAtKink : 0) + tolerance + 1e-9)
@@ -790,8 +791,8 @@ TEST(Vaddi1Space, RoundsTheLineFromTheRoundedKinkToTheEndOfTheSum) {
             quantityOf(end, t.slope1, t.intercept1).plus(quantityOf(end, t.slope2, t.intercept2));
         const double slope = (end - inner) / sum.plus({-kink.hundredths(), 100}).value();
         ASSERT_EQ(s.kinkQuantity, kink.rounded()) << nameOf(t);
-        expectRounded(s.secondSlope, slope, t);
-        expectRounded(s.secondIntercept, end - slope * sum.value(), t);
+        expectRounded(s.secondSegment.slope, slope, t);
+        expectRounded(s.secondSegment.intercept, end - slope * sum.value(), t);
     });
     EXPECT_LT(halves, 200);
 }

@@ -122,8 +122,9 @@ protected:
     /// Types the form's own answer, key by key, into the boxes that are shown.
     void typeOwnAnswer() const {
         const Vaddi1State& s = dynamic_cast<const Vaddi1&>(form->page()).state();
-        const double targets[]{s.firstSlope,      s.firstIntercept, s.kinkQuantity,     s.secondSlope,
-                               s.secondIntercept, s.kinkQuantity,   s.upperEnd.number()};
+        const double targets[]{s.firstSegment.slope,  s.firstSegment.intercept,  s.kinkQuantity,
+                               s.secondSegment.slope, s.secondSegment.intercept, s.kinkQuantity,
+                               s.upperEnd.number()};
         for (std::size_t i = 0; i < kAnswerBoxes.size(); ++i) {
             if (form->isShown(kAnswerBoxes[i])) {
                 form->type(kAnswerBoxes[i], NumberText(targets[i]));

@@ -66,8 +66,8 @@ std::vector<std::string> tableOf(const Vaddi2State& s) {
 
 std::vector<std::string> segmentsOf(const Vaddi2State& s) {
     std::vector<std::string> texts;
-    for (int i = 0; i < s.segmentCount; ++i) {
-        texts.push_back(NumberText(s.segment(i).slope) + "Q+" + NumberText(s.segment(i).intercept));
+    for (std::size_t i = 0; i < static_cast<std::size_t>(s.segmentCount); ++i) {
+        texts.push_back(NumberText(s.segments[i].slope) + "Q+" + NumberText(s.segments[i].intercept));
     }
     return texts;
 }
@@ -91,8 +91,7 @@ TEST(Vaddi2Draw, TakesTheDirectionThenSlopeAndInterceptOfEachFunction) {
     EXPECT_TRUE(draws.isUsedUp());
     EXPECT_EQ(draws.randomized(), 1);
     EXPECT_EQ(state.direction, Direction::Falling);
-    EXPECT_EQ(state.slope, (std::array<double, 3>{-1, -3, -4}));
-    EXPECT_EQ(state.intercept, (std::array<double, 3>{7, 9, 5}));
+    EXPECT_EQ(state.functions, (std::array{Piece{-1, 7}, Piece{-3, 9}, Piece{-4, 5}}));
 }
 
 TEST(Vaddi2Draw, RisesBelowAQuarter) {
@@ -113,8 +112,9 @@ TEST(Vaddi2Draw, ReachesFourInSizeAndInterceptsByTheDirection) {
         Vaddi2State state;
         newExercise(state, draws);
         const int factor = factorOf(state.direction);
-        EXPECT_EQ(state.slope, (std::array{4.0 * factor, 1.0 * factor, 4.0 * factor}));
-        EXPECT_EQ(state.intercept, (std::array{lowest + 0.0, lowest + 4.0, lowest + 4.0}));
+        EXPECT_EQ(state.functions,
+                  (std::array{Piece{4.0 * factor, lowest + 0.0}, Piece{1.0 * factor, lowest + 4.0},
+                              Piece{4.0 * factor, lowest + 4.0}}));
     }
 }
 
@@ -149,8 +149,8 @@ TEST_P(Vaddi2Rejects, AndDrawsTheFunctionsAgainButNotTheDirection) {
     EXPECT_EQ(draws.randomized(), 1);
     EXPECT_EQ(factorOf(state.direction), direction);
     for (std::size_t f = 0; f < 3; ++f) {
-        EXPECT_EQ(state.slope[f], accepted[f].slope);
-        EXPECT_EQ(state.intercept[f], accepted[f].intercept);
+        EXPECT_EQ(state.functions[f].slope, accepted[f].slope);
+        EXPECT_EQ(state.functions[f].intercept, accepted[f].intercept);
     }
 }
 
@@ -285,7 +285,7 @@ TEST_P(Vaddi2Solves, WithTableSegmentsFieldsAndPath) {
     EXPECT_EQ(tableOf(state), row.table);
     EXPECT_EQ(segmentsOf(state), row.segments);
     EXPECT_EQ(fieldsOf(state), row.fields);
-    EXPECT_EQ(pathLines(state), row.path);
+    EXPECT_EQ(pathTexts(state), row.path);
     const bool isLevel = std::any_of(row.functions.begin(), row.functions.end(),
                                      [](const Given& given) { return given.slope == 0; });
     EXPECT_EQ(state.upperEndAsked(), row.direction == kFalling && !isLevel);
@@ -294,7 +294,7 @@ TEST_P(Vaddi2Solves, WithTableSegmentsFieldsAndPath) {
 TEST(Vaddi2Path, IsWrittenWithTheMarkInUse) {
     const Vaddi2State state = drawn(kFalling, {{{-3, 9}, {-4, 8}, {-3, 5}}});
     const test::DecimalMark comma(",");
-    EXPECT_EQ(pathLines(state)[1], "( 2,08 ; 5 ) til ( 6,67 ; 0 ).");
+    EXPECT_EQ(pathTexts(state)[1], "( 2,08 ; 5 ) til ( 6,67 ; 0 ).");
 }
 
 TEST(Vaddi2State, HasNothingLeftOfTheExerciseBefore) {
@@ -325,8 +325,7 @@ TEST(Vaddi2UpperEnd, IsNotAskedAgainAfterAnExerciseThatHasOne) {
 TEST(Vaddi2Table, ShowsAThousandAsUnbounded) {
     Vaddi2State state;
     state.direction = Direction::Falling;
-    state.slope = {-0.009, -1, -0.00900005};
-    state.intercept = {9, 9, 9};
+    state.functions = {Piece{-0.009, 9}, {-1, 9}, {-0.00900005, 9}};
     solve(state);
     // 1000 and 999.994.., which is rounded first.
     EXPECT_EQ(tableOf(state)[1], "0|oo|9|999.99|oo");
@@ -337,8 +336,7 @@ TEST(Vaddi2Solution, FailsWhereTwoTotalsAreEqual) {
     // Rising functions that start where the table ends; they cannot be drawn.
     Vaddi2State state;
     state.direction = Direction::Rising;
-    state.slope = {1, 2, 3};
-    state.intercept = {10, 10, 10};
+    state.functions = {Piece{1, 10}, {2, 10}, {3, 10}};
     try {
         solve(state);
         FAIL() << "a division by zero went through";
@@ -418,7 +416,7 @@ std::string flawOf(const Vaddi2State& s, int direction, const Three& functions) 
         }
     }
     for (std::size_t i = 0; i + 1 < prices.size(); ++i) {
-        const Piece piece = s.segment(static_cast<int>(i));
+        const Piece piece = s.segments[i];
         const Exact from = sum.at(prices[i]);
         const Exact slope = (prices[i + 1] - prices[i]) / (sum.at(prices[i + 1]) - from);
         if (!isNear(piece.slope, slope) || !isNear(piece.intercept, prices[i] - slope * from)) {
@@ -435,7 +433,7 @@ std::string flawOf(const Vaddi2State& s, int direction, const Three& functions) 
         }
     }
     if (sum.level()) {
-        const Piece last = s.segment(s.segmentCount - 1);
+        const Piece last = s.segments[static_cast<std::size_t>(s.segmentCount - 1)];
         if (last.slope != 0 || last.intercept != *sum.level()) {
             return "does not end in the level function";
         }
@@ -545,7 +543,8 @@ TEST(Vaddi2Seeds, PlayOutOfAStreamAsOutOfAScript) {
         newExercise(state, draws);
         Three functions{};
         for (std::size_t f = 0; f < 3; ++f) {
-            functions[f] = {static_cast<int>(state.slope[f]), static_cast<int>(state.intercept[f])};
+            const auto& [slope, intercept] = state.functions[f];
+            functions[f] = {static_cast<int>(slope), static_cast<int>(intercept)};
         }
         ASSERT_TRUE(isDrawable(functions));
         rising += state.direction == Direction::Rising ? 1 : 0;

@@ -51,7 +51,7 @@ std::string columnText(const Vaddi3State::Column& column) {
 /// "a" for the first part, "b" for the second.
 std::string partsText(const Vaddi3State& s) {
     const std::map<Parts, std::string> names{
-        {Parts::None, "-"}, {Parts::First, "a"}, {Parts::Second, "b"}, {Parts::Both, "ab"}};
+        {Parts::None, "-"}, {Parts::BeforeKink, "a"}, {Parts::AfterKink, "b"}, {Parts::Both, "ab"}};
     std::string text;
     for (const Parts parts : s.partsOfRows) {
         text += (text.empty() ? "" : "|") + names.at(parts);
@@ -74,37 +74,37 @@ std::string sumText(const Vaddi3State& s) {
 TEST(Vaddi3Draw, GivesAJumpDown) {
     const Vaddi3State s = exerciseOf({KinkKind::JumpDown, 9, -0.5F, 4, -2, 0.25F, -3, 7});
     EXPECT_EQ(s.kinkKind, KinkKind::JumpDown);
-    EXPECT_EQ(s.firstIntercept, 9);
-    EXPECT_EQ(s.firstSlope, -0.5F);
+    EXPECT_EQ(s.intercept1Before, 9);
+    EXPECT_EQ(s.slope1Before, -0.5F);
     EXPECT_EQ(s.kinkQuantity, 4);
-    EXPECT_EQ(s.priceAtKinkFirst, 7);
-    EXPECT_EQ(s.secondSlope, -2);
-    EXPECT_EQ(s.secondIntercept, 13);
-    EXPECT_EQ(s.priceAtKinkSecond, 5);
+    EXPECT_EQ(s.kinkPriceBefore, 7);
+    EXPECT_EQ(s.slope1After, -2);
+    EXPECT_EQ(s.intercept1After, 13);
+    EXPECT_EQ(s.kinkPriceAfter, 5);
     EXPECT_EQ(s.slope2, -3);
     EXPECT_EQ(s.intercept2, 7);
 }
 
 TEST(Vaddi3Draw, GivesAJumpUp) {
     const Vaddi3State s = exerciseOf({KinkKind::JumpUp, 9, -4, 1, -0.7F, 0.3F, -1, 5});
-    EXPECT_EQ(s.firstSlope, -4);
-    EXPECT_EQ(s.priceAtKinkFirst, 5);
-    EXPECT_EQ(s.secondSlope, -0.7F);
-    EXPECT_EQ(s.secondIntercept, 7);
+    EXPECT_EQ(s.slope1Before, -4);
+    EXPECT_EQ(s.kinkPriceBefore, 5);
+    EXPECT_EQ(s.slope1After, -0.7F);
+    EXPECT_EQ(s.intercept1After, 7);
     // A double, of the single slope.
-    EXPECT_EQ(s.priceAtKinkSecond, static_cast<double>(-0.7F) + 7);
+    EXPECT_EQ(s.kinkPriceAfter, static_cast<double>(-0.7F) + 7);
 }
 
 TEST(Vaddi3Draw, GivesAKinkWhosePartsMeet) {
     const Vaddi3State steeper = exerciseOf({KinkKind::Steeper, 6, -0.8F, 5, -2, 0, -1, 8});
-    EXPECT_EQ(steeper.priceAtKinkFirst, 2);
-    EXPECT_EQ(steeper.priceAtKinkSecond, 2);
-    EXPECT_EQ(steeper.secondIntercept, 12);
+    EXPECT_EQ(steeper.kinkPriceBefore, 2);
+    EXPECT_EQ(steeper.kinkPriceAfter, 2);
+    EXPECT_EQ(steeper.intercept1After, 12);
 
     const Vaddi3State flatter = exerciseOf({KinkKind::Flatter, 7, -3, 1, -0.7F, 0, -1, 8});
-    EXPECT_EQ(flatter.priceAtKinkFirst, 4);
-    EXPECT_EQ(flatter.priceAtKinkSecond, 4);
-    EXPECT_EQ(flatter.secondIntercept, 4.7);
+    EXPECT_EQ(flatter.kinkPriceBefore, 4);
+    EXPECT_EQ(flatter.kinkPriceAfter, 4);
+    EXPECT_EQ(flatter.intercept1After, 4.7);
 }
 
 TEST(Vaddi3Draw, CutsAKinkFarOutToEightOnlyAtAJumpDown) {
@@ -160,7 +160,7 @@ TEST_P(Vaddi3Rejects, AndGoesBackToTheFirstIntercept) {
 }
 
 TEST(Vaddi3Draw, TakesAJumpDownThatEndsAtFifty) {
-    EXPECT_EQ(exerciseOf({KinkKind::JumpDown, 5, -0.1F, 3, -2, 0.5F, -1, 5}).firstSlope, -0.1F);
+    EXPECT_EQ(exerciseOf({KinkKind::JumpDown, 5, -0.1F, 3, -2, 0.5F, -1, 5}).slope1Before, -0.1F);
 }
 
 TEST(Vaddi3Draw, FailsOnASlopeOfZero) {
@@ -194,7 +194,7 @@ TEST(Vaddi3Draw, TakesTheFlattestSteepSlopeForADrawOfZero) {
                         Script{cellOf(3, 8), cellOf(1, 5), cellOf(2, 5)});
     Vaddi3State s;
     newExercise(s, draws);
-    EXPECT_EQ(s.firstSlope, -2);
+    EXPECT_EQ(s.slope1Before, -2);
     EXPECT_EQ(s.kinkQuantity, 2);
 }
 
@@ -208,9 +208,9 @@ TEST(Vaddi3Draw, ReachesEveryValueOfEveryNumber) {
     Vaddi3State s;
     for (int i = 0; i < 20'000; ++i) {
         newExercise(s, draws);
-        first[s.kinkKind].insert(NumberText(s.firstSlope));
-        second[s.kinkKind].insert(NumberText(s.secondSlope));
-        starts.insert(NumberText(s.firstIntercept));
+        first[s.kinkKind].insert(NumberText(s.slope1Before));
+        second[s.kinkKind].insert(NumberText(s.slope1After));
+        starts.insert(NumberText(s.intercept1Before));
         slopes2.insert(NumberText(s.slope2));
         starts2.insert(NumberText(s.intercept2));
     }
@@ -344,7 +344,7 @@ TEST_P(Vaddi3Sum, HasItsPricesAndSegments) {
     const Vaddi3State s = exerciseOf(GetParam().task);
     EXPECT_EQ(sumText(s), GetParam().sum);
     std::string prices;
-    for (const TableCell& cell : s.column(helpColumns(s).price)) {
+    for (const TableCell& cell : s.column(columnRoles(s).price)) {
         prices += cell.isBlank() ? "" : (prices.empty() ? "" : " ") + cell.text();
     }
     EXPECT_EQ(prices, GetParam().prices);
@@ -427,15 +427,15 @@ TEST(Vaddi3Table, SaysOnWhichPartsARowLies) {
         }
         return rows;
     };
-    EXPECT_EQ(parts(up, Part::First), "10110");
-    EXPECT_EQ(parts(up, Part::Second), "01101");
-    EXPECT_EQ(parts(exerciseOf(test::kThreeSegments), Part::First), "11110");
+    EXPECT_EQ(parts(up, Part::BeforeKink), "10110");
+    EXPECT_EQ(parts(up, Part::AfterKink), "01101");
+    EXPECT_EQ(parts(exerciseOf(test::kThreeSegments), Part::BeforeKink), "11110");
 }
 
 TEST(Vaddi3Table, KeepsThePrecisionOfItsNumbers) {
     // 0.525, from a price that is a double: as a single it would come out below the half.
     const Vaddi3State s = exerciseOf({KinkKind::JumpUp, 8, -4, 1, -0.1F, 0.3F, -1, 9});
-    ASSERT_EQ(s.secondIntercept, 6);
+    ASSERT_EQ(s.intercept1After, 6);
     EXPECT_EQ(columnText(s.column(Part1QuantityOrPrice)), " |0|0.53|1|0");
     // 7.125, from singles alone: as doubles they would come out below the half.
     const Vaddi3State singles = exerciseOf({KinkKind::JumpDown, 7, -0.2F, 8, -4, 0.1F, -3, 9});
@@ -549,7 +549,7 @@ bool isDrawn(Vaddi3State& s, int seed) {
         newExercise(s, draws);
     } catch (const ArithmeticFailure& failure) {
         EXPECT_EQ(failure.kind(), ArithmeticFailure::Kind::DivisionByZero) << "seed " << seed;
-        EXPECT_TRUE(s.firstSlope == 0 || s.secondSlope == 0) << "seed " << seed;
+        EXPECT_TRUE(s.slope1Before == 0 || s.slope1After == 0) << "seed " << seed;
         return false;
     }
     return true;
@@ -579,8 +579,8 @@ std::size_t forEachDifferentExercise(Action action) {
     std::set<std::array<double, 8>> seen;
     forEachExercise([&](const Vaddi3State& s, int seed) {
         const bool isNew =
-            seen.insert({static_cast<double>(s.kinkKind), s.firstIntercept, s.firstSlope, s.kinkQuantity,
-                         s.secondSlope, s.secondIntercept, s.slope2, s.intercept2})
+            seen.insert({static_cast<double>(s.kinkKind), s.intercept1Before, s.slope1Before, s.kinkQuantity,
+                         s.slope1After, s.intercept1After, s.slope2, s.intercept2})
                 .second;
         if (isNew) {
             action(s, seed);
@@ -595,7 +595,7 @@ Exact exact(double drawn) { return {std::llround(drawn * 10), 10}; }
 /// The two functions, and all that can be bought at a price.
 struct Market {
     KinkKind kind;
-    Exact slopeBefore, start1, slopeAfter, secondIntercept, kink;
+    Exact slopeBefore, start1, slopeAfter, interceptAfter, kink;
     Exact slope2, start2;
     Exact kinkFirst, kinkSecond;
 
@@ -611,19 +611,19 @@ struct Market {
 
     explicit Market(const Vaddi3State& s)
         : kind(s.kinkKind),
-          slopeBefore(exact(s.firstSlope)),
-          start1(exact(s.firstIntercept)),
-          slopeAfter(exact(s.secondSlope)),
-          secondIntercept(exact(s.secondIntercept)),
+          slopeBefore(exact(s.slope1Before)),
+          start1(exact(s.intercept1Before)),
+          slopeAfter(exact(s.slope1After)),
+          interceptAfter(exact(s.intercept1After)),
           kink(exact(s.kinkQuantity)),
           slope2(exact(s.slope2)),
           start2(exact(s.intercept2)),
           kinkFirst(slopeBefore * kink + start1),
-          kinkSecond(slopeAfter * kink + secondIntercept) {}
+          kinkSecond(slopeAfter * kink + interceptAfter) {}
 
     [[nodiscard]] bool isLevel() const { return slope2 == Exact(0); }
     [[nodiscard]] Exact before(Exact p) const { return (p - start1) / slopeBefore; }
-    [[nodiscard]] Exact after(Exact p) const { return (p - secondIntercept) / slopeAfter; }
+    [[nodiscard]] Exact after(Exact p) const { return (p - interceptAfter) / slopeAfter; }
     [[nodiscard]] Exact second(Exact p) const {
         return isLevel() || p > start2 ? Exact(0) : (p - start2) / slope2;
     }
@@ -773,7 +773,7 @@ std::string flawOfSum(const Vaddi3State& s, int seed) {
 /// What is wrong with the help table, in a word.
 std::string flawOfTable(const Vaddi3State& s) {
     const Market market(s);
-    const HelpColumns columns = helpColumns(s);
+    const ColumnRoles columns = columnRoles(s);
     Exact above = 100;
     std::size_t rows = 0;
     for (; rows < 5 && s.column(columns.price)[rows].isNumeric(); ++rows) {
@@ -855,15 +855,15 @@ enum class Place {
 
 Place standsAt(const Vaddi3State& s) {
     const double start = s.intercept2;
-    const double lower = std::min<double>(s.priceAtKinkFirst, s.priceAtKinkSecond);
-    const double higher = std::max<double>(s.priceAtKinkFirst, s.priceAtKinkSecond);
-    if (start >= s.firstIntercept) {
-        return start > s.firstIntercept ? Place::AboveFunction1 : Place::AtItsStart;
+    const double lower = std::min<double>(s.kinkPriceBefore, s.kinkPriceAfter);
+    const double higher = std::max<double>(s.kinkPriceBefore, s.kinkPriceAfter);
+    if (start >= s.intercept1Before) {
+        return start > s.intercept1Before ? Place::AboveFunction1 : Place::AtItsStart;
     }
-    if (start == s.priceAtKinkFirst) {
+    if (start == s.kinkPriceBefore) {
         return Place::AtTheFirstPrice;
     }
-    if (start == s.priceAtKinkSecond) {
+    if (start == s.kinkPriceAfter) {
         return Place::AtTheSecondPrice;
     }
     return start > higher ? Place::AboveTheKink : (start < lower ? Place::Below : Place::Between);

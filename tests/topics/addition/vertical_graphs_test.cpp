@@ -42,8 +42,8 @@ TEST(VerticalTicks, StandAtElevenQuantitiesAndTwentyOnePrices) {
 
 TEST(VerticalMark, IsASquareOfSixLevelStrokesByTheRunningSum) {
     Box box(kFunction.scale);
-    drawLevelMark(box, 4.0 / 3, 0);
-    drawLevelMark(box, 0, 4);
+    drawLevelSquare(box, 4.0 / 3, 0);
+    drawLevelSquare(box, 0, 4);
     std::vector<Stroke> expected;
     const double steps[]{-0.15,
                          -0.15 + 0.05,

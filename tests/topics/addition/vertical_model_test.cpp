@@ -42,6 +42,13 @@ TEST(VerticalDraw, TakesASlopeByOneDrawOnTheSideAskedFor) {
     EXPECT_EQ(drawSlope(largest, false), 4);
 }
 
+TEST(VerticalDraw, TakesAPieceByThreeDraws) {
+    ScriptedDraws draws{0.69F, cellOf(3, 5), cellOf(2, 5), 0.7F, cellOf(4, 5), cellOf(0, 5)};
+    EXPECT_EQ(drawPieceFromAxis(draws, 0.7F), (Piece{-3, 2}));
+    EXPECT_EQ(drawPieceFromAxis(draws, 0.7F), (Piece{4, 0}));
+    EXPECT_TRUE(draws.isUsedUp());
+}
+
 TEST(VerticalEdges, AreLevelLinesAtTheBottomAndTheTop) {
     EXPECT_TRUE(isOnEdge({0, 0}));
     EXPECT_TRUE(isOnEdge({-0.0, 0}));
