@@ -3,7 +3,6 @@
 #include <cmath>
 #include <optional>
 
-#include "controls/panel.h"
 #include "controls/row.h"
 #include "controls/text.h"
 #include "graph/axes.h"
@@ -35,15 +34,15 @@ const Axes& axes() {
     return kAxes;
 }
 
-/// Where the last dot of a segment stands.
+/// Where the last dot of a piece stands.
 enum class LastDot { AtItsEnd, BeyondTheGraph };
 
-/// Dots a segment between two quantities; a dot beyond the largest y is its last.
-LastDot plot(GraphBox& graph, const Integ2Segment& segment, float from, float to) {
+/// Dots a piece between two quantities; a dot beyond the largest y is its last.
+LastDot plot(GraphBox& graph, const Integ2Piece& piece, float from, float to) {
     const Figure curve(graph, Meaning::DottedCurve);
     // As in the hatching: the running sum meets its end as a single.
     for (double x = from; static_cast<float>(x) < to; x += kStep) {
-        const double y = heightAt(segment, x);
+        const double y = heightAt(piece, x);
         graph.PSet(x, y);
         if (std::abs(y) > kLargestY) {
             return LastDot::BeyondTheGraph;
@@ -52,10 +51,10 @@ LastDot plot(GraphBox& graph, const Integ2Segment& segment, float from, float to
     return LastDot::AtItsEnd;
 }
 
-/// Dots both segments; gives where the second one ends.
-LastDot plotSegments(GraphBox& graph, const Integ2State& state) {
-    const Integ2Segment first = firstSegment(state);
-    const Integ2Segment second = secondSegment(state);
+/// Dots both pieces. Returns where the second one ends.
+LastDot plotPieces(GraphBox& graph, const Integ2State& state) {
+    const Integ2Piece first = firstPiece(state);
+    const Integ2Piece second = secondPiece(state);
     std::optional<Figure> broken;
     if (heightAt(first, state.k) == heightAt(second, state.k)) {
         broken.emplace(graph, Meaning::DottedCurve);
@@ -64,21 +63,21 @@ LastDot plotSegments(GraphBox& graph, const Integ2State& state) {
     return plot(graph, second, state.k, kRightEnd);
 }
 
-void hatchSegment(GraphBox& graph, const Integ2Segment& segment, const QColor& colour) {
+void hatchPiece(GraphBox& graph, const Integ2Piece& piece, const QColor& colour) {
     hatch(
-        graph, [&segment](double q) { return heightAt(segment, q); }, static_cast<int>(segment.lowerLimit),
-        static_cast<int>(segment.upperLimit), colour);
+        graph, [&piece](double q) { return heightAt(piece, q); }, static_cast<int>(piece.lowerLimit),
+        static_cast<int>(piece.upperLimit), colour);
 }
 
-void hatchSegments(GraphBox& graph, const Integ2State& state, const QColor& first, const QColor& second) {
-    hatchSegment(graph, firstSegment(state), first);
-    hatchSegment(graph, secondSegment(state), second);
+void hatchPieces(GraphBox& graph, const Integ2State& state, const QColor& first, const QColor& second) {
+    hatchPiece(graph, firstPiece(state), first);
+    hatchPiece(graph, secondPiece(state), second);
 }
 
-/// Both segments as one area.
+/// Both pieces as one area.
 void hatchArea(GraphBox& graph, const Integ2State& state) {
     const Figure area(graph, Meaning::Hatching);
-    hatchSegments(graph, state, kBlue, kBlue);
+    hatchPieces(graph, state, kBlue, kBlue);
 }
 
 /// Kept (integ2-brackets): what a term of the last sum shows depends on what it has shown so far, over all
@@ -96,7 +95,7 @@ double layOutTerm(Label* label, double left) {
     return label->place().right();
 }
 
-/// What the names of the controls of a segment begin with, in the task and in the help.
+/// What the names of the controls of a piece begin with, in the task and in the help.
 constexpr const char* kFirst = "segment1";
 constexpr const char* kSecond = "segment2";
 constexpr const char* kWorkedFirst = "workedSegment1";
@@ -122,23 +121,23 @@ void Integ2::newExercise() {
     tavrune::newExercise(state_, draws());
 
     showTask();
-    fillHelp(kWorkedFirst, firstSegment(state_));
-    fillHelp(kWorkedSecond, secondSegment(state_));
-    plotSegments(*ui_->graph, state_);
-    // Kept (integ2-focus-left): where the second segment leaves the graph upwards, the focus stays where it
+    fillHelp(kWorkedFirst, firstPiece(state_));
+    fillHelp(kWorkedSecond, secondPiece(state_));
+    plotPieces(*ui_->graph, state_);
+    // Kept (integ2-focus-left): where the second piece leaves the graph upwards, the focus stays where it
     // is.
-    if (plotSegments(*ui_->helpGraph, state_) == LastDot::AtItsEnd) {
+    if (plotPieces(*ui_->helpGraph, state_) == LastDot::AtItsEnd) {
         focusOn(ui_->integral);
     }
 }
 
-Label* Integ2::label(const QString& segment, const char* name) const {
-    return design()->findChild<Label*>(segment + name);
+Label* Integ2::label(const QString& prefix, const char* name) const {
+    return design()->findChild<Label*>(prefix + name);
 }
 
 void Integ2::showTask() {
-    showSegment(kFirst, firstSegment(state_));
-    showSegment(kSecond, secondSegment(state_));
+    showPiece(kFirst, firstPiece(state_));
+    showPiece(kSecond, secondPiece(state_));
     ui_->segment1End->setCaption(NumberText(state_.k));
     ui_->segment2Start->setCaption(NumberText(state_.k));
     nameTask();
@@ -147,13 +146,13 @@ void Integ2::showTask() {
     layOutRow({ui_->segment2Start, ui_->segment2QuantityBelowTen}, afterFor + kGap);
 }
 
-void Integ2::showSegment(const QString& segment, const Integ2Segment& shown) const {
-    label(segment, "Slope")->setCaption(NumberText(shown.slope));
-    label(segment, "Intercept")->setCaption(NumberText(shown.intercept));
-    label(segment, "LowerLimit")->setCaption(NumberText(shown.lowerLimit));
-    label(segment, "UpperLimit")->setCaption(NumberText(shown.upperLimit));
+void Integ2::showPiece(const QString& prefix, const Integ2Piece& shown) const {
+    label(prefix, "Slope")->setCaption(NumberText(shown.slope));
+    label(prefix, "Intercept")->setCaption(NumberText(shown.intercept));
+    label(prefix, "LowerLimit")->setCaption(NumberText(shown.lowerLimit));
+    label(prefix, "UpperLimit")->setCaption(NumberText(shown.upperLimit));
     layOutFromFirst(
-        labelsOf(*design(), segment, {"PriceEquals", "Slope", "TimesQuantity", "Plus", "Intercept"}));
+        labelsOf(*design(), prefix, {"PriceEquals", "Slope", "TimesQuantity", "Plus", "Intercept"}));
 }
 
 void Integ2::nameTask() {
@@ -169,15 +168,15 @@ void Integ2::nameTask() {
         QString("plus integralet fra %1 til %2 af P2 dQ =").arg(k, text(state_.w)));
 }
 
-void Integ2::fillHelp(const QString& segment, const Integ2Segment& worked) const {
+void Integ2::fillHelp(const QString& prefix, const Integ2Piece& worked) const {
     const Integ2Worked texts = workedOut(worked);
-    label(segment, "UpperLimit")->setCaption(NumberText(worked.upperLimit));
-    label(segment, "LowerLimit")->setCaption(NumberText(worked.lowerLimit));
-    label(segment, "Integrand")->setCaption(texts.integrand);
-    label(segment, "UpperQuadraticTerm")->setCaption(texts.upperQuadraticTerm);
-    label(segment, "UpperLinearTerm")->setCaption(texts.upperLinearTerm);
-    label(segment, "LowerQuadraticTerm")->setCaption(texts.lowerQuadraticTerm);
-    label(segment, "LowerLinearTerm")->setCaption(texts.lowerLinearTerm);
+    label(prefix, "UpperLimit")->setCaption(NumberText(worked.upperLimit));
+    label(prefix, "LowerLimit")->setCaption(NumberText(worked.lowerLimit));
+    label(prefix, "Integrand")->setCaption(texts.integrand);
+    label(prefix, "UpperQuadraticTerm")->setCaption(texts.upperQuadraticTerm);
+    label(prefix, "UpperLinearTerm")->setCaption(texts.upperLinearTerm);
+    label(prefix, "LowerQuadraticTerm")->setCaption(texts.lowerQuadraticTerm);
+    label(prefix, "LowerLinearTerm")->setCaption(texts.lowerLinearTerm);
 }
 
 void Integ2::judge() {
@@ -205,17 +204,17 @@ void Integ2::help() {
 }
 
 void Integ2::layOutHelp() {
-    layOutWorkedSegment(kWorkedFirst);
-    layOutWorkedSegment(kWorkedSecond);
+    layOutWorkedPiece(kWorkedFirst);
+    layOutWorkedPiece(kWorkedSecond);
     const double afterFirst = layOutTerm(ui_->workedSumSegment1, ui_->workedSumSegment1->place().left());
     const double afterPlus = layOutRow({ui_->workedSumPlus}, afterFirst);
     layOutRow({ui_->workedResult}, layOutTerm(ui_->workedSumSegment2, afterPlus));
 }
 
-void Integ2::layOutWorkedSegment(const QString& segment) const {
-    layOutRow(labelsOf(*design(), segment, {"Integrand", "DifferentialEquals"}), kIntegrandLeft,
+void Integ2::layOutWorkedPiece(const QString& prefix) const {
+    layOutRow(labelsOf(*design(), prefix, {"Integrand", "DifferentialEquals"}), kIntegrandLeft,
               kAfterIntegrand);
-    layOutFromFirst(labelsOf(*design(), segment,
+    layOutFromFirst(labelsOf(*design(), prefix,
                              {"UpperQuadraticTerm", "UpperSquare", "UpperLinearTerm", "LowerQuadraticTerm",
                               "LowerSquare", "LowerLinearTerm", "Result"}));
 }
@@ -223,7 +222,7 @@ void Integ2::layOutWorkedSegment(const QString& segment) const {
 void Integ2::showWorkedSolution() {
     ui_->workedSolutionCover->hide();
     focusOn(ui_->closeHelp);
-    hatchSegments(*ui_->helpGraph, state_, kRed, kGreen);
+    hatchPieces(*ui_->helpGraph, state_, kRed, kGreen);
 }
 
 void Integ2::closeHelp() {

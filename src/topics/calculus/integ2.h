@@ -11,7 +11,7 @@ namespace Ui {
 class Integ2;
 }
 
-/// The definite integral of a function in two linear segments, with its graph.
+/// The definite integral of a function in two linear pieces, with its graph.
 class Integ2 : public ExerciseForm {
     Q_OBJECT
 
@@ -35,11 +35,11 @@ private:
     void layOutHelp();
     void showWorkedSolution();
 
-    // The labels of a segment are called after it: "segment1Slope", "workedSegment1Integrand".
-    [[nodiscard]] Label* label(const QString& segment, const char* name) const;
-    void showSegment(const QString& segment, const Integ2Segment& shown) const;
-    void fillHelp(const QString& segment, const Integ2Segment& worked) const;
-    void layOutWorkedSegment(const QString& segment) const;
+    // The names of the labels of a piece begin with its prefix: "segment1Slope", "workedSegment1Integrand".
+    [[nodiscard]] Label* label(const QString& prefix, const char* name) const;
+    void showPiece(const QString& prefix, const Integ2Piece& shown) const;
+    void fillHelp(const QString& prefix, const Integ2Piece& worked) const;
+    void layOutWorkedPiece(const QString& prefix) const;
 
     std::unique_ptr<Ui::Integ2> ui_;
     Integ2State state_;

@@ -21,7 +21,7 @@ constexpr int kLargestReach = 3;
 /// The kink is one of so many whole numbers, from the smallest on.
 constexpr int kKinks = 5;
 constexpr int kSmallestKink = 2;
-/// Of the second segment at the kink.
+/// Of the second piece at the kink.
 constexpr int kLargestHeight = 15;
 
 /// A whole number from 1 to `largest`.
@@ -62,7 +62,7 @@ Try tryRiseThenFall(Integ2State& s, Draws& draws) {
     }
     drawKink(s, draws);
     drawLimits(s, draws);
-    // Kept (integ2-height-as-rise): the height is that of the segment before it is made to fall.
+    // Kept (integ2-height-as-rise): the height is that of the piece before it is made to fall.
     if (beginOutside(s) || isTooHigh(s)) {
         return Try::Again;
     }
@@ -93,12 +93,12 @@ Try tryFamily(Family family, Integ2State& s, Draws& draws) {
     return tryFallThenRise(s, draws);
 }
 
-double primitiveAt(double q, const Integ2Segment& segment) {
-    return segment.slope / 2 * power(q, 2) + segment.intercept * q;
+double primitiveAt(double q, const Integ2Piece& piece) {
+    return piece.slope / 2 * power(q, 2) + piece.intercept * q;
 }
 
-double integralOf(const Integ2Segment& segment) {
-    return primitiveAt(segment.upperLimit, segment) - primitiveAt(segment.lowerLimit, segment);
+double integralOf(const Integ2Piece& piece) {
+    return primitiveAt(piece.upperLimit, piece) - primitiveAt(piece.lowerLimit, piece);
 }
 
 }  // namespace
@@ -113,20 +113,20 @@ void newExercise(Integ2State& state, Draws& draws) {
             family = Family::FallThenRise;
         }
     }
-    state.first = integralOf(firstSegment(state));
-    state.second = integralOf(secondSegment(state));
+    state.first = integralOf(firstPiece(state));
+    state.second = integralOf(secondPiece(state));
     state.total = state.first + state.second;
 }
 
-Integ2Segment firstSegment(const Integ2State& s) {
+Integ2Piece firstPiece(const Integ2State& s) {
     return {.slope = s.a1, .intercept = s.b1, .lowerLimit = s.v, .upperLimit = s.k};
 }
 
-Integ2Segment secondSegment(const Integ2State& s) {
+Integ2Piece secondPiece(const Integ2State& s) {
     return {.slope = s.a2, .intercept = s.b2, .lowerLimit = s.k, .upperLimit = s.w};
 }
 
-double heightAt(const Integ2Segment& segment, double q) { return segment.slope * q + segment.intercept; }
+double heightAt(const Integ2Piece& piece, double q) { return piece.slope * q + piece.intercept; }
 
 Judgement judge(const Integ2State& state, const std::vector<double>& typed) {
     return solvedIfAllRight({isHalfOpenNear(typed.at(0), state.total)});
@@ -134,14 +134,14 @@ Judgement judge(const Integ2State& state, const std::vector<double>& typed) {
 
 std::string answerText(const Integ2State& state) { return NumberText(RoundSigned2(state.total)); }
 
-Integ2Worked workedOut(const Integ2Segment& segment) {
-    const std::string quotient = "((" + NumberText(segment.slope) + "/2)*";
-    const std::string linear = "+" + NumberText(segment.intercept) + "*";
-    return {.integrand = "(" + NumberText(segment.slope) + "Q+" + NumberText(segment.intercept) + ")",
-            .upperQuadraticTerm = quotient + NumberText(segment.upperLimit),
-            .upperLinearTerm = linear + NumberText(segment.upperLimit) + ")",
-            .lowerQuadraticTerm = "-" + quotient + NumberText(segment.lowerLimit),
-            .lowerLinearTerm = linear + NumberText(segment.lowerLimit) + ")"};
+Integ2Worked workedOut(const Integ2Piece& piece) {
+    const std::string quotient = "((" + NumberText(piece.slope) + "/2)*";
+    const std::string linear = "+" + NumberText(piece.intercept) + "*";
+    return {.integrand = "(" + NumberText(piece.slope) + "Q+" + NumberText(piece.intercept) + ")",
+            .upperQuadraticTerm = quotient + NumberText(piece.upperLimit),
+            .upperLinearTerm = linear + NumberText(piece.upperLimit) + ")",
+            .lowerQuadraticTerm = "-" + quotient + NumberText(piece.lowerLimit),
+            .lowerLinearTerm = linear + NumberText(piece.lowerLimit) + ")"};
 }
 
 std::string summandText(double integral, const std::string& shownSoFar) {

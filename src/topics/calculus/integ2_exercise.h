@@ -8,8 +8,8 @@
 
 namespace tavrune {
 
-/// A function in two linear segments, P1 = a1 Q + b1 up to the kink k and P2 = a2 Q + b2 after it, whose
-/// integral from v to w is asked for. The segments need not meet at k.
+/// A function in two linear pieces, P1 = a1 Q + b1 up to the kink k and P2 = a2 Q + b2 after it, whose
+/// integral from v to w is asked for. The pieces need not meet at k.
 struct Integ2State {
     float a1 = 0;
     float b1 = 0;
@@ -25,24 +25,24 @@ struct Integ2State {
     double total = 0;
 };
 
-/// One of the two segments, P = slope Q + intercept, and the limits between which it is integrated.
-struct Integ2Segment {
+/// One of the two pieces, P = slope Q + intercept, and the limits between which it is integrated.
+struct Integ2Piece {
     float slope = 0;
     float intercept = 0;
     float lowerLimit = 0;
     float upperLimit = 0;
 };
 
-/// Draws until the limits stand on the graph and the segments are of one of three families: a fall and a
+/// Draws until the limits stand on the graph and the pieces are of one of three families: a fall and a
 /// rise, a rise and a fall, two falls.
 void newExercise(Integ2State& state, Draws& draws);
 
-/// The segment from v to k, and the one from k to w.
-[[nodiscard]] Integ2Segment firstSegment(const Integ2State& state);
-[[nodiscard]] Integ2Segment secondSegment(const Integ2State& state);
+/// The piece from v to k, and the one from k to w.
+[[nodiscard]] Integ2Piece firstPiece(const Integ2State& state);
+[[nodiscard]] Integ2Piece secondPiece(const Integ2State& state);
 
-/// The height of a segment at q, wherever q lies.
-[[nodiscard]] double heightAt(const Integ2Segment& segment, double q);
+/// The height of a piece at q, wherever q lies.
+[[nodiscard]] double heightAt(const Integ2Piece& piece, double q);
 
 /// Judges the typed integral.
 [[nodiscard]] Judgement judge(const Integ2State& state, const std::vector<double>& typed);
@@ -63,7 +63,7 @@ struct Integ2Worked {
     std::string lowerLinearTerm;
 };
 
-[[nodiscard]] Integ2Worked workedOut(const Integ2Segment& segment);
+[[nodiscard]] Integ2Worked workedOut(const Integ2Piece& piece);
 
 /// What a term of the last sum shows from now on: its integral if that is above 0, otherwise what it has
 /// shown so far, in brackets. summandText(0, "5") -> "(5)"

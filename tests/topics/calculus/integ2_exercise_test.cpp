@@ -292,7 +292,7 @@ TEST(Integ2TwoFalls, ComeNoHigherThanFiveAtTheKinkAndAreNeverLeftForTheFirstFami
         Integ2State s;
         newExercise(s, draws);
         ASSERT_EQ(familyOf(s), kTwoFalls);
-        const double height = std::abs(heightAt(secondSegment(s), s.k));
+        const double height = std::abs(heightAt(secondPiece(s), s.k));
         ASSERT_LE(height, 5);
         highest = std::max(highest, height);
     });
@@ -316,8 +316,8 @@ TEST_P(Integ2Space, IntegratesEachPieceAsSimpsonsRuleAndWholeNumbersDo) {
         ASSERT_NEAR(s.first, simpson(first, p.v(), p.n.k), 1e-9);
         ASSERT_NEAR(s.second, simpson(second, p.n.k, p.w()), 1e-9);
         for (const double q : {0.0, 2.5, 10.0}) {
-            ASSERT_EQ(heightAt(firstSegment(s), q), first(q));
-            ASSERT_EQ(heightAt(secondSegment(s), q), second(q));
+            ASSERT_EQ(heightAt(firstPiece(s), q), first(q));
+            ASSERT_EQ(heightAt(secondPiece(s), q), second(q));
         }
     });
 }
@@ -430,8 +430,8 @@ TEST_P(Integ2Space, WritesRowsThatReadBackAsTheIntegrals) {
     const DecimalMark plain(".");
     forEachExercise([](const Point& p, const Integ2State& s) {
         SCOPED_TRACE(testing::PrintToString(p));
-        const Integ2Worked red = workedOut(firstSegment(s));
-        const Integ2Worked green = workedOut(secondSegment(s));
+        const Integ2Worked red = workedOut(firstPiece(s));
+        const Integ2Worked green = workedOut(secondPiece(s));
         const std::string redRow = rowOf(red);
         const std::string greenRow = rowOf(green);
         ASSERT_EQ(Reader::valueOf(redRow) * 4, p.first());
@@ -477,15 +477,15 @@ TEST(Integ2Texts, WriteAPlusBeforeEveryB) {
     const DecimalMark danish(",");
     const Integ2State s =
         exercise(kRise, {.a1 = 3, .b1 = 2, .a2 = 1, .b2 = 7, .k = 4, .back = 1, .forth = 2});
-    EXPECT_EQ(workedOut(firstSegment(s)).integrand, "(1,5Q+2)");
-    EXPECT_EQ(rowOf(workedOut(firstSegment(s))), "((1,5/2)*4²+2*4)-((1,5/2)*3²+2*3)");
-    EXPECT_EQ(workedOut(secondSegment(s)).integrand, "(-0,5Q+7)");
-    EXPECT_EQ(rowOf(workedOut(secondSegment(s))), "((-0,5/2)*6²+7*6)-((-0,5/2)*4²+7*4)");
+    EXPECT_EQ(workedOut(firstPiece(s)).integrand, "(1,5Q+2)");
+    EXPECT_EQ(rowOf(workedOut(firstPiece(s))), "((1,5/2)*4²+2*4)-((1,5/2)*3²+2*3)");
+    EXPECT_EQ(workedOut(secondPiece(s)).integrand, "(-0,5Q+7)");
+    EXPECT_EQ(rowOf(workedOut(secondPiece(s))), "((-0,5/2)*6²+7*6)-((-0,5/2)*4²+7*4)");
 
     Integ2State negative = s;
     negative.b2 = -7;
-    EXPECT_EQ(workedOut(secondSegment(negative)).integrand, "(-0,5Q+-7)");
-    EXPECT_EQ(workedOut(secondSegment(negative)).upperLinearTerm, "+-7*6)");
+    EXPECT_EQ(workedOut(secondPiece(negative)).integrand, "(-0,5Q+-7)");
+    EXPECT_EQ(workedOut(secondPiece(negative)).upperLinearTerm, "+-7*6)");
 }
 
 TEST(Integ2Texts, ShowASummandAboveZeroAndBracketWhatStoodThereOtherwise) {
