@@ -1,6 +1,5 @@
 #include "topics/calculus/diff.h"
 
-#include "controls/panel.h"
 #include "controls/row.h"
 #include "graph/axes.h"
 #include "graph/curve.h"
@@ -84,15 +83,13 @@ void Diff::drawRightTangent() {
     drawTangent(state_.slopeAtPoint, hasParabola(state_) ? kReachBesideParabola : kReach, kGreen);
 }
 
-void Diff::drawTypedTangent(double slope) { drawTangent(slope, kReach, kRed); }
-
 void Diff::judge() {
     const double typed = ui_->derivative->value();
     // Kept (shell-forkert-behind): no verdict is hidden first, so "FORKERT" stays behind a later "RIGTIGT".
     if (showJudgement(tavrune::judge(state_, {typed}), {ui_->derivative}, ui_->derivative)) {
         drawRightTangent();
     } else {
-        drawTypedTangent(typed);
+        drawTangent(typed, kReach, kRed);
     }
 }
 
@@ -102,7 +99,7 @@ void Diff::giveAnswer() {
     ui_->derivative->setContent(NumberText(state_.slopeAtPoint));
     showGiven();
     drawRightTangent();
-    drawTypedTangent(typed);
+    drawTangent(typed, kReach, kRed);
 }
 
 void Diff::help() {

@@ -32,7 +32,6 @@ private:
     void showTask();
     void drawCurve();
     void drawRightTangent();
-    void drawTypedTangent(double slope);
     void drawTangent(double slope, double reach, const QColor& colour);
     void showDerivative();
     void showDerivativeAtPoint();

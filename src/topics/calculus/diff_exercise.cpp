@@ -20,9 +20,7 @@ constexpr int kLastWithParabola = 18;
 /// What the curve may be at the point, in size.
 constexpr int kReach = 60;
 
-constexpr Term M = Term::Minus;
-constexpr Term O = Term::Absent;
-constexpr Term P = Term::Plus;
+using namespace signs;
 
 // clang-format off
 constexpr std::array kPatterns{

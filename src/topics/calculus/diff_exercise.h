@@ -32,7 +32,7 @@ struct DiffPattern {
     Term d = Term::Absent;
 };
 
-/// `patternCase` 1 to 50.
+/// Returns a shape. Precondition: `patternCase` is 1 to 50.
 [[nodiscard]] const DiffPattern& diffPatternOf(int patternCase);
 
 /// Draws until the curve at the point is 60 or less in size.
@@ -41,13 +41,13 @@ void newExercise(DiffState& state, Draws& draws);
 /// Judges the typed derivative.
 [[nodiscard]] Judgement judge(const DiffState& state, const std::vector<double>& typed);
 
-/// True for the patterns whose graph is the parabola aQ²+bQ+c: the quadratics, and two of the cubics.
+/// Returns whether the graph is the parabola aQ²+bQ+c: that of the quadratics, and of two of the cubics.
 [[nodiscard]] bool hasParabola(const DiffState& state);
 
-/// The curve of the graph at q.
+/// Returns the height of the curve at q.
 [[nodiscard]] double curveAt(const DiffState& state, double q);
 
-/// At q, the line of this slope through the point of the curve.
+/// Returns the height at q of the line of this slope through the point of the curve.
 [[nodiscard]] double tangentAt(const DiffState& state, double slope, double q);
 
 /// What the form shows of an exercise.

@@ -1,6 +1,5 @@
 #include "topics/calculus/integ.h"
 
-#include "controls/panel.h"
 #include "controls/row.h"
 #include "controls/text.h"
 #include "graph/axes.h"
@@ -147,15 +146,11 @@ void Integ::layOutHelp() {
     const double left = ui_->workedPriceEquals->place().left();
     rows_.primitive.layOut(
         layOutRow({ui_->workedPriceEquals, ui_->workedFunction, ui_->workedPrimitiveEquals}, left));
-    layOutStepWithLetters(left);
-    layOutFromFirst({ui_->workedNumbersIntegrand, ui_->workedNumbersDifferentialEquals});
-    rows_.lowerWithNumbers.layOut(rows_.upperWithNumbers.layOut(left));
-}
-
-void Integ::layOutStepWithLetters(double left) {
     layOutFromFirst({ui_->workedLettersIntegrandHead, ui_->workedLettersIntegrandSquare,
                      ui_->workedLettersIntegrandTail, ui_->workedLettersDifferentialEquals});
     rows_.lowerWithLetters.layOut(rows_.upperWithLetters.layOut(left));
+    layOutFromFirst({ui_->workedNumbersIntegrand, ui_->workedNumbersDifferentialEquals});
+    rows_.lowerWithNumbers.layOut(rows_.upperWithNumbers.layOut(left));
 }
 
 void Integ::showWorkedSolution() {

@@ -19,12 +19,12 @@ struct IntegRowLabels {
     Label* square = nullptr;
     Label* linearTerm = nullptr;
 
-    /// What is called `workedPrimitiveCubicTerm` and so on, for the prefix "workedPrimitive". All five must
-    /// be on the page.
+    /// Returns what is called `workedPrimitiveCubicTerm` and so on, for the prefix "workedPrimitive".
+    /// Precondition: all five are on the page.
     [[nodiscard]] static IntegRowLabels of(const QWidget& page, const QString& prefix);
 
     void write(const IntegRow& row) const;
-    /// Sets them side by side from `left` on and gives the right edge.
+    /// Sets them side by side from `left` on. Returns the right edge.
     double layOut(double left) const;
 };
 
@@ -48,11 +48,10 @@ protected:
 private:
     void showTask();
     void fillHelp();
-    /// Ends where p is larger than this.
+    /// Draws the curve up to the first p that is larger than `largest`.
     void drawCurve(double largest);
     void hatchArea();
     void layOutHelp();
-    void layOutStepWithLetters(double left);
     void showWorkedSolution();
 
     std::unique_ptr<Ui::Integ> ui_;

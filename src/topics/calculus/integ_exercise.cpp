@@ -19,24 +19,16 @@ constexpr int kLargestV = 6;
 /// What p may be at v, in size. At w it may be more, and the curve leaves the graph.
 constexpr int kReach = 60;
 
-constexpr Term M = Term::Minus;
-constexpr Term O = Term::Absent;
-constexpr Term P = Term::Plus;
-
-struct IntegShape {
-    Term a;
-    Term b;
-    Term c;
-};
+using namespace signs;
 
 /// Every choice of signs and zeros but the one without any term.
 constexpr std::array kShapes{
-    IntegShape{P, P, P}, IntegShape{P, O, O}, IntegShape{P, P, O}, IntegShape{P, O, P}, IntegShape{O, P, P},
-    IntegShape{O, P, M}, IntegShape{O, M, M}, IntegShape{O, M, P}, IntegShape{O, M, O}, IntegShape{O, P, O},
-    IntegShape{O, O, P}, IntegShape{O, O, M}, IntegShape{P, P, M}, IntegShape{P, M, P}, IntegShape{P, O, M},
-    IntegShape{P, M, O}, IntegShape{P, M, M}, IntegShape{M, P, P}, IntegShape{M, P, O}, IntegShape{M, P, M},
-    IntegShape{M, O, P}, IntegShape{M, O, M}, IntegShape{M, O, O}, IntegShape{M, M, P}, IntegShape{M, M, O},
-    IntegShape{M, M, M},
+    Pattern{P, P, P}, Pattern{P, O, O}, Pattern{P, P, O}, Pattern{P, O, P}, Pattern{O, P, P},
+    Pattern{O, P, M}, Pattern{O, M, M}, Pattern{O, M, P}, Pattern{O, M, O}, Pattern{O, P, O},
+    Pattern{O, O, P}, Pattern{O, O, M}, Pattern{P, P, M}, Pattern{P, M, P}, Pattern{P, O, M},
+    Pattern{P, M, O}, Pattern{P, M, M}, Pattern{M, P, P}, Pattern{M, P, O}, Pattern{M, P, M},
+    Pattern{M, O, P}, Pattern{M, O, M}, Pattern{M, O, O}, Pattern{M, M, P}, Pattern{M, M, O},
+    Pattern{M, M, M},
 };
 constexpr int kShapeCount = kShapes.size();
 
@@ -177,7 +169,7 @@ bool drawFunctionAndLimits(IntegState& s, Draws& draws) {
         return false;
     }
     s.shape = static_cast<int>(Int(draws.Rnd() * kShapeCount) + 1);
-    const IntegShape& shape = kShapes.at(static_cast<std::size_t>(s.shape - 1));
+    const Pattern& shape = kShapes.at(static_cast<std::size_t>(s.shape - 1));
     s.a = withSign(shape.a, s.a);
     s.b = withSign(shape.b, s.b);
     s.c = withSign(shape.c, s.c);

@@ -28,16 +28,16 @@ struct IntegState {
 /// Draws until v is less than w and p at v is 60 or less in size.
 void newExercise(IntegState& state, Draws& draws);
 
-/// p at Q.
+/// Returns p at Q.
 [[nodiscard]] double valueAt(const IntegState& state, double q);
 
 /// Judges the typed integral.
 [[nodiscard]] Judgement judge(const IntegState& state, const std::vector<double>& typed);
 
-/// The integral with two decimals, as the student is shown it.
+/// Returns the integral with two decimals, as the student is shown it.
 [[nodiscard]] std::string answerText(const IntegState& state);
 
-/// p as the task shows it: "-2Q²+3Q-4".
+/// Returns p as the task shows it: "-2Q²+3Q-4".
 [[nodiscard]] std::string functionText(const IntegState& state);
 
 /// A sum of terms cut into labels. What an exercise has no term for is empty; together they read as the sum.
@@ -56,14 +56,14 @@ struct IntegWorked {
     std::string function;
     /// "(2/3)·Q", "³", "-(3/2)·Q", "²", "+4·Q"
     IntegRow primitive;
-    /// p behind the first integral sign: up to the raised 2, and behind it. Without a square nothing stands
-    /// behind.
+    /// p after the first integral sign: what stands before the raised 2, and what stands after it. Without a
+    /// square all of it is the head.
     std::string integrandHead;
     std::string integrandTail;
     /// P at both limits, the limits as letters: "((2/3)·w", "³", ...; "- ((2/3)·v", "³", ...
     IntegRow upperWithLetters;
     IntegRow lowerWithLetters;
-    /// p behind the second integral sign, and P with the limits as numbers.
+    /// p after the second integral sign, and P with the limits as numbers.
     std::string integrand;
     IntegRow upperWithNumbers;
     IntegRow lowerWithNumbers;

@@ -13,9 +13,7 @@ namespace {
 
 constexpr int kLargestSize = 5;
 
-constexpr Term M = Term::Minus;
-constexpr Term O = Term::Absent;
-constexpr Term P = Term::Plus;
+using namespace signs;
 
 constexpr std::array kPatterns{
     Pattern{P, P, P}, Pattern{P, O, O}, Pattern{P, P, O}, Pattern{P, O, P}, Pattern{P, P, M},
@@ -32,26 +30,27 @@ std::string laterTerm(Term term, float size, const char* power) {
     return (term == Term::Minus ? "-" : "+") + NumberText(size) + power;
 }
 
-/// True if the count is right and the boxes that it asks for hold the roots.
-bool areRight(double discriminant, const Roots& roots, std::optional<RootCount> chosen, double first,
-              double second) {
-    if (chosen != rootCountOf(discriminant)) {
+/// Returns whether the count is right and the boxes that it asks for hold the roots.
+bool areRight(const RootTask& task, std::optional<RootCount> chosen, double first, double second) {
+    const Roots& roots = task.roots;
+    if (chosen != rootCountOf(task.discriminant)) {
         return false;
     }
     if (chosen == RootCount::None) {
         return true;
     }
     if (chosen == RootCount::Double) {
-        return isHalfOpenNear(second, roots.root1);
+        return isHalfOpenNear(second, roots.rootOne);
     }
-    const bool inOrder = isHalfOpenNear(first, roots.root1) && isHalfOpenNear(second, roots.root2);
-    const bool swapped = isHalfOpenNear(first, roots.root2) && isHalfOpenNear(second, roots.root1);
+    const bool inOrder = isHalfOpenNear(first, roots.rootOne) && isHalfOpenNear(second, roots.rootTwo);
+    const bool swapped = isHalfOpenNear(first, roots.rootTwo) && isHalfOpenNear(second, roots.rootOne);
     return inOrder || swapped;
 }
 
-/// 1 or 2, the box that holds a root, or 0: root 1 is looked for in both before root 2.
+/// Returns the number of the box that holds a root, or 0. The first root is looked for in both boxes, then
+/// the second one.
 int boxWithRoot(const Roots& roots, double first, double second) {
-    for (const double root : {roots.root1, roots.root2}) {
+    for (const double root : {roots.rootOne, roots.rootTwo}) {
         if (isHalfOpenNear(first, root)) {
             return 1;
         }
@@ -98,6 +97,15 @@ Roots rootsOf(const Polynomial& p) {
 
 Vertex vertexOf(const Polynomial& p) { return {-p.b / (2 * p.a), -discriminantOf(p) / (4 * p.a)}; }
 
+void setPolynomial(RootTask& task, const Pattern& pattern, const Polynomial& drawn) {
+    task.coefficients = withSigns(pattern, drawn);
+    task.polynomialText = polynomialText(pattern, drawn);
+    task.discriminant = discriminantOf(task.coefficients);
+    if (task.discriminant >= 0) {
+        task.roots = rootsOf(task.coefficients);
+    }
+}
+
 RootCount rootCountOf(double discriminant) {
     if (discriminant > 0) {
         return RootCount::Two;
@@ -107,13 +115,13 @@ RootCount rootCountOf(double discriminant) {
 
 const char* nameOfSecondRoot(RootCount count) { return count == RootCount::Double ? "dobbelt rod" : "rod 2"; }
 
-Judgement judge(double discriminant, const Roots& roots, const RootAnswer& answer) {
+Judgement judge(const RootTask& task, const RootAnswer& answer) {
     const double first = answer.typed.at(0);
     const double second = answer.typed.at(1);
-    if (areRight(discriminant, roots, answer.chosen, first, second)) {
+    if (areRight(task, answer.chosen, first, second)) {
         return solvedIfAllRight({true, true});
     }
-    const int right = discriminant > 0 ? boxWithRoot(roots, first, second) : 0;
+    const int right = task.discriminant > 0 ? boxWithRoot(task.roots, first, second) : 0;
     return {.isRight = {right == 1, right == 2}, .isSolved = false};
 }
 

@@ -15,40 +15,35 @@ struct Polynomial {
     float c = 0;
 };
 
-struct Pattern {
-    Term a;
-    Term b;
-    Term c;
-};
-
-/// The eighteen shapes of a polynomial, `patternCase` 1 to 18.
+/// Returns one of the eighteen shapes of a polynomial. Precondition: `patternCase` is 1 to 18.
 [[nodiscard]] const Pattern& patternOf(int patternCase);
 
-/// Draws three sizes, 1 to 5 each: a, b and c.
+/// Draws the sizes of a, b and c, 1 to 5 each.
 [[nodiscard]] Polynomial drawSizes(Draws& draws);
 
 /// Draws one of the eighteen shapes.
 [[nodiscard]] const Pattern& drawPattern(Draws& draws);
 
-/// The drawn sizes with the signs of the pattern; absent terms are 0.
+/// Returns the drawn sizes with the signs of the pattern, 0 for absent terms.
 [[nodiscard]] Polynomial withSigns(const Pattern& pattern, const Polynomial& drawn);
 
-/// The polynomial as the task shows it: no blanks, signs from the pattern, so "+-" never stands there, absent
-/// terms left out, a coefficient 1 written out. "-1Q²+3Q-2"
+/// Returns the polynomial as the task shows it: without blanks and absent terms, with signs from the pattern,
+/// so that "+-" never stands there, and with coefficients of 1: "-1Q²+3Q-2".
 [[nodiscard]] std::string polynomialText(const Pattern& pattern, const Polynomial& drawn);
 
-/// P at Q. The square is a double, and so is all that it is added to.
+/// Returns P at Q. The square is a double, and so is all that it is added to.
 [[nodiscard]] double valueAt(const Polynomial& p, double q);
 
-/// b² - 4ac, a whole number.
+/// Returns b² - 4ac, a whole number.
 [[nodiscard]] double discriminantOf(const Polynomial& p);
 
-/// Unrounded, the larger numerator first. Only where the discriminant is not below 0.
+/// Unrounded, the one with the larger numerator first.
 struct Roots {
-    double root1 = 0;
-    double root2 = 0;
+    double rootOne = 0;
+    double rootTwo = 0;
 };
 
+/// Returns both roots, a double one twice. Precondition: the discriminant is not below 0.
 [[nodiscard]] Roots rootsOf(const Polynomial& p);
 
 /// Unrounded: -b/(2a) is a quotient of singles, -d/(4a) one of a double.
@@ -59,23 +54,38 @@ struct Vertex {
 
 [[nodiscard]] Vertex vertexOf(const Polynomial& p);
 
-/// How many roots the student says there are.
+/// A polynomial whose roots are asked for.
+struct RootTask {
+    /// With the signs that the task shows.
+    Polynomial coefficients;
+    /// "5Q²-3Q+1"
+    std::string polynomialText;
+    double discriminant = 0;
+    /// Written only where the polynomial has roots, and read only there.
+    Roots roots;
+};
+
+/// Sets a polynomial, and finds its roots.
+void setPolynomial(RootTask& task, const Pattern& pattern, const Polynomial& drawn);
+
+/// How many roots there are.
 enum class RootCount { Two, Double, None };
 
-/// The count that a discriminant stands for.
+/// Returns how many roots a polynomial of this discriminant has.
 [[nodiscard]] RootCount rootCountOf(double discriminant);
 
-/// What screen readers call the second root box: it takes the second of two roots, or the double one.
+/// Returns what screen readers call the second root box: it takes the second of two roots, or the double one.
 [[nodiscard]] const char* nameOfSecondRoot(RootCount count);
 
-/// The values of the two root boxes; a double root is typed in the second. Further ones may follow.
+/// The chosen count and the values of the two root boxes, of which a double root is typed in the second.
+/// Other values may follow.
 using RootAnswer = ChosenAnswer<RootCount>;
 
 /// Judges the chosen count and what is typed in the two root boxes. It is solved if the count is right and
-/// the boxes that it asks for hold the roots, in either order; not as long as nothing is chosen. Both boxes
-/// are right then. Otherwise, whatever is chosen, neither is for fewer than two roots; for two, the first box
-/// that holds a root, in a fixed order of tests, is right and the other one wrong. The same right root typed
-/// twice leaves the second wrong.
-[[nodiscard]] Judgement judge(double discriminant, const Roots& roots, const RootAnswer& answer);
+/// the boxes that it asks for hold the roots, in either order; not as long as nothing is chosen. Then both
+/// boxes are right. Otherwise, whatever is chosen, both are wrong if the polynomial has fewer than two roots.
+/// If it has two, the first box in which a root is found is right and the other one wrong, even if it holds
+/// the same root.
+[[nodiscard]] Judgement judge(const RootTask& task, const RootAnswer& answer);
 
 }  // namespace tavrune

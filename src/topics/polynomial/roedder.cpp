@@ -4,8 +4,6 @@
 #include <array>
 #include <vector>
 
-#include "controls/frame.h"
-#include "controls/panel.h"
 #include "graph/axes.h"
 #include "graph/curve.h"
 #include "topics/polynomial/ui_roedder.h"
@@ -108,8 +106,8 @@ void Roedder::newExercise() {
 
     tavrune::newExercise(state_, draws());
 
-    ui_->givenFunction->setCaption(state_.polynomial);
-    ui_->workedFunction->setCaption(state_.polynomial);
+    ui_->givenFunction->setCaption(state_.polynomialText);
+    ui_->workedFunction->setCaption(state_.polynomialText);
     ui_->workedDiscriminant->setCaption(discriminantText(state_));
     clearWorkedSolution();
 }
@@ -188,10 +186,10 @@ void Roedder::giveAnswer() {
     setShown(isTwo || isDouble, {ui_->rootTwo});
     const RoedderAnswer answer = answerTexts(state_);
     if (isTwo) {
-        ui_->rootOne->setContent(answer.root1);
-        ui_->rootTwo->setContent(answer.root2);
+        ui_->rootOne->setContent(answer.rootOne);
+        ui_->rootTwo->setContent(answer.rootTwo);
     } else if (isDouble) {
-        ui_->rootTwo->setContent(answer.root1);
+        ui_->rootTwo->setContent(answer.rootOne);
     }
     drawCurve(state_.coefficients.a < 0 ? kExactEndByGivenMaximum : kExactEnd);
     showGiven();
@@ -202,15 +200,10 @@ void Roedder::colourRightOption() { options_.colour(rootCountOf(state_.discrimin
 void Roedder::help() {
     const RootCount count = rootCountOf(state_.discriminant);
     showWorked(count);
-    switch (count) {
-        case RootCount::Two:
-            fillWorkedTwoRoots();
-            break;
-        case RootCount::Double:
-            fillWorkedDoubleRoot();
-            break;
-        case RootCount::None:
-            break;
+    if (count == RootCount::Two) {
+        fillWorkedTwoRoots();
+    } else if (count == RootCount::Double) {
+        fillWorkedDoubleRoot();
     }
     openPanel(ui_->helpPanel, ui_->showDiscriminant);
 }
@@ -231,18 +224,18 @@ void Roedder::fillWorkedTwoRoots() {
     ui_->workedRootOneCoefficientB->setCaption(formula.b);
     ui_->workedRootOneDiscriminant->setCaption(formula.d);
     ui_->workedRootOneDenominator->setCaption(formula.denominator);
-    ui_->workedRootOneResult->setCaption(answer.root1);
+    ui_->workedRootOneResult->setCaption(answer.rootOne);
     ui_->workedRootTwoCoefficientB->setCaption(formula.b);
     ui_->workedRootTwoDiscriminant->setCaption(formula.d);
     ui_->workedRootTwoDenominator->setCaption(formula.denominator);
-    ui_->workedRootTwoResult->setCaption(answer.root2);
+    ui_->workedRootTwoResult->setCaption(answer.rootTwo);
 }
 
 void Roedder::fillWorkedDoubleRoot() {
     const RoedderFormula formula = formulaTexts(state_);
     ui_->workedDoubleRootNumerator->setCaption(formula.minusB);
     ui_->workedDoubleRootDenominator->setCaption(formula.denominator);
-    ui_->workedDoubleRootResult->setCaption(answerTexts(state_).root1);
+    ui_->workedDoubleRootResult->setCaption(answerTexts(state_).rootOne);
 }
 
 void Roedder::clearWorkedSolution() {

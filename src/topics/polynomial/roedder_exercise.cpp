@@ -33,18 +33,11 @@ void newExercise(RoedderState& state, Draws& draws) {
     draws.Randomize();
     const Polynomial drawn = drawSizes(draws);
     draws.Randomize();
-    const Pattern& pattern = drawPattern(draws);
-
-    state.coefficients = withSigns(pattern, drawn);
-    state.polynomial = polynomialText(pattern, drawn);
-    state.discriminant = discriminantOf(state.coefficients);
-    if (state.discriminant >= 0) {
-        state.roots = rootsOf(state.coefficients);
-    }
+    setPolynomial(state, drawPattern(draws), drawn);
 }
 
 Judgement judge(const RoedderState& state, const RootAnswer& answer) {
-    return judge(state.discriminant, state.roots, answer);
+    return judge(static_cast<const RootTask&>(state), answer);
 }
 
 std::string discriminantText(const RoedderState& state) {
@@ -63,8 +56,8 @@ RoedderFormula formulaTexts(const RoedderState& state) {
 }
 
 RoedderAnswer answerTexts(const RoedderState& state) {
-    return {.root1 = NumberText(RoundSigned2(state.roots.root1)),
-            .root2 = NumberText(RoundSigned2(state.roots.root2))};
+    return {.rootOne = NumberText(RoundSigned2(state.roots.rootOne)),
+            .rootTwo = NumberText(RoundSigned2(state.roots.rootTwo))};
 }
 
 }  // namespace tavrune

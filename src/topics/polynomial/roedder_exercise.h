@@ -9,24 +9,16 @@
 namespace tavrune {
 
 /// One task on the roots of a polynomial of the second degree.
-struct RoedderState {
-    Polynomial coefficients;
-    double discriminant = 0;
-    /// Only written where the polynomial has roots; else those of an earlier exercise stay, unread.
-    Roots roots;
-    /// "5Q²-3Q+1"
-    std::string polynomial;
-};
+struct RoedderState : RootTask {};
 
-/// Draws three sizes and one of the eighteen patterns. Nothing is drawn again: how many roots there are is
-/// left to chance.
+/// Draws three sizes and one of the eighteen patterns. Nothing is drawn again, whatever the number of roots.
 void newExercise(RoedderState& state, Draws& draws);
 
 /// Judges the chosen count and the roots that go with it.
 [[nodiscard]] Judgement judge(const RoedderState& state, const RootAnswer& answer);
 
-/// The discriminant with its numbers inserted: "d = (-3) ² - 4· 5 · 1 = -11". The blanks round its dots
-/// depend on how many of the numbers are negative.
+/// Returns the discriminant with its numbers inserted: "d = (-3) ² - 4· 5 · 1 = -11". The blanks round its
+/// dots depend on how many of the numbers are negative.
 [[nodiscard]] std::string discriminantText(const RoedderState& state);
 
 /// The numbers in the formulas of the roots. Those that are not under a root have brackets if negative.
@@ -40,12 +32,13 @@ struct RoedderFormula {
 
 [[nodiscard]] RoedderFormula formulaTexts(const RoedderState& state);
 
-/// The roots to 2 decimals. Only where the polynomial has roots.
+/// The roots to 2 decimals.
 struct RoedderAnswer {
-    std::string root1;
-    std::string root2;
+    std::string rootOne;
+    std::string rootTwo;
 };
 
+/// Precondition: the polynomial has roots.
 [[nodiscard]] RoedderAnswer answerTexts(const RoedderState& state);
 
 }  // namespace tavrune

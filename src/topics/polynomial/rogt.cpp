@@ -1,6 +1,5 @@
 #include "topics/polynomial/rogt.h"
 
-#include "controls/frame.h"
 #include "graph/axes.h"
 #include "graph/curve.h"
 #include "topics/polynomial/ui_rogt.h"
@@ -58,15 +57,8 @@ std::vector<AnswerBox*> Rogt::chosenRootBoxes() const {
 
 void Rogt::colourRightOption() {
     // Kept (rogt-no-green): two roots get no green.
-    switch (rootCountOf(state_.discriminant)) {
-        case RootCount::Two:
-            break;
-        case RootCount::Double:
-            options_.colour(RootCount::Double, kGreen);
-            break;
-        case RootCount::None:
-            options_.colour(RootCount::None, kGreen);
-            break;
+    if (const RootCount count = rootCountOf(state_.discriminant); count != RootCount::Two) {
+        options_.colour(count, kGreen);
     }
 }
 
@@ -145,7 +137,7 @@ void Rogt::judge() {
 
 void Rogt::drawTypedRoots() {
     for (const AnswerBox* box : chosenRootBoxes()) {
-        const Figure mark(*ui_->graph, Meaning::Dash);
+        const Figure tick(*ui_->graph, Meaning::Dash);
         const double root = box->value();
         ui_->graph->Line(root, -kHalfTick, root, kHalfTick, kRed);
     }
@@ -171,12 +163,12 @@ void Rogt::giveAnswer() {
     switch (rootCountOf(state_.discriminant)) {
         case RootCount::Two:
             showAll({ui_->rootOneCaption, ui_->rootTwoCaption, ui_->rootOne, ui_->rootTwo});
-            ui_->rootOne->setContent(answer.root1);
-            ui_->rootTwo->setContent(answer.root2);
+            ui_->rootOne->setContent(answer.rootOne);
+            ui_->rootTwo->setContent(answer.rootTwo);
             break;
         case RootCount::Double:
             showAll({ui_->doubleRootCaption, ui_->rootTwo});
-            ui_->rootTwo->setContent(answer.root1);
+            ui_->rootTwo->setContent(answer.rootOne);
             break;
         case RootCount::None:
             break;

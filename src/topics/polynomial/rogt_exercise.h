@@ -9,17 +9,11 @@
 namespace tavrune {
 
 /// One polynomial, whose roots and vertex are asked for together.
-struct RogtState {
-    /// With the signs that the task shows.
-    Polynomial coefficients;
-    std::string polynomialText;
-    double discriminant = 0;
-    /// Written only where the discriminant is not below 0, and read only there.
-    Roots roots;
+struct RogtState : RootTask {
     Vertex vertex;
 };
 
-/// Draws once: how many roots there are is left to chance.
+/// Draws three sizes and one of the eighteen patterns. Nothing is drawn again, whatever the number of roots.
 void newExercise(RogtState& s, Draws& draws);
 
 /// Solved if both parts of the answer are right. Right roots leave both of their boxes right.
@@ -31,13 +25,14 @@ struct RogtJudgement : Judgement {
 /// Judges the chosen count with what is typed for both roots, and for Q and P of the vertex.
 [[nodiscard]] RogtJudgement judge(const RogtState& s, const RootAnswer& answer);
 
-/// What "&Giv svaret" writes, to 2 decimals; a double root is in both, and without roots they are empty.
+/// What "&Giv svaret" writes, to 2 decimals. A double root stands in both texts; without roots they are
+/// empty.
 ///
 /// Kept (rogt-negative-halves): a negative half such as -0.125 is shown as -0.13, which typed in would be
 /// wrong, since the tolerance is open below.
 struct RogtAnswer {
-    std::string root1;
-    std::string root2;
+    std::string rootOne;
+    std::string rootTwo;
     std::string vertexQ;
     std::string vertexP;
 };

@@ -1,7 +1,6 @@
 #include "topics/polynomial/topp.h"
 
 #include "controls/fraction.h"
-#include "controls/panel.h"
 #include "controls/row.h"
 #include "graph/axes.h"
 #include "graph/curve.h"

@@ -17,9 +17,7 @@ constexpr int kLargestBOrC = 10;
 constexpr int kPatternsDrawn = 11;
 constexpr int kReach = 15;
 
-constexpr Term M = Term::Minus;
-constexpr Term O = Term::Absent;
-constexpr Term P = Term::Plus;
+using namespace signs;
 
 constexpr ToppPattern asShown(Term a, Term b, Term c) { return {{a, b, c}, {a, b, c}}; }
 
@@ -73,21 +71,19 @@ bool isWithinReach(const Vertex& vertex) {
 void newExercise(ToppState& state, Draws& draws) {
     do {
         drawPolynomial(state, draws);
-        const Vertex vertex = vertexOf(state.polynomial);
         state.discriminant = discriminantOf(state.polynomial);
-        state.vertexQ = vertex.q;
-        state.vertexP = vertex.p;
-    } while (!isWithinReach({state.vertexQ, state.vertexP}));
+        state.vertex = vertexOf(state.polynomial);
+    } while (!isWithinReach(state.vertex));
 }
 
 Judgement judge(const ToppState& state, const std::vector<double>& typed) {
     return solvedIfAllRight(
-        {isHalfOpenNear(typed.at(0), state.vertexQ), isHalfOpenNear(typed.at(1), state.vertexP)});
+        {isHalfOpenNear(typed.at(0), state.vertex.q), isHalfOpenNear(typed.at(1), state.vertex.p)});
 }
 
-std::string answerTextOfQ(const ToppState& state) { return NumberText(RoundSigned2(state.vertexQ)); }
+std::string answerTextOfQ(const ToppState& state) { return NumberText(RoundSigned2(state.vertex.q)); }
 
-std::string answerTextOfP(const ToppState& state) { return NumberText(RoundSigned2(state.vertexP)); }
+std::string answerTextOfP(const ToppState& state) { return NumberText(RoundSigned2(state.vertex.p)); }
 
 ToppWorked workedSolution(const ToppState& s) {
     return {.discriminant = discriminantText(s),

@@ -17,9 +17,8 @@ struct ToppState {
     std::string polynomialText;
     /// b² - 4ac
     double discriminant = 0;
-    /// Unrounded, 15 or less in size.
-    float vertexQ = 0;
-    double vertexP = 0;
+    /// Its coordinates are 15 or less in size.
+    Vertex vertex;
 };
 
 /// A shape of the polynomial as the task shows it, and the signs that all else works with.
@@ -28,10 +27,10 @@ struct ToppPattern {
     Pattern stored;
 };
 
-/// `patternCase` 1 to 12.
+/// Returns a shape. Precondition: `patternCase` is 1 to 12.
 [[nodiscard]] const ToppPattern& toppPatternOf(int patternCase);
 
-/// True if both coordinates are 15 or less in size, as an exercise wants it.
+/// Returns whether both coordinates are 15 or less in size, so that the vertex can be asked for.
 [[nodiscard]] bool isWithinReach(const Vertex& vertex);
 
 /// Draws until the vertex is within reach.
@@ -40,8 +39,8 @@ void newExercise(ToppState& state, Draws& draws);
 /// Judges a typed Q and P.
 [[nodiscard]] Judgement judge(const ToppState& state, const std::vector<double>& typed);
 
-/// The coordinates with two decimals, as the student is shown them. Kept (topp-negative-halves): a negative
-/// half is rounded away from zero, which typed in is wrong.
+/// Return the coordinates with two decimals, as the student is shown them. Kept (topp-negative-halves): a
+/// negative half is rounded away from zero, which typed in is wrong.
 [[nodiscard]] std::string answerTextOfQ(const ToppState& state);
 [[nodiscard]] std::string answerTextOfP(const ToppState& state);
 

@@ -14,6 +14,13 @@ using test::cellOf;
 using test::kLargestDraw;
 using test::ScriptedDraws;
 
+RootTask taskOf(double discriminant, const Roots& roots) {
+    RootTask task;
+    task.discriminant = discriminant;
+    task.roots = roots;
+    return task;
+}
+
 struct PatternRow {
     int patternCase;
     const char* text;
@@ -70,10 +77,10 @@ TEST(Polynomials, HaveTheirRootsWhereTheyAreZero) {
                     continue;
                 }
                 const Roots roots = rootsOf(p);
-                EXPECT_NEAR(valueAt(p, roots.root1), 0, 1e-9);
-                EXPECT_NEAR(valueAt(p, roots.root2), 0, 1e-9);
-                EXPECT_NEAR(roots.root1 + roots.root2, -b / a, 1e-6);
-                EXPECT_EQ(roots.root1 == roots.root2, discriminantOf(p) == 0);
+                EXPECT_NEAR(valueAt(p, roots.rootOne), 0, 1e-9);
+                EXPECT_NEAR(valueAt(p, roots.rootTwo), 0, 1e-9);
+                EXPECT_NEAR(roots.rootOne + roots.rootTwo, -b / a, 1e-6);
+                EXPECT_EQ(roots.rootOne == roots.rootTwo, discriminantOf(p) == 0);
             }
         }
     }
@@ -99,11 +106,11 @@ TEST(RootCount, FollowsTheDiscriminant) {
     EXPECT_EQ(rootCountOf(-1), RootCount::None);
 }
 
-const Roots kRoots{.root1 = 2, .root2 = -1};
+const Roots kRoots{.rootOne = 2, .rootTwo = -1};
 
 bool areRight(double discriminant, const Roots& roots, std::optional<RootCount> chosen,
               const std::vector<double>& typed) {
-    const Judgement judgement = judge(discriminant, roots, {chosen, typed});
+    const Judgement judgement = judge(taskOf(discriminant, roots), {chosen, typed});
     EXPECT_TRUE(!judgement.isSolved || judgement.isRight == (std::vector{true, true}));
     return judgement.isSolved;
 }
@@ -146,7 +153,7 @@ TEST_P(RootMarkRows, DecideByTheFirstTrueTestWhateverIsChosen) {
     using enum RootCount;
     const auto& [name, discriminant, typed, isRight] = GetParam();
     for (const std::optional<RootCount> chosen : {std::optional<RootCount>(), {Two}, {Double}, {None}}) {
-        const Judgement judgement = judge(discriminant, kRoots, {chosen, typed});
+        const Judgement judgement = judge(taskOf(discriminant, kRoots), {chosen, typed});
         EXPECT_TRUE(judgement.isSolved ? chosen == rootCountOf(discriminant) : judgement.isRight == isRight);
     }
 }

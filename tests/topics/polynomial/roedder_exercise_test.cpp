@@ -35,10 +35,10 @@ TEST(RoedderGenerator, MakesJustThisExerciseOfItsDraws) {
     EXPECT_EQ(s.coefficients.a, 2);
     EXPECT_EQ(s.coefficients.b, -5);
     EXPECT_EQ(s.coefficients.c, -3);
-    EXPECT_EQ(s.polynomial, "2Q²-5Q-3");
+    EXPECT_EQ(s.polynomialText, "2Q²-5Q-3");
     EXPECT_EQ(s.discriminant, 49);
-    EXPECT_EQ(s.roots.root1, 3);
-    EXPECT_EQ(s.roots.root2, -0.5);
+    EXPECT_EQ(s.roots.rootOne, 3);
+    EXPECT_EQ(s.roots.rootTwo, -0.5);
 }
 
 /// Writes down in which order it is asked.
@@ -58,14 +58,14 @@ TEST(RoedderGenerator, ReseedsBeforeTheSizesAndBeforeThePattern) {
     RoedderState s;
     newExercise(s, draws);
     EXPECT_EQ(draws.asked, "RuuuRu");
-    EXPECT_EQ(s.polynomial, "1Q²+1Q+1");
+    EXPECT_EQ(s.polynomialText, "1Q²+1Q+1");
 }
 
 TEST(RoedderGenerator, ReachesTheEndsOfItsRanges) {
     ScriptedDraws largest{kLargestDraw, kLargestDraw, kLargestDraw, kLargestDraw};
     RoedderState s;
     newExercise(s, largest);
-    EXPECT_EQ(s.polynomial, "-5Q²-5Q-5");
+    EXPECT_EQ(s.polynomialText, "-5Q²-5Q-5");
 }
 
 TEST(RoedderGenerator, LeavesTheRootsAloneWhereThereAreNone) {
@@ -74,8 +74,8 @@ TEST(RoedderGenerator, LeavesTheRootsAloneWhereThereAreNone) {
     newExercise(s, draws);
     newExercise(s, draws);
     EXPECT_EQ(s.discriminant, -3);
-    EXPECT_EQ(s.roots.root1, 3);
-    EXPECT_EQ(s.roots.root2, -0.5);
+    EXPECT_EQ(s.roots.rootOne, 3);
+    EXPECT_EQ(s.roots.rootTwo, -0.5);
 }
 
 struct DiscriminantRow {
@@ -123,14 +123,14 @@ TEST(RoedderFormulas, PutNegativeNumbersInBrackets) {
 TEST(RoedderAnswers, HaveTwoDecimalsAndTheMarkOfTheLocale) {
     const DecimalMark comma(",");
     const RoedderAnswer answer = answerTexts(exercise(5, 5, 5, 9));
-    EXPECT_EQ(answer.root1, "1,62");
-    EXPECT_EQ(answer.root2, "-0,62");
+    EXPECT_EQ(answer.rootOne, "1,62");
+    EXPECT_EQ(answer.rootTwo, "-0,62");
 }
 
 TEST(RoedderAnswers, AreNeverMinusZero) {
     const RoedderAnswer answer = answerTexts(exercise(3, 1, 1, 15));
-    EXPECT_EQ(answer.root1, "0");
-    EXPECT_EQ(answer.root2, "0");
+    EXPECT_EQ(answer.rootOne, "0");
+    EXPECT_EQ(answer.rootTwo, "0");
 }
 
 bool isRight(const RoedderState& s, std::optional<RootCount> chosen, const std::vector<double>& typed) {
@@ -183,14 +183,14 @@ TEST(RoedderSpace, IsSolvedByItsOwnAnswerAndByNothingNear) {
         const int b = sign[1] * sizes[1];
         const int c = sign[2] * sizes[2];
         const RoedderState s = exercise(sizes[0], sizes[1], sizes[2], draw % 18 + 1);
-        SCOPED_TRACE(s.polynomial);
+        SCOPED_TRACE(s.polynomialText);
         ++visited;
         proof.visit(Proof::From::WholeSpace, draw % 18 + 1);
 
         ASSERT_EQ(s.coefficients.a, a);
         ASSERT_EQ(s.coefficients.b, b);
         ASSERT_EQ(s.coefficients.c, c);
-        ASSERT_EQ(s.polynomial, std::to_string(a) + "Q²" + term(b, "Q") + term(c, ""));
+        ASSERT_EQ(s.polynomialText, std::to_string(a) + "Q²" + term(b, "Q") + term(c, ""));
         const int d = b * b - 4 * a * c;
         ASSERT_EQ(s.discriminant, d);
         ASSERT_EQ(discriminantText(s), discriminantRow(a, b, c));
@@ -208,23 +208,23 @@ TEST(RoedderSpace, IsSolvedByItsOwnAnswerAndByNothingNear) {
             ASSERT_FALSE(isRight(s, RootCount::Two, {0, 0}));
             continue;
         }
-        ASSERT_TRUE(isRootOf(a, b, c, s.roots.root1));
-        ASSERT_TRUE(isRootOf(a, b, c, s.roots.root2));
-        ASSERT_EQ(s.roots.root1 == s.roots.root2, d == 0);
-        ASSERT_EQ(s.roots.root1 > s.roots.root2, d > 0 && a > 0);
+        ASSERT_TRUE(isRootOf(a, b, c, s.roots.rootOne));
+        ASSERT_TRUE(isRootOf(a, b, c, s.roots.rootTwo));
+        ASSERT_EQ(s.roots.rootOne == s.roots.rootTwo, d == 0);
+        ASSERT_EQ(s.roots.rootOne > s.roots.rootTwo, d > 0 && a > 0);
         const RoedderAnswer answer = answerTexts(s);
-        const double q1 = Val(answer.root1);
-        const double q2 = Val(answer.root2);
+        const double q1 = Val(answer.rootOne);
+        const double q2 = Val(answer.rootTwo);
         ASSERT_TRUE(inBothMarks([&] {
             const RoedderAnswer shown = answerTexts(s);
-            return typedAgain(shown.root1) == q1 && typedAgain(shown.root2) == q2;
+            return typedAgain(shown.rootOne) == q1 && typedAgain(shown.rootTwo) == q2;
         }));
-        const auto [root1, root2] = s.roots;
+        const auto [rootOne, rootTwo] = s.roots;
         ASSERT_FALSE(isRight(s, RootCount::None, {q1, q2}));
         if (count == RootCount::Double) {
             ASSERT_TRUE(isRight(s, RootCount::Double, {99, q1}));
-            ASSERT_FALSE(isRight(s, RootCount::Double, {root1, root1 + kJustPast}));
-            ASSERT_FALSE(isRight(s, RootCount::Double, {root1, root1 - kJustPast}));
+            ASSERT_FALSE(isRight(s, RootCount::Double, {rootOne, rootOne + kJustPast}));
+            ASSERT_FALSE(isRight(s, RootCount::Double, {rootOne, rootOne - kJustPast}));
             ASSERT_FALSE(isRight(s, RootCount::Two, {q1, q1}));
             continue;
         }
@@ -233,8 +233,8 @@ TEST(RoedderSpace, IsSolvedByItsOwnAnswerAndByNothingNear) {
         ASSERT_FALSE(isRight(s, RootCount::Two, {q1, q1}));
         ASSERT_FALSE(isRight(s, RootCount::Two, {q2, q2}));
         for (const double past : {kJustPast, -kJustPast}) {
-            for (const double other : {root1, root2}) {
-                const double near = (other == root1 ? root2 : root1) + past;
+            for (const double other : {rootOne, rootTwo}) {
+                const double near = (other == rootOne ? rootTwo : rootOne) + past;
                 ASSERT_EQ(judge(s, {RootCount::Two, {near, other}}), (Judgement{{false, true}, false}));
                 ASSERT_EQ(judge(s, {RootCount::Two, {other, near}}), (Judgement{{true, false}, false}));
             }
@@ -259,7 +259,7 @@ RC_GTEST_PROP(RoedderSeeds, StayWithinTheDrawnRanges, (std::uint64_t seed)) {
         RC_ASSERT(coefficient == std::floor(coefficient));
     }
     RC_ASSERT(s.coefficients.a != 0);
-    RC_ASSERT(s.polynomial.find("+-") == std::string::npos);
+    RC_ASSERT(s.polynomialText.find("+-") == std::string::npos);
 }
 
 TEST(RoedderSeeds, ReachEveryPattern) {
@@ -283,7 +283,7 @@ TEST(RoedderSeeds, AreFrozenForAllBuildsAndProcessors) {
     std::string texts;
     for (int i = 0; i < 5; ++i) {
         newExercise(s, draws);
-        texts += s.polynomial + " " + NumberText(s.discriminant) + "|";
+        texts += s.polynomialText + " " + NumberText(s.discriminant) + "|";
     }
     EXPECT_EQ(texts, "-4Q²+3Q 9|3Q²-4Q+5 -44|-2Q²+1Q 1|3Q²-1Q 1|-1Q²+5Q+1 29|");
 }

@@ -901,7 +901,7 @@ TEST_F(RoedderSpaceShown, IsGivenWorkedOutAndSolvedThroughout) {
     const RoedderState& state = dynamic_cast<const Roedder&>(form.page()).state();
     const char* const options[] = {"twoRoots", "doubleRoot", "noRoots"};
     for (int exercise = 0; exercise < test::kPolynomials; ++exercise) {
-        SCOPED_TRACE(state.polynomial);
+        SCOPED_TRACE(state.polynomialText);
         const auto count = static_cast<std::size_t>(rootCountOf(state.discriminant));
         press(options[(count + 1) % 3]);
         press("ok");
@@ -930,7 +930,7 @@ TEST_F(RoedderSpaceShown, IsGivenWorkedOutAndSolvedThroughout) {
         }
         press("newExercise");
     }
-    EXPECT_EQ(state.polynomial, "1Q²+1Q+1");
+    EXPECT_EQ(state.polynomialText, "1Q²+1Q+1");
 }
 
 }  // namespace

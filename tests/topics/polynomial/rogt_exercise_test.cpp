@@ -76,7 +76,7 @@ Polynomial read(const std::string& text) {
 
 /// What the boxes hold when the shown answer is typed as it stands.
 std::vector<double> rootsIn(const RogtAnswer& answer) {
-    return {typedAgain(answer.root1), typedAgain(answer.root2)};
+    return {typedAgain(answer.rootOne), typedAgain(answer.rootTwo)};
 }
 
 bool rootsAreRight(const RogtState& s, std::optional<RootCount> chosen, std::vector<double> roots) {
@@ -91,7 +91,7 @@ bool rootsAreRight(const RogtState& s, std::optional<RootCount> chosen, std::vec
 /// Which coordinates of the vertex are right, beside right roots.
 std::vector<bool> rightOf(const RogtState& s, double q, double p) {
     const RogtJudgement judgement =
-        judge(s, {rootCountOf(s.discriminant), {s.roots.root1, s.roots.root2, q, p}});
+        judge(s, {rootCountOf(s.discriminant), {s.roots.rootOne, s.roots.rootTwo, q, p}});
     EXPECT_TRUE(judgement.rootsAreRight);
     const std::vector<bool>& isRight = judgement.isRight;
     EXPECT_TRUE(isRight.at(0) && isRight.at(1));
@@ -107,8 +107,8 @@ TEST(RogtGenerator, DrawsAThenBThenCThenThePattern) {
     EXPECT_EQ(s.coefficients.c, 4);
     EXPECT_EQ(s.polynomialText, "-2Q²-3Q+4");
     EXPECT_EQ(s.discriminant, 41);
-    EXPECT_EQ(s.roots.root1, (3 + std::sqrt(41.0)) / -4);
-    EXPECT_EQ(s.roots.root2, (3 - std::sqrt(41.0)) / -4);
+    EXPECT_EQ(s.roots.rootOne, (3 + std::sqrt(41.0)) / -4);
+    EXPECT_EQ(s.roots.rootTwo, (3 - std::sqrt(41.0)) / -4);
     EXPECT_EQ(s.vertex.q, -0.75F);
     EXPECT_EQ(s.vertex.p, 5.125);
 }
@@ -189,11 +189,11 @@ TEST(RogtGenerator, FindsRootsThatSolveThePolynomial) {
         if (s.discriminant < 0) {
             return;
         }
-        ASSERT_NEAR(valueAt(s.coefficients, s.roots.root1), 0, 1e-9);
-        ASSERT_NEAR(valueAt(s.coefficients, s.roots.root2), 0, 1e-9);
-        ASSERT_EQ(s.roots.root1 == s.roots.root2, s.discriminant == 0);
+        ASSERT_NEAR(valueAt(s.coefficients, s.roots.rootOne), 0, 1e-9);
+        ASSERT_NEAR(valueAt(s.coefficients, s.roots.rootTwo), 0, 1e-9);
+        ASSERT_EQ(s.roots.rootOne == s.roots.rootTwo, s.discriminant == 0);
         // The larger root first for a parabola that opens upwards.
-        ASSERT_EQ(s.roots.root1 > s.roots.root2, s.discriminant > 0 && s.coefficients.a > 0);
+        ASSERT_EQ(s.roots.rootOne > s.roots.rootTwo, s.discriminant > 0 && s.coefficients.a > 0);
     });
 }
 
@@ -210,9 +210,9 @@ TEST(RogtGenerator, KeepsTheRootsOfAnEarlierPolynomialWhereItFindsNone) {
     const RogtState before = exercise({1, 3, 2, 6});
     const RogtState s = exercise({1, 1, 1, 1}, before);
     EXPECT_LT(s.discriminant, 0);
-    EXPECT_EQ(s.roots.root1, before.roots.root1);
+    EXPECT_EQ(s.roots.rootOne, before.roots.rootOne);
     const RogtAnswer answer = answerOf(s);
-    EXPECT_EQ(answer.root1 + answer.root2, "");
+    EXPECT_EQ(answer.rootOne + answer.rootTwo, "");
 }
 
 TEST(RogtJudge, TakesEverySolutionAndNoNudgedOne) {
@@ -226,15 +226,15 @@ TEST(RogtJudge, TakesEverySolutionAndNoNudgedOne) {
         ASSERT_EQ(rightOf(s, q - kNudge, p + kNudge), (std::vector{false, false}));
 
         const RootCount count = rootCountOf(s.discriminant);
-        const auto [root1, root2] = s.roots;
+        const auto [rootOne, rootTwo] = s.roots;
         for (const RootCount chosen : {RootCount::Two, RootCount::Double, RootCount::None}) {
-            ASSERT_EQ(rootsAreRight(s, chosen, {root1, root2}), chosen == count);
-            ASSERT_EQ(rootsAreRight(s, chosen, {root2, root1}), chosen == count);
-            ASSERT_EQ(rootsAreRight(s, chosen, {root1, root2 + kNudge}),
+            ASSERT_EQ(rootsAreRight(s, chosen, {rootOne, rootTwo}), chosen == count);
+            ASSERT_EQ(rootsAreRight(s, chosen, {rootTwo, rootOne}), chosen == count);
+            ASSERT_EQ(rootsAreRight(s, chosen, {rootOne, rootTwo + kNudge}),
                       chosen == count && count == RootCount::None);
         }
-        ASSERT_FALSE(rootsAreRight(s, std::nullopt, {root1, root2}));
-        ASSERT_EQ(rootsAreRight(s, RootCount::Two, {root1, root1}), false);
+        ASSERT_FALSE(rootsAreRight(s, std::nullopt, {rootOne, rootTwo}));
+        ASSERT_EQ(rootsAreRight(s, RootCount::Two, {rootOne, rootOne}), false);
     });
 }
 
@@ -287,8 +287,8 @@ TEST(RogtAnswer, HasTwoDecimalsWithTheMarkInUse) {
     const RogtState s = exercise({2, 3, 4, 16});
     const test::DecimalMark comma(",");
     const RogtAnswer answer = answerOf(s);
-    EXPECT_EQ(answer.root1, "-2,35");
-    EXPECT_EQ(answer.root2, "0,85");
+    EXPECT_EQ(answer.rootOne, "-2,35");
+    EXPECT_EQ(answer.rootTwo, "0,85");
     EXPECT_EQ(answer.vertexQ, "-0,75");
     EXPECT_EQ(answer.vertexP, "5,13");
 }
@@ -296,7 +296,7 @@ TEST(RogtAnswer, HasTwoDecimalsWithTheMarkInUse) {
 TEST(RogtAnswer, ShowsNoSignAtAZero) {
     const RogtState s = exercise({1, 1, 1, 15});  // -1Q²
     const RogtAnswer answer = answerOf(s);
-    EXPECT_EQ(answer.root1 + answer.root2 + answer.vertexQ + answer.vertexP, "0000");
+    EXPECT_EQ(answer.rootOne + answer.rootTwo + answer.vertexQ + answer.vertexP, "0000");
 }
 
 }  // namespace

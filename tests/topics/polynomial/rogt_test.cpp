@@ -42,8 +42,8 @@ constexpr Task kHalf{4, 1, 1, 3};       // 4Q²+1Q: roots 0 and -0.25, vertex (-
 
 /// What is typed, empty where nothing is.
 struct Typed {
-    std::string root1;
-    std::string root2;
+    std::string rootOne;
+    std::string rootTwo;
     std::string q;
     std::string p;
 };
@@ -58,8 +58,8 @@ protected:
 
     /// Fills the boxes, hidden ones too, and leaves the focus alone.
     void fill(const Typed& typed) const {
-        form->box("rootOne").setContent(typed.root1);
-        form->box("rootTwo").setContent(typed.root2);
+        form->box("rootOne").setContent(typed.rootOne);
+        form->box("rootTwo").setContent(typed.rootTwo);
         form->box("vertexQuantity").setContent(typed.q);
         form->box("vertexPrice").setContent(typed.p);
     }
@@ -722,11 +722,11 @@ TEST_F(RogtSpaceShown, IsTriedGivenAndSolvedThroughout) {
         const auto& [a, b, c] = readPolynomial(task);
         const double d = b * b - 4 * a * c;
         const std::size_t count = d > 0 ? 0 : d == 0 ? 1 : 2;
-        const double root1 = d < 0 ? 0 : (-b + std::sqrt(d)) / (2 * a);
-        const double root2 = d < 0 ? 0 : (-b - std::sqrt(d)) / (2 * a);
+        const double rootOne = d < 0 ? 0 : (-b + std::sqrt(d)) / (2 * a);
+        const double rootTwo = d < 0 ? 0 : (-b - std::sqrt(d)) / (2 * a);
         const float q = -b / (2 * a);
         const double p = -d / (4 * a);
-        const Typed right{exactly(root1), exactly(root2), exactly(q), exactly(p)};
+        const Typed right{exactly(rootOne), exactly(rootTwo), exactly(q), exactly(p)};
         Typed wrong = right;
         wrong.q = exactly(q + 0.01);
 
@@ -743,10 +743,10 @@ TEST_F(RogtSpaceShown, IsTriedGivenAndSolvedThroughout) {
         ASSERT_EQ(form->box("vertexQuantity").content(), rounded(q));
         ASSERT_EQ(form->box("vertexPrice").content(), rounded(p));
         if (count < 2) {
-            ASSERT_EQ(form->box("rootTwo").content(), rounded(count == 0 ? root2 : root1));
+            ASSERT_EQ(form->box("rootTwo").content(), rounded(count == 0 ? rootTwo : rootOne));
         }
         if (count == 0) {
-            ASSERT_EQ(form->box("rootOne").content(), rounded(root1));
+            ASSERT_EQ(form->box("rootOne").content(), rounded(rootOne));
         }
 
         press(kOptions[count]);

@@ -56,8 +56,8 @@ bool areAccepted(int a, int b, int c, int patternCase) {
 
 ToppState withVertex(float q, double p) {
     ToppState state;
-    state.vertexQ = q;
-    state.vertexP = p;
+    state.vertex.q = q;
+    state.vertex.p = p;
     return state;
 }
 
@@ -66,8 +66,8 @@ ToppWorked workedOf(float a, float b, float c) {
     state.polynomial = {a, b, c};
     state.discriminant = discriminantOf(state.polynomial);
     const Vertex vertex = vertexOf(state.polynomial);
-    state.vertexQ = vertex.q;
-    state.vertexP = vertex.p;
+    state.vertex.q = vertex.q;
+    state.vertex.p = vertex.p;
     return workedSolution(state);
 }
 
@@ -107,8 +107,8 @@ TEST(ToppGenerator, DrawsTheThreeSizesThenThePattern) {
     EXPECT_EQ(s.polynomial.c, -3);
     EXPECT_EQ(s.polynomialText, "2Q²-7Q-3");
     EXPECT_EQ(s.discriminant, 73);
-    EXPECT_EQ(s.vertexQ, 1.75F);
-    EXPECT_EQ(s.vertexP, -9.125);
+    EXPECT_EQ(s.vertex.q, 1.75F);
+    EXPECT_EQ(s.vertex.p, -9.125);
 }
 
 TEST(ToppGenerator, ReachesBothEndsOfEachRange) {
@@ -150,15 +150,15 @@ TEST(ToppGenerator, ReseedsBeforeEachSetOfDraws) {
 TEST(ToppGenerator, DrawsAllFourAgainWhileTheVertexIsOutOfReach) {
     const ToppState s = test::exerciseOf<ToppState>(script(1, 10, 1, 5) + script(1, 10, 10, 7) + kAccepted);
     EXPECT_EQ(s.polynomialText, "1Q²-5Q+6");
-    EXPECT_EQ(s.vertexP, -0.25);
+    EXPECT_EQ(s.vertex.p, -0.25);
 }
 
 TEST(ToppGenerator, AllowsAVertexAtFifteen) {
     EXPECT_TRUE(areAccepted(1, 10, 10, 3));
-    EXPECT_EQ(exercise(1, 10, 10, 3).vertexP, -15);
+    EXPECT_EQ(exercise(1, 10, 10, 3).vertex.p, -15);
     EXPECT_FALSE(areAccepted(1, 10, 9, 3));
     EXPECT_TRUE(areAccepted(1, 6, 6, 7));
-    EXPECT_EQ(exercise(1, 6, 6, 7).vertexP, 15);
+    EXPECT_EQ(exercise(1, 6, 6, 7).vertex.p, 15);
     EXPECT_FALSE(areAccepted(1, 6, 7, 7));
 }
 
@@ -178,16 +178,16 @@ TEST(ToppGenerator, WantsTheVertexOfPlusBWhereCaseEightShowsMinusB) {
     const ToppState s = exercise(1, 4, 7, 8);
     EXPECT_EQ(s.polynomialText, "-1Q²-4Q");
     EXPECT_EQ(s.polynomial.b, 4);
-    EXPECT_EQ(s.vertexQ, 2);
-    EXPECT_EQ(s.vertexP, 4);
+    EXPECT_EQ(s.vertex.q, 2);
+    EXPECT_EQ(s.vertex.p, 4);
     EXPECT_EQ(judge(s, {2, 4}), solvedIfAllRight({true, true}));
     EXPECT_EQ(judge(s, {-2, 4}), solvedIfAllRight({false, true}));
 }
 
 TEST(ToppGenerator, DividesSinglesForQAndADoubleForP) {
     const ToppState s = exercise(3, 1, 1, 3);
-    EXPECT_EQ(s.vertexQ, 1.0F / 6);
-    EXPECT_EQ(s.vertexP, 11.0 / 12);
+    EXPECT_EQ(s.vertex.q, 1.0F / 6);
+    EXPECT_EQ(s.vertex.p, 11.0 / 12);
 }
 
 TEST(ToppJudge, TakesTheHalfOpenBandRoundTheUnroundedVertex) {
@@ -355,10 +355,10 @@ TEST(ToppSpace, HasItsVertexWhereTheParabolaIsSymmetric) {
         ASSERT_EQ(s.polynomial.b, e.b) << e.text;
         ASSERT_EQ(s.polynomial.c, e.c) << e.text;
         ASSERT_EQ(s.discriminant, e.discriminant()) << e.text;
-        ASSERT_NEAR(valueAt(s.polynomial, s.vertexQ), s.vertexP, 1e-6) << e.text;
-        const double beside = valueAt(s.polynomial, s.vertexQ + 1.0);
-        ASSERT_NEAR(beside, valueAt(s.polynomial, s.vertexQ - 1.0), 1e-5) << e.text;
-        ASSERT_EQ(beside > s.vertexP, e.a > 0) << e.text;
+        ASSERT_NEAR(valueAt(s.polynomial, s.vertex.q), s.vertex.p, 1e-6) << e.text;
+        const double beside = valueAt(s.polynomial, s.vertex.q + 1.0);
+        ASSERT_NEAR(beside, valueAt(s.polynomial, s.vertex.q - 1.0), 1e-5) << e.text;
+        ASSERT_EQ(beside > s.vertex.p, e.a > 0) << e.text;
     });
 }
 
@@ -375,8 +375,8 @@ TEST(ToppSpace, IsSolvedByItsVertexAndByNothingBesideIt) {
         ASSERT_NEAR(p, e.p(), 0.00501) << e.text;
         ASSERT_TRUE(eachIs({false, false}, s, {{q + 0.011, p + 0.011}, {q - 0.011, p - 0.011}})) << e.text;
         for (const double past : {kJustPast, -kJustPast}) {
-            ASSERT_TRUE(eachIs({false, true}, s, {{s.vertexQ + past, e.p()}})) << e.text;
-            ASSERT_TRUE(eachIs({true, false}, s, {{e.q(), s.vertexP + past}})) << e.text;
+            ASSERT_TRUE(eachIs({false, true}, s, {{s.vertex.q + past, e.p()}})) << e.text;
+            ASSERT_TRUE(eachIs({true, false}, s, {{e.q(), s.vertex.p + past}})) << e.text;
         }
     });
 }
@@ -449,9 +449,9 @@ RC_GTEST_PROP(ToppGeneratorProperty, GivesASolvableExerciseForEverySeed, (std::u
     ToppState s;
     for (int i = 0; i < 100; ++i) {
         newExercise(s, draws);
-        RC_ASSERT(std::isfinite(s.vertexQ) && std::abs(s.vertexQ) <= 15);
-        RC_ASSERT(std::isfinite(s.vertexP) && std::abs(s.vertexP) <= 15);
-        RC_ASSERT(judge(s, {s.vertexQ, s.vertexP}) == solvedIfAllRight({true, true}));
+        RC_ASSERT(std::isfinite(s.vertex.q) && std::abs(s.vertex.q) <= 15);
+        RC_ASSERT(std::isfinite(s.vertex.p) && std::abs(s.vertex.p) <= 15);
+        RC_ASSERT(judge(s, {s.vertex.q, s.vertex.p}) == solvedIfAllRight({true, true}));
     }
 }
 
