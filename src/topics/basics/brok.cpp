@@ -1,7 +1,6 @@
 #include "topics/basics/brok.h"
 
 #include "controls/fraction.h"
-#include "controls/panel.h"
 #include "numeric/text.h"
 #include "topics/basics/ui_brok.h"
 

@@ -23,8 +23,6 @@ void drawParts(BrokState& s, Draws& draws) {
     } while (s.numeratorA * s.denominatorB * s.numeratorC * s.denominatorD == 0);
 }
 
-Operation drawOperation(Draws& draws) { return static_cast<Operation>(Int(draws.Rnd() * kOperations)); }
-
 void solve(BrokState& s, Operation operation) {
     const float a = s.numeratorA;
     const float b = s.denominatorB;
@@ -52,7 +50,7 @@ void solve(BrokState& s, Operation operation) {
     }
 }
 
-/// The prime factors of a number, rising, from slot 1 on; slot 0 is not used and the rest is 1.
+/// The prime factors of a number, rising, from slot 1 on. Slot 0 is not used; all others are 1.
 class FactorList {
 public:
     explicit FactorList(double number) {
@@ -96,9 +94,8 @@ private:
     std::size_t used_ = 0;
 };
 
-/// Sets to 1 what both lists have. Their factors rise, so one walk is enough; each step sees what the one
-/// before left. Behind the factors stand ones: where both lists have come to them, both indexes rise to the
-/// end.
+/// Sets to 1 the factors that both lists have. Since the factors rise, one walk is enough. The ones after
+/// them are alike too, so that the walk comes to its end.
 void cancel(FactorList& top, FactorList& bottom) {
     std::size_t i = 1;
     std::size_t j = 1;
@@ -141,7 +138,7 @@ void newExercise(BrokState& state, Draws& draws) {
     do {
         draws.Randomize();
         drawParts(state, draws);
-        solve(state, drawOperation(draws));
+        solve(state, static_cast<Operation>(Int(draws.Rnd() * kOperations)));
     } while (state.resultNumerator == 0);
 }
 

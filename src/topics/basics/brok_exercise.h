@@ -20,19 +20,19 @@ struct BrokState {
     float denominatorD = 0;
     /// Nothing until there is an exercise.
     std::optional<Operation> operation;
-    /// The result as computed: not reduced, with the sign wherever it falls.
+    /// The result as computed: not reduced, and either part may be negative.
     double resultNumerator = 0;
     double resultDenominator = 0;
 };
 
-/// "-", "+", "*" or "/"; empty for no operation.
+/// Returns "-", "+", "*" or "/", or nothing for no operation.
 [[nodiscard]] std::string operatorSign(std::optional<Operation> operation);
 
 /// Draws until the result is not 0.
 void newExercise(BrokState& state, Draws& draws);
 
-/// Judges a typed n/m: both are right where it is the result as a value, unreduced and with the sign
-/// anywhere, else neither. Precondition: m != 0.
+/// Judges a typed n/m: both are right if its value is that of the result, whether reduced or not and wherever
+/// the sign stands; otherwise both are wrong. Precondition: m is not 0.
 [[nodiscard]] Judgement judge(const BrokState& state, const std::vector<double>& typed);
 
 /// The result with all common factors cancelled, by size alone. The sign is kept beside it.
@@ -46,8 +46,8 @@ struct ReducedFraction {
     [[nodiscard]] double signedNumerator() const { return isNegative ? -numerator : numerator; }
 };
 
-/// Cancels by prime factors. At most seven of them are multiplied, which is enough for all results that can
-/// be drawn: numerators up to 200 in size, denominators up to 100.
+/// Returns the result with its common prime factors cancelled. Precondition: neither of its parts has more
+/// than seven prime factors. Those that can be drawn have not: they are 200 or less in size.
 [[nodiscard]] ReducedFraction reduced(const BrokState& state);
 
 struct FractionText {
@@ -55,8 +55,8 @@ struct FractionText {
     std::string denominator;
 };
 
-/// What stands behind the answer once the exercise is over: a whole number, a reduced fraction, or nothing
-/// where the typed numerator is the reduced one already.
+/// What stands after the answer once the exercise is over: a whole number, a reduced fraction, or nothing if
+/// the typed numerator is the reduced one already.
 struct ReductionText {
     std::optional<std::string> whole;
     std::optional<FractionText> fraction;
@@ -72,7 +72,7 @@ struct BrokMethod {
     const char* denominator;
 };
 
-/// Without an exercise, the method for a division.
+/// Returns the method for an operation; for none, that for a division.
 [[nodiscard]] const BrokMethod& methodFor(std::optional<Operation> operation);
 
 /// The last step of the worked solution.
@@ -92,7 +92,7 @@ struct BrokWorked {
     LastStep last;
 };
 
-/// Without an exercise, that of a division of zeros.
+/// Returns the worked solution; without an exercise, that of a division of zeros.
 [[nodiscard]] BrokWorked workedSolution(const BrokState& state);
 
 }  // namespace tavrune

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "controls/fraction.h"
-#include "controls/panel.h"
 #include "graph/axes.h"
 #include "numeric/text.h"
 #include "topics/basics/ui_dlinie.h"
@@ -26,14 +25,14 @@ Axes axesIn(const GraphScale& scale) {
 }
 
 /// A number at an axis, and where its top left corner stands.
-struct AxisMark {
+struct AxisNumber {
     const char* name;
     double x;
     double y;
 };
 
-constexpr std::array kAxisMarks{AxisMark{"xMark5", 4.7, -0.2}, AxisMark{"yMarkMinus5", -1, -4.5},
-                                AxisMark{"xMarkMinus5", -5.2, -0.2}, AxisMark{"yMark5", -0.8, 5.3}};
+constexpr std::array kAxisNumbers{AxisNumber{"xMark5", 4.7, -0.2}, AxisNumber{"yMarkMinus5", -1, -4.5},
+                                  AxisNumber{"xMarkMinus5", -5.2, -0.2}, AxisNumber{"yMark5", -0.8, 5.3}};
 
 /// The help for one kind of task, by the names of the controls.
 struct LineHelp {
@@ -128,7 +127,7 @@ void Dlinie::ask(ZeroSlope zeroSlope) {
     ui_->slope->setContent("");
     ui_->intercept->setContent("");
     drawAxes(*ui_->graph, axesIn(ui_->graph->scale()));
-    for (const auto& [name, x, y] : kAxisMarks) {
+    for (const auto& [name, x, y] : kAxisNumbers) {
         ui_->graph->place(*design()->findChild<Label*>(name), x, y);
     }
 

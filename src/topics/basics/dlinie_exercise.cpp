@@ -8,14 +8,12 @@
 namespace tavrune {
 namespace {
 
-/// Without `LineTask::None`, for which only the shift leaves room.
+/// Without `LineTask::None`, which only the shift makes possible.
 constexpr int kLineTasks = 5;
 constexpr double kShift = 0.001;
 
 /// -10 to 9.
 float drawCoordinate(Draws& draws) { return Int(draws.Rnd() * 20 - 10); }
-
-LineTask drawTask(Draws& draws) { return static_cast<LineTask>(Int(draws.Rnd() * kLineTasks - kShift) + 1); }
 
 void drawNumbers(DlinieState& s, Draws& draws, ZeroSlope zeroSlope) {
     do {
@@ -77,7 +75,7 @@ DlinieInterceptStep insertFirstPoint(const DlinieState& s, const std::string& sl
 
 void newExercise(DlinieState& state, Draws& draws, ZeroSlope zeroSlope) {
     draws.Randomize();
-    state.taskType = drawTask(draws);
+    state.taskType = static_cast<LineTask>(Int(draws.Rnd() * kLineTasks - kShift) + 1);
     drawNumbers(state, draws, zeroSlope);
     solve(state);
     state.slope = RoundSigned2(state.slope);

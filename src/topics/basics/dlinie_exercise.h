@@ -11,7 +11,7 @@ namespace tavrune {
 
 /// What is known of the line.
 enum class LineTask {
-    /// Kept (dlinie-no-kind): a draw in 5000, and nothing is asked anew.
+    /// Kept (dlinie-no-kind): one draw in 5000 gives it, and nothing new is asked then.
     None = 0,
     TwoPoints,
     SlopeAndPoint,
@@ -45,7 +45,7 @@ void newExercise(DlinieState& state, Draws& draws, ZeroSlope zeroSlope = ZeroSlo
 /// Judges a typed slope and intercept: right are the stored ones, to the last decimal.
 [[nodiscard]] Judgement judge(const DlinieState& state, const std::vector<double>& typed);
 
-/// The intercept as it is given, behind "X": "+3", "+0", "-3".
+/// Returns the intercept as the answer has it after "X": "+3", "+0", "-3".
 [[nodiscard]] std::string interceptAnswer(const DlinieState& state);
 
 /// What is asked, and the two facts.
@@ -55,7 +55,7 @@ struct DlinieTask {
     std::string secondFact;
 };
 
-/// Nothing for a `LineTask::None`.
+/// Returns the texts of the task, or nothing for a `LineTask::None`.
 [[nodiscard]] std::optional<DlinieTask> taskTexts(const DlinieState& state);
 
 /// "a = numerator/denominator", and what it comes to.
@@ -65,10 +65,10 @@ struct DlinieSlopeStep {
     std::string result;
 };
 
-/// The slope between the two points.
+/// Returns the step that finds the slope between the two points.
 [[nodiscard]] DlinieSlopeStep slopeBetweenPoints(const DlinieState& state);
 
-/// The slope between the points on the axes.
+/// Returns the step that finds the slope between the points on the axes.
 [[nodiscard]] DlinieSlopeStep slopeBetweenCrosses(const DlinieState& state);
 
 /// A point put into the equation of the line, and the equation solved for b.
@@ -77,10 +77,11 @@ struct DlinieInterceptStep {
     std::string solved;
 };
 
-/// With the first of the two points. A slope of more than two decimals is written as a fraction.
+/// Returns the step with the first of the two points. A slope of more than two decimals is written as a
+/// fraction.
 [[nodiscard]] DlinieInterceptStep interceptFromFirstPoint(const DlinieState& state);
 
-/// With the one point that is known, and the slope with it.
+/// Returns the step with the one point that is known, where the slope is known too.
 [[nodiscard]] DlinieInterceptStep interceptFromPoint(const DlinieState& state);
 
 /// The point on the X axis put into the equation, and the equation solved for b.

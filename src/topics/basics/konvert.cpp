@@ -34,12 +34,12 @@ constexpr int kExampleInset = 1;
 
 /// A falling line between the axes of the example.
 struct ExampleLine {
-    int constant;
+    int intercept;
     int root;
 };
 
-constexpr ExampleLine kExampleGiven{.constant = 10, .root = 10};
-constexpr ExampleLine kExampleConverted{.constant = 5, .root = 20};
+constexpr ExampleLine kExampleGiven{.intercept = 10, .root = 10};
+constexpr ExampleLine kExampleConverted{.intercept = 5, .root = 20};
 
 /// The fraction bars of the example, in the centimetres of the help panel.
 struct Bar {
@@ -105,7 +105,7 @@ void Konvert::newExercise() {
     drawTicks();
     ui_->givenFunction->setCaption(functionText(state_));
     ui_->graph->Cls();
-    drawFunction(state_.givenSlope, state_.givenConstant, kBlack);
+    drawFunction(state_.slopeOfQ, state_.interceptOfQ, kBlack);
     focusOn(ui_->slope);
 }
 
@@ -130,8 +130,8 @@ void Konvert::drawTicks() {
     }
 }
 
-void Konvert::drawFunction(double slope, double constant, const QColor& colour) {
-    ui_->graph->Line(0, constant, kLastUnit, kLastUnit * slope + constant, colour);
+void Konvert::drawFunction(double slope, double intercept, const QColor& colour) {
+    ui_->graph->Line(0, intercept, kLastUnit, kLastUnit * slope + intercept, colour);
 }
 
 void Konvert::judge() {
@@ -142,7 +142,7 @@ void Konvert::judge() {
         // Kept (konvert-task-away): the task text stays away where help was open; it comes back with "Luk" or
         // the next exercise.
         ui_->helpPanel->hide();
-        drawFunction(state_.newSlope, state_.newConstant, kLightGreen);
+        drawFunction(state_.slopeOfK, state_.interceptOfK, kLightGreen);
     }
 }
 
@@ -150,11 +150,11 @@ void Konvert::giveAnswer() {
     // Kept (konvert-task-away): here too.
     ui_->helpPanel->hide();
     drawFunction(ui_->slope->value(), ui_->intercept->value(), kRed);
-    drawFunction(state_.newSlope, state_.newConstant, kLightGreen);
+    drawFunction(state_.slopeOfK, state_.interceptOfK, kLightGreen);
     whiten({ui_->slope, ui_->intercept});
     roundSolution(state_);
-    ui_->slope->setContent(NumberText(state_.newSlope));
-    ui_->intercept->setContent(NumberText(state_.newConstant));
+    ui_->slope->setContent(NumberText(state_.slopeOfK));
+    ui_->intercept->setContent(NumberText(state_.interceptOfK));
     showGiven();
 }
 
@@ -162,9 +162,9 @@ void Konvert::help() {
     ui_->task->hide();
     openPanel(ui_->helpPanel, ui_->showWorkedSolution);
     drawExample();
-    const KonvertGiven texts = givenTexts(state_);
-    ui_->workedGivenFunction->setCaption(texts.function);
-    ui_->workedConversionFactor->setCaption(texts.conversion);
+    const KonvertWorked worked = workedSolution(state_);
+    ui_->workedGivenFunction->setCaption(worked.function);
+    ui_->workedConversionFactor->setCaption(worked.conversion);
 }
 
 void Konvert::drawExample() {
@@ -175,7 +175,7 @@ void Konvert::drawExample() {
         graph.Line(0, 0, kExampleLastUnit, 0);
     }
     for (const auto& [line, colour] : {std::pair{kExampleGiven, kBlack}, {kExampleConverted, kLightGreen}}) {
-        graph.Line(0, line.constant, line.root, 0, colour);
+        graph.Line(0, line.intercept, line.root, 0, colour);
     }
     drawExampleBars();
 }
@@ -221,7 +221,7 @@ void Konvert::layOutWorkedSolution() {
         panel.setWidthOf(*intercept.denominator, kBarWidth);
     }
     placeAfter(ui_->workedTimesConvertedUnitPlus, kBeforeBar, intercept.denominator);
-    intercept.setNumerator(worked.constant);
+    intercept.setNumerator(worked.intercept);
 
     ui_->workedResult->setCaption(worked.result);
     placeAfter(intercept.denominator, kGap, ui_->workedResult);

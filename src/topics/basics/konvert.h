@@ -11,7 +11,7 @@ namespace Ui {
 class Konvert;
 }
 
-/// A linear function of one unit, rewritten in another; the answer is a slope and a constant.
+/// A linear function of one unit, rewritten in another; the answer is a slope and an intercept.
 class Konvert : public ExerciseForm {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ protected:
 private:
     void blankWorkedSolution();
     void drawTicks();
-    void drawFunction(double slope, double constant, const QColor& colour);
+    void drawFunction(double slope, double intercept, const QColor& colour);
     void drawExample();
     void drawExampleBars();
     void drawBarOver(const Label* label);

@@ -36,8 +36,8 @@ std::string factorText(const KonvertState& s) {
 void newExercise(KonvertState& state, Draws& draws) {
     do {
         draws.Randomize();
-        state.givenSlope = isHeads(draws) ? Fix(draws.Rnd() * -6) : Int(draws.Rnd() * 5);
-        state.givenConstant = Int(draws.Rnd() * 8);
+        state.slopeOfQ = isHeads(draws) ? Fix(draws.Rnd() * -6) : Int(draws.Rnd() * 5);
+        state.interceptOfQ = Int(draws.Rnd() * 8);
         if (isHeads(draws)) {
             state.factorKind = FactorKind::Whole;
             state.factor = drawUpToEight(draws);
@@ -45,20 +45,20 @@ void newExercise(KonvertState& state, Draws& draws) {
             state.factorKind = FactorKind::Fraction;
             drawFraction(state, draws);
         }
-        state.newSlope = state.givenSlope / (state.factor * state.factor);
-        state.newConstant = state.givenConstant / state.factor;
-    } while (state.newSlope < -kSteepest || state.newSlope > kSteepest);
+        state.slopeOfK = state.slopeOfQ / (state.factor * state.factor);
+        state.interceptOfK = state.interceptOfQ / state.factor;
+    } while (state.slopeOfK < -kSteepest || state.slopeOfK > kSteepest);
 }
 
 Judgement judge(const KonvertState& state, const std::vector<double>& typed) {
     return solvedIfAllRight(
-        {isClosedNear(typed.at(0), state.newSlope), isClosedNear(typed.at(1), state.newConstant)});
+        {isClosedNear(typed.at(0), state.slopeOfK), isClosedNear(typed.at(1), state.interceptOfK)});
 }
 
 void roundSolution(KonvertState& state) {
-    // Kept (konvert-two-roundings): halves go away from zero in the slope and up in the constant.
-    state.newSlope = RoundSigned3(state.newSlope);
-    state.newConstant = RoundUp3(state.newConstant);
+    // Kept (konvert-two-roundings): halves go away from zero in the slope and up in the intercept.
+    state.slopeOfK = RoundSigned3(state.slopeOfK);
+    state.interceptOfK = RoundUp3(state.interceptOfK);
 }
 
 std::string taskText(const KonvertState& state) {
@@ -67,25 +67,22 @@ std::string taskText(const KonvertState& state) {
 }
 
 std::string functionText(const KonvertState& state) {
-    return "P= " + NumberText(state.givenSlope) + "Q + " + NumberText(state.givenConstant);
+    return "P= " + NumberText(state.slopeOfQ) + "Q + " + NumberText(state.interceptOfQ);
 }
 
 std::string exampleResult() { return NumberText(-0.25) + "K + 5"; }
 
-KonvertGiven givenTexts(const KonvertState& state) {
-    return {"P= " + NumberText(state.givenSlope) + " Q + " + NumberText(state.givenConstant),
-            "1 Q svarer til " + factorText(state) + " K"};
-}
-
 KonvertWorked workedSolution(const KonvertState& state) {
     const std::string factor = factorText(state);
     const bool isFraction = state.factorKind == FactorKind::Fraction;
-    return {isFraction ? "P=" : "P= ",
-            NumberText(state.givenSlope),
+    return {"P= " + NumberText(state.slopeOfQ) + " Q + " + NumberText(state.interceptOfQ),
+            "1 Q svarer til " + factor + " K",
+            isFraction ? "P=" : "P= ",
+            NumberText(state.slopeOfQ),
             isFraction ? "(" + factor + ") · (" + factor + ")" : factor + " · " + factor,
-            NumberText(state.givenConstant),
+            NumberText(state.interceptOfQ),
             factor,
-            "= " + NumberText(state.newSlope) + " K + " + NumberText(state.newConstant)};
+            "= " + NumberText(state.slopeOfK) + " K + " + NumberText(state.interceptOfK)};
 }
 
 }  // namespace tavrune

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "controls/panel.h"
 #include "controls/text.h"
 #include "graph/axes.h"
 #include "topics/basics/ui_lininter.h"

@@ -35,10 +35,6 @@ void drawLine(LininterState& s, Draws& draws) {
 
 bool isQGiven(const LininterState& s) { return s.given == Coordinate::Quantity; }
 
-Coordinate drawGivenCoordinate(Draws& draws) {
-    return draws.Rnd() < 0.5 ? Coordinate::Quantity : Coordinate::Price;
-}
-
 void drawGivenQ(LininterState& s, Draws& draws) {
     do {
         s.givenQ = Int(draws.Rnd() * 8) + 1;
@@ -92,7 +88,7 @@ Segment barb(Point tip, Point base, int x, int y) {
 void newExercise(LininterState& state, Draws& draws) {
     drawLine(state, draws);
     draws.Randomize();
-    state.given = drawGivenCoordinate(draws);
+    state.given = draws.Rnd() < 0.5 ? Coordinate::Quantity : Coordinate::Price;
     if (isQGiven(state)) {
         drawGivenQ(state, draws);
     } else {

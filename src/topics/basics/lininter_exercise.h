@@ -39,11 +39,11 @@ void newExercise(LininterState& state, Draws& draws);
 /// Judges the typed coordinate.
 [[nodiscard]] Judgement judge(const LininterState& state, const std::vector<double>& typed);
 
-/// The target with two decimals, as the student is shown it. Kept (lininter-negative-halves): a negative half
-/// is rounded away from zero, which typed in is wrong.
+/// Returns the target with two decimals, as the student is shown it. Kept (lininter-negative-halves): a
+/// negative half is rounded away from zero, which typed in is wrong.
 [[nodiscard]] std::string answerText(const LininterState& state);
 
-/// "A : ( 3 ; 4 )"
+/// Return "A : ( 3 ; 4 )" and the same for B.
 [[nodiscard]] std::string textOfA(const LininterState& state);
 [[nodiscard]] std::string textOfB(const LininterState& state);
 
@@ -56,8 +56,8 @@ struct LininterTask {
 
 [[nodiscard]] LininterTask task(const LininterState& state);
 
-/// The worked solution for the coordinate asked for. The result is computed from the unrounded
-/// ratio, so the shown ratio times the difference can miss it in the last decimal.
+/// The worked solution for the coordinate asked for. The result is computed from the unrounded ratio, so that
+/// it can differ in its last decimal from what the shown ratio gives.
 struct LininterWorked {
     std::string numerator;
     std::string denominator;
@@ -86,19 +86,19 @@ using Cross = std::array<Segment, 2>;
 
 [[nodiscard]] Cross crossAt(double x, double y);
 
-/// Where the point would lie with `typed` as the coordinate asked for.
+/// Returns a cross at the point that has `typed` as the coordinate asked for.
 [[nodiscard]] Cross crossOfTyped(const LininterState& state, double typed);
 
-/// The line through A and B, over the whole width of the graph.
+/// Returns the line through A and B, over the whole width of the graph.
 [[nodiscard]] Segment lineThroughPoints(const LininterState& state);
 
-/// From the given coordinate to the line, and from the answer to the same point.
+/// Returns the line from the given coordinate to its point, and the one from the answer to the same point.
 [[nodiscard]] std::array<Segment, 2> guideLines(const LininterState& state);
 
 /// What the arrowheads are drawn for.
 enum class Occasion { Judged, Given };
 
-/// Two strokes for the head on the line, then two for the head on the axis.
+/// Returns two strokes for the head on the line, then two for the head on the axis.
 [[nodiscard]] std::array<Segment, 4> arrowheads(const LininterState& state, Occasion occasion);
 
 }  // namespace tavrune

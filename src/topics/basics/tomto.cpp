@@ -1,8 +1,5 @@
 #include "topics/basics/tomto.h"
 
-#include "controls/frame.h"
-#include "controls/panel.h"
-#include "graph/graph_box.h"
 #include "numeric/text.h"
 #include "topics/basics/ui_tomto.h"
 
@@ -34,7 +31,7 @@ Tomto::Tomto(Draws& draws) : ExerciseForm(PageName::Tomto, draws), ui_(std::make
 Tomto::~Tomto() = default;
 
 void Tomto::opened() {
-    markMiddles(kShortAxis);
+    showAxisMiddles(kShortAxis);
     prepare();
     firstExercise(state_, draws());
     showTask();
@@ -79,10 +76,10 @@ void Tomto::hideCrossing() { hideAll({ui_->crossingPointEquals, ui_->crossingPoi
 
 void Tomto::setRange() {
     tavrune::setRange(state_);
-    markMiddles(state_.graphMax);
+    showAxisMiddles(state_.graphMax);
 }
 
-void Tomto::markMiddles(float upperEnd) {
+void Tomto::showAxisMiddles(float upperEnd) {
     const std::string middle = NumberText(upperEnd / 2);
     ui_->quantityMarkMiddle->setCaption(middle);
     ui_->priceMarkMiddle->setCaption(middle);

@@ -37,7 +37,7 @@ private:
     void askForCrossing();
     void hideCrossing();
     void setRange();
-    void markMiddles(float upperEnd);
+    void showAxisMiddles(float upperEnd);
     void drawLines(const QColor& colour);
     void showWorkedExplicit();
     void showWorkedImplicit();

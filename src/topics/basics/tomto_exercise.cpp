@@ -23,8 +23,6 @@ constexpr int kLineForms = 2;
 
 bool isImplicit(const TomtoState& s) { return s.form == LineForm::Implicit; }
 
-LineForm drawForm(Draws& draws) { return static_cast<LineForm>(Int(draws.Rnd() * kLineForms)); }
-
 /// -10 to 9.
 float drawCoefficient(Draws& draws) { return Int(draws.Rnd() * 20 - 10); }
 
@@ -97,7 +95,7 @@ void generate(TomtoState& s, Draws& draws, const ZeroReplacements& zeros) {
         s.graphMax = 0;
         draws.Randomize();
         drawCoefficients(s, draws, zeros);
-        s.form = drawForm(draws);
+        s.form = static_cast<LineForm>(Int(draws.Rnd() * kLineForms));
         if (isImplicit(s)) {
             solveImplicit(s);
         } else {

@@ -31,21 +31,21 @@ struct TomtoState {
     float b2 = 0;
     float c2 = 0;
     Relation relation = Relation::Crossing;
-    /// The crossing, to 2 decimals. Both outlive the exercise and every rejected try, but not the form: lines
-    /// that do not cross leave them as they were, and an old value can make the generator draw once more.
+    /// The crossing, to 2 decimals. Lines that do not cross leave both as an earlier exercise or try has set
+    /// them, and an old value can make the generator draw once more.
     double solutionQ = 0;
     double solutionP = 0;
     /// The upper end of both axes, short or long; 0 until the exercise is judged or answered.
     float graphMax = 0;
 };
 
-/// The exercise that a form opens with.
+/// Draws the exercise that a form opens with.
 void firstExercise(TomtoState& state, Draws& draws);
 
-/// Every later exercise. It differs from the first in what it puts for a zero.
+/// Draws every later exercise, with other numbers in place of zeros.
 void newExercise(TomtoState& state, Draws& draws);
 
-/// The two lines of the task as they are written.
+/// Returns the two lines as the task writes them.
 [[nodiscard]] std::array<std::string, 2> lineTexts(const TomtoState& state);
 
 /// Judges the chosen relation with a typed Q and P. It is solved if the relation is right and, for crossing
@@ -53,7 +53,7 @@ void newExercise(TomtoState& state, Draws& draws);
 /// by themselves, whatever is chosen.
 [[nodiscard]] Judgement judge(const TomtoState& state, const ChosenAnswer<Relation>& answer);
 
-/// Gives the axes an upper end that the crossing is seen on.
+/// Sets an upper end of the axes with which the crossing is on the graph.
 void setRange(TomtoState& state);
 
 /// The heights of a line at Q = 0 and at Q = graphMax.
@@ -64,7 +64,7 @@ struct GraphLine {
 
 [[nodiscard]] std::array<GraphLine, 2> graphLines(const TomtoState& state);
 
-/// True if the slopes differ, so that there is a derivation to show.
+/// Returns whether the slopes differ, so that there is a derivation to show.
 [[nodiscard]] bool hasDerivation(const TomtoState& state);
 
 /// The crossing worked out for lines P = aQ + b, a step each.

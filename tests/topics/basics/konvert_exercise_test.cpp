@@ -26,9 +26,9 @@ using test::Proof;
 using test::readsAsItself;
 using test::Script;
 using test::ScriptedDraws;
-using test::konvert::constant;
 using test::konvert::fraction;
 using test::konvert::fractionFactor;
+using test::konvert::intercept;
 using test::konvert::kHeads;
 using test::konvert::kTails;
 using test::konvert::oneOver;
@@ -46,19 +46,19 @@ KonvertState exercise(const Script& script) {
 
 TEST(KonvertGenerator, DrawsSlopeConstantAndAWholeFactor) {
     const KonvertState s = exercise({kHeads, cellOf(3, 6), cellOf(5, 8), kHeads, cellOf(1, 8)});
-    EXPECT_EQ(s.givenSlope, -3);
-    EXPECT_EQ(s.givenConstant, 5);
+    EXPECT_EQ(s.slopeOfQ, -3);
+    EXPECT_EQ(s.interceptOfQ, 5);
     EXPECT_EQ(s.factorKind, FactorKind::Whole);
     EXPECT_EQ(s.factor, 2);
-    EXPECT_EQ(s.newSlope, -0.75);
-    EXPECT_EQ(s.newConstant, 2.5);
+    EXPECT_EQ(s.slopeOfK, -0.75);
+    EXPECT_EQ(s.interceptOfK, 2.5);
 }
 
 TEST(KonvertGenerator, DrawsAFractionWithADrawnNumerator) {
     const KonvertState s =
         exercise({kTails, cellOf(4, 5), cellOf(7, 8), kTails, kHeads, cellOf(2, 8), cellOf(3, 8)});
-    EXPECT_EQ(s.givenSlope, 4);
-    EXPECT_EQ(s.givenConstant, 7);
+    EXPECT_EQ(s.slopeOfQ, 4);
+    EXPECT_EQ(s.interceptOfQ, 7);
     EXPECT_EQ(s.factorKind, FactorKind::Fraction);
     EXPECT_EQ(s.factorNumerator, 3);
     EXPECT_EQ(s.factorDenominator, 4);
@@ -66,117 +66,117 @@ TEST(KonvertGenerator, DrawsAFractionWithADrawnNumerator) {
 }
 
 TEST(KonvertGenerator, LeavesTheNumeratorAtOneForTails) {
-    const KonvertState s = exercise(slope(1) + constant(1) + Script{kTails} + oneOver(4));
+    const KonvertState s = exercise(slope(1) + intercept(1) + Script{kTails} + oneOver(4));
     EXPECT_EQ(s.factorNumerator, 1);
     EXPECT_EQ(s.factorDenominator, 4);
-    EXPECT_EQ(s.newSlope, 16);
-    EXPECT_EQ(s.newConstant, 4);
+    EXPECT_EQ(s.slopeOfK, 16);
+    EXPECT_EQ(s.interceptOfK, 4);
 }
 
 TEST(KonvertGenerator, TakesAHalfForTailsAndLessForHeads) {
     constexpr float kBelowHalf = 0.5F - 1.0F / (1U << 24U);
-    EXPECT_EQ(exercise({kBelowHalf, kLargestDraw, 0, kBelowHalf, 0}).givenSlope, -5);
-    EXPECT_EQ(exercise({0.5F, kLargestDraw, kLargestDraw, kBelowHalf, kLargestDraw}).givenSlope, 4);
-    EXPECT_EQ(exercise({0.5F, kLargestDraw, kLargestDraw, kBelowHalf, kLargestDraw}).givenConstant, 7);
+    EXPECT_EQ(exercise({kBelowHalf, kLargestDraw, 0, kBelowHalf, 0}).slopeOfQ, -5);
+    EXPECT_EQ(exercise({0.5F, kLargestDraw, kLargestDraw, kBelowHalf, kLargestDraw}).slopeOfQ, 4);
+    EXPECT_EQ(exercise({0.5F, kLargestDraw, kLargestDraw, kBelowHalf, kLargestDraw}).interceptOfQ, 7);
     EXPECT_EQ(exercise({0.5F, kLargestDraw, kLargestDraw, kBelowHalf, kLargestDraw}).factor, 8);
 }
 
 TEST(KonvertGenerator, DrawsOnlyTheFractionAgainWhileItIsOne) {
     // 1/1 by tails, 5/5 by heads, then 1/3: the numerator is 1 again before each coin.
     const KonvertState s =
-        exercise(slope(2) + constant(3) + Script{kTails} + oneOver(1) + fraction(5, 5) + oneOver(3));
-    EXPECT_EQ(s.givenSlope, 2);
-    EXPECT_EQ(s.givenConstant, 3);
+        exercise(slope(2) + intercept(3) + Script{kTails} + oneOver(1) + fraction(5, 5) + oneOver(3));
+    EXPECT_EQ(s.slopeOfQ, 2);
+    EXPECT_EQ(s.interceptOfQ, 3);
     EXPECT_EQ(s.factorNumerator, 1);
     EXPECT_EQ(s.factorDenominator, 3);
 }
 
 TEST(KonvertGenerator, DrawsEverythingAgainWithReseedingWhileTheSlopeIsTooSteep) {
-    ScriptedDraws draws(slope(1) + constant(1) + fractionFactor(1, 8) +   // 64
-                        slope(-2) + constant(2) + fractionFactor(1, 6) +  // -72
-                        slope(3) + constant(4) + wholeFactor(1));
+    ScriptedDraws draws(slope(1) + intercept(1) + fractionFactor(1, 8) +   // 64
+                        slope(-2) + intercept(2) + fractionFactor(1, 6) +  // -72
+                        slope(3) + intercept(4) + wholeFactor(1));
     KonvertState s;
     newExercise(s, draws);
-    EXPECT_EQ(s.givenSlope, 3);
-    EXPECT_EQ(s.givenConstant, 4);
+    EXPECT_EQ(s.slopeOfQ, 3);
+    EXPECT_EQ(s.interceptOfQ, 4);
     EXPECT_EQ(s.factorKind, FactorKind::Whole);
     EXPECT_EQ(draws.randomized(), 3);
     EXPECT_TRUE(draws.isUsedUp());
 }
 
 TEST(KonvertGenerator, KeepsASlopeOfFifty) {
-    EXPECT_NEAR(exercise(slope(2) + constant(0) + fractionFactor(1, 5)).newSlope, 50, 1e-5);
-    EXPECT_NEAR(exercise(slope(-2) + constant(0) + fractionFactor(1, 5)).newSlope, -50, 1e-5);
+    EXPECT_NEAR(exercise(slope(2) + intercept(0) + fractionFactor(1, 5)).slopeOfK, 50, 1e-5);
+    EXPECT_NEAR(exercise(slope(-2) + intercept(0) + fractionFactor(1, 5)).slopeOfK, -50, 1e-5);
 }
 
 TEST(KonvertGenerator, DividesInSinglePrecision) {
-    const KonvertState s = exercise(slope(-5) + constant(1) + fractionFactor(4, 3));
+    const KonvertState s = exercise(slope(-5) + intercept(1) + fractionFactor(4, 3));
     EXPECT_EQ(s.factor, 4.0F / 3.0F);
-    EXPECT_EQ(s.newSlope, static_cast<double>(-5.0F / (s.factor * s.factor)));
-    EXPECT_EQ(s.newConstant, static_cast<double>(1.0F / s.factor));
-    EXPECT_NE(s.newSlope, -2.8125);
+    EXPECT_EQ(s.slopeOfK, static_cast<double>(-5.0F / (s.factor * s.factor)));
+    EXPECT_EQ(s.interceptOfK, static_cast<double>(1.0F / s.factor));
+    EXPECT_NE(s.slopeOfK, -2.8125);
 }
 
 TEST(KonvertGenerator, MayAskForNothingButZeros) {
     for (const Script& zero : {Script{kHeads, 0}, Script{kTails, 0}}) {
-        KonvertState s = exercise(zero + constant(0) + wholeFactor(3));
+        KonvertState s = exercise(zero + intercept(0) + wholeFactor(3));
         EXPECT_EQ(functionText(s), "P= 0Q + 0");
-        EXPECT_EQ(s.newSlope, 0);
-        EXPECT_EQ(s.newConstant, 0);
+        EXPECT_EQ(s.slopeOfK, 0);
+        EXPECT_EQ(s.interceptOfK, 0);
         roundSolution(s);
         EXPECT_EQ(workedSolution(s).result, "= 0 K + 0");
     }
 }
 
 TEST(KonvertGenerator, GivesTheOldFunctionForAFactorOfOne) {
-    const KonvertState s = exercise(slope(-4) + constant(6) + wholeFactor(1));
-    EXPECT_EQ(s.newSlope, -4);
-    EXPECT_EQ(s.newConstant, 6);
+    const KonvertState s = exercise(slope(-4) + intercept(6) + wholeFactor(1));
+    EXPECT_EQ(s.slopeOfK, -4);
+    EXPECT_EQ(s.interceptOfK, 6);
 }
 
 TEST(KonvertRounding, TakesTheSlopeAwayFromZeroAndTheConstantUp) {
     KonvertState s;
-    s.newSlope = -2.0005;
-    s.newConstant = 0.0625;
+    s.slopeOfK = -2.0005;
+    s.interceptOfK = 0.0625;
     roundSolution(s);
-    EXPECT_EQ(s.newSlope, -2.001);
-    EXPECT_EQ(s.newConstant, 0.063);
-    s.newSlope = 0.0625;
-    s.newConstant = -0.0625;
+    EXPECT_EQ(s.slopeOfK, -2.001);
+    EXPECT_EQ(s.interceptOfK, 0.063);
+    s.slopeOfK = 0.0625;
+    s.interceptOfK = -0.0625;
     roundSolution(s);
-    EXPECT_EQ(s.newSlope, 0.063);
-    EXPECT_EQ(s.newConstant, -0.062);
+    EXPECT_EQ(s.slopeOfK, 0.063);
+    EXPECT_EQ(s.interceptOfK, -0.062);
 }
 
 TEST(KonvertRounding, StartsFromTheDigitsOfTheSingle) {
-    KonvertState s = exercise(slope(-5) + constant(1) + fractionFactor(4, 3));
+    KonvertState s = exercise(slope(-5) + intercept(1) + fractionFactor(4, 3));
     roundSolution(s);
-    EXPECT_EQ(s.newSlope, -2.812);
-    EXPECT_EQ(s.newConstant, 0.75);
+    EXPECT_EQ(s.slopeOfK, -2.812);
+    EXPECT_EQ(s.interceptOfK, 0.75);
 }
 
 TEST(KonvertTexts, TellAWholeFactor) {
-    KonvertState s = exercise(slope(-3) + constant(5) + wholeFactor(4));
+    KonvertState s = exercise(slope(-3) + intercept(5) + wholeFactor(4));
     roundSolution(s);
     EXPECT_EQ(taskText(s), " For den viste funktion gælder, at 1 Q svarer til 4 K. Udtryk funktionen i K");
     EXPECT_EQ(functionText(s), "P= -3Q + 5");
-    EXPECT_EQ(givenTexts(s).function, "P= -3 Q + 5");
-    EXPECT_EQ(givenTexts(s).conversion, "1 Q svarer til 4 K");
+    EXPECT_EQ(workedSolution(s).function, "P= -3 Q + 5");
+    EXPECT_EQ(workedSolution(s).conversion, "1 Q svarer til 4 K");
     const DecimalMark danish(",");
     const KonvertWorked worked = workedSolution(s);
     EXPECT_EQ(worked.priceEquals, "P= ");
     EXPECT_EQ(worked.slope, "-3");
     EXPECT_EQ(worked.squaredFactor, "4 · 4");
-    EXPECT_EQ(worked.constant, "5");
+    EXPECT_EQ(worked.intercept, "5");
     EXPECT_EQ(worked.factor, "4");
     EXPECT_EQ(worked.result, "= -0,188 K + 1,25");
 }
 
 TEST(KonvertTexts, TellAFractionUnreduced) {
-    KonvertState s = exercise(slope(2) + constant(7) + fractionFactor(6, 4));
+    KonvertState s = exercise(slope(2) + intercept(7) + fractionFactor(6, 4));
     roundSolution(s);
     EXPECT_EQ(taskText(s), " For den viste funktion gælder, at 1 Q svarer til 6/4 K. Udtryk funktionen i K");
-    EXPECT_EQ(givenTexts(s).conversion, "1 Q svarer til 6/4 K");
+    EXPECT_EQ(workedSolution(s).conversion, "1 Q svarer til 6/4 K");
     const KonvertWorked worked = workedSolution(s);
     EXPECT_EQ(worked.priceEquals, "P=");
     EXPECT_EQ(worked.squaredFactor, "(6/4) · (6/4)");
@@ -185,12 +185,12 @@ TEST(KonvertTexts, TellAFractionUnreduced) {
 }
 
 TEST(KonvertTexts, ShowTheFactorOfThisExerciseAfterOneOfTheOtherKind) {
-    ScriptedDraws draws(slope(1) + constant(1) + fractionFactor(3, 4) +  //
-                        slope(1) + constant(1) + wholeFactor(5));
+    ScriptedDraws draws(slope(1) + intercept(1) + fractionFactor(3, 4) +  //
+                        slope(1) + intercept(1) + wholeFactor(5));
     KonvertState s;
     newExercise(s, draws);
     newExercise(s, draws);
-    EXPECT_EQ(givenTexts(s).conversion, "1 Q svarer til 5 K");
+    EXPECT_EQ(workedSolution(s).conversion, "1 Q svarer til 5 K");
     EXPECT_EQ(workedSolution(s).squaredFactor, "5 · 5");
 }
 
@@ -210,35 +210,35 @@ bool isRoundedTo3(double rounded, double exact) {
 }
 
 /// Holds if this exercise is solved by its own solution, rounded or not, and by nothing farther off.
-bool isSound(KonvertState s, double exactSlope, double exactConstant) {
-    const auto solvedBy = [&s](double slope, double constant) {
-        return judge(s, {slope, constant}).isSolved;
+bool isSound(KonvertState s, double exactSlope, double exactIntercept) {
+    const auto solvedBy = [&s](double slope, double intercept) {
+        return judge(s, {slope, intercept}).isSolved;
     };
     const bool isNearExact =
-        std::abs(s.newSlope - exactSlope) < 1e-5 && std::abs(s.newConstant - exactConstant) < 1e-5;
-    const bool takesOwn = solvedBy(s.newSlope, s.newConstant) && solvedBy(exactSlope, exactConstant);
+        std::abs(s.slopeOfK - exactSlope) < 1e-5 && std::abs(s.interceptOfK - exactIntercept) < 1e-5;
+    const bool takesOwn = solvedBy(s.slopeOfK, s.interceptOfK) && solvedBy(exactSlope, exactIntercept);
     bool takesOthers = false;
     for (const double nudge : {-kJustPast, kJustPast, 1.0}) {
-        takesOthers = takesOthers || solvedBy(s.newSlope + nudge, s.newConstant) ||
-                      solvedBy(s.newSlope, s.newConstant + nudge);
+        takesOthers = takesOthers || solvedBy(s.slopeOfK + nudge, s.interceptOfK) ||
+                      solvedBy(s.slopeOfK, s.interceptOfK + nudge);
     }
     roundSolution(s);
     const KonvertState once = s;
     roundSolution(s);
-    const bool staysRounded = s.newSlope == once.newSlope && s.newConstant == once.newConstant;
-    const bool takesRounded = solvedBy(exactSlope, exactConstant) && isRoundedTo3(s.newSlope, exactSlope) &&
-                              isRoundedTo3(s.newConstant, exactConstant) && readsAsItself(s.newSlope) &&
-                              readsAsItself(s.newConstant);
+    const bool staysRounded = s.slopeOfK == once.slopeOfK && s.interceptOfK == once.interceptOfK;
+    const bool takesRounded = solvedBy(exactSlope, exactIntercept) && isRoundedTo3(s.slopeOfK, exactSlope) &&
+                              isRoundedTo3(s.interceptOfK, exactIntercept) && readsAsItself(s.slopeOfK) &&
+                              readsAsItself(s.interceptOfK);
     const KonvertWorked worked = workedSolution(s);
     const bool isWorkedOut =
-        worked.slope == NumberText(s.givenSlope) && worked.constant == NumberText(s.givenConstant) &&
-        worked.result == "= " + NumberText(s.newSlope) + " K + " + NumberText(s.newConstant);
+        worked.slope == NumberText(s.slopeOfQ) && worked.intercept == NumberText(s.interceptOfQ) &&
+        worked.result == "= " + NumberText(s.slopeOfK) + " K + " + NumberText(s.interceptOfK);
     return isNearExact && takesOwn && !takesOthers && staysRounded && takesRounded && isWorkedOut;
 }
 
 /// Draws one exercise and, for a slope that is too steep, a last one that shows the rejection.
 void visit(Space& space, const Script& slopeDraws, int a, int b, const Script& factorDraws, int n, int m) {
-    ScriptedDraws draws(slopeDraws + constant(b) + factorDraws + slope(4) + constant(7) + wholeFactor(7));
+    ScriptedDraws draws(slopeDraws + intercept(b) + factorDraws + slope(4) + intercept(7) + wholeFactor(7));
     KonvertState s;
     newExercise(s, draws);
     const double exactSlope = static_cast<double>(a * m * m) / (n * n);
@@ -252,9 +252,9 @@ void visit(Space& space, const Script& slopeDraws, int a, int b, const Script& f
     space.proof.visit(Proof::From::WholeSpace, static_cast<int>(s.factorKind));
     space.slopes.insert(a);
     space.constants.insert(b);
-    space.factors.insert(givenTexts(s).conversion);
+    space.factors.insert(workedSolution(s).conversion);
     ASSERT_TRUE(isSound(s, exactSlope, static_cast<double>(b) * m / n))
-        << functionText(s) << ", " << givenTexts(s).conversion;
+        << functionText(s) << ", " << workedSolution(s).conversion;
 }
 
 TEST(KonvertSpace, IsSolvedByItsOwnAndOnlyByItsOwnSolution) {
@@ -306,7 +306,7 @@ TEST(KonvertSeeds, GiveEachKindAboutAsOften) {
     for (int i = 0; i < 10'000; ++i) {
         newExercise(s, draws);
         fractions += s.factorKind == FactorKind::Fraction ? 1 : 0;
-        ASSERT_TRUE(std::abs(s.newSlope) <= 50 && std::abs(s.newConstant) <= 56) << functionText(s);
+        ASSERT_TRUE(std::abs(s.slopeOfK) <= 50 && std::abs(s.interceptOfK) <= 56) << functionText(s);
     }
     EXPECT_GT(fractions, 4'000);
     EXPECT_LT(fractions, 5'500);
@@ -314,8 +314,8 @@ TEST(KonvertSeeds, GiveEachKindAboutAsOften) {
 
 TEST(KonvertJudge, TakesBothEndsOfTheToleranceOfEachNumber) {
     KonvertState s;
-    s.newSlope = -0.25;
-    s.newConstant = 5;
+    s.slopeOfK = -0.25;
+    s.interceptOfK = 5;
     EXPECT_TRUE(eachIs({true, true}, s, {{-0.25, 5}, {-0.255, 5}, {-0.245, 5}, {-0.25, 5.005}}));
     EXPECT_TRUE(eachIs({false, true}, s, {{-0.2551, 5}}));
     EXPECT_TRUE(eachIs({true, false}, s, {{-0.25, 4.9949}}));

@@ -14,7 +14,7 @@ inline constexpr float kTails = 0.5F;
 }
 
 /// b from 0 to 7.
-[[nodiscard]] inline Script constant(int b) { return {cellOf(b, 8)}; }
+[[nodiscard]] inline Script intercept(int b) { return {cellOf(b, 8)}; }
 
 /// 1 Q is f K; f from 1 to 8.
 [[nodiscard]] inline Script wholeFactor(int f) { return {kHeads, cellOf(f - 1, 8)}; }

@@ -27,7 +27,7 @@ constexpr int kWhole = 0;
 
 /// a from -5 to 4, b from 0 to 7, 1 Q is n/m K.
 test::Script scriptOf(int a, int b, int n, int m) {
-    return konvert::slope(a) + konvert::constant(b) +
+    return konvert::slope(a) + konvert::intercept(b) +
            (m == kWhole ? konvert::wholeFactor(n) : konvert::fractionFactor(n, m));
 }
 
@@ -38,9 +38,9 @@ protected:
     FormDriver& open(int a, int b, int n, int m = kWhole) { return ScriptedForm::open(a, b, n, m); }
     void next(int a, int b, int n, int m = kWhole) { ScriptedForm::next(a, b, n, m); }
 
-    void answer(const std::string& slope, const std::string& constant) const {
+    void answer(const std::string& slope, const std::string& intercept) const {
         form->type("slope", slope);
-        form->type("intercept", constant);
+        form->type("intercept", intercept);
         form->click("ok");
     }
 
@@ -243,10 +243,10 @@ TEST_F(KonvertForm, DrawsTheSolutionAndNotWhatWasTyped) {
     open(-5, 1, 4, 3);
     answer("-2.81", "0.75");
     const double slope = -5.0F / ((4.0F / 3.0F) * (4.0F / 3.0F));
-    const double constant = 1.0F / (4.0F / 3.0F);
+    const double intercept = 1.0F / (4.0F / 3.0F);
     ASSERT_EQ(strokes("graph").size(), 2U);
     EXPECT_EQ(strokes("graph")[1],
-              kGraph.line(0, 15 - constant, 20, 15 - (20 * slope + constant), kLightGreen));
+              kGraph.line(0, 15 - intercept, 20, 15 - (20 * slope + intercept), kLightGreen));
 }
 
 TEST_F(KonvertForm, TakesTheGivenNumbersWhereTheFactorIsOne) {
@@ -282,15 +282,15 @@ TEST_F(KonvertForm, MarksOnlyTheWrongConstantAndGoesToTheSlopeAllTheSame) {
 }
 
 TEST_F(KonvertForm, TakesBothEndsOfTheTolerance) {
-    for (const auto& [slope, constant, isRight] : {std::tuple{"2.005", "3.005", true},
-                                                   {"1.995", "2.995", true},
-                                                   {"2.0051", "3", false},
-                                                   {"1.9949", "3", false},
-                                                   {"2", "3.0051", false},
-                                                   {"2", "2.9949", false}}) {
+    for (const auto& [slope, intercept, isRight] : {std::tuple{"2.005", "3.005", true},
+                                                    {"1.995", "2.995", true},
+                                                    {"2.0051", "3", false},
+                                                    {"1.9949", "3", false},
+                                                    {"2", "3.0051", false},
+                                                    {"2", "2.9949", false}}) {
         const FormDriver& f = open(2, 3, 1);
-        answer(slope, constant);
-        EXPECT_EQ(f.isShown("right"), isRight) << slope << " " << constant;
+        answer(slope, intercept);
+        EXPECT_EQ(f.isShown("right"), isRight) << slope << " " << intercept;
     }
 }
 
