@@ -1,12 +1,11 @@
 #include "topics/economics/afsaet.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "controls/fraction.h"
 #include "controls/line_control.h"
-#include "controls/panel.h"
-#include "graph/graph_box.h"
 #include "numeric/text.h"
 #include "topics/economics/ui_afsaet.h"
 
@@ -42,23 +41,10 @@ const std::vector<Plan>& plans() {
     return kPlans;
 }
 
-/// What the names of the controls of a step end in.
+/// Returns what the names of the controls of a step end in.
 QString nameOf(AfsaetUnknown unknown) {
-    switch (unknown) {
-        case AfsaetUnknown::Slope:
-            return "Slope";
-        case AfsaetUnknown::Intercept:
-            return "Intercept";
-        case AfsaetUnknown::MaxPrice:
-            return "MaxPrice";
-        case AfsaetUnknown::MaxQuantity:
-            return "MaxQuantity";
-        case AfsaetUnknown::Quantity:
-            return "Quantity";
-        case AfsaetUnknown::Price:
-            return "Price";
-    }
-    return {};
+    static constexpr std::array kNames{"Slope", "Intercept", "MaxPrice", "MaxQuantity", "Quantity", "Price"};
+    return kNames.at(static_cast<std::size_t>(unknown));
 }
 
 /// "twoPoints" -> "TwoPoints"
@@ -82,17 +68,17 @@ Afsaet::Afsaet(Draws& draws) : ExerciseForm(PageName::Afsaet, draws), ui_(std::m
 Afsaet::~Afsaet() = default;
 
 QWidget* Afsaet::Step::shown() const {
-    return box != nullptr ? static_cast<QWidget*>(box) : static_cast<QWidget*>(text);
+    return panel != nullptr ? static_cast<QWidget*>(panel) : static_cast<QWidget*>(text);
 }
 
 Afsaet::Step Afsaet::stepOf(const QString& prefix, AfsaetUnknown unknown) const {
     const QString worked = prefix + "Worked" + nameOf(unknown);
-    auto* const box = design()->findChild<Panel*>(prefix + nameOf(unknown) + "Step");
+    auto* const panel = design()->findChild<Panel*>(prefix + nameOf(unknown) + "Step");
     return {.unknown = unknown,
             .name = worked,
             .button = design()->findChild<Button*>("show" + capitalised(prefix) + nameOf(unknown)),
-            .text = design()->findChild<Label*>(box != nullptr ? worked + "Result" : worked),
-            .box = box};
+            .text = design()->findChild<Label*>(panel != nullptr ? worked + "Result" : worked),
+            .panel = panel};
 }
 
 std::vector<Afsaet::HelpPanel> Afsaet::helpPanels() const {
@@ -167,10 +153,10 @@ void Afsaet::help() {
 void Afsaet::showStep(const HelpPanel& help, const Step& step) {
     const AfsaetStep worked = workedStep(state_, help.help, step.unknown);
     step.text->setCaption(worked.text);
-    if (step.box != nullptr) {
-        const Fraction fraction(step.box->findChild<Label*>(step.name + "Numerator"),
-                                step.box->findChild<LineControl*>(step.name + "Bar"),
-                                step.box->findChild<Label*>(step.name + "Denominator"));
+    if (step.panel != nullptr) {
+        const Fraction fraction(step.panel->findChild<Label*>(step.name + "Numerator"),
+                                step.panel->findChild<LineControl*>(step.name + "Bar"),
+                                step.panel->findChild<Label*>(step.name + "Denominator"));
         fraction.setTexts(worked.numerator, worked.denominator);
         step.text->setLeft(fraction.right() + kGap);
     }

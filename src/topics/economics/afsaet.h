@@ -39,7 +39,7 @@ private:
         Button* button;
         Label* text;
         /// Holds the text and a fraction before it; null where there is none.
-        Panel* box;
+        Panel* panel;
 
         /// What its button shows.
         [[nodiscard]] QWidget* shown() const;

@@ -1,6 +1,7 @@
 #include "topics/economics/afsaet_exercise.h"
 
 #include <algorithm>
+#include <array>
 
 #include "numeric/arithmetic.h"
 #include "numeric/judging.h"
@@ -9,39 +10,28 @@
 namespace tavrune {
 namespace {
 
-const char* taskSentence(AfsaetKind kind) {
-    switch (kind) {
-        case AfsaetKind::TwoPoints:
-            return "Bestem forskriften for den lineære afsætningsfunktion gennem følgende to punkter:";
-        case AfsaetKind::PointAndElasticityAtPrice:
-            return "Du kender et punkt på en lineær afsætningsfunktion og priselasticiteten til en bestemt "
-                   "pris på samme funktion. Bestem afsætningsfunktionens forskrift.";
-        case AfsaetKind::PointAndElasticityAtQuantity:
-            return "Du kender et punkt på en lineær afsætnigsfunktion og priselasticiteten ved en bestemt "
-                   "mængde på samme funktion. Bestem afsætningsfunktionens forskrift.";
-        case AfsaetKind::PointAndSlope:
-            return "Du kender et punkt på en lineær afsætningsfunktion samt dens hældningskoefficient. "
-                   "Bestem afsætningsfunktionens forskrift.";
-        case AfsaetKind::TwoElasticities:
-            return "På en lineær afsætningsfunktion kender du priselasticiteten ved en bestemt pris samt "
-                   "priselasticiteten ved en bestemt mængde. Bestem afsætningsfunktionens forskrift.";
-        case AfsaetKind::ElasticityAtPriceAndSlope:
-            return "På en lineær afsætningsfunktion kender du priselasticiteten ved en bestemt pris og "
-                   "afsætningsfunktionens hældningskoefficient. Bestem afsætningsfunktionens forskrift.";
-        case AfsaetKind::ElasticityAtQuantityAndSlope:
-            return "På en lineær afsætningsfunktion kender du priselasticiteten ved en bestemt mængde samt "
-                   "afsætningsfuktionens hældningskoefficient. Bestem afsætningsfunktionens forskrift.";
-    }
-    return "";
-}
+/// In the order of the kinds.
+constexpr std::array kTaskSentences{
+    "Bestem forskriften for den lineære afsætningsfunktion gennem følgende to punkter:",
+    "Du kender et punkt på en lineær afsætningsfunktion og priselasticiteten til en bestemt pris på samme "
+    "funktion. Bestem afsætningsfunktionens forskrift.",
+    "Du kender et punkt på en lineær afsætnigsfunktion og priselasticiteten ved en bestemt mængde på samme "
+    "funktion. Bestem afsætningsfunktionens forskrift.",
+    "Du kender et punkt på en lineær afsætningsfunktion samt dens hældningskoefficient. Bestem "
+    "afsætningsfunktionens forskrift.",
+    "På en lineær afsætningsfunktion kender du priselasticiteten ved en bestemt pris samt priselasticiteten "
+    "ved en bestemt mængde. Bestem afsætningsfunktionens forskrift.",
+    "På en lineær afsætningsfunktion kender du priselasticiteten ved en bestemt pris og "
+    "afsætningsfunktionens hældningskoefficient. Bestem afsætningsfunktionens forskrift.",
+    "På en lineær afsætningsfunktion kender du priselasticiteten ved en bestemt mængde samt "
+    "afsætningsfuktionens hældningskoefficient. Bestem afsætningsfunktionens forskrift.",
+};
 
 std::string pointText(double P, double Q) { return "(" + NumberText(P) + ";" + NumberText(Q) + ")"; }
 
 std::string quotientText(double numerator, double denominator) {
     return NumberText(numerator) + "/" + NumberText(denominator);
 }
-
-std::string slopeFact(const AfsaetState& s) { return "Hældningskoefficienten(a) = " + NumberText(s.slope); }
 
 std::string firstFact(const AfsaetState& s) {
     switch (s.kind) {
@@ -76,7 +66,7 @@ std::string secondFact(const AfsaetState& s) {
         case AfsaetKind::PointAndSlope:
         case AfsaetKind::ElasticityAtPriceAndSlope:
         case AfsaetKind::ElasticityAtQuantityAndSlope:
-            return slopeFact(s);
+            return "Hældningskoefficienten(a) = " + NumberText(s.slope);
     }
     return {};
 }
@@ -177,7 +167,7 @@ Judgement judge(const AfsaetState& state, const std::vector<double>& typed) {
 }
 
 AfsaetTask taskTexts(const AfsaetState& state) {
-    return {.sentence = taskSentence(state.kind),
+    return {.sentence = kTaskSentences.at(static_cast<std::size_t>(state.kind)),
             .firstFact = firstFact(state),
             .secondFact = secondFact(state),
             .range = rangeText(state)};

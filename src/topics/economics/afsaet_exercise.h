@@ -61,13 +61,13 @@ struct AfsaetStep {
     std::string denominator{};
 };
 
-/// The steps of a panel, with the numbers of the exercise also where `helpFor` tells another one.
+/// Returns the steps of a help panel with the numbers of the exercise, whichever panel it is.
 [[nodiscard]] std::vector<AfsaetStep> workedSteps(const AfsaetState& state, AfsaetHelp help);
 
-/// The step of a panel that finds `unknown`; one without texts if the panel has none.
+/// Returns the step of a panel that finds `unknown`, or one without texts if the panel has no such step.
 [[nodiscard]] AfsaetStep workedStep(const AfsaetState& state, AfsaetHelp help, AfsaetUnknown unknown);
 
-/// "P = -0.5Q + 4"
+/// Returns "P = -0.5Q + 4".
 [[nodiscard]] std::string equationText(const AfsaetState& state);
 
 }  // namespace tavrune

@@ -186,7 +186,7 @@ Outcome fromPointAndSlope(Attempt& t, Draws& draws) {
     return Outcome::Accepted;
 }
 
-/// Wants the point at P1 and the point at Q1 to lie within the quantities.
+/// Rejects quantities between which the point at P1 or the point at Q1 does not lie.
 template <class Upper>
 Outcome tellAroundElasticities(Attempt& t, float Qlo, Upper Qhi) {
     if (Qlo == Qhi || t.priceAt(Qlo) < t.P1 || t.priceAt(Qhi) > t.P1) {

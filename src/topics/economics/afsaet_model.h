@@ -33,7 +33,7 @@ struct AfsaetState {
     double b = 0;
     double Qlo = 0;
     double Qhi = 0;
-    /// Two points, the first one up and to the left. What a kind neither draws nor computes is of no account.
+    /// Two points, the first one up and to the left. Not every kind uses all of these numbers.
     double P1 = 0;
     double Q1 = 0;
     double P2 = 0;

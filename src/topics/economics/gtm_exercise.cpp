@@ -143,6 +143,15 @@ public:
         return add({.text = denominator, .kind = FormulaPiece::Kind::Fraction});
     }
 
+    /// "3 * 2Q²": a term as it is differentiated.
+    FormulaWriter& product(const char* factor, double coefficient, int power) {
+        return text(factor).text(" ").text(NumberText(coefficient)).q(power);
+    }
+    /// "1/3 * 2Q³": a term as it is integrated.
+    FormulaWriter& share(const char* denominator, double coefficient, int power) {
+        return oneOver(denominator).text("* " + NumberText(coefficient)).q(power);
+    }
+
     /// A polynomial in falling powers, of which `power` is the highest.
     FormulaWriter& chain(const GtmCoefficients& coefficients, int power) {
         const auto& [a, b, c] = coefficients;
@@ -167,15 +176,7 @@ std::size_t firstOf(GtmFunction function) { return 3 * static_cast<std::size_t>(
 }  // namespace
 
 const GtmCoefficients& GtmState::of(GtmFunction function) const {
-    switch (function) {
-        case GtmFunction::Average:
-            return avc;
-        case GtmFunction::Total:
-            return tvc;
-        case GtmFunction::Marginal:
-            break;
-    }
-    return mc;
+    return *GtmEach<const GtmCoefficients*>{&avc, &tvc, &mc}.of(function);
 }
 
 void newExercise(GtmState& s, Draws& draws) {
@@ -278,17 +279,7 @@ std::vector<Formula> workedProduct(const GtmState& s) {
 std::vector<Formula> workedDerivative(const GtmState& s) {
     const auto& [a, b, c] = s.tvc;
     return {FormulaWriter().text("TVC =").text(" ").chain(s.tvc, 3),
-            FormulaWriter()
-                .text("3 *")
-                .text(" ")
-                .text(NumberText(a))
-                .q(2)
-                .text("+ ")
-                .text("2 *")
-                .text(" ")
-                .text(NumberText(b))
-                .q(1)
-                .text(withSign(c)),
+            FormulaWriter().product("3 *", a, 2).text("+ ").product("2 *", b, 1).text(withSign(c)),
             FormulaWriter().text("=").text(" ").chain(s.mc, 2)};
 }
 
@@ -303,13 +294,9 @@ std::vector<Formula> workedIntegral(const GtmState& s) {
             FormulaWriter()
                 .text("=")
                 .text(" ")
-                .oneOver("3")
-                .text("* " + NumberText(a))
-                .q(3)
+                .share("3", a, 3)
                 .text("+ ")
-                .oneOver("2")
-                .text("* " + NumberText(b))
-                .q(2)
+                .share("2", b, 2)
                 .text(withSign(c))
                 .text("Q"),
             FormulaWriter().text("=").text(" ").chain(s.tvc, 3)};

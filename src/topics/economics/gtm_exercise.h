@@ -62,28 +62,28 @@ struct GtmState {
     bool operator==(const GtmState&) const = default;
 };
 
-/// The exercise of "&Ny opgave". Draws until the given function touches or clears the axis, and MC and AVC
-/// with it.
+/// Draws the exercise of "&Ny opgave", again until neither the given function nor MC nor AVC goes below the
+/// axis.
 void newExercise(GtmState& s, Draws& draws);
 
-/// The exercise of the opening. Kept (gtm-looser-opening): it is drawn by looser rules: only here can MC fall
-/// for ever, and c be drawn a second time.
+/// Draws the exercise of the opening. Kept (gtm-looser-opening): by looser rules, so that only here MC can
+/// fall for ever, and c is drawn a second time.
 void firstExercise(GtmState& s, Draws& draws);
 
-/// The coefficients as a task shows them: a with the point in every locale, so that the box can be read back.
+/// Returns the coefficients as a task shows them: a with a point in every locale, so that `Val` can read it.
 [[nodiscard]] GtmTerms<std::string> taskTexts(const GtmCoefficients& given);
 
 /// Judges the typed coefficients of all three functions, function by function in the order of
 /// `kGtmFunctions`: right to the digit, those of the given function too.
 [[nodiscard]] Judgement judge(const GtmState& s, const std::vector<double>& typed);
 
-/// Those of one function, out of nine that are typed.
+/// Returns the coefficients of one function. Precondition: nine are typed.
 [[nodiscard]] GtmCoefficients coefficientsOf(GtmFunction function, const std::vector<double>& typed);
 
-/// True if all coefficients of a function are right.
+/// Returns whether all coefficients of a function are right.
 [[nodiscard]] bool isRight(GtmFunction function, const Judgement& judgement);
 
-/// The height of a function at Q.
+/// Returns the height of a function at Q.
 [[nodiscard]] double heightAt(GtmFunction function, const GtmCoefficients& coefficients, double q);
 
 struct GtmPoint {
@@ -91,16 +91,16 @@ struct GtmPoint {
     double y;
 };
 
-/// A curve as the points that are joined: none, or a single one, is nothing to draw.
+/// The points of a curve, which are joined by lines. Of fewer than two nothing is drawn.
 using GtmCurve = std::vector<GtmPoint>;
 
-/// How far the curve of the task runs: a parabola of the opening runs farther than later ones.
+/// How far the curve of the task runs: a parabola of the opening farther than later ones.
 enum class GtmReach { Opening, Later };
 
 [[nodiscard]] GtmCurve curveOfTask(const GtmState& s, GtmReach reach);
 
-/// The curve through what was typed. Any numbers may come in: a curve that does not come near the axis within
-/// 10,000 units of Q has no points, and one ends where no single can hold its height.
+/// Returns the curve of what was typed, whatever the numbers. One that does not come near the axis within
+/// 10,000 units of Q has no points; one ends where no single can hold its height.
 [[nodiscard]] GtmCurve curveOfTry(GtmFunction function, const GtmCoefficients& typed);
 
 [[nodiscard]] GtmCurve curveOfAnswer(const GtmState& s, GtmFunction function);
