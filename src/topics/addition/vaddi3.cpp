@@ -132,10 +132,6 @@ void Vaddi3::drawGraphs() {
     FramedGraph::of(*design(), "function1").clear(drawFrameTicks);
     FramedGraph::of(*design(), "function2").clear(drawFrameTicks);
     FramedGraph::of(*design(), "result").clear(drawWideFrameTicks);
-    drawGivenFunctions();
-}
-
-void Vaddi3::drawGivenFunctions() {
     const Vaddi3State& s = state_;
     GraphBox& first = *ui_->function1Graph;
     {

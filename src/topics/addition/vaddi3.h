@@ -42,7 +42,6 @@ private:
     void showTask();
     void showRows();
     void drawGraphs();
-    void drawGivenFunctions();
     void drawTypedPieces();
     void drawTypedJoins();
     void drawSum();
