@@ -8,7 +8,7 @@ namespace tavrune {
 
 enum class Along { X, Y };
 
-/// Marks of an axis: points from `from` on in whole steps, leaving before `before`; at each step one at each
+/// Ticks of an axis: points from `from` on in whole steps, leaving before `before`; at each step one at each
 /// distance of `offAxis` from the axis.
 struct TickRun {
     Along along;
@@ -33,8 +33,7 @@ struct Axes {
     std::vector<TickRun> ticks;
 };
 
-/// Gives a graph its scale, and the upright axis, the level one and their marks instead of all that stood on
-/// it.
+/// Clears a graph, sets its scale, and draws the upright axis, the level one and their ticks.
 void drawAxes(GraphBox& graph, const Axes& axes);
 
 }  // namespace tavrune

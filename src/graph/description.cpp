@@ -171,7 +171,7 @@ private:
             pen);
     }
 
-    /// What has no length looks like a mark; what is seen of a line may have none.
+    /// A line without length is told as a point, "Mærke"; what is seen of a line may have no length.
     void tellCorners(const Points& run, const QLineF& whole, const Stroke& pen) {
         std::vector<std::string> corners;
         for (const QPointF& corner : run) {

@@ -8,7 +8,7 @@
 namespace tavrune {
 
 /// What is drawn, in Danish words and numbers, in the order drawn: the axes by the scale, then lines with
-/// their ends, curves, marks, hatchings, each once. Only what can be seen is told of; however much is drawn,
+/// their ends, curves, points, hatchings, each once. Only what can be seen is told of; however much is drawn,
 /// the number of words is bounded.
 ///
 /// Points are told in the coordinates of the mathematics: on a scale that runs downwards, y is counted up

@@ -32,7 +32,7 @@ enum class LineStyle { Solid = 0, Dotted = 2 };
 /// What a figure is to somebody who looks at it.
 enum class Meaning {
     Axis,
-    /// A mark of an axis: it stands at its x, or at its y.
+    /// A tick of an axis, at an x or at a y.
     TickOfX,
     TickOfY,
     /// Straight, broken or curved: strokes of which each begins where the last one ends, or leaves a gap.
@@ -77,7 +77,7 @@ struct Stroke {
     bool operator==(const Stroke& other) const;
 };
 
-/// An end of a line, moved up by `above` from the y of its box: a mark has the same size wherever it stands.
+/// An end of a line, moved up by `above`, whichever way y is counted: so a square is made round its middle.
 struct LineEnd {
     double x;
     double y;
