@@ -64,13 +64,13 @@ public:
     void setZoom(double zoom);
     [[nodiscard]] double zoom() const { return zoom_; }
 
+    /// The font as the design has it, before any zoom.
+    [[nodiscard]] QFont unzoomedFont() const;
+
     [[nodiscard]] QWidget* widget() const { return self_; }
 
 protected:
     explicit Control(QWidget* self) : self_(self) {}
-
-    /// Returns the font at zoom 1.
-    [[nodiscard]] QFont unzoomedFont() const;
 
     /// Sets the font of the widget, unless it has inherited the same one from its page.
     void wear(const QFont& font);
