@@ -68,7 +68,7 @@ need_build() { need g++ cmake ninja-build qt6-base-dev fonts-liberation; }
 need_tests() { need libgtest-dev libgmock-dev librapidcheck-dev locales; }
 need_style() { need clang clang-format clang-tidy; }
 need_tour() { need xvfb openbox xdotool imagemagick x11-utils; }
-need_bench() { need libbenchmark-dev; }
+need_bench() { need libbenchmark-dev dbus at-spi2-core; }
 need_package() {
     need dpkg-dev binutils devscripts file lintian appstream desktop-file-utils man-db groff-base xvfb xdotool \
         qt6-translations-l10n

@@ -11,6 +11,7 @@
 
 #include "controls/accessible_controls.h"
 #include "controls/design_style.h"
+#include "controls/voice.h"
 #include "graph/accessible_graph.h"
 #include "numeric/text.h"
 
@@ -42,6 +43,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setDesktopFileName("org.tavrune.Tavrune");
     QAccessible::installFactory(accessibleControl);
     QAccessible::installFactory(accessibleGraph);
+    Voice::instance().takeOver();
     speakDanish();
     useDecimalMarkOf(QLocale());
 }

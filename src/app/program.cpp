@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "app/pages.h"
+#include "controls/voice.h"
 
 namespace tavrune {
 
@@ -14,6 +15,7 @@ Program::~Program() {
 }
 
 void Program::open(PageName name) {
+    const Voice::Round round;
     Page* const page = makePage(name, draws_).release();
     connect(page, &Page::chosen, this, &Program::open);
     connect(page, &Page::aboutChosen, this, &Program::openAbout);
@@ -26,7 +28,13 @@ void Program::open(PageName name) {
     if (window_.isNull()) {
         window_ = new Window;
     }
+    const bool isAnother = window_->isActiveWindow();
     window_->hold(page);
+    // A window that becomes active says its title by itself.
+    if (isAnother) {
+        Voice::instance().say(page->windowTitle() + '.');
+        page->sayOnOpening();
+    }
     window_->showMaximized();
 }
 

@@ -1,13 +1,16 @@
 #include "app/window.h"
 
-#include <QVBoxLayout>
+#include <QEvent>
+#include <QLayout>
+#include <QMenuBar>
+#include <QTimer>
 
 namespace tavrune {
 
 Window::Window() {
     setAttribute(Qt::WA_DeleteOnClose);
-    auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    // The page has menus of its own.
+    setContextMenuPolicy(Qt::NoContextMenu);
 }
 
 void Window::hold(Page* page) {
@@ -18,16 +21,26 @@ void Window::hold(Page* page) {
         if (QWidget* const focused = last->focusWidget()) {
             focused->clearFocus();
         }
-        layout()->removeWidget(last);
-        last->hide();
-        last->deleteLater();
     }
-    layout()->addWidget(page);
+    page->layout()->setMenuBar(nullptr);
+    // Both delete what stood there before.
+    setMenuBar(page->menuBar());
+    setCentralWidget(page);
     // Before it is shown, so that it is laid out only once.
     layout()->activate();
     setWindowTitle(page->windowTitle());
     page->show();
     page->takeFocus();
+}
+
+void Window::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !hasBeenActive_ &&
+        page_ != nullptr) {
+        hasBeenActive_ = true;
+        // After a reader has said the title.
+        QTimer::singleShot(0, page_, &Page::sayOnOpening);
+    }
 }
 
 }  // namespace tavrune

@@ -4,6 +4,8 @@
 
 #include <QShortcutEvent>
 
+#include "controls/voice.h"
+
 namespace tavrune {
 
 bool clickedByAccessKey(QAbstractButton& button, QEvent* event) {
@@ -14,6 +16,8 @@ bool clickedByAccessKey(QAbstractButton& button, QEvent* event) {
     if (key->key() != button.shortcut()) {
         return false;
     }
+    // The button has the focus for a moment only, where the click moves it on.
+    const Voice::Round round;
     button.setFocus(Qt::ShortcutFocusReason);
     button.click();
     return true;

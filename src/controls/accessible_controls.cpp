@@ -1,15 +1,21 @@
 #include "controls/accessible_controls.h"
 
 #include <algorithm>
+#include <map>
 
 #include <QAccessibleWidget>
+#include <QHash>
 #include <QKeySequence>
+#include <QPointer>
 
+#include "controls/accessible_field.h"
 #include "controls/button.h"
 #include "controls/label.h"
 #include "controls/line_control.h"
 #include "controls/option_button.h"
 #include "controls/panel.h"
+#include "controls/reading.h"
+#include "controls/voice.h"
 
 namespace tavrune {
 namespace {
@@ -28,11 +34,66 @@ bool isVerdict(const QWidget& widget) {
     return label != nullptr && label->isVerdict();
 }
 
+/// A text lies over another only where both are verdicts.
 bool covers(const QWidget& front, const QWidget& back) {
+    const bool isText = qobject_cast<const Label*>(&front) != nullptr && !isBlank(front);
     return front.isVisible() && front.autoFillBackground() &&
            front.geometry().contains(back.geometry().center()) &&
-           (isBlank(front) || (isVerdict(front) && isVerdict(back)));
+           (!isText || (isVerdict(front) && isVerdict(back)));
 }
+
+bool isBehindASibling(const QWidget& control) {
+    // A later sibling lies in front.
+    const QObjectList& siblings = control.parentWidget()->children();
+    const auto self = std::find(siblings.begin(), siblings.end(), &control);
+    return self != siblings.end() &&
+           std::any_of(self + 1, siblings.end(), [&control](const QObject* sibling) {
+               const auto* const front = qobject_cast<const QWidget*>(sibling);
+               return front != nullptr && covers(*front, control);
+           });
+}
+
+/// All that can be read, but for the verdict, which is announced with more words.
+bool isText(const QWidget& widget) { return isSeen(widget) && !isVerdict(widget); }
+
+/// The passages of what holds a label, made anew once something on it has changed.
+class Passages {
+public:
+    /// Those of `region`. For the next call or the next change only.
+    [[nodiscard]] static const std::vector<Passage>& of(const QWidget& region) {
+        static std::map<QPointer<const QWidget>, Passages> known;
+        std::erase_if(known, [](const auto& each) { return each.first.isNull(); });
+        Passages& its = known[&region];
+        if (StillPages::current() != 0 && its.still_ == StillPages::current()) {
+            return its.all_;
+        }
+        its.still_ = StillPages::current();
+        if (const std::size_t now = printOf(region); its.print_ != now) {
+            its.print_ = now;
+            its.all_ = passages(region, isText);
+        }
+        return its.all_;
+    }
+
+private:
+    std::size_t print_ = 0;
+    int still_ = 0;
+    std::vector<Passage> all_;
+
+    static std::size_t printOf(const QWidget& region) {
+        std::size_t print = 1;
+        for (const QObject* child : region.children()) {
+            if (const auto* const widget = qobject_cast<const QWidget*>(child)) {
+                const QRect place = widget->geometry();
+                const auto* const label = qobject_cast<const Label*>(widget);
+                print = qHashMulti(print, widget->isVisible(), place.x(), place.y(), place.width(),
+                                   place.height(), widget->accessibleName(), widget->font().underline(),
+                                   label == nullptr ? QString() : label->text());
+            }
+        }
+        return print;
+    }
+};
 
 /// A control that screen readers skip if it is only to be looked at, or if it is covered.
 class AccessibleShape : public QAccessibleWidget {
@@ -59,39 +120,24 @@ protected:
 
 class AccessiblePanel final : public AccessibleShape {
 public:
-    explicit AccessiblePanel(Panel* panel) : AccessibleShape(panel, QAccessible::Grouping) {}
+    /// As a group it would have all of its texts read whenever the focus comes into it.
+    explicit AccessiblePanel(Panel* panel) : AccessibleShape(panel, QAccessible::Client) {}
 };
 
 class AccessibleLabel final : public AccessibleShape {
 public:
     explicit AccessibleLabel(Label* label) : AccessibleShape(label), label_(label) {}
 
-    [[nodiscard]] QAccessible::Role role() const override {
-        return label_->isVerdict() ? QAccessible::Notification : QAccessible::StaticText;
-    }
+    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::StaticText; }
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
-        if (kind == QAccessible::Name && label_->accessibleName().isEmpty()) {
-            return words();
-        }
-        return AccessibleShape::text(kind);
+        return kind == QAccessible::Name ? wordsOf(*label_) : AccessibleShape::text(kind);
     }
 
 protected:
-    [[nodiscard]] bool isOrnament() const override {
-        return label_->isDecorative() || label_->text().isEmpty() || text(QAccessible::Name).isEmpty();
-    }
+    [[nodiscard]] bool isOrnament() const override { return wordsOf(*label_).isEmpty(); }
 
 private:
-    [[nodiscard]] QString words() const {
-        // Captions have wide gaps where other labels with numbers lie.
-        const QString caption = label_->text().simplified();
-        if (label_->font().underline() && caption == "<") {
-            return "≤";
-        }
-        return label_->font().underline() && caption == ">" ? "≥" : caption;
-    }
-
     Label* label_;
 };
 
@@ -117,7 +163,14 @@ public:
         state.pressed = button_->isDown();
         state.checkable = button_->isCheckable();
         state.checked = button_->isChecked();
+        state.invisible = state.invisible || isCovered(*button_);
         return state;
+    }
+
+    /// The title of a group is told as the focus comes into it, and not again with each of its options.
+    [[nodiscard]] QVector<QPair<QAccessibleInterface*, QAccessible::Relation>> relations(
+        QAccessible::Relation match) const override {
+        return QAccessibleWidget::relations(match & ~QAccessible::Relation(QAccessible::Label));
     }
 
     [[nodiscard]] QStringList actionNames() const override {
@@ -163,6 +216,15 @@ QAccessibleInterface* accessibleControl(const QString& /*className*/, QObject* o
     if (auto* const panel = qobject_cast<Panel*>(object)) {
         return new AccessiblePanel(panel);
     }
+    if (auto* const announcements = qobject_cast<Announcements*>(object)) {
+        return new QAccessibleWidget(announcements, QAccessible::StatusBar);
+    }
+    if (qobject_cast<Announcements*>(object->parent()) != nullptr) {
+        return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Notification);
+    }
+    if (auto* const box = qobject_cast<AnswerBox*>(object)) {
+        return accessibleField(box);
+    }
     if (auto* const button = qobject_cast<Button*>(object)) {
         return new AccessibleButton(button, QAccessible::Button);
     }
@@ -172,19 +234,46 @@ QAccessibleInterface* accessibleControl(const QString& /*className*/, QObject* o
     return nullptr;
 }
 
+int StillPages::current_ = 0;
+
+StillPages::StillPages() {
+    static int last = 0;
+    current_ = ++last;
+}
+
+StillPages::~StillPages() { current_ = 0; }
+
 bool isCovered(const QWidget& control) {
-    const QWidget* const parent = control.parentWidget();
-    if (parent == nullptr) {
-        return false;
+    for (const QWidget* branch = &control; !branch->isWindow(); branch = branch->parentWidget()) {
+        if (isBehindASibling(*branch)) {
+            return true;
+        }
     }
-    // Later siblings lie in front.
-    const QObjectList& siblings = parent->children();
-    const auto self = std::find(siblings.begin(), siblings.end(), &control);
-    return self != siblings.end() &&
-           std::any_of(self + 1, siblings.end(), [&control](const QObject* sibling) {
-               const auto* const front = qobject_cast<const QWidget*>(sibling);
-               return front != nullptr && covers(*front, control);
-           });
+    return false;
+}
+
+bool isSeen(const QWidget& control) { return control.isVisible() && !isCovered(control); }
+
+const std::vector<Passage>& passagesOf(const QWidget& region) { return Passages::of(region); }
+
+QString wordsOf(const Label& label) {
+    if (label.isVerdict()) {
+        return label.accessibleName().isEmpty() ? label.text() : label.accessibleName();
+    }
+    const QWidget* const region = label.parentWidget();
+    if (region != nullptr && isSeen(label)) {
+        for (const Passage& passage : Passages::of(*region)) {
+            if (passage.lead == &label) {
+                return passage.words;
+            }
+            if (std::find(passage.pieces.begin(), passage.pieces.end(), &label) != passage.pieces.end()) {
+                return {};
+            }
+        }
+    }
+    return label.isDecorative()               ? QString()
+           : label.accessibleName().isEmpty() ? label.text().simplified()
+                                              : label.accessibleName();
 }
 
 }  // namespace tavrune

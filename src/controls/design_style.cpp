@@ -1,5 +1,6 @@
 #include "controls/design_style.h"
 
+#include <QAccessible>
 #include <QStyleFactory>
 
 #include "controls/control.h"
@@ -30,6 +31,10 @@ int DesignStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
     switch (hint) {
         case SH_DialogButtonBox_ButtonsHaveIcons:
             return 0;
+        case SH_MenuBar_AltKeyNavigation:
+            // A screen reader's own way of listening to keys tears Alt and its letter apart, so that the menu
+            // opens instead. F10 opens it as well.
+            return QAccessible::isActive() ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
         case SH_MessageBox_TextInteractionFlags:
             return Qt::NoTextInteraction;
         default:

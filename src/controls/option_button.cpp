@@ -58,11 +58,11 @@ void OptionButton::keyPressEvent(QKeyEvent* event) {
             return;
         case Qt::Key_Up:
         case Qt::Key_Left:
-            chooseNeighbour(-1);
+            focusOnNeighbour(-1);
             return;
         case Qt::Key_Down:
         case Qt::Key_Right:
-            chooseNeighbour(1);
+            focusOnNeighbour(1);
             return;
         default:
             QRadioButton::keyPressEvent(event);
@@ -74,16 +74,14 @@ void OptionButton::initStyleOption(QStyleOptionButton* option) const {
     showFocusAlways(*option);
 }
 
-void OptionButton::chooseNeighbour(int step) {
+void OptionButton::focusOnNeighbour(int step) {
     const QList<OptionButton*> group =
         parentWidget()->findChildren<OptionButton*>(Qt::FindDirectChildrenOnly);
     const qsizetype count = group.size();
     for (qsizetype at = group.indexOf(this), left = count - 1; left > 0; --left) {
         at = (at + step + count) % count;
         if (group[at]->isVisible() && group[at]->isEnabled()) {
-            // The focus first, since what the click runs may move it further.
             group[at]->setFocus(Qt::TabFocusReason);
-            group[at]->click();
             return;
         }
     }

@@ -31,9 +31,9 @@ protected:
     void initStyleOption(QStyleOptionButton* option) const override;
 
 private:
-    /// Clicks the next option that is shown in the direction of `step`, -1 or 1; after the last comes the
-    /// first.
-    void chooseNeighbour(int step);
+    /// Gives the focus to the option before or after this one, round the group. What it stands for is not
+    /// chosen: choosing may move the focus on before it has been heard.
+    void focusOnNeighbour(int step);
 };
 
 }  // namespace tavrune

@@ -20,7 +20,7 @@ public:
     explicit AccessibleGraph(GraphBox* box) : QAccessibleWidget(box), box_(box) {}
 
     [[nodiscard]] QAccessible::Role role() const override {
-        return isGroup() ? QAccessible::Grouping : QAccessible::Chart;
+        return isGroup() ? QAccessible::Client : QAccessible::Chart;
     }
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
@@ -37,11 +37,7 @@ public:
     }
 
 private:
-    [[nodiscard]] bool isGroup() const {
-        const QList<QWidget*> children = box_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
-        return std::any_of(children.begin(), children.end(),
-                           [](const QWidget* child) { return qobject_cast<const Label*>(child) == nullptr; });
-    }
+    [[nodiscard]] bool isGroup() const { return !box_->isChart(); }
 
     GraphBox* box_;
 };

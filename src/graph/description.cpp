@@ -79,20 +79,21 @@ public:
     }
 
     [[nodiscard]] std::string text() const {
-        if (sentences_.empty()) {
-            return ticks() + " Ellers tom.";
-        }
-        std::string text = ticks();
+        return ticks() + (sentences_.empty() ? " Ellers tom." : " " + figures());
+    }
+
+    [[nodiscard]] std::string figures() const {
+        std::string text;
         for (std::size_t i = 0; i < sentences_.size(); ++i) {
             // Of very many the first and the last are told.
             if (sentences_.size() > kMostSentences && i == kMostSentences / 2) {
                 const std::size_t left = sentences_.size() - kMostSentences;
-                text += " Derefter " + NumberText(static_cast<int>(left)) + " andre.";
+                text += "Derefter " + NumberText(static_cast<int>(left)) + " andre. ";
                 i += left;
             }
-            text += " " + sentences_[i];
+            text += sentences_[i] + " ";
         }
-        return text;
+        return text.substr(0, text.find_last_not_of(' ') + 1);
     }
 
 private:
@@ -256,5 +257,7 @@ std::string describe(const std::vector<Stroke>& strokes, const GraphScale& scale
            ", lodret akse fra " + number(view.lowest()) + " til " + number(view.highest()) + "." +
            Narrator(strokes).text();
 }
+
+std::string describeFigures(const std::vector<Stroke>& strokes) { return Narrator(strokes).figures(); }
 
 }  // namespace tavrune

@@ -17,4 +17,9 @@ namespace tavrune {
 /// describe({}, {-10, 10, 10, -10}) -> "Vandret akse fra -10 til 10, lodret akse fra -10 til 10. Ellers tom."
 [[nodiscard]] std::string describe(const std::vector<Stroke>& strokes, const GraphScale& scale);
 
+/// As `describe`, without a word on the axes; empty for nothing that can be seen.
+///
+/// describeFigures({a line}) -> "Linie fra (0; 8) til (4; 0), grøn."
+[[nodiscard]] std::string describeFigures(const std::vector<Stroke>& strokes);
+
 }  // namespace tavrune

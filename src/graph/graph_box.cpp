@@ -16,6 +16,7 @@ namespace {
 
 constexpr double kTwipsToAUnit = 15;
 const QColor kOutline(96, 96, 96);
+constexpr double kFocusRing = 2;
 
 /// From the scale of a stroke to the pixels of the device.
 class Mapping {
@@ -236,6 +237,13 @@ void GraphBox::setDesignScale(const QRectF& scale) {
     Scale(scale.left(), scale.top(), scale.right(), scale.bottom());
 }
 
+bool GraphBox::isChart() const {
+    const QObjectList& all = children();
+    return !panel_ && std::none_of(all.begin(), all.end(), [](const QObject* child) {
+        return child->isWidgetType() && qobject_cast<const Label*>(child) == nullptr;
+    });
+}
+
 void GraphBox::setBackColour(const QColor& colour) { setPaletteColour(QPalette::Window, colour); }
 
 void GraphBox::setBare(bool bare) {
@@ -298,6 +306,10 @@ void GraphBox::paintEvent(QPaintEvent* /*event*/) {
     }
     if (!strokes_.empty()) {
         QPainter(this).drawPixmap(0, 0, picture_);
+    }
+    if (hasFocus()) {
+        QPainter painter(this);
+        drawOutline(painter, rect(), kFocusRing * zoom(), palette().color(QPalette::Highlight));
     }
 }
 

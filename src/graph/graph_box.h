@@ -124,6 +124,9 @@ public:
     [[nodiscard]] double widthOf(const Control& control) const;
     void setWidthOf(Control& control, double width) const;
 
+    /// Whether the box is a graph to look at: no help panel, and no frame round another graph.
+    [[nodiscard]] bool isChart() const;
+
     // Properties of the design.
     /// Left, top, width and height of the scale that the box has from its design.
     void setDesignScale(const QRectF& scale);

@@ -4,8 +4,9 @@
 #include <stdexcept>
 #include <tuple>
 
-#include <QAccessible>
 #include <QTimer>
+
+#include "graph/graph_box.h"
 
 namespace tavrune {
 namespace {
@@ -47,7 +48,7 @@ Widget* ExerciseForm::role(const char* name) const {
 void ExerciseForm::bindRoles() {
     buttons_ = {role<Button>("newExercise"), role<Button>("ok"), role<Button>("giveAnswer")};
     buttons_.giveAnswer->hide();
-    onClick(buttons_.newExercise, &ExerciseForm::newExercise);
+    onClick(buttons_.newExercise, &ExerciseForm::newExerciseAloud);
     onClick(buttons_.ok, &ExerciseForm::judgeAloud);
     onClick(buttons_.giveAnswer, &ExerciseForm::giveAnswer);
     onClick(role<Button>("help"), &ExerciseForm::help);
@@ -56,6 +57,27 @@ void ExerciseForm::bindRoles() {
         onClick(role<Button>("closeHelp"), &ExerciseForm::closeHelp);
     }
     bindVerdict();
+    graphsAfterFields();
+}
+
+void ExerciseForm::graphsAfterFields() {
+    const auto isOnThePage = [this](const QWidget* control) {
+        return helpPanel_ == nullptr || !helpPanel_->isAncestorOf(control);
+    };
+    QWidget* last = nullptr;
+    for (AnswerBox* field : design()->findChildren<AnswerBox*>()) {
+        last = isOnThePage(field) ? field : last;
+    }
+    for (GraphBox* graph : design()->findChildren<GraphBox*>()) {
+        if (!graph->isChart()) {
+            continue;
+        }
+        graph->setFocusPolicy(Qt::TabFocus);
+        if (last != nullptr && isOnThePage(graph)) {
+            QWidget::setTabOrder(last, graph);
+            last = graph;
+        }
+    }
 }
 
 void ExerciseForm::bindVerdict() {
@@ -81,8 +103,16 @@ void ExerciseForm::onClick(QAbstractButton* button, std::function<void()> action
 }
 
 void ExerciseForm::run(const std::function<void()>& action) {
+    const Voice::Round round;
+    const bool isHeard = Voice::instance().isHeard();
+    if (isHeard) {
+        hearing().takeFieldsForSaid();
+    }
     try {
         action();
+        if (isHeard) {
+            Voice::instance().say(hearing().news().join(' '));
+        }
     } catch (const ArithmeticFailure& failure) {
         if (failureHandler_ == nullptr) {
             throw;
@@ -221,16 +251,15 @@ void ExerciseForm::judgeAloud() {
     if (shown_ == Verdict::Right) {
         announce(right_, right_->text());
     } else if (shown_ == Verdict::Wrong) {
-        const QString fields = wrongFields().join(", ");
+        const QString fields = wrongFields().join("; ");
         announce(wrong_, fields.isEmpty() ? wrong_->text() : wrong_->text() + ": " + fields);
     }
 }
 
 void ExerciseForm::announce(Label* verdict, const QString& words) {
     verdict->setAccessibleName(words);
-    QAccessibleEvent event(verdict, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
-    emit announced(words);
+    Voice::instance().say(words + '.');
+    Voice::instance().tellFocusAgain();
 }
 
 QStringList ExerciseForm::wrongFields() const {
@@ -249,6 +278,18 @@ QStringList ExerciseForm::wrongFields() const {
     return names;
 }
 
+void ExerciseForm::sayTask() {
+    Page::sayOnOpening();
+    if (Voice::instance().isHeard()) {
+        hearing().takeForSaid();
+    }
+}
+
+void ExerciseForm::newExerciseAloud() {
+    newExercise();
+    sayTask();
+}
+
 void ExerciseForm::closeHelp() { helpPanel_->hide(); }
 
 void ExerciseForm::openPanel(QWidget* panel, QWidget* firstButton) {
@@ -264,7 +305,14 @@ void ExerciseForm::showEvent(QShowEvent* event) {
     hasOpened_ = true;
     buttons_.newExercise->show();
     // The first exercise sets the focus, and that needs a form on screen.
-    QTimer::singleShot(0, this, [this] { run([this] { opened(); }); });
+    opening_.emplace();
+    QTimer::singleShot(0, this, [this] {
+        run([this] {
+            opened();
+            sayTask();
+        });
+        opening_.reset();
+    });
 }
 
 }  // namespace tavrune

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -44,14 +45,12 @@ class ExerciseForm : public Page {
 public:
     ExerciseForm(PageName name, Draws& draws);
 
+    /// Nothing: the first exercise says itself.
+    void sayOnOpening() override {}
+
     /// Sets who is told when a failure of the arithmetic ends an action. Null, as at first: the failure is
     /// thrown on. Precondition: the handler outlives the form.
     void setFailureHandler(FailureHandler* handler) { failureHandler_ = handler; }
-
-signals:
-    /// There is a verdict. `words` is what screen readers say: the verdict, and the names of the wrong
-    /// fields.
-    void announced(const QString& words);
 
 protected:
     /// Fills the design area from a designer file and binds the roles. Throws std::logic_error, with the
@@ -143,7 +142,13 @@ private:
     void bindVerdict();
     /// Judges and announces the verdict, if there is one.
     void judgeAloud();
-    void announce(Label* verdict, const QString& words);
+    static void announce(Label* verdict, const QString& words);
+    /// Says the task, which makes all that is seen old news.
+    void sayTask();
+    /// Graphs come after the fields on the way of Tab, whatever lies over what.
+    void graphsAfterFields();
+    /// Draws a new exercise and says its task.
+    void newExerciseAloud();
     /// Returns the names of the visible boxes that are marked as wrong, in reading order.
     [[nodiscard]] QStringList wrongFields() const;
 
@@ -161,6 +166,8 @@ private:
     /// The verdict that the last judging showed.
     enum class Verdict { None, Right, Wrong } shown_ = Verdict::None;
     bool hasOpened_ = false;
+    /// From the first sight of the form to its first exercise.
+    std::optional<Voice::Round> opening_;
 };
 
 }  // namespace tavrune

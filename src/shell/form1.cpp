@@ -15,12 +15,15 @@ public:
     void addBold(Label* word);
     void endParagraph();
     void finish() { text_->setText(lines_.join('\n') + '\n' + line_); }
+    /// All of it without gaps, the bold words in their places.
+    [[nodiscard]] QString words() const { return words_; }
 
 private:
     Label* text_;
     QFontMetrics metrics_;
     QStringList lines_;
     QString line_;
+    QString words_;
 
     [[nodiscard]] bool fits(const QString& line) const {
         return metrics_.horizontalAdvance(line) <= text_->place().width();
@@ -40,6 +43,7 @@ private:
 };
 
 void RunningText::add(const QString& words) {
+    words_ += (words.startsWith(',') || words.startsWith('.') || words_.isEmpty() ? "" : " ") + words;
     const QStringList all = words.split(' ', Qt::SkipEmptyParts);
     for (const QString& word : all) {
         const QString separator = line_.isEmpty() || word.startsWith(',') || word.startsWith('.') ? "" : " ";
@@ -53,6 +57,7 @@ void RunningText::add(const QString& words) {
 }
 
 void RunningText::addBold(Label* word) {
+    words_ += " " + word->text();
     const QString blank = " ";
     const double width = word->textWidth();
     QString gap = line_.isEmpty() ? "" : blank;
@@ -70,7 +75,10 @@ void RunningText::addBold(Label* word) {
     }
 }
 
-void RunningText::endParagraph() { breakLine(); }
+void RunningText::endParagraph() {
+    words_ += words_.endsWith('.') ? "" : ".";
+    breakLine();
+}
 
 }  // namespace
 
@@ -97,7 +105,15 @@ Form1::Form1() : Page(PageName::Form1) {
         ". Hjælpefunktionen indeholder i de fleste tilfælde både en teoretisk fremgangsmåde og løsning af "
         "det aktuelle eksempel.");
     text.finish();
+    ui.exerciseText->setAccessibleName(text.words());
+    for (Label* word : {ui.newExerciseWord, ui.okWord, ui.giveAnswerWord, ui.helpWord}) {
+        word->setDecorative(true);
+    }
 
+    setAccessibleDescription(
+        "F2 siger opgaven igen på enhver side; to gange F2 fortæller, hvad graferne viser. Ctrl og plus gør "
+        "siden "
+        "større, Ctrl og minus mindre. F10 åbner menuen.");
     connect(ui.nextPage, &Button::clicked, this, [this] { emit chosen(PageName::Form2); });
     ui.nextPage->setFocus();
 }

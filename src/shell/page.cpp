@@ -4,10 +4,10 @@
 
 #include <QApplication>
 #include <QMenu>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QShortcut>
+#include <QVBoxLayout>
 
 #include "controls/access_key.h"
 #include "controls/panel.h"
@@ -35,9 +35,11 @@ bool liesInFront(const QWidget& front, const QWidget& behind) {
 
 Page::Page(PageName name)
     : name_(name),
+      menuBar_(new QMenuBar(this)),
       view_(new QScrollArea(this)),
       design_(new QWidget),
-      topicMenu_(*menuBar(), name,
+      hearing_(*design_),
+      topicMenu_(*menuBar_, name,
                  {.open = [this](PageName target) { emit chosen(target); },
                   .close = [this] { emit closeChosen(); }}) {
     setObjectName(fromUtf8(textOf(name)));
@@ -51,14 +53,20 @@ Page::Page(PageName name)
     view_->setWidgetResizable(true);
     view_->setFrameShape(QFrame::NoFrame);
     view_->setFocusPolicy(Qt::NoFocus);
-    setCentralWidget(view_);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setMenuBar(menuBar_);
+    layout->addWidget(view_);
     bindZoomKeys(
         this, [this] { return zoom_; },
         [this](ZoomStep step) {
             setZoom(step);
             emit zoomed(step);
+            Voice::instance().say(QString("%1 procent").arg(qRound(step.factor() * 100)));
         });
+    connect(new QShortcut(Qt::Key_F2, this), &QShortcut::activated, this, &Page::sayOnDemand);
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*from*/, QWidget* to) {
+        taskIsSaid_ = false;
         if (to != nullptr && design_->isAncestorOf(to)) {
             view_->ensureWidgetVisible(to);
         }
@@ -66,13 +74,28 @@ Page::Page(PageName name)
     menuBar()->installEventFilter(this);
     // As on most desktops; and on pages where a button has the access key of the menu, the only key for it.
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, &Page::openMenu);
-    setMinimumSize(qRound(kDesignWidth), qRound(kDesignHeight) + menuBar()->sizeHint().height());
+    view_->setMinimumSize(qRound(kDesignWidth), qRound(kDesignHeight));
 }
 
-void Page::designIsReady() {
-    setWindowTitle(design_->windowTitle());
-    // Screen readers say it when the focus enters the page.
-    setAccessibleName(windowTitle());
+void Page::designIsReady() { setWindowTitle(design_->windowTitle()); }
+
+void Page::sayOnOpening() {
+    if (Voice::instance().isHeard()) {
+        task_ = (hearing_.task() + ' ' + accessibleDescription()).trimmed();
+        Voice::instance().say(task_);
+    }
+}
+
+void Page::sayOnDemand() {
+    const QString graphs = hearing_.graphs();
+    if (taskIsSaid_ && !graphs.isEmpty()) {
+        Voice::instance().say(graphs);
+    } else if (task_.isEmpty()) {
+        sayOnOpening();
+    } else {
+        Voice::instance().say(task_);
+    }
+    taskIsSaid_ = !taskIsSaid_;
 }
 
 void Page::setZoom(ZoomStep step) {
@@ -128,7 +151,7 @@ void Page::zoomMenu() {
 
 bool Page::focusNextPrevChild(bool next) {
     const QWidget* const start = focusWidget();
-    while (QMainWindow::focusNextPrevChild(next)) {
+    while (QWidget::focusNextPrevChild(next)) {
         const QWidget* const now = focusWidget();
         if (now == start || now == nullptr || !isUnderAPanel(*now)) {
             return true;
@@ -148,7 +171,7 @@ bool Page::isUnderAPanel(const QWidget& control) const {
 
 bool Page::eventFilter(QObject* watched, QEvent* event) {
     return (watched == menuBar() && clickedInsteadOfMenu(*design_, event)) ||
-           QMainWindow::eventFilter(watched, event);
+           QWidget::eventFilter(watched, event);
 }
 
 void Page::tell(const QString& message) {

@@ -8,6 +8,7 @@
 #include <QMenu>
 
 #include "controls/text.h"
+#include "controls/voice.h"
 
 namespace tavrune {
 namespace {
@@ -114,6 +115,11 @@ bool isOwnEntry(PageName page, PageName target) {
 TopicMenu::TopicMenu(QMenuBar& bar, PageName page, const Handlers& handlers)
     : menu_(bar.addMenu("&Indhold")) {
     menu_->setObjectName("Indhold");
+    QObject::connect(menu_, &QMenu::hovered, menu_, [](const QAction* entry) {
+        if (entry->menu() != nullptr) {
+            Voice::instance().say("undermenu");
+        }
+    });
     std::map<Subject, QMenu*> subjects{{Subject::None, menu_}};
     for (const MenuLine& line : topicTree()) {
         QMenu* const parent = subjects.at(line.parent);

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "conformance/form_suite.h"
+#include "controls/spoken.h"
 #include "support/blind_student.h"
 
 namespace tavrune {
@@ -153,13 +154,15 @@ TEST(NamesInWords, FollowTheCoordinateThatIsAskedFor) {
     EXPECT_EQ(names, (std::set<std::string>{"P", "Q"}));
 }
 
+std::string inWords(const std::string& text) { return spoken(QString::fromStdString(text)).toStdString(); }
+
 /// Tasks that are laid out in pieces are told as a whole.
 TEST(NamesInWords, TellAnIntegralAsAWhole) {
     SeededDraws draws(3);
     const FormDriver form(PageName::Integ, draws);
     EXPECT_TRUE(BlindStudent(form.page())
                     .hears(QAccessible::StaticText, "integralet fra " + form.caption("lowerLimit") + " til " +
-                                                        form.caption("upperLimit") + " af p dQ ="));
+                                                        form.caption("upperLimit") + " af p dQ lig med"));
 }
 
 TEST(NamesInWords, TellAFunctionInTwoPiecesAsAWhole) {
@@ -167,18 +170,17 @@ TEST(NamesInWords, TellAFunctionInTwoPiecesAsAWhole) {
     const FormDriver form(PageName::Integ2, draws);
     const BlindStudent student(form.page());
     const auto text = [&form](const char* label) { return form.caption(label); };
-    EXPECT_TRUE(student.hears(QAccessible::StaticText, "P1 = " + text("segment1Slope") + "Q + " +
-                                                           text("segment1Intercept") + " for 0 < Q < " +
-                                                           text("segment1End")));
-    EXPECT_TRUE(student.hears(QAccessible::StaticText, "P2 = " + text("segment2Slope") + "Q + " +
-                                                           text("segment2Intercept") + " for " +
-                                                           text("segment2Start") + " < Q < 10"));
-    EXPECT_TRUE(student.hears(
-        QAccessible::StaticText,
-        "integralet fra " + text("segment1LowerLimit") + " til " + text("segment1UpperLimit") + " af P1 dQ"));
-    EXPECT_TRUE(student.hears(QAccessible::StaticText, "plus integralet fra " + text("segment2LowerLimit") +
-                                                           " til " + text("segment2UpperLimit") +
-                                                           " af P2 dQ ="));
+    EXPECT_TRUE(student.hears(QAccessible::StaticText,
+                              inWords("P1 = " + text("segment1Slope") + "Q + " + text("segment1Intercept") +
+                                      " for 0 < Q < " + text("segment1End"))));
+    EXPECT_TRUE(student.hears(QAccessible::StaticText,
+                              inWords("P2 = " + text("segment2Slope") + "Q + " + text("segment2Intercept") +
+                                      " for " + text("segment2Start") + " < Q < 10")));
+    EXPECT_TRUE(student.hears(QAccessible::StaticText, "integralet fra " + text("segment1LowerLimit") +
+                                                           " til " + text("segment1UpperLimit") +
+                                                           " af P1 dQ, plus integralet fra " +
+                                                           text("segment2LowerLimit") + " til " +
+                                                           text("segment2UpperLimit") + " af P2 dQ lig med"));
 }
 
 TEST(NamesInWords, TellTheGivenFunctionsOfAnAdditionAsAWhole) {
@@ -202,7 +204,7 @@ TEST(NamesInWords, TellTheGivenFunctionsOfAnAdditionAsAWhole) {
         const FormDriver form(page, draws);
         const std::string where = before + (*kink == 0 ? "" : form.caption(kink)) + after;
         const std::string whole =
-            "P = " + form.caption(slope) + "Q + " + form.caption(intercept) + " for " + where;
+            inWords("P = " + form.caption(slope) + "Q + " + form.caption(intercept) + " for " + where);
         EXPECT_TRUE(BlindStudent(form.page()).hears(QAccessible::StaticText, whole)) << whole;
     }
 }
@@ -217,11 +219,11 @@ TEST(NamesInWords, FollowTheColumnsOfTheHelpTable) {
         kinds.insert(isWide);
         for (const char* column : {"Q1a", "Qtotalb"}) {
             EXPECT_EQ(student.hears(QAccessible::EditableText,
-                                    std::string("hjælpeskema, ") + column + ", anden række"),
+                                    std::string(column) + " i anden række af hjælpeskemaet"),
                       isWide);
         }
-        EXPECT_EQ(student.hears(QAccessible::EditableText, "hjælpeskema, Q1, anden række"), !isWide);
-        EXPECT_TRUE(student.hears(QAccessible::EditableText, "hjælpeskema, pris, femte række"));
+        EXPECT_EQ(student.hears(QAccessible::EditableText, "Q1 i anden række af hjælpeskemaet"), !isWide);
+        EXPECT_TRUE(student.hears(QAccessible::EditableText, "pris i femte række af hjælpeskemaet"));
         student.press("Ny opgave");
     }
     EXPECT_EQ(kinds.size(), 2U);
@@ -232,9 +234,10 @@ TEST(NamesInWords, KeepAWorkedSolutionFromAllUntilItIsUncovered) {
     const FormDriver form(PageName::Roedder, draws);
     const BlindStudent student(form.page());
     student.press("Hjælp");
-    EXPECT_FALSE(student.hears(QAccessible::StaticText, form.caption("workedDiscriminant")));
+    const std::string worked = inWords(form.caption("workedDiscriminant"));
+    EXPECT_FALSE(student.hears(QAccessible::StaticText, worked));
     student.press("Vis diskriminanten");
-    EXPECT_TRUE(student.hears(QAccessible::StaticText, form.caption("workedDiscriminant")));
+    EXPECT_TRUE(student.hears(QAccessible::StaticText, worked));
 }
 
 }  // namespace

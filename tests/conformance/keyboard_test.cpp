@@ -179,31 +179,42 @@ bool isReadBefore(const Page& page, const QWidget& one, const QWidget& other) {
     return std::abs(a.y() - b.y()) > kLevel ? a.y() < b.y() : a.x() < b.x();
 }
 
+bool isOnTheHelpPanel(const Page& page, const QWidget& widget) {
+    const auto* const panel = page.findChild<QWidget*>("helpPanel");
+    return panel != nullptr && panel->isAncestorOf(&widget);
+}
+
 TEST_P(Keyboard, LeadsByTabAsOneReads) {
-    // First the options, then the boxes, the standing buttons, and those of the panels.
-    const auto rank = [this](const QWidget& widget) {
+    // First the options, then the boxes, the graphs, the standing buttons, those of the panels, and their
+    // graphs.
+    const auto rank = [](const Page& page, const QWidget& widget) {
         if (qobject_cast<const OptionButton*>(&widget) != nullptr) {
             return 0;
         }
         if (qobject_cast<const AnswerBox*>(&widget) != nullptr) {
             return 1;
         }
+        if (qobject_cast<const GraphBox*>(&widget) != nullptr) {
+            return isOnTheHelpPanel(page, widget) ? 4 : 2;
+        }
         const std::string name = nameOf(widget);
         const Names standing{"newExercise", "ok", "giveAnswer", "help"};
-        return std::find(standing.begin(), standing.end(), name) == standing.end() ? 3 : 2;
+        return std::find(standing.begin(), standing.end(), name) == standing.end() ? 4 : 3;
     };
     inEveryState(5, 3, [&rank](Page& page, const char* state) {
+        const auto isBefore = [&](const QWidget& a, const QWidget& b) {
+            const int one = rank(page, a);
+            const int other = rank(page, b);
+            return one != other ? one < other : isReadBefore(page, a, b);
+        };
         std::vector<QWidget*> way = tabWay(page);
         ASSERT_FALSE(way.empty());
-        const auto first = std::min_element(way.begin(), way.end(), [&](const QWidget* a, const QWidget* b) {
-            return rank(*a) != rank(*b) ? rank(*a) < rank(*b) : isReadBefore(page, *a, *b);
-        });
+        const auto first = std::min_element(
+            way.begin(), way.end(), [&](const QWidget* a, const QWidget* b) { return isBefore(*a, *b); });
         std::rotate(way.begin(), first, way.end());
         for (std::size_t i = 1; i < way.size(); ++i) {
-            const QWidget& from = *way[i - 1];
-            const QWidget& to = *way[i];
-            EXPECT_TRUE(rank(from) != rank(to) ? rank(from) < rank(to) : isReadBefore(page, from, to))
-                << nameOf(from) << " -> " << nameOf(to) << ", " << state;
+            EXPECT_TRUE(isBefore(*way[i - 1], *way[i]))
+                << nameOf(*way[i - 1]) << " -> " << nameOf(*way[i]) << ", " << state;
         }
     });
 }

@@ -253,7 +253,7 @@ TEST(OptionButton, CanBeUncheckedWithTheWholeGroup) {
     EXPECT_FALSE(other.isChosen());
 }
 
-TEST(OptionButton, ChoosesItsNeighboursByTheArrowKeys) {
+TEST(OptionButton, IsBrowsedByTheArrowKeysAndChosenBySpaceOrEnter) {
     QWidget group;
     std::array<OptionButton, 3> options;
     AnswerBox box(&group);
@@ -264,19 +264,26 @@ TEST(OptionButton, ChoosesItsNeighboursByTheArrowKeys) {
     QObject::connect(&options[1], &OptionButton::clicked, &box, [&box] { focusOn(&box); });
     group.show();
     options[0].setFocus();
-    QTest::keyClick(&options[0], Qt::Key_Down);
+    const auto goes = [&group](OptionButton& from, Qt::Key key, const OptionButton& to) {
+        QTest::keyClick(&from, key);
+        return group.focusWidget() == &to;
+    };
+    EXPECT_TRUE(goes(options[0], Qt::Key_Down, options[1]));
+    EXPECT_TRUE(goes(options[1], Qt::Key_Right, options[2]));
+    EXPECT_TRUE(goes(options[2], Qt::Key_Down, options[0]));
+    EXPECT_TRUE(goes(options[0], Qt::Key_Left, options[2]));
+    options[1].setEnabled(false);
+    EXPECT_TRUE(goes(options[2], Qt::Key_Up, options[0]));
+    for (const OptionButton& option : options) {
+        EXPECT_FALSE(option.isChosen());
+    }
+    options[1].setEnabled(true);
+    EXPECT_TRUE(goes(options[0], Qt::Key_Down, options[1]));
+    QTest::keyClick(&options[1], Qt::Key_Space);
     EXPECT_TRUE(options[1].isChosen());
     EXPECT_EQ(group.focusWidget(), &box);
-    QTest::keyClick(&options[1], Qt::Key_Right);
+    QTest::keyClick(&options[2], Qt::Key_Return);
     EXPECT_TRUE(options[2].isChosen());
-    EXPECT_EQ(group.focusWidget(), &options[2]);
-    QTest::keyClick(&options[2], Qt::Key_Down);
-    EXPECT_TRUE(options[0].isChosen());
-    QTest::keyClick(&options[0], Qt::Key_Left);
-    EXPECT_TRUE(options[2].isChosen());
-    options[1].setEnabled(false);
-    QTest::keyClick(&options[2], Qt::Key_Up);
-    EXPECT_TRUE(options[0].isChosen());
 }
 
 TEST(OptionGroup, KnowsWhatTheChosenOptionStandsFor) {

@@ -28,7 +28,7 @@ namespace {
 using test::FormDriver;
 using Words = std::vector<std::string>;
 
-bool isSeen(const QWidget& widget) { return !widget.isHidden() && !isCovered(widget); }
+bool isInSight(const QWidget& widget) { return !widget.isHidden() && !isCovered(widget); }
 
 bool isPanel(const QWidget& widget) { return qobject_cast<const Panel*>(&widget) != nullptr; }
 
@@ -84,7 +84,7 @@ public:
         return *widget;
     }
 
-    [[nodiscard]] std::vector<Passage> read() const { return passages(panel_, isSeen); }
+    [[nodiscard]] std::vector<Passage> read() const { return passages(panel_, isInSight); }
     [[nodiscard]] Words words() const { return wordsOf(read()); }
     [[nodiscard]] Panel& panel() { return panel_; }
 
@@ -239,9 +239,9 @@ TEST(Reading, GoesIntoBoxesIfAsked) {
     label->setCaption("så");
     sheet.add("sidst", 10, 90);
     EXPECT_EQ(sheet.words(), (Words{"først", "sidst"}));
-    EXPECT_EQ(wordsOf(passages(sheet.panel(), isSeen, isPanel)), (Words{"først", "så", "sidst"}));
+    EXPECT_EQ(wordsOf(passages(sheet.panel(), isInSight, isPanel)), (Words{"først", "så", "sidst"}));
     inner.hide();
-    EXPECT_EQ(wordsOf(passages(sheet.panel(), isSeen, isPanel)), (Words{"først", "sidst"}));
+    EXPECT_EQ(wordsOf(passages(sheet.panel(), isInSight, isPanel)), (Words{"først", "sidst"}));
 }
 
 /// A form with its help open and all of it shown.
@@ -264,7 +264,7 @@ public:
     }
 
     [[nodiscard]] std::vector<Passage> read(const std::string& panel) const {
-        return passages(form_.find(panel), isSeen, isPanel);
+        return passages(form_.find(panel), isInSight, isPanel);
     }
 
     [[nodiscard]] FormDriver& form() { return form_; }
@@ -379,8 +379,8 @@ std::vector<Passage> everything(FormDriver& form) {
     std::vector<Passage> all;
     QWidget* const design = form.button("newExercise").parentWidget();
     for (QWidget* const region : design->findChildren<QWidget*>() + QList<QWidget*>{design}) {
-        if ((isPanel(*region) || region == design) && region->isVisible() && isSeen(*region)) {
-            const std::vector<Passage> read = passages(*region, isSeen);
+        if ((isPanel(*region) || region == design) && region->isVisible() && isInSight(*region)) {
+            const std::vector<Passage> read = passages(*region, isInSight);
             all.insert(all.end(), read.begin(), read.end());
         }
     }
@@ -407,7 +407,7 @@ TEST_P(ReadingOf, SaysEachLabelOnceInWordsOnly) {
         QWidget* const design = help.form().button("newExercise").parentWidget();
         for (const Label* const label : design->findChildren<Label*>()) {
             const QWidget* const box = label->parentWidget();
-            if (label->isVisible() && isSeen(*label) && !label->text().trimmed().isEmpty() &&
+            if (label->isVisible() && isInSight(*label) && !label->text().trimmed().isEmpty() &&
                 !label->isDecorative() && (isPanel(*box) || box == design)) {
                 EXPECT_EQ(times[label], 1) << label->objectName().toStdString() << " with seed " << seed;
             }

@@ -413,7 +413,7 @@ class Announcement : public LifeCycle {
 protected:
     /// What is said when "&OK" is pressed.
     static QStringList heard(Sample& s) {
-        QSignalSpy announced(&s, &ExerciseForm::announced);
+        QSignalSpy announced(&Voice::instance(), &Voice::said);
         s.ok.click();
         QStringList words;
         for (const QList<QVariant>& one : announced) {
@@ -443,9 +443,9 @@ TEST_F(Announcement, NamesTheFieldsThatTurnRedAfterTheVerdictFromTheTop) {
             judged.second.mark(true);
             judged.first.mark(true);
         };
-        EXPECT_EQ(heard(s), QStringList{"FORKERT: hældning, skæring"});
+        EXPECT_EQ(heard(s), QStringList{"FORKERT: hældning; skæring."});
         const Label& verdict = kind == VerdictKind::One ? s.right : s.wrong;
-        EXPECT_EQ(verdict.accessibleName(), "FORKERT: hældning, skæring");
+        EXPECT_EQ(verdict.accessibleName(), "FORKERT: hældning; skæring");
         EXPECT_EQ(verdict.caption(), "FORKERT");
     }
 }
@@ -455,7 +455,7 @@ TEST_F(Announcement, LeavesOutRedFieldsThatAreNotShown) {
     s.first.mark(true);
     s.first.hide();
     s.judging = [](Sample& judged) { judged.showFailed(); };
-    EXPECT_EQ(heard(s), QStringList{"FORKERT"});
+    EXPECT_EQ(heard(s), QStringList{"FORKERT."});
 }
 
 TEST_F(Announcement, SaysThatAllIsRightAfterAWrongTry) {
@@ -465,12 +465,12 @@ TEST_F(Announcement, SaysThatAllIsRightAfterAWrongTry) {
             judged.showFailed();
             judged.first.mark(true);
         };
-        EXPECT_EQ(heard(s), QStringList{"FORKERT: hældning"});
+        EXPECT_EQ(heard(s), QStringList{"FORKERT: hældning."});
         s.judging = [](Sample& judged) {
             judged.first.mark(false);
             judged.showSolved();
         };
-        EXPECT_EQ(heard(s), QStringList{"RIGTIGT"});
+        EXPECT_EQ(heard(s), QStringList{"RIGTIGT."});
         EXPECT_EQ(s.right.accessibleName(), "RIGTIGT");
     }
 }
@@ -482,7 +482,7 @@ TEST_F(Announcement, TakesTheWrongVerdictWhereBothAreShown) {
         judged.showWrong();
         judged.second.mark(true);
     };
-    EXPECT_EQ(heard(s), QStringList{"FORKERT: skæring"});
+    EXPECT_EQ(heard(s), QStringList{"FORKERT: skæring."});
 }
 
 TEST_F(Announcement, IsSilentWhereNothingIsJudged) {

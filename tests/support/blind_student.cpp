@@ -115,16 +115,19 @@ std::vector<std::string> BlindStudent::wrongFields() const {
 }
 
 std::string BlindStudent::verdict() const {
-    const std::vector<std::string> verdicts = names(QAccessible::Notification);
-    return verdicts.empty() ? "" : verdicts.front();
+    const std::vector<std::string> texts = names(QAccessible::StaticText);
+    const auto verdict = std::find_if(texts.begin(), texts.end(), [](const std::string& text) {
+        return text.rfind("RIGTIGT", 0) == 0 || text.rfind("FORKERT", 0) == 0;
+    });
+    return verdict == texts.end() ? "" : *verdict;
 }
 
 std::vector<std::string> BlindStudent::heard() {
     std::vector<std::string> heard;
-    for (const QList<QVariant>& words : announced_) {
+    for (const QList<QVariant>& words : said_) {
         heard.push_back(words.front().toString().toStdString());
     }
-    announced_.clear();
+    said_.clear();
     return heard;
 }
 

@@ -8,6 +8,8 @@
 #include <QSignalSpy>
 #include <QWidget>
 
+#include "controls/voice.h"
+
 namespace tavrune::test {
 
 /// Knows of a page only what a screen reader is told: roles, names, descriptions, states, values, actions. A
@@ -15,8 +17,7 @@ namespace tavrune::test {
 class BlindStudent {
 public:
     explicit BlindStudent(QWidget& page)
-        : page_(QAccessible::queryAccessibleInterface(&page)),
-          announced_(&page, SIGNAL(announced(QString))) {}
+        : page_(QAccessible::queryAccessibleInterface(&page)), said_(&Voice::instance(), &Voice::said) {}
 
     /// All that is not told to be invisible, in the order of the tree.
     [[nodiscard]] std::vector<QAccessibleInterface*> things() const;
@@ -38,8 +39,7 @@ public:
     [[nodiscard]] std::vector<std::string> wrongFields() const;
     /// The verdict that stands on the page; empty if there is none.
     [[nodiscard]] std::string verdict() const;
-    /// What has been announced since the last call. Qt itself delivers announcements only where a screen
-    /// reader runs, so the page is listened to.
+    /// What has been said since the last call. Qt itself delivers it only where a screen reader runs.
     [[nodiscard]] std::vector<std::string> heard();
 
 private:
@@ -47,7 +47,7 @@ private:
     void act(QAccessible::Role role, const std::string& name) const;
 
     QAccessibleInterface* page_;
-    QSignalSpy announced_;
+    QSignalSpy said_;
 };
 
 [[nodiscard]] std::string nameOf(const QAccessibleInterface& thing);

@@ -134,7 +134,7 @@ void AnswerRows::nameShownBoxes() const {
     for (std::size_t place = 0; place < shown.size() && place < kOrdinals.size(); ++place) {
         const Row& row = shown[place];
         const QString which =
-            shown.size() == 1 ? QString() : QString(", %1 stykke").arg(fromUtf8(kOrdinals.at(place)));
+            shown.size() == 1 ? QString() : QString(" for %1 stykke").arg(fromUtf8(kOrdinals.at(place)));
         for (const auto& [box, what] : {std::pair{row.slope, "hældning"},
                                         {row.intercept, "konstantled"},
                                         {row.start, "begyndelse i Q"},

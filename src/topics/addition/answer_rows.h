@@ -50,7 +50,7 @@ public:
     /// Writes a blank into every box and takes its red away.
     void blank() const;
     void whiten() const;
-    /// Names the boxes for screen readers, "hældning, andet stykke", counted over the rows that are shown.
+    /// Names the boxes for screen readers, "hældning for andet stykke", counted over the rows that are shown.
     void nameShownBoxes() const;
     void write(int row, Slot slot, const TableCell& content) const;
     /// Writes the slope and the intercept of a segment.

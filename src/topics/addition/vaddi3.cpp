@@ -91,7 +91,7 @@ void Vaddi3::nameTable() {
     for (std::size_t column = 0; column < table_.size(); ++column) {
         for (std::size_t row = 0; row < kRows.size(); ++row) {
             table_[column][row]->setAccessibleName(
-                QString("hjælpeskema, %1, %2 række")
+                QString("%1 i %2 række af hjælpeskemaet")
                     .arg(fromUtf8(columns.at(column)), fromUtf8(kRows.at(row))));
         }
     }

@@ -147,10 +147,10 @@ TEST_F(TwoRows, GiveTheBoxesOfFieldsInTheirOrder) {
 
 TEST_F(TwoRows, NameTheirBoxesByTheOrderOfTheRows) {
     rows.nameShownBoxes();
-    EXPECT_EQ(slope1.accessibleName(), "hældning, første stykke");
-    EXPECT_EQ(end1.accessibleName(), "slut i Q, første stykke");
-    EXPECT_EQ(intercept2.accessibleName(), "konstantled, andet stykke");
-    EXPECT_EQ(start2.accessibleName(), "begyndelse i Q, andet stykke");
+    EXPECT_EQ(slope1.accessibleName(), "hældning for første stykke");
+    EXPECT_EQ(end1.accessibleName(), "slut i Q for første stykke");
+    EXPECT_EQ(intercept2.accessibleName(), "konstantled for andet stykke");
+    EXPECT_EQ(start2.accessibleName(), "begyndelse i Q for andet stykke");
     slope1.hide();
     rows.nameShownBoxes();
     EXPECT_EQ(slope2.accessibleName(), "hældning");
