@@ -60,6 +60,13 @@ void ExerciseForm::bindRoles() {
     graphsAfterFields();
 }
 
+void ExerciseForm::leaveGraphs() {
+    const QWidget* const first = focusWidget();
+    while (qobject_cast<GraphBox*>(focusWidget()) != nullptr && focusNextPrevChild(true) &&
+           focusWidget() != first) {
+    }
+}
+
 void ExerciseForm::graphsAfterFields() {
     const auto isOnThePage = [this](const QWidget* control) {
         return helpPanel_ == nullptr || !helpPanel_->isAncestorOf(control);
@@ -110,6 +117,7 @@ void ExerciseForm::run(const std::function<void()>& action) {
     }
     try {
         action();
+        leaveGraphs();
         if (isHeard) {
             Voice::instance().say(hearing().news().join(' '));
         }

@@ -145,6 +145,8 @@ private:
     static void announce(Label* verdict, const QString& words);
     /// Says the task, which makes all that is seen old news.
     void sayTask();
+    /// What hides the control with the focus hands it on; a graph is none to go on with.
+    void leaveGraphs();
     /// Graphs come after the fields on the way of Tab, whatever lies over what.
     void graphsAfterFields();
     /// Draws a new exercise and says its task.

@@ -4,6 +4,8 @@
 #include <QTimer>
 
 #include "controls/text.h"
+#include "controls/voice.h"
+#include "shell/hearing.h"
 #include "shell/page_name.h"
 #include "shell/ui_frm_about.h"
 
@@ -30,6 +32,14 @@ void FrmAbout::showEvent(QShowEvent* event) {
         centre();
     }
     QWidget::showEvent(event);
+}
+
+void FrmAbout::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && Voice::instance().isHeard()) {
+        // After a reader has said the title.
+        QTimer::singleShot(0, this, [this] { Voice::instance().say(Hearing(*this).task()); });
+    }
 }
 
 void FrmAbout::paintEvent(QPaintEvent* event) {

@@ -9,6 +9,8 @@
 #include "controls/answer_box.h"
 #include "controls/label.h"
 #include "controls/panel.h"
+#include "controls/reading.h"
+#include "controls/spoken.h"
 #include "controls/text.h"
 #include "graph/description.h"
 
@@ -23,7 +25,7 @@ QString sentence(QString words) {
     return isEnded ? words : words + '.';
 }
 
-QString fieldText(const AnswerBox& box) { return box.accessibleName() + ": " + box.text(); }
+QString fieldText(const AnswerBox& box) { return box.accessibleName() + ": " + spoken(box.text()); }
 
 /// All that can be read, but for the verdict, which is announced with more words.
 bool isText(const QWidget& widget) {
@@ -79,6 +81,13 @@ QString Hearing::task() const {
     for (const Passage& passage : passages(*design_, isText, isPanel)) {
         if (!isGlue(*design_, passage, boxes)) {
             words << sentence(passage.words);
+        }
+    }
+    for (const GraphBox* graph : design_->findChildren<GraphBox*>()) {
+        for (const Passage& passage : passages(*graph, isText)) {
+            if (graph->isChart() && isSeen(*graph) && !isMark(passage.words)) {
+                words << sentence(passage.words);
+            }
         }
     }
     for (const AnswerBox* box : boxes) {

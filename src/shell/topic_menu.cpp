@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QTimer>
 
 #include "controls/text.h"
 #include "controls/voice.h"
@@ -117,7 +118,8 @@ TopicMenu::TopicMenu(QMenuBar& bar, PageName page, const Handlers& handlers)
     menu_->setObjectName("Indhold");
     QObject::connect(menu_, &QMenu::hovered, menu_, [](const QAction* entry) {
         if (entry->menu() != nullptr) {
-            Voice::instance().say("undermenu");
+            // After its name, which comes with the focus.
+            QTimer::singleShot(0, &Voice::instance(), [] { Voice::instance().say("undermenu"); });
         }
     });
     std::map<Subject, QMenu*> subjects{{Subject::None, menu_}};
