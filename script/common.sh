@@ -75,6 +75,10 @@ need_package() {
 }
 need_bare() { need debootstrap; }
 need_proof() { need strace dbus xvfb openbox xdotool x11-utils clang libclang-rt-dev; }
+need_listen() {
+    need orca at-spi2-core dbus speech-dispatcher speech-dispatcher-audio-plugins libao4 xvfb openbox xdotool x11-utils \
+        python3-pyatspi python3-speechd locales
+}
 
 # Runs a command that has something to say only if it fails.
 quietly() {
