@@ -56,7 +56,7 @@ bool isInFront(const QWidget& front, const QWidget& behind) {
 ///     focus              what it has: the name and what it is called there
 ///     box                name, what it is called, what stands in it, whether it is marked as wrong
 ///     option             name, caption, whether it is chosen, or shown to be right
-///     button             name, caption
+///     button             name, caption, unless it lies under a blank
 ///     verdict            as it is shown
 ///     task, panel, graph a label on the page, on a panel, on a graph: name and text
 ///     covered            a label that lies under a blank one
@@ -125,7 +125,9 @@ private:
                   : option->backColour() == kGreen ? "right"
                                                    : ""});
         } else if (const auto* const button = qobject_cast<const Button*>(&widget)) {
-            tell({"button", name, button->text()});
+            if (!isUnderABlank(*button)) {
+                tell({"button", name, button->text()});
+            }
         } else if (const auto* const label = qobject_cast<const Label*>(&widget);
                    label != nullptr && !label->text().trimmed().isEmpty()) {
             tell({label->isVerdict()      ? "verdict"
@@ -135,11 +137,11 @@ private:
         }
     }
 
-    [[nodiscard]] bool isUnderABlank(const Label& label) const {
-        const QPoint middle = label.mapTo(window_, label.rect().center());
+    [[nodiscard]] bool isUnderABlank(const QWidget& widget) const {
+        const QPoint middle = widget.mapTo(window_, widget.rect().center());
         return std::any_of(blanks_.begin(), blanks_.end(), [&](const QWidget* blank) {
-            return !blank->isAncestorOf(&label) && blank->rect().contains(blank->mapFrom(window_, middle)) &&
-                   isInFront(*blank, label);
+            return !blank->isAncestorOf(&widget) && blank->rect().contains(blank->mapFrom(window_, middle)) &&
+                   isInFront(*blank, widget);
         });
     }
 
