@@ -121,7 +121,8 @@ TEST_P(EveryFormIsHeard, SaysTheGivenAnswerFieldByField) {
     for (const AnswerBox* box : form.page().findChildren<AnswerBox*>()) {
         if (isSeen(*box) && !box->text().trimmed().isEmpty() &&
             !box->accessibleName().endsWith("hjælpeskemaet")) {
-            EXPECT_TRUE(said.contains(box->accessibleName() + ": " + spoken(box->text()))) << said.toStdString();
+            EXPECT_TRUE(said.contains(box->accessibleName() + ": " + spoken(box->text())))
+                << said.toStdString();
         }
     }
 }
