@@ -23,12 +23,6 @@ bool isOfText(QAccessible::Event type) {
     }
 }
 
-/// What a program does to a text before the focus comes has Orca take the field for said.
-bool hasNoFocus(QObject* object) {
-    const auto* const widget = qobject_cast<QWidget*>(object);
-    return widget != nullptr && !widget->hasFocus();
-}
-
 QString nameOf(QWidget& widget) {
     const QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&widget);
     const QString name = interface == nullptr ? QString() : interface->text(QAccessible::Name);
@@ -89,7 +83,8 @@ void Voice::filter(QAccessibleEvent& event) {
     if (event.type() == QAccessible::Focus) {
         focus_ = event.object();
     }
-    if (!isOfText(event.type()) || (rounds_ == 0 && !hasNoFocus(event.object()))) {
+    // A field whose text or selection changes before a reader knows of its focus is taken for said by it.
+    if (!isOfText(event.type()) || (rounds_ == 0 && event.object() == focus_)) {
         deliver(event);
     }
 }

@@ -288,6 +288,7 @@ QStringList ExerciseForm::wrongFields() const {
 
 void ExerciseForm::sayTask() {
     Page::sayOnOpening();
+    Voice::instance().tellFocusAgain();
     if (Voice::instance().isHeard()) {
         hearing().takeForSaid();
     }
