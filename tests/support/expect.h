@@ -74,6 +74,15 @@ inline void expectBlank(const Student& form, std::initializer_list<const char*> 
     }
 }
 
+/// By the font of their captions.
+inline void expectUnderlined(const Student& form, std::initializer_list<const char*> labels,
+                             bool isUnderlined = true, const Where& where = Where::current()) {
+    const testing::ScopedTrace asked(where.file_name(), static_cast<int>(where.line()), "asked here");
+    for (const char* label : labels) {
+        EXPECT_EQ(form.label(label).font().underline(), isUnderlined) << label;
+    }
+}
+
 /// The focus stands on the first of some controls, and Enter leads from each to the next.
 inline void expectWayByEnter(const Student& form, std::initializer_list<const char*> way,
                              const Where& where = Where::current()) {

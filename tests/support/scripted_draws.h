@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <initializer_list>
+#include <optional>
+#include <source_location>
 #include <stdexcept>
 #include <vector>
 
@@ -59,13 +61,23 @@ private:
     int drawnTooOften_ = 0;
 };
 
-/// The exercise that a script makes of an untouched state, by just its draws.
+/// How often a generator is to reseed until an exercise stands.
+struct Reseeds {
+    int times;
+};
+
+/// The exercise that a script makes of an untouched state, by just its draws and, where they are told, just
+/// so many reseedings.
 template <class State>
-[[nodiscard]] State exerciseOf(const std::vector<float>& script) {
+[[nodiscard]] State exerciseOf(const std::vector<float>& script, std::optional<Reseeds> reseeds = {},
+                               const std::source_location& where = std::source_location::current()) {
     ScriptedDraws draws(script);
     State state;
     newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
+    EXPECT_TRUE(draws.isUsedUp()) << where.file_name() << ":" << where.line();
+    if (reseeds) {
+        EXPECT_EQ(draws.randomized(), reseeds->times) << where.file_name() << ":" << where.line();
+    }
     return state;
 }
 

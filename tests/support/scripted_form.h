@@ -16,6 +16,9 @@
 
 namespace tavrune::test {
 
+/// Typed texts that are no answer: out of every range, no number, and far too long.
+inline const std::vector<std::string> kRoughTexts{"1e308", "-1e999", "æ;", std::string(100'000, '9')};
+
 /// A form of which every draw is written down. `Told` is what a test tells of an exercise.
 template <class... Told>
 class ScriptedForm : public testing::Test {

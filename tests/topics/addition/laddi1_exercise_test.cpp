@@ -87,57 +87,40 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Laddi1Generator, TakesTheCoinThenTheSlopeThenTheInterceptOfEachFunction) {
     const Laddi1State s = test::exerciseOf<Laddi1State>({0.49F, 0.7F, 0.5F, 0.5F, 0.3F, 0.9F});
-    EXPECT_EQ(s.function1.slope, -3);
-    EXPECT_EQ(s.function1.intercept, 2);
-    EXPECT_EQ(s.function2.slope, 1);
-    EXPECT_EQ(s.function2.intercept, 4);
+    EXPECT_EQ(s.function1, (Piece{-3, 2}));
+    EXPECT_EQ(s.function2, (Piece{1, 4}));
 }
 
 TEST(Laddi1Generator, LetsAFunctionRiseFromOneHalfOn) {
     const float belowHalf = std::nextafter(0.5F, 0.0F);
-    ScriptedDraws draws{belowHalf, 0.7F, 0.5F, 0.5F, 0.7F, 0.5F};
-    Laddi1State s;
-    newExercise(s, draws);
+    const Laddi1State s = test::exerciseOf<Laddi1State>({belowHalf, 0.7F, 0.5F, 0.5F, 0.7F, 0.5F});
     EXPECT_EQ(s.function1.slope, -3);
     EXPECT_EQ(s.function2.slope, 3);
 }
 
 TEST(Laddi1Generator, ReachesBothEndsOfEachRange) {
-    ScriptedDraws falling{0, kLargestDraw, kLargestDraw, 0, kLargestDraw, 0};
-    Laddi1State s;
-    newExercise(s, falling);
-    EXPECT_EQ(s.function1.slope, -4);
-    EXPECT_EQ(s.function1.intercept, 4);
-    EXPECT_EQ(s.function2.slope, -4);
-    EXPECT_EQ(s.function2.intercept, 0);
-    ScriptedDraws rising{0.5F, kLargestDraw, 0, kLargestDraw, kLargestDraw, kLargestDraw};
-    newExercise(s, rising);
-    EXPECT_EQ(s.function1.slope, 4);
-    EXPECT_EQ(s.function1.intercept, 0);
-    EXPECT_EQ(s.function2.slope, 4);
-    EXPECT_EQ(s.function2.intercept, 4);
+    const Laddi1State falling =
+        test::exerciseOf<Laddi1State>({0, kLargestDraw, kLargestDraw, 0, kLargestDraw, 0});
+    EXPECT_EQ(falling.function1, (Piece{-4, 4}));
+    EXPECT_EQ(falling.function2, (Piece{-4, 0}));
+    const Laddi1State rising =
+        test::exerciseOf<Laddi1State>({0.5F, kLargestDraw, 0, kLargestDraw, kLargestDraw, kLargestDraw});
+    EXPECT_EQ(rising.function1, (Piece{4, 0}));
+    EXPECT_EQ(rising.function2, (Piece{4, 4}));
 }
 
 TEST(Laddi1Generator, DrawsTheFirstFunctionAgainWhileItIsTheAxisAndReseedsEachTime) {
-    ScriptedDraws draws(scriptOf(true, 0, 0) + scriptOf(false, 0, 0) + scriptOf({-3, 4}, {0, 0}));
-    Laddi1State s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 3);
+    const Laddi1State s = test::exerciseOf<Laddi1State>(
+        scriptOf(true, 0, 0) + scriptOf(false, 0, 0) + scriptOf({-3, 4}, {0, 0}), test::Reseeds{3});
     EXPECT_EQ(s.function1.slope, -3);
-    EXPECT_EQ(s.function2.slope, 0);
-    EXPECT_EQ(s.function2.intercept, 0);
+    EXPECT_EQ(s.function2, (Piece{0, 0}));
 }
 
 TEST(Laddi1Generator, NeverRejectsTheSecondFunctionNorReseedsForIt) {
     for (const bool isFallingDrawn : {true, false}) {
-        ScriptedDraws draws(scriptOf(DrawnFunction{0, 1}) + scriptOf(isFallingDrawn, 0, 0));
-        Laddi1State s;
-        newExercise(s, draws);
-        EXPECT_TRUE(draws.isUsedUp());
-        EXPECT_EQ(draws.randomized(), 1);
-        EXPECT_EQ(s.function2.slope, 0);
-        EXPECT_EQ(s.function2.intercept, 0);
+        const Laddi1State s = test::exerciseOf<Laddi1State>(
+            scriptOf(DrawnFunction{0, 1}) + scriptOf(isFallingDrawn, 0, 0), test::Reseeds{1});
+        EXPECT_EQ(s.function2, (Piece{0, 0}));
     }
 }
 
@@ -148,8 +131,7 @@ TEST(Laddi1Generator, KeepsTheUpperEndAndTheSecondSegmentWhereAnExerciseHasNone)
     newExercise(s, draws);
     EXPECT_FALSE(s.upperEndAsked);
     EXPECT_EQ(s.upperEnd, 2);
-    EXPECT_EQ(s.secondSegment.slope, -1);
-    EXPECT_EQ(s.secondSegment.intercept, 2);
+    EXPECT_EQ(s.secondSegment, (Piece{-1, 2}));
     EXPECT_EQ(s.kinkQuantity, 0);
 }
 

@@ -359,54 +359,45 @@ TEST(Laddi2Exercises, KeepTheUpperEndOfAnEarlierOneWhereTheyHaveNone) {
 }
 
 TEST(Laddi2Generator, TakesTheKinksThenCoinSlopeAndInterceptOfEachPiece) {
-    ScriptedDraws draws{0.1F, 0.9F, 0.8F, 0.5F, 0.3F, 0.2F, 0.7F, 0.9F, 0.9F, 0.3F, 0.7F, 0.7F, 0.3F, 0.1F};
-    Laddi2State s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 1);
+    const Laddi2State s = test::exerciseOf<Laddi2State>(
+        {0.1F, 0.9F, 0.8F, 0.5F, 0.3F, 0.2F, 0.7F, 0.9F, 0.9F, 0.3F, 0.7F, 0.7F, 0.3F, 0.1F},
+        test::Reseeds{1});
     expectFunction(s.function1, {3, {2, 1}, {-3, 9 + 9}});
     expectFunction(s.function2, {7, {1, 3}, {1, 1 - 7}});
 }
 
 TEST(Laddi2Generator, ReachesBothEndsOfEachRange) {
-    ScriptedDraws low{0, 0, 0.7F, 0, kLargestDraw, 0, 0, 0, 0.7F, kLargestDraw, 0, 0.5F, 0, 0};
-    Laddi2State s;
-    newExercise(s, low);
+    Laddi2State s = test::exerciseOf<Laddi2State>(
+        {0, 0, 0.7F, 0, kLargestDraw, 0, 0, 0, 0.7F, kLargestDraw, 0, 0.5F, 0, 0});
     expectFunction(s.function1, {3, {0, 4}, {0, 5}});
     expectFunction(s.function2, {3, {4, 0}, {0, 1}});
     const float most = kLargestDraw;
-    ScriptedDraws high{most, most, 0.7F, most, most, 0, most, most, 0.7F, most, most, 0.5F, most, most};
-    newExercise(s, high);
+    s = test::exerciseOf<Laddi2State>(
+        {most, most, 0.7F, most, most, 0, most, most, 0.7F, most, most, 0.5F, most, most});
     expectFunction(s.function1, {7, {4, 4}, {-4, 9 + 28}});
     expectFunction(s.function2, {7, {4, 4}, {4, 5 - 28}});
-    ScriptedDraws lowest{most, most, 0.7F, most, most, 0.5F, most, 0, 0.7F, most, most, 0.5F, most, 0};
-    newExercise(s, lowest);
+    s = test::exerciseOf<Laddi2State>(
+        {most, most, 0.7F, most, most, 0.5F, most, 0, 0.7F, most, most, 0.5F, most, 0});
     expectFunction(s.function1, {7, {4, 4}, {4, 1 - 28}});
-    for (const ScriptedDraws* draws : {&low, &high, &lowest}) {
-        EXPECT_TRUE(draws->isUsedUp());
-    }
 }
 
 // The share of falling first pieces is a single: a draw of just 0.7 is not below it.
 TEST(Laddi2Generator, LetsAFirstPieceRiseFromTheSingleSevenTenthsOn) {
     const Script rest = afterScriptOf(3, {0, 3}) + beforeScriptOf({1, 1}) + afterScriptOf(3, {0, 3});
     const float below = std::nextafter(0.7F, 0.0F);
-    ScriptedDraws rising(kinkScriptOf(3, 3) + Script{0.7F, cellOf(1, 5), cellOf(4, 5)} + rest);
-    Laddi2State s;
-    newExercise(s, rising);
-    EXPECT_EQ(s.function1.before.slope, 1);
-    ScriptedDraws falling(kinkScriptOf(3, 3) + Script{below, cellOf(1, 5), cellOf(4, 5)} + rest);
-    newExercise(s, falling);
-    EXPECT_EQ(s.function1.before.slope, -1);
+    const Laddi2State rising =
+        test::exerciseOf<Laddi2State>(kinkScriptOf(3, 3) + Script{0.7F, cellOf(1, 5), cellOf(4, 5)} + rest);
+    EXPECT_EQ(rising.function1.before.slope, 1);
+    const Laddi2State falling =
+        test::exerciseOf<Laddi2State>(kinkScriptOf(3, 3) + Script{below, cellOf(1, 5), cellOf(4, 5)} + rest);
+    EXPECT_EQ(falling.function1.before.slope, -1);
 }
 
 TEST(Laddi2Generator, LetsASecondPieceRiseFromOneHalfOn) {
     const auto drawn = [](float coin) {
-        ScriptedDraws draws(kinkScriptOf(4, 5) + beforeScriptOf({1, 1}) +
-                            Script{coin, cellOf(2, 5), cellOf(0, 5)} + beforeScriptOf({1, 1}) +
-                            afterScriptOf(5, {0, 3}));
-        Laddi2State s;
-        newExercise(s, draws);
+        const Laddi2State s = test::exerciseOf<Laddi2State>(
+            kinkScriptOf(4, 5) + beforeScriptOf({1, 1}) + Script{coin, cellOf(2, 5), cellOf(0, 5)} +
+            beforeScriptOf({1, 1}) + afterScriptOf(5, {0, 3}));
         return drawnOf(s.function1.after);
     };
     EXPECT_EQ(drawn(0.5F), (DrawnPiece{2, 1 - 8}));
@@ -500,14 +491,11 @@ INSTANTIATE_TEST_SUITE_P(FirstPieces, Laddi2Rejection,
 
 // Back to the second piece of function 1, then only to function 2's own, then on.
 TEST(Laddi2Generator, MixesBothWaysOfGoingBack) {
-    ScriptedDraws draws(kinkScriptOf(3, 7) + beforeScriptOf({0, 2}) + afterScriptOf(3, {1, 0}) +
-                        beforeScriptOf(true, 0, 0) + beforeScriptOf({-1, 4}) + afterScriptOf(3, {-1, 8}) +
-                        beforeScriptOf(false, 0, 0) + beforeScriptOf(true, 0, 0) + beforeScriptOf({1, 3}) +
-                        afterScriptOf(7, {-4, 36}));
-    Laddi2State s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 1);
+    const Laddi2State s = test::exerciseOf<Laddi2State>(
+        kinkScriptOf(3, 7) + beforeScriptOf({0, 2}) + afterScriptOf(3, {1, 0}) + beforeScriptOf(true, 0, 0) +
+            beforeScriptOf({-1, 4}) + afterScriptOf(3, {-1, 8}) + beforeScriptOf(false, 0, 0) +
+            beforeScriptOf(true, 0, 0) + beforeScriptOf({1, 3}) + afterScriptOf(7, {-4, 36}),
+        test::Reseeds{1});
     expectFunction(s.function1, {3, {0, 2}, {-1, 8}});
     expectFunction(s.function2, {7, {1, 3}, {-4, 36}});
 }
@@ -600,10 +588,9 @@ TEST(Laddi2Texts, HaveALineForTheNumbersOfASecondPieceByTheSignOfItsIntercept) {
 
 // The side of the coin leaves no sign on a level piece: not "-0", and " + " before it.
 TEST(Laddi2Texts, ShowALevelPieceThatWasDrawnAsFallingWithoutASign) {
-    ScriptedDraws draws(kinkScriptOf(4, 4) + beforeScriptOf(true, 0, 3) + afterScriptOf(true, 0, 1) +
-                        beforeScriptOf(true, 0, 2) + afterScriptOf(true, 0, 0));
-    Laddi2State s;
-    newExercise(s, draws);
+    const Laddi2State s = test::exerciseOf<Laddi2State>(
+        kinkScriptOf(4, 4) + beforeScriptOf(true, 0, 3) + afterScriptOf(true, 0, 1) +
+        beforeScriptOf(true, 0, 2) + afterScriptOf(true, 0, 0));
     EXPECT_EQ(s.breakPoints, (std::vector<double>{4, 100}));
     EXPECT_EQ(segmentText(s, 0), "P = (0 + 0)Q + (3 + 2) = 0Q + 5 for 0<X<4");
     EXPECT_EQ(segmentText(s, 1), "P = (0 + 0)Q + (6 + 5) = 0Q + 11 for 4<X");

@@ -47,12 +47,8 @@ Script functionDraws(int direction, const Three& functions) {
 }
 
 Vaddi2State drawn(int direction, const Three& functions) {
-    ScriptedDraws draws(directionDraw(direction) + functionDraws(direction, functions));
-    Vaddi2State state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 1);
-    return state;
+    return test::exerciseOf<Vaddi2State>(directionDraw(direction) + functionDraws(direction, functions),
+                                         test::Reseeds{1});
 }
 
 std::string textOfRow(const Vaddi2State& s, std::size_t row) {
@@ -85,11 +81,8 @@ std::vector<std::string> fieldsOf(const Vaddi2State& s) {
 }
 
 TEST(Vaddi2Draw, TakesTheDirectionThenSlopeAndInterceptOfEachFunction) {
-    ScriptedDraws draws{0.3F, 0.2F, 0.4F, 0.6F, 0.8F, 0.9F, 0.1F};
-    Vaddi2State state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 1);
+    const Vaddi2State state =
+        test::exerciseOf<Vaddi2State>({0.3F, 0.2F, 0.4F, 0.6F, 0.8F, 0.9F, 0.1F}, test::Reseeds{1});
     EXPECT_EQ(state.direction, Direction::Falling);
     EXPECT_EQ(state.functions, (std::array{Piece{-1, 7}, Piece{-3, 9}, Piece{-4, 5}}));
 }
@@ -99,18 +92,15 @@ TEST(Vaddi2Draw, RisesBelowAQuarter) {
                                           {std::nextafter(0.25F, 0.0F), Direction::Rising},
                                           {0.25F, Direction::Falling},
                                           {kLargestDraw, Direction::Falling}}) {
-        ScriptedDraws draws{draw, 0.2F, 0.4F, 0.6F, 0.8F, 0.9F, 0.1F};
-        Vaddi2State state;
-        newExercise(state, draws);
+        const Vaddi2State state = test::exerciseOf<Vaddi2State>({draw, 0.2F, 0.4F, 0.6F, 0.8F, 0.9F, 0.1F});
         EXPECT_EQ(state.direction, direction) << draw;
     }
 }
 
 TEST(Vaddi2Draw, ReachesFourInSizeAndInterceptsByTheDirection) {
     for (const auto& [direction, lowest] : {std::pair{0.1F, 0}, {0.9F, 5}}) {
-        ScriptedDraws draws{direction, kLargestDraw, 0, 0.2F, kLargestDraw, kLargestDraw, kLargestDraw};
-        Vaddi2State state;
-        newExercise(state, draws);
+        const Vaddi2State state = test::exerciseOf<Vaddi2State>(
+            {direction, kLargestDraw, 0, 0.2F, kLargestDraw, kLargestDraw, kLargestDraw});
         const int factor = factorOf(state.direction);
         EXPECT_EQ(state.functions,
                   (std::array{Piece{4.0 * factor, lowest + 0.0}, Piece{1.0 * factor, lowest + 4.0},
@@ -141,12 +131,10 @@ TEST_P(Vaddi2Rejects, AndDrawsTheFunctionsAgainButNotTheDirection) {
     const auto& [name, direction, functions] = GetParam();
     const Three accepted =
         direction == kRising ? Three{{{1, 0}, {2, 3}, {3, 4}}} : Three{{{-1, 9}, {-2, 7}, {-3, 5}}};
-    ScriptedDraws draws(directionDraw(direction) + functionDraws(direction, functions) +
-                        functionDraws(direction, functions) + functionDraws(direction, accepted));
-    Vaddi2State state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 1);
+    const Vaddi2State state = test::exerciseOf<Vaddi2State>(
+        directionDraw(direction) + functionDraws(direction, functions) + functionDraws(direction, functions) +
+            functionDraws(direction, accepted),
+        test::Reseeds{1});
     EXPECT_EQ(factorOf(state.direction), direction);
     for (std::size_t f = 0; f < 3; ++f) {
         EXPECT_EQ(state.functions[f].slope, accepted[f].slope);

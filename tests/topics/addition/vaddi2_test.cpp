@@ -271,10 +271,9 @@ TEST_F(Vaddi2Form, UnderlinesTheSignsOfAtLeast) {
         EXPECT_EQ(f.caption(name), ">") << name;
         EXPECT_TRUE(f.label(name).font().underline()) << name;
     }
-    for (const char* name : {"segment1StartLessOrEqual", "segment1EndLessOrEqual", "segment2StartLessOrEqual",
-                             "segment2EndLessOrEqual", "segment3EndLessOrEqual"}) {
-        EXPECT_TRUE(f.label(name).font().underline()) << name;
-    }
+    test::expectUnderlined(f,
+                           {"segment1StartLessOrEqual", "segment1EndLessOrEqual", "segment2StartLessOrEqual",
+                            "segment2EndLessOrEqual", "segment3EndLessOrEqual"});
 }
 
 TEST_F(Vaddi2Form, TellsTheThreeFunctions) {

@@ -32,12 +32,7 @@ using test::scriptOf;
 using test::Vaddi3Task;
 
 Vaddi3State exerciseOf(const Vaddi3Task& task) {
-    ScriptedDraws draws(scriptOf(task));
-    Vaddi3State state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 1);
-    return state;
+    return test::exerciseOf<Vaddi3State>(scriptOf(task), test::Reseeds{1});
 }
 
 std::string columnText(const Vaddi3State::Column& column) {
@@ -149,12 +144,10 @@ TEST_P(Vaddi3Rejects, AndGoesBackToTheFirstIntercept) {
                                                {KinkKind::Steeper, test::kSteeper},
                                                {KinkKind::Flatter, test::kFlatter}};
     const Vaddi3Task& task = tasks.at(GetParam().kind);
-    ScriptedDraws draws(test::kindOf(task.kind) + GetParam().rejected + GetParam().rejected +
-                        test::firstPartOf(task) + test::secondPartOf(task) + test::secondFunctionOf(task));
-    Vaddi3State s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 1);
+    const Vaddi3State s = test::exerciseOf<Vaddi3State>(
+        test::kindOf(task.kind) + GetParam().rejected + GetParam().rejected + test::firstPartOf(task) +
+            test::secondPartOf(task) + test::secondFunctionOf(task),
+        test::Reseeds{1});
     EXPECT_EQ(s.kinkKind, task.kind);
     EXPECT_EQ(sumText(s), sumText(exerciseOf(task)));
 }
@@ -190,10 +183,9 @@ TEST(Vaddi3Draw, FailsOnASlopeOfZero) {
 }
 
 TEST(Vaddi3Draw, TakesTheFlattestSteepSlopeForADrawOfZero) {
-    ScriptedDraws draws(test::kindOf(KinkKind::Flatter) + Script{cellOf(4, 5), 0, 0.5F} +
-                        Script{cellOf(3, 8), cellOf(1, 5), cellOf(2, 5)});
-    Vaddi3State s;
-    newExercise(s, draws);
+    const Vaddi3State s =
+        test::exerciseOf<Vaddi3State>(test::kindOf(KinkKind::Flatter) + Script{cellOf(4, 5), 0, 0.5F} +
+                                      Script{cellOf(3, 8), cellOf(1, 5), cellOf(2, 5)});
     EXPECT_EQ(s.slope1Before, -2);
     EXPECT_EQ(s.kinkQuantity, 2);
 }

@@ -79,6 +79,24 @@ protected:
         return strokesFrom(this->graph(box), pieces_);
     }
 
+    /// The fixed texts that the forms of both levels have.
+    void expectSharedTexts() const {
+        expectTexts(
+            *this->form,
+            {{"task",
+              "Adder de ovenstående linier lodret og skriv de nye forskrifter i rubrikkerne nederst."},
+             {"segment1ZeroLessThanQuantity", "for          0<Q"},
+             {"segment2LessThanQuantity", "<Q"},
+             {"showIntervals", "Vis"},
+             {"showFunctions", "Vis"},
+             {"closeHelp", "&Luk"}});
+        EXPECT_EQ(
+            this->form->label("intervalsStepText").text().simplified().toStdString(),
+            "Bestem definitionsintervallerne for de resulterende funktioner: Find vha. de opgivne "
+            "definitionsmængder Q-værdierne til de opgivne funktioners endepunkter. Disse Q-værdier ordnes "
+            "efter størrelse, og derved fremkommer de resulterende funktioners definitionsintervaller.");
+    }
+
     /// The boxes of the given functions and of their sum lie on the ticks of their frames.
     void expectBoxesOnTheirTicks() const {
         struct Row {
@@ -129,8 +147,7 @@ protected:
     void expectAnyTypedTextTaken(const Function& function1, const Function& function2, const char* box,
                                  const char* given) {
         this->open(function1, function2);
-        for (const std::string& typed :
-             {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
+        for (const std::string& typed : kRoughTexts) {
             for (AnswerBox* each : this->form->page().template findChildren<AnswerBox*>()) {
                 each->setContent(typed);
             }

@@ -19,7 +19,6 @@ namespace {
 using test::cellOf;
 using test::eachIs;
 using test::Proof;
-using test::ScriptedDraws;
 using test::typedAgain;
 
 /// The draw that gives this part of a fraction.
@@ -50,23 +49,18 @@ TEST(BrokGenerator, DrawsFourPartsThenTheType) {
 }
 
 TEST(BrokGenerator, DrawsAllFourAgainWithoutReseedingWhileOneIsZero) {
-    ScriptedDraws draws{part(1), part(0), part(3), part(4),       part(5),
-                        part(6), part(7), part(8), type(Multiply)};
-    BrokState s;
-    newExercise(s, draws);
+    const BrokState s = test::exerciseOf<BrokState>(
+        {part(1), part(0), part(3), part(4), part(5), part(6), part(7), part(8), type(Multiply)},
+        test::Reseeds{1});
     EXPECT_EQ(s.numeratorA, 5);
     EXPECT_EQ(s.denominatorD, 8);
-    EXPECT_EQ(draws.randomized(), 1);
-    EXPECT_TRUE(draws.isUsedUp());
 }
 
 TEST(BrokGenerator, StartsOverWithReseedingWhileTheResultIsZero) {
-    ScriptedDraws draws{part(1), part(2), part(1), part(2), type(Subtract),
-                        part(1), part(2), part(1), part(2), type(Add)};
-    BrokState s;
-    newExercise(s, draws);
+    const BrokState s = test::exerciseOf<BrokState>(
+        {part(1), part(2), part(1), part(2), type(Subtract), part(1), part(2), part(1), part(2), type(Add)},
+        test::Reseeds{2});
     EXPECT_EQ(s.operation, Add);
-    EXPECT_EQ(draws.randomized(), 2);
 }
 
 struct TypeRow {

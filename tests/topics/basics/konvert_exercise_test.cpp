@@ -36,12 +36,7 @@ using test::konvert::slope;
 using test::konvert::wholeFactor;
 
 KonvertState exercise(const Script& script) {
-    ScriptedDraws draws(script);
-    KonvertState state;
-    newExercise(state, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 1);
-    return state;
+    return test::exerciseOf<KonvertState>(script, test::Reseeds{1});
 }
 
 TEST(KonvertGenerator, DrawsSlopeConstantAndAWholeFactor) {
@@ -92,16 +87,14 @@ TEST(KonvertGenerator, DrawsOnlyTheFractionAgainWhileItIsOne) {
 }
 
 TEST(KonvertGenerator, DrawsEverythingAgainWithReseedingWhileTheSlopeIsTooSteep) {
-    ScriptedDraws draws(slope(1) + intercept(1) + fractionFactor(1, 8) +   // 64
-                        slope(-2) + intercept(2) + fractionFactor(1, 6) +  // -72
-                        slope(3) + intercept(4) + wholeFactor(1));
-    KonvertState s;
-    newExercise(s, draws);
+    const KonvertState s =
+        test::exerciseOf<KonvertState>(slope(1) + intercept(1) + fractionFactor(1, 8) +       // 64
+                                           slope(-2) + intercept(2) + fractionFactor(1, 6) +  // -72
+                                           slope(3) + intercept(4) + wholeFactor(1),
+                                       test::Reseeds{3});
     EXPECT_EQ(s.slopeOfQ, 3);
     EXPECT_EQ(s.interceptOfQ, 4);
     EXPECT_EQ(s.factorKind, FactorKind::Whole);
-    EXPECT_EQ(draws.randomized(), 3);
-    EXPECT_TRUE(draws.isUsedUp());
 }
 
 TEST(KonvertGenerator, KeepsASlopeOfFifty) {

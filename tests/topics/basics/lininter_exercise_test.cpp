@@ -1,5 +1,6 @@
 #include "topics/basics/lininter_exercise.h"
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <set>
@@ -31,6 +32,9 @@ using test::lininter::given;
 using test::lininter::points;
 using test::lininter::script;
 
+/// The coordinates of the points in the order in which they are drawn.
+std::array<float, 4> coordinatesOf(const LininterState& s) { return {s.Qa, s.Pa, s.Qb, s.Pb}; }
+
 LininterState exercise(int qa, int pa, int qb, int pb, Coordinate which, int g) {
     return test::exerciseOf<LininterState>(script(qa, pa, qb, pb, which, g));
 }
@@ -52,10 +56,7 @@ bool areAccepted(int qa, int pa, int qb, int pb) {
 
 TEST(LininterGenerator, DrawsTheFourCoordinatesThenTheDirectionThenTheGivenOne) {
     const LininterState s = exercise(1, 2, 3, 6, Coordinate::Quantity, 4);
-    EXPECT_EQ(s.Qa, 1);
-    EXPECT_EQ(s.Pa, 2);
-    EXPECT_EQ(s.Qb, 3);
-    EXPECT_EQ(s.Pb, 6);
+    EXPECT_EQ(coordinatesOf(s), (std::array{1.0F, 2.0F, 3.0F, 6.0F}));
     EXPECT_EQ(s.lineSlope, 2);
     EXPECT_EQ(s.lineIntercept, 0);
     EXPECT_EQ(s.given, Coordinate::Quantity);
@@ -68,21 +69,17 @@ TEST(LininterGenerator, AsksForQWhereTheDirectionDrawIsAHalfOrMore) {
     EXPECT_EQ(s.givenP, 5);
     EXPECT_EQ(s.target, 2.5F);
 
-    ScriptedDraws atTheHalf{coordinate(1), coordinate(2), coordinate(3), coordinate(6), 0.5F, given(5)};
-    LininterState half;
-    newExercise(half, atTheHalf);
+    const LininterState half = test::exerciseOf<LininterState>(
+        {coordinate(1), coordinate(2), coordinate(3), coordinate(6), 0.5F, given(5)});
     EXPECT_EQ(half.given, Coordinate::Price);
 
-    ScriptedDraws justBelow{coordinate(1), coordinate(2), coordinate(3),
-                            coordinate(6), 0.49999997F,   given(5)};
-    newExercise(half, justBelow);
-    EXPECT_EQ(half.given, Coordinate::Quantity);
+    const LininterState justBelow = test::exerciseOf<LininterState>(
+        {coordinate(1), coordinate(2), coordinate(3), coordinate(6), 0.49999997F, given(5)});
+    EXPECT_EQ(justBelow.given, Coordinate::Quantity);
 }
 
 TEST(LininterGenerator, KeepsTheGivenCoordinateOfTheOtherDirection) {
-    ScriptedDraws draws(script(1, 2, 3, 6, Coordinate::Quantity, 4));
-    LininterState s;
-    newExercise(s, draws);
+    LininterState s = test::exerciseOf<LininterState>(script(1, 2, 3, 6, Coordinate::Quantity, 4));
     ScriptedDraws next(script(1, 2, 3, 6, Coordinate::Price, 5));
     newExercise(s, next);
     EXPECT_EQ(s.givenQ, 4);
@@ -90,42 +87,31 @@ TEST(LininterGenerator, KeepsTheGivenCoordinateOfTheOtherDirection) {
 }
 
 TEST(LininterGenerator, ReachesBothEndsOfEachRange) {
-    ScriptedDraws draws{0, kLargestDraw, kLargestDraw, 0, 0.25F, kLargestDraw};
-    LininterState s;
-    newExercise(s, draws);
-    EXPECT_EQ(s.Qa, 1);
-    EXPECT_EQ(s.Pa, 10);
-    EXPECT_EQ(s.Qb, 10);
-    EXPECT_EQ(s.Pb, 1);
+    const LininterState s =
+        test::exerciseOf<LininterState>({0, kLargestDraw, kLargestDraw, 0, 0.25F, kLargestDraw});
+    EXPECT_EQ(coordinatesOf(s), (std::array{1.0F, 10.0F, 10.0F, 1.0F}));
     EXPECT_EQ(s.givenQ, 8);
     EXPECT_EQ(s.target, 3);
 }
 
 TEST(LininterGenerator, ReseedsBeforeThePointsAndBeforeTheDirection) {
-    ScriptedDraws draws(script(1, 2, 3, 6, Coordinate::Quantity, 4));
-    LininterState s;
-    newExercise(s, draws);
-    EXPECT_EQ(draws.randomized(), 2);
+    const LininterState s =
+        test::exerciseOf<LininterState>(script(1, 2, 3, 6, Coordinate::Quantity, 4), test::Reseeds{2});
+    EXPECT_EQ(s.target, 8);
 }
 
 TEST(LininterGenerator, DrawsAllFourAgainWithReseedingWhileACoordinateIsShared) {
-    ScriptedDraws draws(points(3, 2, 3, 6) + points(1, 6, 3, 6) +
-                        script(1, 2, 3, 6, Coordinate::Quantity, 4));
-    LininterState s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 4);
+    const LininterState s = test::exerciseOf<LininterState>(
+        points(3, 2, 3, 6) + points(1, 6, 3, 6) + script(1, 2, 3, 6, Coordinate::Quantity, 4),
+        test::Reseeds{4});
     EXPECT_EQ(s.Qa, 1);
     EXPECT_EQ(s.target, 8);
 }
 
 TEST(LininterGenerator, DrawsAllFourAgainWithReseedingWhileTheLineIsTooSteepOrTooFlat) {
-    ScriptedDraws draws(points(1, 1, 2, 4) + points(1, 1, 6, 3) +
-                        script(1, 2, 3, 6, Coordinate::Quantity, 4));
-    LininterState s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 4);
+    const LininterState s = test::exerciseOf<LininterState>(
+        points(1, 1, 2, 4) + points(1, 1, 6, 3) + script(1, 2, 3, 6, Coordinate::Quantity, 4),
+        test::Reseeds{4});
     EXPECT_EQ(s.lineSlope, 2);
 }
 
@@ -145,28 +131,23 @@ TEST(LininterGenerator, RejectsSlopesOfThreeAndOfTwoFifths) {
 
 TEST(LininterGenerator, DrawsOnlyTheGivenCoordinateAgainWhileTheTargetIsSixteenOrMore) {
     // Q = 8 gives 16.
-    ScriptedDraws draws(script(1, 2, 3, 6, Coordinate::Quantity, 8) + Script{given(7)});
-    LininterState s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 2);
+    const LininterState s = test::exerciseOf<LininterState>(
+        script(1, 2, 3, 6, Coordinate::Quantity, 8) + Script{given(7)}, test::Reseeds{2});
     EXPECT_EQ(s.givenQ, 7);
     EXPECT_EQ(s.target, 14);
 }
 
 TEST(LininterGenerator, DrawsOnlyTheGivenCoordinateAgainInBothDirectionsAndBelowZero) {
     // Q = 1 gives -16.5.
-    LininterState s =
+    const LininterState s =
         test::exerciseOf<LininterState>(script(8, 1, 10, 6, Coordinate::Quantity, 1) + Script{given(2)});
     EXPECT_EQ(s.target, -14);
 
     // Q = 22 - 2P
-    ScriptedDraws far(script(2, 10, 4, 9, Coordinate::Price, 1) + Script{given(3), given(4)});
-    newExercise(s, far);
-    EXPECT_TRUE(far.isUsedUp());
-    EXPECT_EQ(far.randomized(), 2);
-    EXPECT_EQ(s.givenP, 4);
-    EXPECT_EQ(s.target, 14);
+    const LininterState far = test::exerciseOf<LininterState>(
+        script(2, 10, 4, 9, Coordinate::Price, 1) + Script{given(3), given(4)}, test::Reseeds{2});
+    EXPECT_EQ(far.givenP, 4);
+    EXPECT_EQ(far.target, 14);
 }
 
 TEST(LininterGenerator, TakesATargetJustBelowSixteen) {

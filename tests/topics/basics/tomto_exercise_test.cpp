@@ -1,5 +1,6 @@
 #include "topics/basics/tomto_exercise.h"
 
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <map>
@@ -56,17 +57,16 @@ TomtoState after(double q, double p) {
     return state;
 }
 
+/// The coefficients in the order in which they are drawn.
+using Values = std::array<float, 6>;
+Values coefficientsOf(const TomtoState& s) { return {s.a1, s.c1, s.b1, s.a2, s.c2, s.b2}; }
+
 // -2Q + 8 and 3Q - 5 cross at (2.6; 2.8).
 constexpr Coefficients kCrossing{-2, 1, 8, 3, 1, -5};
 
 TEST(TomtoGenerator, DrawsA1C1B1A2C2B2ThenTheKind) {
     const TomtoState s = exercise({-2, -7, 8, 3, 9, -5}, Explicit);
-    EXPECT_EQ(s.a1, -2);
-    EXPECT_EQ(s.c1, -7);
-    EXPECT_EQ(s.b1, 8);
-    EXPECT_EQ(s.a2, 3);
-    EXPECT_EQ(s.c2, 9);
-    EXPECT_EQ(s.b2, -5);
+    EXPECT_EQ(coefficientsOf(s), (Values{-2, -7, 8, 3, 9, -5}));
     EXPECT_EQ(s.form, Explicit);
     EXPECT_EQ(s.relation, Relation::Crossing);
     EXPECT_EQ(s.solutionQ, 2.6);
@@ -84,12 +84,7 @@ TEST(TomtoGenerator, SolvesLinesOfThreeTerms) {
 TEST(TomtoGenerator, ReplacesZerosDrawnByTheButton) {
     // 7Q + 3 and Q + 5: Q = 2/6, P = 32/6.
     const TomtoState s = exercise({0, 0, 0, 0, 0, 0}, Explicit);
-    EXPECT_EQ(s.a1, 7);
-    EXPECT_EQ(s.b1, 3);
-    EXPECT_EQ(s.c1, 1);
-    EXPECT_EQ(s.a2, 1);
-    EXPECT_EQ(s.b2, 5);
-    EXPECT_EQ(s.c2, 1);
+    EXPECT_EQ(coefficientsOf(s), (Values{7, 1, 3, 1, 1, 5}));
     EXPECT_EQ(s.solutionQ, 0.33);
     EXPECT_EQ(s.solutionP, 5.33);
 }
@@ -97,12 +92,7 @@ TEST(TomtoGenerator, ReplacesZerosDrawnByTheButton) {
 TEST(TomtoGenerator, ReplacesZerosDrawnByTheOpeningByOthers) {
     // 3Q + 2 and Q + 5: Q = 3/2, P = 13/2.
     const TomtoState s = exercise({0, 0, 0, 0, 0, 0}, Explicit, {}, firstExercise);
-    EXPECT_EQ(s.a1, 3);
-    EXPECT_EQ(s.b1, 2);
-    EXPECT_EQ(s.c1, 1);
-    EXPECT_EQ(s.a2, 1);
-    EXPECT_EQ(s.b2, 5);
-    EXPECT_EQ(s.c2, 1);
+    EXPECT_EQ(coefficientsOf(s), (Values{3, 1, 2, 1, 1, 5}));
     EXPECT_EQ(s.solutionQ, 1.5);
     EXPECT_EQ(s.solutionP, 6.5);
 }
@@ -181,13 +171,10 @@ TEST(TomtoGenerator, StartsOverWithReseedingUnlessTheCrossingIsInTheFirstQuadran
     const Coefficients negativeP{-1, 1, 2, -2, 1, 5};   // (3; -1)
     const Coefficients onTheAxis{1, 1, 3, -1, 1, 3};    // (0; 3)
     const Coefficients onTheOther{1, 1, -3, -1, 1, 3};  // (3; 0)
-    ScriptedDraws draws(script(negativeQ, Explicit) + script(negativeP, Explicit) +
-                        script(kCrossing, Explicit));
-    TomtoState s;
-    newExercise(s, draws);
+    const TomtoState s = test::exerciseOf<TomtoState>(
+        script(negativeQ, Explicit) + script(negativeP, Explicit) + script(kCrossing, Explicit),
+        test::Reseeds{3});
     EXPECT_EQ(s.solutionQ, 2.6);
-    EXPECT_EQ(draws.randomized(), 3);
-    EXPECT_TRUE(draws.isUsedUp());
     EXPECT_EQ(triesWith(onTheAxis, Explicit), 1);
     EXPECT_EQ(triesWith(onTheOther, Explicit), 1);
 }

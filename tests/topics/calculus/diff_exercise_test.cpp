@@ -352,32 +352,24 @@ TEST(DiffGenerator, ReachesBothEndsOfEachRange) {
     EXPECT_EQ(textsOf(s).polynomial, "P=  1Q² +1Q +1 ");
     EXPECT_EQ(s.pointQ, 1);
 
-    ScriptedDraws highest{kLargestDraw, kLargestDraw, kLargestDraw, kLargestDraw,
-                          cellOf(0, 5), kLargestDraw, kLargestDraw};
-    newExercise(s, highest);
-    EXPECT_TRUE(highest.isUsedUp());
+    s = test::exerciseOf<DiffState>(
+        {kLargestDraw, kLargestDraw, kLargestDraw, kLargestDraw, cellOf(0, 5), kLargestDraw, kLargestDraw});
     EXPECT_EQ(textsOf(s).polynomial, "P= -2Q³ +4Q² +5Q+5");
 
-    ScriptedDraws farthest{kLargestDraw, kLargestDraw, kLargestDraw,
-                           kLargestDraw, kLargestDraw, cellOf(11, 50)};
-    newExercise(s, farthest);
-    EXPECT_TRUE(farthest.isUsedUp());
+    s = test::exerciseOf<DiffState>(
+        {kLargestDraw, kLargestDraw, kLargestDraw, kLargestDraw, kLargestDraw, cellOf(11, 50)});
     EXPECT_EQ(textsOf(s).polynomial, "P= -3Q² +4Q -5");
     EXPECT_EQ(s.pointQ, 5);
 }
 
 TEST(DiffGenerator, ReseedsBeforeEachTry) {
-    ScriptedDraws once(kAccepted.script());
-    DiffState s;
-    newExercise(s, once);
-    EXPECT_EQ(once.randomized(), 1);
+    DiffState s = test::exerciseOf<DiffState>(kAccepted.script(), test::Reseeds{1});
+    EXPECT_EQ(textsOf(s).polynomial, "P=  1Q²");
 
     const DiffDraws tooHigh{.a = 3, .x = 5, .patternCase = 1};
     const DiffDraws tooLow{.a = 2, .x = 5, .patternCase = 45};
-    ScriptedDraws thrice(tooHigh.script() + tooLow.script() + kAccepted.script());
-    newExercise(s, thrice);
-    EXPECT_TRUE(thrice.isUsedUp());
-    EXPECT_EQ(thrice.randomized(), 3);
+    s = test::exerciseOf<DiffState>(tooHigh.script() + tooLow.script() + kAccepted.script(),
+                                    test::Reseeds{3});
     EXPECT_EQ(textsOf(s).polynomial, "P=  1Q²");
 }
 

@@ -382,8 +382,7 @@ TEST_F(DiffForm, GivesANegativeSlopeWholeInEveryLocale) {
 
 TEST_F(DiffForm, TakesAnyTypedText) {
     const FormDriver& f = open(kCubic);
-    for (const std::string& typed :
-         {std::string("1e308"), std::string("-1e999"), std::string("æ;"), std::string(100'000, '9')}) {
+    for (const std::string& typed : test::kRoughTexts) {
         f.box("derivative").setContent(typed);
         f.click("ok");
         EXPECT_EQ(f.box("derivative").backColour(), kRed);

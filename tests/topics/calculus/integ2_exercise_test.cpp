@@ -133,11 +133,8 @@ class Integ2Refused : public testing::TestWithParam<RefusedRow> {};
 
 TEST_P(Integ2Refused, GoesOnJustThere) {
     const RefusedRow& row = GetParam();
-    ScriptedDraws draws(drawOf(row.family) + row.refused + kTakenByAll);
-    Integ2State s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 2);
+    const Integ2State s =
+        test::exerciseOf<Integ2State>(drawOf(row.family) + row.refused + kTakenByAll, test::Reseeds{2});
     EXPECT_EQ(familyOf(s), row.next);
     EXPECT_EQ(drawn(s), drawn(draw(drawOf(row.next) + kTakenByAll)));
 }
@@ -180,12 +177,9 @@ TEST(Integ2Generator, StaysInTheFirstFamilyOnceItIsThere) {
     const Script leaves = drawOf(kRise) + pieces(kRise, {.b1 = 6, .b2 = 1});
     const Script fiveMore = piecesAndKink(kFall, {.b1 = 1, .b2 = 1});
     const Script sevenMore = numbers(kFall, {.b1 = 6, .a2 = 3, .b2 = 4, .k = 6});
-    ScriptedDraws draws(leaves + fiveMore + sevenMore + kTakenByAll);
-    Integ2State s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
+    const Integ2State s =
+        test::exerciseOf<Integ2State>(leaves + fiveMore + sevenMore + kTakenByAll, test::Reseeds{4});
     EXPECT_EQ(familyOf(s), kFall);
-    EXPECT_EQ(draws.randomized(), 4);
 }
 
 /// Notes in which order draws and reseedings come.

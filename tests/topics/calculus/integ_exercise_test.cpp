@@ -146,23 +146,19 @@ TEST(IntegGenerator, DrawsTheThreeSizesThenTheLimitsThenTheShape) {
 }
 
 TEST(IntegGenerator, ReachesBothEndsOfEachRange) {
-    ScriptedDraws lowest{0, 0, 0, test::cellOf(1, 7), 0, 0};
-    IntegState s;
-    newExercise(s, lowest);
+    IntegState s = test::exerciseOf<IntegState>({0, 0, 0, test::cellOf(1, 7), 0, 0});
     EXPECT_EQ(functionText(s), "1Q²+1Q+1");
     EXPECT_EQ(s.w, 2);
     EXPECT_EQ(s.v, 1);
 
     // 4Q²+4Q+5 is far beyond 60 at 6, a linear p is not.
     const float top = kLargestDraw;
-    ScriptedDraws highest{top, top, top, top, top, test::cellOf(4, 26)};
-    newExercise(s, highest);
+    s = test::exerciseOf<IntegState>({top, top, top, top, top, test::cellOf(4, 26)});
     EXPECT_EQ(functionText(s), "4Q+5");
     EXPECT_EQ(s.w, 7);
     EXPECT_EQ(s.v, 6);
 
-    ScriptedDraws lastShape{top, top, top, top, 0, top};
-    newExercise(s, lastShape);
+    s = test::exerciseOf<IntegState>({top, top, top, top, 0, top});
     EXPECT_EQ(functionText(s), "-4Q²-4Q-5");
 }
 
@@ -188,12 +184,11 @@ TEST(IntegGenerator, AllowsSixtyAtTheLowerLimitAndAnythingAtTheUpperOne) {
 }
 
 TEST(IntegGenerator, ReseedsBeforeEachTry) {
-    ScriptedDraws thrice(IntegDraws{1, 1, 1, 1, 3, 1}.scriptOfLimits() +
-                         IntegDraws{4, 1, 1, 5, 4, 1}.script() + kAccepted.script());
-    IntegState s;
-    newExercise(s, thrice);
-    EXPECT_TRUE(thrice.isUsedUp());
-    EXPECT_EQ(thrice.randomized(), 3);
+    const IntegState s =
+        test::exerciseOf<IntegState>(IntegDraws{1, 1, 1, 1, 3, 1}.scriptOfLimits() +
+                                         IntegDraws{4, 1, 1, 5, 4, 1}.script() + kAccepted.script(),
+                                     test::Reseeds{3});
+    EXPECT_EQ(functionText(s), "1Q²+1Q+1");
 }
 
 TEST(IntegGenerator, DividesSinglesAndRaisesDoubles) {

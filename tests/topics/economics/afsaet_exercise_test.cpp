@@ -25,7 +25,6 @@ using test::lotSize;
 using test::Proof;
 using test::ProofDraws;
 using test::readsAsItself;
-using test::ScriptedDraws;
 using test::afsaet::exercise;
 using test::afsaet::numbers;
 using test::afsaet::Sample;
@@ -64,11 +63,7 @@ class AfsaetSamples : public testing::TestWithParam<Sample> {};
 
 TEST_P(AfsaetSamples, ComeOfJustTheirDraws) {
     const Sample& row = GetParam();
-    ScriptedDraws draws(row.script());
-    AfsaetState s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 1);
+    const AfsaetState s = test::exerciseOf<AfsaetState>(row.script(), test::Reseeds{1});
     EXPECT_EQ(s.kind, row.drawn.kind);
     EXPECT_EQ(answerOf(s), row.answer);
     const AfsaetTask task = taskTexts(s);

@@ -14,7 +14,6 @@ namespace {
 using test::cellOf;
 using test::kLargestDraw;
 using test::Script;
-using test::ScriptedDraws;
 using test::afsaet::exercise;
 using test::afsaet::kPrices;
 using test::afsaet::kQuantities;
@@ -95,11 +94,8 @@ TEST_P(AfsaetRejections, GoBackToTheReseedingWithANewKind) {
     const RejectedRow& row = GetParam();
     const Sample& next =
         sample(row.drawn.kind == Kind::PointAndSlope ? "TwoPointsInQuantities" : "PointAndSlopeInQuantities");
-    ScriptedDraws draws(numbers(row.drawn) + row.rest + next.script());
-    AfsaetState s;
-    newExercise(s, draws);
-    EXPECT_TRUE(draws.isUsedUp());
-    EXPECT_EQ(draws.randomized(), 2);
+    const AfsaetState s =
+        test::exerciseOf<AfsaetState>(numbers(row.drawn) + row.rest + next.script(), test::Reseeds{2});
     EXPECT_EQ(s.kind, next.drawn.kind);
     EXPECT_EQ(answerOf(s), next.answer);
     EXPECT_EQ(taskTexts(s).range, next.range);

@@ -62,9 +62,8 @@ TEST(RoedderGenerator, ReseedsBeforeTheSizesAndBeforeThePattern) {
 }
 
 TEST(RoedderGenerator, ReachesTheEndsOfItsRanges) {
-    ScriptedDraws largest{kLargestDraw, kLargestDraw, kLargestDraw, kLargestDraw};
-    RoedderState s;
-    newExercise(s, largest);
+    const RoedderState s =
+        test::exerciseOf<RoedderState>({kLargestDraw, kLargestDraw, kLargestDraw, kLargestDraw});
     EXPECT_EQ(s.polynomialText, "-5Q²-5Q-5");
 }
 

@@ -114,13 +114,9 @@ TEST(RogtGenerator, DrawsAThenBThenCThenThePattern) {
 }
 
 TEST(RogtGenerator, TakesTheEndsOfItsRanges) {
-    RogtState s;
-    ScriptedDraws smallest{0, 0, 0, 0};
-    newExercise(s, smallest);
-    EXPECT_EQ(s.polynomialText, "1Q²+1Q+1");
-    ScriptedDraws largest{test::kLargestDraw, test::kLargestDraw, test::kLargestDraw, test::kLargestDraw};
-    newExercise(s, largest);
-    EXPECT_EQ(s.polynomialText, "-5Q²-5Q-5");
+    const float most = test::kLargestDraw;
+    EXPECT_EQ(test::exerciseOf<RogtState>({0, 0, 0, 0}).polynomialText, "1Q²+1Q+1");
+    EXPECT_EQ(test::exerciseOf<RogtState>({most, most, most, most}).polynomialText, "-5Q²-5Q-5");
 }
 
 TEST(RogtGenerator, RejectsNothing) {

@@ -112,18 +112,14 @@ TEST(ToppGenerator, DrawsTheThreeSizesThenThePattern) {
 }
 
 TEST(ToppGenerator, ReachesBothEndsOfEachRange) {
-    ScriptedDraws lowest{0, 0, 0, 0};
-    ToppState s;
-    newExercise(s, lowest);
+    ToppState s = test::exerciseOf<ToppState>({0, 0, 0, 0});
     EXPECT_EQ(s.polynomialText, "1Q²");
 
-    ScriptedDraws highest{kLargestDraw, kLargestDraw, kLargestDraw, kLargestDraw};
-    newExercise(s, highest);
+    s = test::exerciseOf<ToppState>({kLargestDraw, kLargestDraw, kLargestDraw, kLargestDraw});
     EXPECT_EQ(s.polynomialText, "-3Q²-10");
     EXPECT_EQ(s.polynomial.b, 0);
 
-    ScriptedDraws widest{kLargestDraw, kLargestDraw, kLargestDraw, cellOf(2, 11)};
-    newExercise(s, widest);
+    s = test::exerciseOf<ToppState>({kLargestDraw, kLargestDraw, kLargestDraw, cellOf(2, 11)});
     EXPECT_EQ(s.polynomialText, "3Q²-10Q+10");
 }
 
@@ -137,14 +133,11 @@ TEST(ToppGenerator, NeverDrawsTheTwelfthPattern) {
 }
 
 TEST(ToppGenerator, ReseedsBeforeEachSetOfDraws) {
-    ScriptedDraws once(kAccepted);
-    ToppState s;
-    newExercise(s, once);
-    EXPECT_EQ(once.randomized(), 1);
-
-    ScriptedDraws thrice(script(1, 10, 1, 5) + script(1, 9, 1, 5) + kAccepted);
-    newExercise(s, thrice);
-    EXPECT_EQ(thrice.randomized(), 3);
+    for (const auto& [draws, reseeds] :
+         {std::pair{kAccepted, test::Reseeds{1}},
+          {script(1, 10, 1, 5) + script(1, 9, 1, 5) + kAccepted, test::Reseeds{3}}}) {
+        EXPECT_EQ(test::exerciseOf<ToppState>(draws, reseeds).polynomialText, "1Q²-5Q+6") << reseeds.times;
+    }
 }
 
 TEST(ToppGenerator, DrawsAllFourAgainWhileTheVertexIsOutOfReach) {
