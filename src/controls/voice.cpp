@@ -23,6 +23,11 @@ bool isOfText(QAccessible::Event type) {
     }
 }
 
+bool hasFocus(const QObject* object) {
+    const auto* const widget = qobject_cast<const QWidget*>(object);
+    return widget == nullptr || widget->hasFocus();
+}
+
 QString nameOf(QWidget& widget) {
     const QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&widget);
     const QString name = interface == nullptr ? QString() : interface->text(QAccessible::Name);
@@ -84,7 +89,8 @@ void Voice::filter(QAccessibleEvent& event) {
         focus_ = event.object();
     }
     // A field whose text or selection changes before a reader knows of its focus is taken for said by it.
-    if (!isOfText(event.type()) || (rounds_ == 0 && event.object() == focus_)) {
+    // What the toolkit does to one that loses the focus is nobody's doing.
+    if (!isOfText(event.type()) || (rounds_ == 0 && event.object() == focus_ && hasFocus(event.object()))) {
         deliver(event);
     }
 }
