@@ -66,8 +66,8 @@ Page::Page(PageName name)
         });
     connect(new QShortcut(Qt::Key_F2, this), &QShortcut::activated, this, &Page::sayOnDemand);
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*from*/, QWidget* to) {
-        taskIsSaid_ = false;
         if (to != nullptr && design_->isAncestorOf(to)) {
+            taskIsSaid_ = false;
             view_->ensureWidgetVisible(to);
         }
     });
@@ -75,6 +75,11 @@ Page::Page(PageName name)
     // As on most desktops; and on pages where a button has the access key of the menu, the only key for it.
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, &Page::openMenu);
     view_->setMinimumSize(qRound(kDesignWidth), qRound(kDesignHeight));
+}
+
+Page::~Page() {
+    // As a page goes, the focus moves once more.
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 void Page::designIsReady() { setWindowTitle(design_->windowTitle()); }

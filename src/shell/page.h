@@ -24,6 +24,7 @@ class Page : public QWidget {
 
 public:
     explicit Page(PageName name);
+    ~Page() override;
 
     [[nodiscard]] PageName name() const { return name_; }
     [[nodiscard]] TopicMenu& topicMenu() { return topicMenu_; }
