@@ -39,7 +39,7 @@ struct Item {
 
 using Items = std::vector<Item>;
 
-QRectF placeOf(const QWidget& widget) {
+QRectF areaOf(const QWidget& widget) {
     const auto* const control = dynamic_cast<const Control*>(&widget);
     return control == nullptr ? QRectF(widget.geometry()) : control->place();
 }
@@ -47,7 +47,7 @@ QRectF placeOf(const QWidget& widget) {
 /// In units. A page is no control, and may be larger than what stands on it.
 double widthOf(const QWidget& region) {
     if (dynamic_cast<const Control*>(&region) != nullptr) {
-        return placeOf(region).width();
+        return areaOf(region).width();
     }
     double width = 0;
     for (const QObject* const child : region.children()) {
@@ -156,17 +156,17 @@ private:
                 parts.push_back(partOf(*label));
             }
             if (qobject_cast<const TableHead*>(label) != nullptr) {
-                fields_.push_back(placeOf(widget));
+                fields_.push_back(areaOf(widget));
             }
         } else if (const auto* const line = qobject_cast<const LineControl*>(&widget)) {
             lines.push_back({line->ends(), line});
         } else if (qobject_cast<const AnswerBox*>(&widget) != nullptr) {
-            fields_.push_back(placeOf(widget));
-            stops_.push_back(placeOf(widget));
+            fields_.push_back(areaOf(widget));
+            stops_.push_back(areaOf(widget));
         } else if (qobject_cast<const QAbstractButton*>(&widget) != nullptr) {
-            stops_.push_back(placeOf(widget));
+            stops_.push_back(areaOf(widget));
         } else if (isEntered_(widget)) {
-            items_.push_back({placeOf(widget), {}, passages(widget, isSeen_, isEntered_)});
+            items_.push_back({areaOf(widget), {}, passages(widget, isSeen_, isEntered_)});
         }
     }
 

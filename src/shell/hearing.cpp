@@ -35,7 +35,7 @@ bool isText(const QWidget& widget) {
 
 bool isPanel(const QWidget& widget) { return qobject_cast<const Panel*>(&widget) != nullptr; }
 
-QRect placeOn(const QWidget& page, const QWidget& widget) {
+QRect areaOn(const QWidget& page, const QWidget& widget) {
     return {widget.mapTo(&page, QPoint(0, 0)), widget.size()};
 }
 
@@ -56,10 +56,10 @@ bool isGlue(const QWidget& page, const Passage& passage, const QList<AnswerBox*>
     if (isMark(passage.words)) {
         return true;
     }
-    const QRect own = placeOn(page, *passage.lead);
+    const QRect own = areaOn(page, *passage.lead);
     std::vector<QRect> columns;
     for (const AnswerBox* box : boxes) {
-        const QRect place = placeOn(page, *box);
+        const QRect place = areaOn(page, *box);
         const bool isBeside =
             isSeen(*box) && overlap(own.top() + 2, own.bottom() - 2, place.top(), place.bottom());
         if (isBeside && std::none_of(columns.begin(), columns.end(), [&place](const QRect& column) {

@@ -23,7 +23,7 @@ namespace {
 
 using test::settle;
 
-QRect placeOnWindow(const QWidget& widget) {
+QRect areaInWindow(const QWidget& widget) {
     return {widget.mapTo(widget.window(), QPoint(0, 0)), widget.size()};
 }
 
@@ -85,7 +85,7 @@ TEST_F(ProgramRun, KeepsItsWindowWhoseTitleFollowsThePages) {
         EXPECT_EQ(program.window(), window);
         EXPECT_EQ(window->windowTitle(), program.page()->windowTitle());
         EXPECT_EQ(window->page(), program.page());
-        EXPECT_EQ(placeOnWindow(*program.page()), belowTheMenu(*window));
+        EXPECT_EQ(areaInWindow(*program.page()), belowTheMenu(*window));
     }
     EXPECT_EQ(window->windowTitle().toStdString(), "Tavrune - Vandret addition - Niveau 3");
 }
@@ -95,7 +95,7 @@ TEST_F(ProgramRun, MaximisesAWindowAgainForTheNextPage) {
     settle();
     choose(PageName::Brok);
     EXPECT_TRUE(program.window()->isMaximized());
-    EXPECT_EQ(placeOnWindow(*program.page()), belowTheMenu(*program.window()));
+    EXPECT_EQ(areaInWindow(*program.page()), belowTheMenu(*program.window()));
 }
 
 TEST_F(ProgramRun, PutsTheFocusOnThePageThatHasCome) {

@@ -24,7 +24,7 @@ namespace tavrune {
 namespace {
 
 /// Where the entry stands by its arrow keys.
-std::string placeOf(MenuEntry entry) {
+std::string positionOf(MenuEntry entry) {
     int inMenu = -1;
     int inSubmenu = 0;
     for (const MenuLine& line : topicTree()) {
@@ -68,7 +68,7 @@ void print(PageName page, const char* kind, const std::string& file) {
     const auto steps = std::count_if(buttons.begin(), buttons.end(), [](const auto* button) {
         return button->caption() == "Vis" && isOfTheHelp(*button);
     });
-    std::cout << kind << ' ' << file << ' ' << placeOf(page) << ' ' << asked << ' ' << steps << ' '
+    std::cout << kind << ' ' << file << ' ' << positionOf(page) << ' ' << asked << ' ' << steps << ' '
               << textOf(page) << ' ' << made->windowTitle().toStdString() << '\n';
 }
 
@@ -79,7 +79,7 @@ void printAll() {
 #define TAVRUNE_PRINT(form, ...) print(PageName::form, "form", fileName(#form));
     TAVRUNE_EXERCISES(TAVRUNE_PRINT)
 #undef TAVRUNE_PRINT
-    std::cout << "exit luk " << placeOf({}) << " 0 0 Luk\n";
+    std::cout << "exit luk " << positionOf({}) << " 0 0 Luk\n";
 }
 
 }  // namespace
