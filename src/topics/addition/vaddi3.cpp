@@ -1,5 +1,7 @@
 #include "topics/addition/vaddi3.h"
 
+#include <algorithm>
+
 #include "controls/text.h"
 #include "numeric/text.h"
 #include "topics/addition/addition_graphs.h"
@@ -42,10 +44,11 @@ Vaddi3::~Vaddi3() = default;
 void Vaddi3::bindEnter() {
     // Backwards through the table: from each box to the first one after it that is shown.
     std::vector<QWidget*> rest{ui_->segment1Slope, ui_->segment2Slope};
-    const std::vector<AnswerBox*> boxes = rowByRow(table_);
-    for (auto box = boxes.rbegin(); box != boxes.rend(); ++box) {
-        enterGoes(*box, rest);
-        rest.insert(rest.begin(), *box);
+    std::vector<AnswerBox*> boxes = rowByRow(table_);
+    std::reverse(boxes.begin(), boxes.end());
+    for (AnswerBox* box : boxes) {
+        enterGoes(box, rest);
+        rest.insert(rest.begin(), box);
     }
     enterChainWhileShown(rows_.boxes(), LastBox::OkOrNewExercise);
 }
