@@ -4,6 +4,7 @@
 
 #include "app/pages.h"
 #include "controls/voice.h"
+#include "shell/size_choice.h"
 
 namespace tavrune {
 
@@ -21,6 +22,7 @@ void Program::open(PageName name) {
     connect(page, &Page::aboutChosen, this, &Program::openAbout);
     connect(page, &Page::closeChosen, this, &Program::closeChosen);
     connect(page, &Page::zoomed, this, &Program::zoomAll);
+    connect(page, &Page::resized, this, &Program::resizeAbout);
     // A new page has the size of the design.
     if (zoom_ != page->zoom()) {
         page->setZoom(zoom_);
@@ -44,22 +46,30 @@ int Program::run() {
     return QCoreApplication::exec();
 }
 
-void Program::zoomAll(ZoomStep step) {
-    zoom_ = step;
+void Program::zoomAll(Zoom zoom) {
+    zoom_ = zoom;
     if (page() != nullptr) {
-        page()->setZoom(step);
+        page()->setZoom(zoom);
+    } else if (!zoom.isFitted()) {
+        resizeAbout(zoom.factor());
     }
+}
+
+void Program::resizeAbout(double factor) {
     if (about_ != nullptr) {
-        about_->setZoom(step);
+        about_->setFactor(factor);
     }
 }
 
 void Program::openAbout() {
     if (about_ == nullptr) {
         about_ = new FrmAbout;
-        about_->setZoom(zoom_);
-        bindZoomKeys(
-            about_, [this] { return zoom_; }, [this](ZoomStep step) { zoomAll(step); });
+        about_->setFactor(page() == nullptr ? 1 : page()->menuFactor());
+        const auto factor = [this] { return page() == nullptr ? about_->factor() : page()->menuFactor(); };
+        new SizeChoice(about_, {.chosen = [this] { return zoom_; },
+                                .factor = factor,
+                                .menuFactor = factor,
+                                .choose = [this](Zoom zoom) { zoomAll(zoom); }});
     }
     about_->setWindowState(about_->windowState() & ~Qt::WindowMinimized);
     about_->show();

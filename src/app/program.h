@@ -38,11 +38,12 @@ signals:
     void closeChosen();
 
 private:
-    void zoomAll(ZoomStep step);
+    void zoomAll(Zoom zoom);
+    void resizeAbout(double factor);
 
     Draws& draws_;
     // Of every page, until the program ends.
-    ZoomStep zoom_;
+    Zoom zoom_;
     QPointer<Window> window_;
     QPointer<FrmAbout> about_;
 };

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QLayout>
 #include <QMenuBar>
+#include <QScreen>
 #include <QTimer>
 
 namespace tavrune {
@@ -26,6 +27,10 @@ void Window::hold(Page* page) {
     // Both delete what stood there before.
     setMenuBar(page->menuBar());
     setCentralWidget(page);
+    if (last == nullptr) {
+        // For a user who does not want the window to be as large as the screen.
+        resize(sizeHint().boundedTo(screen()->availableSize()));
+    }
     // Before it is shown, so that it is laid out only once.
     layout()->activate();
     setWindowTitle(page->windowTitle());

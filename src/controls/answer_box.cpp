@@ -42,6 +42,8 @@ bool isBlackOnWhite(const QPalette& palette) {
 
 AnswerBox::AnswerBox(QWidget* parent) : QLineEdit(parent), Control(this) {
     setMaxLength(std::numeric_limits<int>::max());
+    // The page shows it, with entries of its own.
+    setContextMenuPolicy(Qt::NoContextMenu);
     wear(designFont());
     if (!isBlackOnWhite(palette())) {
         setPaletteColour(QPalette::Text, kBlack);

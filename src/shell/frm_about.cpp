@@ -1,5 +1,7 @@
 #include "shell/frm_about.h"
 
+#include <algorithm>
+
 #include <QScreen>
 #include <QTimer>
 
@@ -8,6 +10,7 @@
 #include "shell/hearing.h"
 #include "shell/page_name.h"
 #include "shell/ui_frm_about.h"
+#include "shell/zoom.h"
 
 namespace tavrune {
 
@@ -22,9 +25,15 @@ FrmAbout::FrmAbout() {
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
 }
 
-void FrmAbout::setZoom(ZoomStep step) {
-    zoomControls(*this, step);
-    setFixedSize(designSize_ * step.factor());
+void FrmAbout::setFactor(double factor) {
+    const QSizeF room = screen()->availableSize() - (frameGeometry().size() - size());
+    factor_ = std::min(
+        {factor, 1.0 * room.width() / designSize_.width(), 1.0 * room.height() / designSize_.height()});
+    zoomControls(*this, factor_);
+    setFixedSize(designSize_ * factor_);
+    if (isVisible()) {
+        move(movedOnto(screen()->availableGeometry(), frameGeometry()).topLeft());
+    }
 }
 
 void FrmAbout::showEvent(QShowEvent* event) {
@@ -56,6 +65,14 @@ void FrmAbout::centre() { move(centredOn(screen()->geometry(), frameGeometry().s
 QPoint centredOn(const QRect& screen, QSize size) {
     return {screen.left() + (screen.width() - size.width()) / 2,
             screen.top() + (screen.height() - size.height()) / 2};
+}
+
+QRect movedOnto(const QRect& screen, QRect box) {
+    box.moveRight(std::min(box.right(), screen.right()));
+    box.moveBottom(std::min(box.bottom(), screen.bottom()));
+    box.moveLeft(std::max(box.left(), screen.left()));
+    box.moveTop(std::max(box.top(), screen.top()));
+    return box;
 }
 
 }  // namespace tavrune

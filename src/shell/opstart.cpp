@@ -1,5 +1,7 @@
 #include "shell/opstart.h"
 
+#include <algorithm>
+
 #include <QMenuBar>
 
 #include "controls/label.h"
@@ -9,6 +11,8 @@ namespace tavrune {
 namespace {
 
 const QSize kDesignScreen(640, 480);
+/// Of the page that stands on it, below its menu.
+const QSizeF kDesignPage(640, 440);
 const QColor kBackColour(64, 64, 64);
 
 }  // namespace
@@ -34,6 +38,7 @@ Opstart::Opstart(QSize screen) : Page(PageName::Opstart) {
     design()->setAutoFillBackground(true);
 
     const ScreenStretch stretch = stretchFor(screen);
+    QRectF labels;
     for (Label* label : design()->findChildren<Label*>(Qt::FindDirectChildrenOnly)) {
         // Dark text cannot be read on the dark page.
         label->setBackColour(palette().color(QPalette::Button));
@@ -41,7 +46,13 @@ Opstart::Opstart(QSize screen) : Page(PageName::Opstart) {
         label->setPlace({place.x() * stretch.x, place.y() * stretch.y, place.width() * stretch.x,
                          place.height() * stretch.y});
         label->setTextSize(label->textSize() * stretch.text);
+        labels |= label->place();
     }
+    // Smaller than its design it could not be read.
+    const double least = 1 / std::max(1.0, std::min({stretch.x, stretch.y, stretch.text}));
+    setExtent({.whole = {kDesignPage.width() * stretch.x, kDesignPage.height() * stretch.y},
+               .needed = {labels.right(), labels.bottom()},
+               .leastFit = least});
 }
 
 }  // namespace tavrune

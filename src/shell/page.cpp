@@ -12,6 +12,7 @@
 #include "controls/access_key.h"
 #include "controls/panel.h"
 #include "controls/text.h"
+#include "shell/size_choice.h"
 
 namespace tavrune {
 namespace {
@@ -36,8 +37,8 @@ bool liesInFront(const QWidget& front, const QWidget& behind) {
 Page::Page(PageName name)
     : name_(name),
       menuBar_(new QMenuBar(this)),
-      view_(new QScrollArea(this)),
       design_(new QWidget),
+      view_(new PageView(design_, this)),
       hearing_(*design_),
       topicMenu_(*menuBar_, name,
                  {.open = [this](PageName target) { emit chosen(target); },
@@ -49,32 +50,30 @@ Page::Page(PageName name)
     blackOnWhite.setColor(QPalette::Text, kBlack);
     blackOnWhite.setColor(QPalette::Base, kWhite);
     design_->setPalette(blackOnWhite);
-    view_->setWidget(design_);
-    view_->setWidgetResizable(true);
-    view_->setFrameShape(QFrame::NoFrame);
-    view_->setFocusPolicy(Qt::NoFocus);
+    setExtent({});
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setMenuBar(menuBar_);
     layout->addWidget(view_);
-    bindZoomKeys(
-        this, [this] { return zoom_; },
-        [this](ZoomStep step) {
-            setZoom(step);
-            emit zoomed(step);
-            Voice::instance().say(QString("%1 procent").arg(qRound(step.factor() * 100)));
-        });
+    auto* const sizes = new SizeChoice(this, {.chosen = [this] { return zoom_; },
+                                              .factor = [this] { return factor_; },
+                                              .menuFactor = [this] { return menuFactor_; },
+                                              .choose =
+                                                  [this](Zoom zoom) {
+                                                      setZoom(zoom);
+                                                      emit zoomed(zoom);
+                                                  }});
+    sizes->listenTo(view_->viewport());
     connect(new QShortcut(Qt::Key_F2, this), &QShortcut::activated, this, &Page::sayOnDemand);
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*from*/, QWidget* to) {
         if (to != nullptr && design_->isAncestorOf(to)) {
             taskIsSaid_ = false;
-            view_->ensureWidgetVisible(to);
+            view_->showFocus();
         }
     });
     menuBar()->installEventFilter(this);
     // As on most desktops; and on pages where a button has the access key of the menu, the only key for it.
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, &Page::openMenu);
-    view_->setMinimumSize(qRound(kDesignWidth), qRound(kDesignHeight));
 }
 
 Page::~Page() {
@@ -103,17 +102,60 @@ void Page::sayOnDemand() {
     taskIsSaid_ = !taskIsSaid_;
 }
 
-void Page::setZoom(ZoomStep step) {
-    zoom_ = step;
-    zoomControls(*design_, step);
-    zoomMenu();
-    QSize size = (QSizeF(kDesignWidth, kDesignHeight) * step.factor()).toSize();
-    if (step != ZoomStep()) {
-        // The start page is stretched, and can be larger than the design area.
-        const QRect all = design_->childrenRect();
-        size = size.expandedTo({all.right() + 1, all.bottom() + 1});
+void Page::setExtent(const Extent& extent) {
+    extent_ = extent;
+    view_->setNeeded((extent_.needed * factor_).toSize());
+}
+
+void Page::setZoom(Zoom zoom) {
+    zoom_ = zoom;
+    if (!zoom.isFitted()) {
+        view_->setScrolls(true);
+        resizeMenusTo(zoom.factor());
+        resizeTo(zoom.factor());
+    } else if (isVisible()) {
+        fit();
     }
-    design_->setMinimumSize(size);
+}
+
+void Page::fit() {
+    const QSizeF window = this->window()->size();
+    const auto barHeight = [&] { return menuBar_->heightForWidth(qRound(window.width())); };
+    // How large a page of exercises can be with its menu, so that menus are alike on all pages.
+    const double bar = barHeight() / menuFactor_;
+    const double page = std::min(window.width() / kDesignWidth, window.height() / (kDesignHeight + bar));
+    resizeMenusTo(std::clamp(page, 1.0, kLargestFit));
+    const double wanted = std::min(window.width() / extent_.whole.width(),
+                                   (window.height() - barHeight()) / extent_.whole.height());
+    view_->setScrolls(wanted < extent_.leastFit);
+    resizeTo(std::clamp(wanted, extent_.leastFit, kLargestFit));
+}
+
+void Page::resizeTo(double factor) {
+    if (factor != factor_) {
+        factor_ = factor;
+        zoomControls(*design_, factor);
+    }
+    view_->setNeeded((extent_.needed * factor_).toSize());
+}
+
+void Page::resizeMenusTo(double factor) {
+    if (factor == menuFactor_) {
+        return;
+    }
+    menuFactor_ = factor;
+    zoomMenu(*menuBar_, factor);
+    for (QMenu* menu : menuBar_->findChildren<QMenu*>()) {
+        zoomMenu(*menu, factor);
+    }
+    emit resized(factor);
+}
+
+void Page::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (zoom_.isFitted()) {
+        fit();
+    }
 }
 
 void Page::takeFocus() {
@@ -134,23 +176,6 @@ void Page::openMenu() {
     });
     if (first != entries.end()) {
         title->menu()->setActiveAction(*first);
-    }
-}
-
-void Page::zoomMenu() {
-    const auto zoom = [this](QWidget& menu) {
-        // The font of the desktop, whose size is in points or in pixels.
-        QFont font = QApplication::font(&menu);
-        if (font.pixelSize() > 0) {
-            font.setPixelSize(qRound(font.pixelSize() * zoom_.factor()));
-        } else {
-            font.setPointSizeF(font.pointSizeF() * zoom_.factor());
-        }
-        menu.setFont(font);
-    };
-    zoom(*menuBar());
-    for (QMenu* menu : menuBar()->findChildren<QMenu*>()) {
-        zoom(*menu);
     }
 }
 

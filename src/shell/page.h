@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QMenuBar>
-#include <QScrollArea>
 #include <QWidget>
 
 #include "controls/control.h"
 #include "controls/voice.h"
 #include "shell/hearing.h"
 #include "shell/page_name.h"
+#include "shell/page_view.h"
 #include "shell/topic_menu.h"
 #include "shell/zoom.h"
 
@@ -30,10 +30,14 @@ public:
     [[nodiscard]] TopicMenu& topicMenu() { return topicMenu_; }
     [[nodiscard]] QMenuBar* menuBar() const { return menuBar_; }
 
-    /// The size of the page; Ctrl with plus, minus or 0 changes it. In a window that is too small for it the
-    /// page can be scrolled, and scrolls by itself to the control with the focus.
-    [[nodiscard]] ZoomStep zoom() const { return zoom_; }
-    void setZoom(ZoomStep step);
+    /// The size of the page that is chosen; see `SizeChoice` for how. In a window that is too small for it
+    /// the page can be scrolled, and scrolls by itself to the control with the focus. A page that is to fit
+    /// follows the size of the window.
+    [[nodiscard]] Zoom zoom() const { return zoom_; }
+    void setZoom(Zoom zoom);
+    /// What that comes to: how many times as large as its design the page is, and what goes with it.
+    [[nodiscard]] double factor() const { return factor_; }
+    [[nodiscard]] double menuFactor() const { return menuFactor_; }
 
     /// Says what the page tells, in full, and what its accessible description adds.
     virtual void sayOnOpening();
@@ -42,8 +46,10 @@ public:
     void takeFocus();
 
 signals:
-    /// The user has changed the size of the page.
-    void zoomed(ZoomStep step);
+    /// The user has chosen a size.
+    void zoomed(Zoom zoom);
+    /// Menus, and what else goes with the page, have another size.
+    void resized(double menuFactor);
     /// The user has chosen another page, in the menu or by a button.
     void chosen(PageName target);
     /// The user wants to see the about box; this page stays.
@@ -66,6 +72,20 @@ protected:
     /// If a button and a menu title have the same access key, it belongs to the button.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    /// How large the page is, in units, where that is not the design area.
+    struct Extent {
+        /// What is in sight as a whole when the page fits its window.
+        QSizeF whole{kDesignWidth, kDesignHeight};
+        /// What has to be reached, by scrolling at least.
+        QSizeF needed = whole;
+        /// The smallest factor of a page that fits.
+        double leastFit = 1;
+    };
+    void setExtent(const Extent& extent);
+
+    /// Lets the page fit its window.
+    void resizeEvent(QResizeEvent* event) override;
+
     /// What there is to hear on the page.
     [[nodiscard]] Hearing& hearing() { return hearing_; }
 
@@ -77,18 +97,23 @@ private:
     void designIsReady();
     void sayOnDemand();
     void openMenu();
-    void zoomMenu();
+    void fit();
+    void resizeTo(double factor);
+    void resizeMenusTo(double factor);
     [[nodiscard]] bool isUnderAPanel(const QWidget& control) const;
 
     PageName name_;
     QMenuBar* menuBar_;
-    QScrollArea* view_;
     QWidget* design_;
+    PageView* view_;
     Hearing hearing_;
     /// As it was said last.
     QString task_;
     bool taskIsSaid_ = false;
-    ZoomStep zoom_;
+    Extent extent_;
+    Zoom zoom_;
+    double factor_ = 1;
+    double menuFactor_ = 1;
     TopicMenu topicMenu_;
 };
 

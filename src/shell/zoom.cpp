@@ -1,31 +1,46 @@
 #include "shell/zoom.h"
 
-#include <QShortcut>
+#include <algorithm>
+
+#include <QApplication>
 
 #include "controls/control.h"
 
 namespace tavrune {
 
-void zoomControls(const QWidget& design, ZoomStep step) {
+std::optional<Zoom> largerThan(double factor) {
+    const auto* const step = std::find_if(kZoomSteps.begin(), kZoomSteps.end(),
+                                          [factor](int percent) { return Zoom(percent).factor() > factor; });
+    return step == kZoomSteps.end() ? std::nullopt : std::optional(Zoom(*step));
+}
+
+std::optional<Zoom> smallerThan(double factor) {
+    const auto step = std::find_if(kZoomSteps.rbegin(), kZoomSteps.rend(),
+                                   [factor](int percent) { return Zoom(percent).factor() < factor; });
+    return step == kZoomSteps.rend() ? std::nullopt : std::optional(Zoom(*step));
+}
+
+QString wordsFor(Zoom zoom) {
+    return zoom.isFitted() ? "tilpasset vinduet" : QString("%1 procent").arg(zoom.percent());
+}
+
+void zoomControls(const QWidget& design, double factor) {
     for (QWidget* widget : design.findChildren<QWidget*>()) {
         if (auto* const control = dynamic_cast<Control*>(widget)) {
-            control->setZoom(step.factor());
+            control->setZoom(factor);
         }
     }
 }
 
-void bindZoomKeys(QWidget* window, const std::function<ZoomStep()>& current,
-                  const std::function<void(ZoomStep)>& zoom) {
-    const auto bind = [window](const QList<QKeySequence>& keys, const std::function<void()>& action) {
-        for (const QKeySequence& key : keys) {
-            auto* const shortcut = new QShortcut(key, window);
-            QObject::connect(shortcut, &QShortcut::activated, window, action);
-        }
-    };
-    // On keyboards with plus above the equals sign nobody has to hold Shift.
-    bind({QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")}, [current, zoom] { zoom(current().larger()); });
-    bind({QKeySequence("Ctrl+-")}, [current, zoom] { zoom(current().smaller()); });
-    bind({QKeySequence("Ctrl+0")}, [zoom] { zoom(ZoomStep()); });
+void zoomMenu(QWidget& menu, double factor) {
+    // The font of the desktop, whose size is in points or in pixels.
+    QFont font = QApplication::font(&menu);
+    if (font.pixelSize() > 0) {
+        font.setPixelSize(qRound(font.pixelSize() * factor));
+    } else {
+        font.setPointSizeF(font.pointSizeF() * factor);
+    }
+    menu.setFont(font);
 }
 
 }  // namespace tavrune

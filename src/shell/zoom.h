@@ -1,42 +1,51 @@
 #pragma once
 
 #include <array>
-#include <functional>
+#include <optional>
 
+#include <QString>
 #include <QWidget>
 
 namespace tavrune {
 
-/// The sizes that a page can have, in percent of its design.
+/// The sizes of a page that are reached step by step, in percent of its design.
 inline constexpr std::array kZoomSteps{100, 125, 150, 175, 200, 250, 300};
 
-/// One of the sizes, at first that of the design. The smallest has no smaller one, the largest no larger one.
-class ZoomStep {
+/// A page that fits its window is at most this many times as large as its design.
+inline constexpr double kLargestFit = 4;
+
+/// What a student has chosen: a size in percent of the design, 100 at first, or whatever fits the window.
+class Zoom {
 public:
-    [[nodiscard]] ZoomStep larger() const {
-        return ZoomStep(index_ + 1 < kZoomSteps.size() ? index_ + 1 : index_);
-    }
-    [[nodiscard]] ZoomStep smaller() const { return ZoomStep(index_ > 0 ? index_ - 1 : 0); }
+    Zoom() = default;
+    /// Precondition: it is above 0.
+    explicit Zoom(int percent) : percent_(percent) {}
+    [[nodiscard]] static Zoom fitted() { return Zoom(kFitted); }
 
-    [[nodiscard]] int percent() const { return kZoomSteps.at(index_); }
-    [[nodiscard]] double factor() const { return percent() / 100.0; }
+    [[nodiscard]] bool isFitted() const { return percent_ == kFitted; }
+    /// Precondition: it is not fitted.
+    [[nodiscard]] int percent() const { return percent_; }
+    [[nodiscard]] double factor() const { return percent_ / 100.0; }
 
-    bool operator==(const ZoomStep&) const = default;
-
-    ZoomStep() = default;
+    bool operator==(const Zoom&) const = default;
 
 private:
-    explicit ZoomStep(std::size_t index) : index_(index) {}
+    static constexpr int kFitted = 0;
 
-    std::size_t index_ = 0;
+    int percent_ = 100;
 };
 
-/// Sets the zoom of every control below `design`.
-void zoomControls(const QWidget& design, ZoomStep step);
+/// The step above or below a size that may lie between two steps; none beyond the last.
+[[nodiscard]] std::optional<Zoom> largerThan(double factor);
+[[nodiscard]] std::optional<Zoom> smallerThan(double factor);
 
-/// In `window`, Ctrl with plus, minus or 0 calls `zoom` with the next larger or smaller step after `current`,
-/// or with that of the design.
-void bindZoomKeys(QWidget* window, const std::function<ZoomStep()>& current,
-                  const std::function<void(ZoomStep)>& zoom);
+/// As it is said: "200 procent", "tilpasset vinduet".
+[[nodiscard]] QString wordsFor(Zoom zoom);
+
+/// Sets the zoom of every control below `design`.
+void zoomControls(const QWidget& design, double factor);
+
+/// Sets the font of a menu, or of a menu bar, to that of the desktop, `factor` times as large.
+void zoomMenu(QWidget& menu, double factor);
 
 }  // namespace tavrune

@@ -213,10 +213,17 @@ TEST(ProgramEnd, ComesAtOnceByLukEvenWithTheAboutBoxOpen) {
     EXPECT_EQ(program.run(), 0);
 }
 
-TEST_F(ProgramRun, GrowsNoSmallerThanTheDesignArea) {
+TEST_F(ProgramRun, IsAsLargeAsTheDesignAreaOnceItIsNotMaximisedAndCanBeMadeSmaller) {
     choose(PageName::Brok);
-    EXPECT_GE(program.window()->minimumSizeHint().width(), 644);
-    EXPECT_GT(program.window()->minimumSizeHint().height(), 446);
+    EXPECT_GE(program.window()->sizeHint().width(), 644);
+    EXPECT_GT(program.window()->sizeHint().height(), 446);
+    program.window()->showNormal();
+    settle();
+    EXPECT_GE(program.window()->width(), 644);
+    EXPECT_GT(program.window()->height(), 446);
+    program.window()->resize(320, 240);
+    settle();
+    EXPECT_EQ(program.window()->size(), QSize(320, 240));
 }
 
 TEST_F(ProgramRun, OpensEveryBuiltPageFromEveryOther) {

@@ -152,7 +152,7 @@ TEST(AboutBox, IsNotMovedByAZoom) {
     about.show();
     test::settle();
     const QPoint before = about.pos();
-    about.setZoom(ZoomStep().larger());
+    about.setFactor(1.25);
     test::settle();
     EXPECT_EQ(about.pos(), before);
 }

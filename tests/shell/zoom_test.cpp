@@ -22,17 +22,39 @@ namespace {
 using test::FormDriver;
 using test::settle;
 
-TEST(ZoomStep, GoesThroughItsSizesAndStaysWithinThem) {
-    ZoomStep step;
-    EXPECT_EQ(step.smaller(), step);
-    for (const int percent : {100, 125, 150, 175, 200, 250, 300}) {
-        EXPECT_EQ(step.percent(), percent);
-        EXPECT_EQ(step.factor(), percent / 100.0);
-        EXPECT_EQ(step.larger().smaller() == step, percent != 300);
-        step = step.larger();
+TEST(Zoom, IsThatOfTheDesignAtFirst) {
+    EXPECT_EQ(Zoom().percent(), 100);
+    EXPECT_EQ(Zoom().factor(), 1);
+    EXPECT_FALSE(Zoom().isFitted());
+    EXPECT_TRUE(Zoom::fitted().isFitted());
+    EXPECT_FALSE(Zoom() == Zoom::fitted());
+}
+
+TEST(Zoom, GoesFromStepToStepAndNotBeyondTheLast) {
+    Zoom zoom;
+    EXPECT_EQ(smallerThan(zoom.factor()), std::nullopt);
+    for (const int percent : {125, 150, 175, 200, 250, 300}) {
+        const Zoom larger = largerThan(zoom.factor()).value();
+        EXPECT_EQ(larger.percent(), percent);
+        EXPECT_EQ(smallerThan(larger.factor()), zoom);
+        zoom = larger;
     }
-    EXPECT_EQ(step.percent(), 300);
-    EXPECT_EQ(step.smaller().percent(), 250);
+    EXPECT_EQ(largerThan(zoom.factor()), std::nullopt);
+}
+
+TEST(Zoom, GoesFromBetweenTwoStepsToTheNearestOnEitherSide) {
+    EXPECT_EQ(largerThan(2.17), Zoom(250));
+    EXPECT_EQ(smallerThan(2.17), Zoom(200));
+    EXPECT_EQ(largerThan(0.8), Zoom(100));
+    EXPECT_EQ(smallerThan(0.8), std::nullopt);
+    EXPECT_EQ(largerThan(3.6), std::nullopt);
+    EXPECT_EQ(smallerThan(3.6), Zoom(300));
+}
+
+TEST(Zoom, IsSaidInWords) {
+    EXPECT_EQ(wordsFor(Zoom()), "100 procent");
+    EXPECT_EQ(wordsFor(Zoom(250)), "250 procent");
+    EXPECT_EQ(wordsFor(Zoom::fitted()), "tilpasset vinduet");
 }
 
 class ZoomedPage : public testing::Test {
@@ -106,11 +128,7 @@ TEST_F(ZoomedPage, ScalesEveryControlWithItsText) {
         }
     }
     ASSERT_GT(all.size(), 50U);
-    ZoomStep step;
-    while (step.percent() < 200) {
-        step = step.larger();
-    }
-    form.page().setZoom(step);
+    form.page().setZoom(Zoom(200));
     for (const Before& before : all) {
         const QRect now = before.control->widget()->geometry();
         // Whole units of the design become whole pixels; what code has placed may lie between them.
@@ -145,14 +163,14 @@ TEST_F(ZoomedPage, KeepsItsExerciseItsFocusAndItsStrokes) {
 }
 
 TEST_F(ZoomedPage, NeedsNoScrollingAtItsOwnSize) {
-    form.page().resize(form.page().minimumSize());
+    form.page().resize(form.page().sizeHint());
     settle();
     EXPECT_EQ(view().horizontalScrollBar()->maximum(), 0);
     EXPECT_EQ(view().verticalScrollBar()->maximum(), 0);
 }
 
 TEST_F(ZoomedPage, ScrollsToTheFocusWhereItIsLargerThanTheWindow) {
-    form.page().resize(form.page().minimumSize());
+    form.page().resize(form.page().sizeHint());
     for (int times = 0; times < 6; ++times) {
         press(Qt::Key_Plus);
     }
@@ -244,17 +262,18 @@ TEST_F(ZoomedProgram, LetsTheStartPageBeScrolledToItsEnds) {
     EXPECT_GE(design->height(), all.bottom());
 }
 
+void setZoom(Page& page, Zoom zoom) { page.setZoom(zoom); }
+void setZoom(FrmAbout& box, Zoom zoom) { box.setFactor(zoom.factor()); }
+
 /// Brings a page, or any other window that can be zoomed, to every size in turn.
 template <class Window>
 void expectNoFlawsAtAnySize(Window& window) {
     window.show();
     settle();
-    ZoomStep step;
-    for (std::size_t size = 0; size < kZoomSteps.size(); ++size) {
-        window.setZoom(step);
+    for (const int percent : kZoomSteps) {
+        setZoom(window, Zoom(percent));
         settle();
-        EXPECT_EQ(test::flawsOf(window), std::vector<std::string>{}) << step.percent() << " %";
-        step = step.larger();
+        EXPECT_EQ(test::flawsOf(window), std::vector<std::string>{}) << percent << " %";
     }
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QStyleOptionFrame>
 #include <QTextLayout>
 
@@ -40,9 +41,15 @@ double pitchOf(const Label& label) {
                : QFontMetrics(label.font()).lineSpacing();
 }
 
+/// What the spacing of a zoomed font leaves free behind a letter.
+double airBehind(QChar letter, const QFont& font) {
+    const double percent = font.letterSpacing();
+    return percent > 0 ? QFontMetricsF(font).horizontalAdvance(letter) * (1 - 100 / percent) : 0;
+}
+
 /// Height and lines of a label's text as it is laid out in the label's width.
 struct Layout {
-    explicit Layout(const Label& label) {
+    explicit Layout(const Label& label) : font_(label.font()) {
         const QFontMetrics metrics(label.font());
         const double width = label.width();
         const double pitch = pitchOf(label);
@@ -67,7 +74,9 @@ struct Layout {
                 y += pitch;
             }
         }
-        height = y;
+        // What stands between two lines is no part of the last one.
+        const QFontMetricsF exact(label.font());
+        height = y - std::max(0.0, pitch - exact.ascent() - exact.descent());
         place(label);
         if (const auto* const head = qobject_cast<const TableHead*>(&label)) {
             place(*head);
@@ -83,6 +92,7 @@ private:
         std::size_t first;
         double width;
     };
+    QFont font_;
     std::vector<LineOf> lines_;
 
     void addLine(const QString& paragraph, const QTextLine& line, double y, const QFontMetrics& metrics) {
@@ -102,11 +112,11 @@ private:
                 break;
             }
             const double left = line.cursorToX(at);
+            const double right = line.cursorToX(stop) - airBehind(paragraph[stop - 1], font_);
             // The ink of a line: from the top of its capitals to its baseline.
             const double top = y + metrics.ascent() - metrics.capHeight();
-            words.push_back(
-                {{left, top, line.cursorToX(stop) - left, static_cast<double>(metrics.capHeight())},
-                 paragraph.mid(at, stop - at)});
+            words.push_back({{left, top, right - left, static_cast<double>(metrics.capHeight())},
+                             paragraph.mid(at, stop - at)});
             at = stop;
         }
     }
@@ -269,6 +279,15 @@ std::vector<std::string> overfullBoxesOf(const QWidget& window) {
         }
     }
     return overfull;
+}
+
+std::vector<QSize> commonScreens() {
+    std::vector<QSize> screens{{800, 600},   {1024, 768},  {1366, 768},
+                               {1920, 1080}, {2560, 1440}, {3840, 2160}};
+    for (QSize& screen : screens) {
+        screen /= qApp->devicePixelRatio();
+    }
+    return screens;
 }
 
 int looks(int full) {

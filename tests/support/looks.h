@@ -15,6 +15,9 @@ namespace tavrune::test {
 /// shows must not.
 [[nodiscard]] std::vector<std::string> overfullBoxesOf(const QWidget& window);
 
+/// The sizes that a window can have, in device-independent pixels, on screens that students have.
+[[nodiscard]] std::vector<QSize> commonScreens();
+
 /// How many exercises to look at: `full`, or the share of it that TAVRUNE_LOOKS asks for in percent. Fewer
 /// are enough for slow builds and for runs that repeat what has been looked at; a search takes more.
 [[nodiscard]] int looks(int full);
