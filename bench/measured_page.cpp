@@ -1,12 +1,19 @@
 #include "measured_page.h"
 
+#include <cstdio>
+#include <cstdlib>
+
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QMessageBox>
 #include <QThread>
+#include <QTimer>
 
 namespace tavrune::bench {
 namespace {
+
+/// In milliseconds: whatever takes longer will never be painted.
+constexpr int kPatience = 5000;
 
 void settle() {
     for (int round = 0; round < 5; ++round) {
@@ -16,20 +23,25 @@ void settle() {
     }
 }
 
-// The window manager makes a new window the active one last of all; what is measured next does not wait for
-// that.
-void settle(const QWidget& window) {
+/// For what the window manager does, in its own time.
+void wait(const std::function<bool()>& isDone) {
     const QDeadlineTimer deadline(1000);
-    while (!window.isActiveWindow() && !deadline.hasExpired()) {
+    while (!isDone() && !deadline.hasExpired()) {
         QThread::msleep(1);
         QCoreApplication::processEvents();
     }
     settle();
 }
 
+// The window manager makes a new window the active one last of all; what is measured next does not wait for
+// that.
+void settle(const QWidget& window) {
+    wait([&window] { return window.isActiveWindow(); });
+}
+
 }  // namespace
 
-MeasuredPage::MeasuredPage(const test::FormFacts& facts) : facts_(facts) {}
+MeasuredPage::MeasuredPage(const test::FormFacts& facts, Zoom zoom) : facts_(facts), zoom_(zoom) {}
 
 bool MeasuredPage::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() == QEvent::Paint && receiver->isWidgetType() && draws_.drawn() != drawnBefore_) {
@@ -41,6 +53,12 @@ bool MeasuredPage::eventFilter(QObject* receiver, QEvent* event) {
 double MeasuredPage::timed(const std::function<void()>& action) {
     isPainted_ = false;
     qApp->installEventFilter(this);
+    QTimer patience;
+    patience.callOnTimeout([this] {
+        std::fprintf(stderr, "Nothing is painted on %s.\n", std::string(textOf(facts_.page)).c_str());
+        std::exit(EXIT_FAILURE);
+    });
+    patience.start(kPatience);
     const auto start = std::chrono::steady_clock::now();
     action();
     while (!isPainted_) {
@@ -76,6 +94,10 @@ void MeasuredPage::press(const std::string& button) const { student().find<QAbst
 void MeasuredPage::openByMenu(std::uint64_t seed) {
     program_->open(PageName::Form1);
     settle(*program_->page()->window());
+    if (zoom_ != Zoom()) {
+        emit program_->page()->zoomed(zoom_);
+        settle();
+    }
     draws_.start(seed);
     // What is painted before the first exercise is drawn does not count.
     drawnBefore_ = draws_.drawn();
@@ -127,6 +149,49 @@ void MeasuredPage::measure(std::uint64_t seed) {
         student().showAllSteps(facts_.except.failingStep);
     });
     judgeRight(seed + 2);
+    program_.reset();
+    settle();
+}
+
+void MeasuredPage::size() {
+    for (const Zoom zoom : {Zoom(), Zoom(200), Zoom(300), Zoom::fitted()}) {
+        take(sizing, [&] { emit program_->page()->zoomed(zoom); });
+    }
+}
+
+void MeasuredPage::drag() {
+    constexpr int kSteps = 8;
+    constexpr QSize kStep(9, 7);
+    QWidget& window = *program_->window();
+    // Of any size at which the page has to follow.
+    window.resize(window.size() * 0.8);
+    settle();
+    for (int step = 0; step < 2 * kSteps; ++step) {
+        const QSize next = step < kSteps ? window.size() - kStep : window.size() + kStep;
+        take(dragging, [&] { window.resize(next); });
+    }
+    window.resize(window.size() / 0.8);
+    settle();
+}
+
+void MeasuredPage::measureSizes(std::uint64_t seed) {
+    program_ = std::make_unique<Program>(draws_);
+    openByMenu(seed);
+    // As large as the screen, but not maximised: such a window can't be dragged.
+    QWidget& window = *program_->window();
+    const QSize largest = window.size();
+    window.showNormal();
+    wait([&] { return window.size() != largest; });
+    window.resize(largest);
+    settle(window);
+    size();
+    drag();
+    press("help");
+    static_cast<void>(dismissMessages());
+    student().showAllSteps(facts_.except.failingStep);
+    settle();
+    size();
+    drag();
     program_.reset();
     settle();
 }

@@ -33,10 +33,14 @@ private:
 /// Times what a student waits for on one form, each up to the picture on the display, in milliseconds.
 class MeasuredPage final : public QObject {
 public:
-    explicit MeasuredPage(const test::FormFacts& facts);
+    explicit MeasuredPage(const test::FormFacts& facts, Zoom zoom = {});
 
     /// One round of everything.
     void measure(std::uint64_t seed);
+
+    /// One round of what is done to the size of the page: it is chosen, and the window is dragged larger and
+    /// smaller. Each is a sample with the help closed and open.
+    void measureSizes(std::uint64_t seed);
 
     [[nodiscard]] const test::FormFacts& facts() const { return facts_; }
 
@@ -44,6 +48,8 @@ public:
     Samples newExercise;
     Samples judging;
     Samples helping;
+    Samples sizing;
+    Samples dragging;
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -63,7 +69,11 @@ private:
     /// Without a way of the pointer, which is not measured.
     void press(const std::string& button) const;
 
+    void size();
+    void drag();
+
     test::FormFacts facts_;
+    Zoom zoom_;
     RepeatableDraws draws_;
     std::unique_ptr<Program> program_;
     static constexpr long long kNone = -1;

@@ -9,6 +9,11 @@
 // The rows of the slowest form while a screen reader listens; wants an accessibility bus of its own.
 //
 //     tavrune_speed --heard
+//
+// Those of pages that fit a window as large as the screen, and of changes of their size; wants a large
+// screen.
+//
+//     tavrune_speed --fitted
 
 #include <algorithm>
 #include <array>
@@ -22,6 +27,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -44,6 +50,9 @@ struct Effort {
 constexpr double kStartBar = 1.25;
 constexpr double kOpeningBar = 16;
 constexpr double kActionBar = 8;
+constexpr double kSizeBar = 16;
+// Of 60 in a second.
+constexpr double kFrameBar = 1000.0 / 60;
 constexpr double kGeneratorBar = 100'000;
 constexpr int kIdleSeconds = 10;
 // Until all the windows stand that are opened at once; and how long each stays, so that none uncovers another
@@ -99,6 +108,8 @@ void measureStart(SpeedTable& table, const Effort& effort, const std::string& ou
                    kStartBar);
 }
 
+std::uint64_t seedOf(int round) { return static_cast<std::uint64_t>(round) * 1000 + 17; }
+
 void measurePages(SpeedTable& table, const Effort& effort) {
     std::vector<std::unique_ptr<MeasuredPage>> pages;
     for (const test::FormFacts& facts : test::allForms()) {
@@ -106,7 +117,7 @@ void measurePages(SpeedTable& table, const Effort& effort) {
     }
     for (int round = 0; round < effort.rounds; ++round) {
         for (const auto& page : pages) {
-            page->measure(static_cast<std::uint64_t>(round) * 1000 + 17);
+            page->measure(seedOf(round));
         }
     }
     const auto add = [&](const std::string& what, Samples MeasuredPage::*samples, double bar) {
@@ -121,28 +132,57 @@ void measurePages(SpeedTable& table, const Effort& effort) {
     add("help with all its steps", &MeasuredPage::helping, kActionBar);
 }
 
-/// Of all forms the slowest one, by each action.
+using Pages = std::vector<std::unique_ptr<MeasuredPage>>;
+
+/// A row of the form that is slowest.
+void addSlowest(SpeedTable& table, const std::string& what, const Pages& pages,
+                Samples MeasuredPage::*samples, double bar) {
+    const auto& slowest =
+        **std::max_element(pages.begin(), pages.end(), [samples](const auto& one, const auto& other) {
+            return quantile((*one).*samples, 0.95) < quantile((*other).*samples, 0.95);
+        });
+    table.addTimes(what + ", slowest: " + std::string(textOf(slowest.facts().page)), "ms", slowest.*samples,
+                   bar);
+}
+
+void addSlowestActions(SpeedTable& table, const std::string& when, const Pages& pages) {
+    addSlowest(table, when + ", menu to the first exercise", pages, &MeasuredPage::opening, kOpeningBar);
+    addSlowest(table, when + ", \"Ny opgave\"", pages, &MeasuredPage::newExercise, kActionBar);
+    addSlowest(table, when + ", \"OK\" with its drawing", pages, &MeasuredPage::judging, kActionBar);
+    addSlowest(table, when + ", help with all its steps", pages, &MeasuredPage::helping, kActionBar);
+}
+
 void measureHeard(SpeedTable& table, const Effort& effort) {
-    std::vector<std::unique_ptr<MeasuredPage>> pages;
+    Pages pages;
     for (const test::FormFacts& facts : test::allForms()) {
         pages.push_back(std::make_unique<MeasuredPage>(facts));
         for (int round = 0; round < effort.rounds; ++round) {
-            pages.back()->measure(static_cast<std::uint64_t>(round) * 1000 + 17);
+            pages.back()->measure(seedOf(round));
         }
     }
-    const auto add = [&](const std::string& what, Samples MeasuredPage::*samples, double bar) {
-        const auto slowest =
-            std::max_element(pages.begin(), pages.end(), [samples](const auto& one, const auto& other) {
-                return quantile((*one).*samples, 0.95) < quantile((*other).*samples, 0.95);
-            });
-        table.addTimes("While a screen reader listens, " + what +
-                           ", slowest: " + std::string(textOf((*slowest)->facts().page)),
-                       "ms", (**slowest).*samples, bar);
-    };
-    add("menu to the first exercise", &MeasuredPage::opening, kOpeningBar);
-    add("\"Ny opgave\"", &MeasuredPage::newExercise, kActionBar);
-    add("\"OK\" with its drawing", &MeasuredPage::judging, kActionBar);
-    add("help with all its steps", &MeasuredPage::helping, kActionBar);
+    addSlowestActions(table, "While a screen reader listens", pages);
+}
+
+void measureFitted(SpeedTable& table, const Effort& effort) {
+    // A picture of that size takes its time, and each round of sizes has many samples.
+    constexpr int kFewer = 20;
+    constexpr int kFewest = 40;
+    Pages pages;
+    for (const test::FormFacts& facts : test::allForms()) {
+        pages.push_back(std::make_unique<MeasuredPage>(facts, Zoom::fitted()));
+        for (int round = 0; round < std::max(1, effort.rounds / kFewer); ++round) {
+            pages.back()->measure(seedOf(round));
+        }
+        for (int round = 0; round < std::max(1, effort.rounds / kFewest); ++round) {
+            pages.back()->measureSizes(seedOf(round));
+        }
+    }
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    const std::string when =
+        "Fitted to " + std::to_string(screen.width()) + " x " + std::to_string(screen.height());
+    addSlowestActions(table, when, pages);
+    addSlowest(table, when + ", another size", pages, &MeasuredPage::sizing, kSizeBar);
+    addSlowest(table, when + ", a step of dragging the window", pages, &MeasuredPage::dragging, kFrameBar);
 }
 
 void measureGenerators(SpeedTable& table, const Effort& effort, const std::string& generators) {
@@ -233,6 +273,14 @@ int measure(const Effort& effort, const std::string& self, char** programs) {
     return table.areAllMet() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
+/// The rows of one kind, by themselves. Returns the exit status.
+int printed(void (*measureRows)(SpeedTable&, const Effort&)) {
+    SpeedTable table;
+    measureRows(table, {});
+    std::fputs(table.text().c_str(), stdout);
+    return table.areAllMet() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
 }  // namespace
 }  // namespace tavrune::bench
 
@@ -251,10 +299,10 @@ int main(int argc, char** argv) {
             std::fprintf(stderr, "There is no accessibility bus.\n");
             return EXIT_FAILURE;
         }
-        tavrune::bench::SpeedTable table;
-        tavrune::bench::measureHeard(table, {});
-        std::fputs(table.text().c_str(), stdout);
-        return table.areAllMet() ? EXIT_SUCCESS : EXIT_FAILURE;
+        return tavrune::bench::printed(&tavrune::bench::measureHeard);
+    }
+    if (argc == 2 && std::strcmp(argv[1], "--fitted") == 0) {
+        return tavrune::bench::printed(&tavrune::bench::measureFitted);
     }
     const bool once = argc == 6 && std::strcmp(argv[1], "--once") == 0;
     if (argc != 5 && !once) {

@@ -5,7 +5,7 @@
 under=()
 arguments=()
 
-# A display of its own with a window manager, for as long as the script runs.
+# A display of its own with a window manager, for as long as the script runs, of the given size, or 800x600.
 start_display() {
     unset WAYLAND_DISPLAY
     export QT_QPA_PLATFORM=xcb
@@ -16,7 +16,7 @@ start_display() {
     local number=90
     while [ -e "/tmp/.X11-unix/X$number" ]; do number=$((number + 1)); done
     export DISPLAY=:$number
-    Xvfb "$DISPLAY" -noreset -screen 0 800x600x24 >/dev/null 2>&1 &
+    Xvfb "$DISPLAY" -noreset -screen 0 "${1:-800x600}x24" >/dev/null 2>&1 &
     local xvfb=$!
     trap 'kill $(jobs -p) 2>/dev/null || true' EXIT
     for _ in $(seq 100); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.05; done

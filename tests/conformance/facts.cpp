@@ -13,7 +13,7 @@ const std::vector<FormFacts>& toldForms() {
     const FormExceptions threeGiven{.filledBoxes = 3};
     const FormExceptions vertical{.breaksDecideNothing = true};
     const FormExceptions earlierEnd{.refusal = Refusal::EarlierEnd, .failingStep = "showSum"};
-    const FormExceptions helpTable{.refusal = Refusal::HelpTableCell};
+    const FormExceptions helpTable{.refusal = Refusal::HelpTableCell, .dividesByADrawOfZero = true};
     const FormExceptions halves{.refusal = Refusal::NegativeHalves};
     const FormExceptions halvesAndMessage{.refusal = Refusal::NegativeHalves, .helpsByMessage = true};
     const FormExceptions sharedKey{.sharedKeys = {{"Alt+I", {"&Indhold", "&Ingen rødder"}}}};

@@ -35,6 +35,8 @@ struct FormExceptions {
     /// The step that fails where a price of the help table is blank, and ends the program. Such a form also
     /// has exercises that end it by an overflow as they are drawn. Empty for all that never fail.
     std::string failingStep{};
+    /// A draw of just 0 makes a slope that is divided by, which ends the program.
+    bool dividesByADrawOfZero = false;
     /// The help is a message, without a panel or a step.
     bool helpsByMessage = false;
     /// It is the fraction that is wrong, and turns red as a whole.

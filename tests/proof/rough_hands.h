@@ -9,6 +9,7 @@
 
 #include "app/program.h"
 #include "controls/answer_box.h"
+#include "numeric/draws.h"
 #include "proof/choices.h"
 
 class QMessageBox;
@@ -28,6 +29,20 @@ public:
 private:
     int done_ = 0;
     bool isPainting_ = false;
+};
+
+/// Draws of another, and the last of them.
+class NotedDraws final : public Draws {
+public:
+    explicit NotedDraws(Draws& draws) : draws_(draws) {}
+
+    float Rnd() override { return last_ = draws_.Rnd(); }
+    void Randomize() override { draws_.Randomize(); }
+    [[nodiscard]] float last() const { return last_; }
+
+private:
+    Draws& draws_;
+    float last_ = 1;
 };
 
 /// Somebody who does anything at all to one page of the running program: keys, pasted texts of every kind,
@@ -89,7 +104,7 @@ private:
 
     PageName home_;
     Choices& choices_;
-    Draws& draws_;
+    NotedDraws draws_;
     std::unique_ptr<Program> program_;
     bool hasEnded_ = false;
     QPointer<Page> watched_;
