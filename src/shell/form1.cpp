@@ -112,8 +112,7 @@ Form1::Form1() : Page(PageName::Form1) {
 
     setAccessibleDescription(
         "F2 siger opgaven igen på enhver side; to gange F2 fortæller, hvad graferne viser. Ctrl og plus gør "
-        "siden "
-        "større, Ctrl og minus mindre. F10 åbner menuen.");
+        "siden større, Ctrl og minus mindre, og Ctrl og 9 tilpasser den til vinduet. F10 åbner menuen.");
     connect(ui.nextPage, &Button::clicked, this, [this] { emit chosen(PageName::Form2); });
     ui.nextPage->setFocus();
 }
