@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QAccessible>
+#include <QApplication>
 #include <QShortcut>
 
 #include "controls/answer_box.h"
@@ -141,6 +143,16 @@ void SizeChoice::openMenu(const QContextMenuEvent& event) const {
     }
     addTo(*menu);
     zoomMenu(*menu, sizes_.menuFactor());
+    // A reader has followed the focus into the menu, and is not told that it comes back.
+    connect(
+        menu, &QMenu::aboutToHide, this,
+        [] {
+            if (QWidget* const focused = QApplication::focusWidget()) {
+                QAccessibleEvent back(focused, QAccessible::Focus);
+                QAccessible::updateAccessibility(&back);
+            }
+        },
+        Qt::QueuedConnection);
     menu->popup(event.globalPos());
     if (isByKey) {
         const QList<QAction*> entries = menu->actions();
