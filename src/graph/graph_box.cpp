@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <tuple>
+#include <utility>
 
 #include <QChildEvent>
 #include <QMouseEvent>
@@ -47,15 +48,15 @@ int firstPixel(double x, int thickness, double size) {
 /// Paints strokes in pixels of the device.
 class StrokePainter {
 public:
-    StrokePainter(QPainter& painter, QSizeF pixels, double pixelsToAUnit)
-        : painter_(painter), pixels_(pixels), pixelsToAUnit_(pixelsToAUnit) {}
+    StrokePainter(QPainter& painter, QSizeF pixels, QSizeF units, double pixelsToAUnit)
+        : painter_(painter), pixels_(pixels), units_(units), pixelsToAUnit_(pixelsToAUnit) {}
 
     void paint(const Stroke& stroke) {
         const Mapping map(stroke.scale, pixels_);
         const int thickness = std::max(1, static_cast<int>(std::lround(stroke.width * pixelsToAUnit_)));
         if (stroke.kind == Stroke::Kind::Point) {
             endCurve();
-            paintPoint(map(stroke.x1, stroke.y1), thickness, stroke.colour);
+            paintPoint(stroke, thickness);
             return;
         }
         const double margin = 2.0 * thickness;
@@ -81,19 +82,46 @@ public:
 private:
     QPainter& painter_;
     QSizeF pixels_;
+    QSizeF units_;
     double pixelsToAUnit_;
     // The pieces of a curve are painted in one go, without a seam at each of their many ends.
     QPolygonF curve_;
     QPen curvePen_;
 
-    void paintPoint(QPointF at, int thickness, const QColor& colour) {
+    void paintPoint(const Stroke& stroke, int thickness) {
+        const QPointF at = Mapping(stroke.scale, pixels_)(stroke.x1, stroke.y1);
         const QRectF near =
             QRectF(QPointF(0, 0), pixels_).adjusted(-thickness, -thickness, thickness, thickness);
         if (!near.contains(at)) {
             return;
         }
-        painter_.fillRect(firstPixel(at.x(), thickness, pixels_.width()),
-                          firstPixel(at.y(), thickness, pixels_.height()), thickness, thickness, colour);
+        QRect point(firstPixel(at.x(), thickness, pixels_.width()),
+                    firstPixel(at.y(), thickness, pixels_.height()), thickness, thickness);
+        if (stroke.width == 1 && stroke.meaning == Meaning::TickOfX) {
+            const auto [top, below] = besideAxis(stroke, thickness, &QPointF::y, &QSizeF::height);
+            point.setTop(top);
+            point.setBottom(below - 1);
+        } else if (stroke.width == 1 && stroke.meaning == Meaning::TickOfY) {
+            const auto [left, beyond] = besideAxis(stroke, thickness, &QPointF::x, &QSizeF::width);
+            point.setLeft(left);
+            point.setRight(beyond - 1);
+        }
+        painter_.fillRect(point, stroke.colour);
+    }
+
+    /// The first pixel of a point of a tick, and the one after its last: it stands as many whole units off
+    /// the axis, which is at 0, as in the design, so that what touches there does so at every zoom.
+    [[nodiscard]] std::pair<int, int> besideAxis(const Stroke& stroke, int thickness,
+                                                 double (QPointF::*along)() const,
+                                                 double (QSizeF::*sizeOf)() const) const {
+        const auto first = [&](double x, double y, QSizeF size, int pen) {
+            return firstPixel((Mapping(stroke.scale, size)(x, y).*along)(), pen, (size.*sizeOf)());
+        };
+        const int units = first(stroke.x1, stroke.y1, units_, 1) - first(0, 0, units_, 1);
+        const int axis = first(0, 0, pixels_, thickness);
+        const double from =
+            units > 0 ? axis + thickness + (units - 1) * pixelsToAUnit_ : axis + units * pixelsToAUnit_;
+        return {qRound(from), qRound(from + pixelsToAUnit_)};
     }
 
     void paintLine(const QLineF& line, const Stroke& stroke, int thickness) {
@@ -282,7 +310,7 @@ void GraphBox::renewPicture() {
     }
     QPainter painter(&picture_);
     painter.scale(1 / ratio, 1 / ratio);
-    StrokePainter strokePainter(painter, pixels, ratio * zoom());
+    StrokePainter strokePainter(painter, pixels, Control::place().size(), ratio * zoom());
     for (; painted_ < strokes_.size(); ++painted_) {
         strokePainter.paint(strokes_[painted_]);
     }
