@@ -48,6 +48,8 @@ void Control::setPlace(const QRectF& place) {
     applyPlace();
 }
 
+int Control::designHeight() const { return qRound(place().bottom()) - qRound(place().top()); }
+
 void Control::setLeft(double left) {
     QRectF moved = place();
     moved.moveLeft(left);
@@ -136,10 +138,13 @@ void Control::applyFont() {
     fontHasChanged();
 }
 
+double wholePixels(const QPaintDevice& device, double width) {
+    const double ratio = device.devicePixelRatioF();
+    return qMax(1, qFloor(width * ratio)) / ratio;
+}
+
 void drawOutline(QPainter& painter, const QRectF& box, double units, const QColor& colour) {
-    const double ratio = painter.device()->devicePixelRatioF();
-    // Whole pixels of the screen, otherwise the edges would not look alike.
-    const double width = qMax(1, qFloor(units * ratio)) / ratio;
+    const double width = wholePixels(*painter.device(), units);
     painter.fillRect(QRectF(box.left(), box.top(), box.width(), width), colour);
     painter.fillRect(QRectF(box.left(), box.bottom() - width, box.width(), width), colour);
     painter.fillRect(QRectF(box.left(), box.top(), width, box.height()), colour);

@@ -43,6 +43,8 @@ public:
 
     /// Returns left, top, width and height in units, within the parent.
     [[nodiscard]] QRectF place() const;
+    /// Returns the height, in pixels, that the control has before any zoom.
+    [[nodiscard]] int designHeight() const;
     void setPlace(const QRectF& place);
     void setLeft(double left);
     void setTop(double top);
@@ -90,6 +92,10 @@ private:
     double textSize_ = kDesignTextSize;
     double zoom_ = 1;
 };
+
+/// Returns the width of a line, in device-independent pixels, that has as many whole pixels of the screen as
+/// fit into `width`, at least one. Lines of broken widths would not look alike.
+[[nodiscard]] double wholePixels(const QPaintDevice& device, double width);
 
 /// Draws an outline of a width along the inner edges of `box`.
 void drawOutline(QPainter& painter, const QRectF& box, double units, const QColor& colour);

@@ -1,7 +1,10 @@
 #include "controls/design_style.h"
 
 #include <QAccessible>
+#include <QPainter>
+#include <QPainterPath>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 #include "controls/control.h"
 
@@ -10,6 +13,59 @@ namespace {
 
 const QColor kFieldOutline(128, 128, 128);
 
+// As Fusion has them, in units.
+constexpr double kButtonCorner = 2;
+constexpr double kBesideFocusedText = 3;
+constexpr double kOverFocusedText = 2;
+
+/// Draws what fills an area as it is drawn in the design, with its outline, enlarged.
+template <class Option>
+void drawEnlarged(const QStyle& style, QStyle::PrimitiveElement element, const Option& option,
+                  QPainter& painter, double zoom) {
+    const QSizeF size = option.rect.size();
+    Option design(option);
+    design.rect = QRect(QPoint(0, 0), (size / zoom).toSize().expandedTo({1, 1}));
+    painter.save();
+    painter.translate(option.rect.topLeft());
+    painter.scale(size.width() / design.rect.width(), size.height() / design.rect.height());
+    style.drawPrimitive(element, &design, &painter);
+    painter.restore();
+}
+
+/// Draws the outline of a button again, as wide as other outlines are.
+void drawButtonOutline(const QStyleOption& option, QPainter& painter, double zoom) {
+    const double width = wholePixels(*painter.device(), zoom);
+    const QPalette& palette = option.palette;
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+    const QColor plain = palette.color(QPalette::Window).darker(140);
+    const QColor colour = option.state.testFlag(QStyle::State_HasFocus)
+                              ? palette.color(QPalette::Highlight).darker(125)
+                          : isEnabled ? plain
+                                      : plain.lighter(115);
+    QPainterPath ring;
+    ring.addRoundedRect(option.rect, kButtonCorner, kButtonCorner);
+    ring.addRect(QRectF(option.rect).adjusted(width, width, -width, -width));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(ring, colour);
+    painter.restore();
+}
+
+/// Where QLineEdit has the baseline of a text, in a box of a height.
+int baselineIn(int height, const QFont& font) {
+    const QFontMetricsF exact(font);
+    const int line = qMax(QFontMetrics(font).height(), qRound(exact.height()));
+    return (height - line + 1) / 2 + qRound(exact.ascent());
+}
+
+/// How far down a field's text has to go to stand where the design has it.
+int offDesign(const Control& field) {
+    const int design = baselineIn(field.designHeight(), field.unzoomedFont());
+    const QWidget& box = *field.widget();
+    return qRound((field.place().top() + design) * field.zoom()) - box.y() -
+           baselineIn(box.height(), box.font());
+}
+
 }  // namespace
 
 DesignStyle::DesignStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -17,13 +73,31 @@ DesignStyle::DesignStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
 void DesignStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                 const QWidget* widget) const {
     const auto* const control = dynamic_cast<const Control*>(widget);
-    if (element != PE_FrameLineEdit || control == nullptr) {
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_FrameLineEdit && control != nullptr) {
+        const bool isFocused = option->state.testFlag(State_HasFocus);
+        drawOutline(*painter, option->rect, (isFocused ? 2 : 1) * control->zoom(),
+                    isFocused ? option->palette.color(QPalette::Highlight) : kFieldOutline);
         return;
     }
-    const bool isFocused = option->state.testFlag(State_HasFocus);
-    drawOutline(*painter, option->rect, (isFocused ? 2 : 1) * control->zoom(),
-                isFocused ? option->palette.color(QPalette::Highlight) : kFieldOutline);
+    const double zoom = control == nullptr ? 1 : control->zoom();
+    const auto* const mark = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const auto* const focus = qstyleoption_cast<const QStyleOptionFocusRect*>(option);
+    if (zoom != 1 && element == PE_IndicatorRadioButton && mark != nullptr) {
+        drawEnlarged(*baseStyle(), element, *mark, *painter, zoom);
+        return;
+    }
+    if (zoom != 1 && element == PE_FrameFocusRect && focus != nullptr) {
+        const int beside = qRound(kBesideFocusedText * (zoom - 1));
+        const int over = qRound(kOverFocusedText * (zoom - 1));
+        QStyleOptionFocusRect larger(*focus);
+        larger.rect = focus->rect.adjusted(-beside, -over, beside, over).intersected(widget->rect());
+        drawEnlarged(*baseStyle(), element, larger, *painter, zoom);
+        return;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (zoom != 1 && element == PE_PanelButtonCommand) {
+        drawButtonOutline(*option, *painter, zoom);
+    }
 }
 
 int DesignStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -40,6 +114,14 @@ int DesignStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
         default:
             return QProxyStyle::styleHint(hint, option, widget, data);
     }
+}
+
+QRect DesignStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                  const QWidget* widget) const {
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    const auto* const control = dynamic_cast<const Control*>(widget);
+    const bool isLarger = control != nullptr && control->zoom() != 1;
+    return isLarger && element == SE_LineEditContents ? rect.translated(0, offDesign(*control)) : rect;
 }
 
 int DesignStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

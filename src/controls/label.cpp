@@ -52,50 +52,62 @@ void Label::fit() {
     setPlace(fitted);
 }
 
-void Label::paintEvent(QPaintEvent* event) {
-    if (haloed_) {
-        paintHalo();
-    }
-    if (wordWrap() && zoom() != 1) {
-        paintLines();
-    } else {
-        QLabel::paintEvent(event);
-    }
+double Label::baseline(int line, int lines) const {
+    // Not the metrics of the zoomed font: these are rounded to whole pixels, and texts would drift from what
+    // stands beside them.
+    const QFontMetricsF design(unzoomedFont());
+    const double pitch = std::ceil(design.ascent()) + std::ceil(design.descent());
+    const bool isCentred = alignment().testFlag(Qt::AlignVCenter);
+    const double above = isCentred ? (designHeight() - (lines - 1) * pitch - design.height()) / 2 : 0;
+    // Qt draws letters at whole pixels, the lower one where it is half way to the next.
+    const double fromTop = std::ceil(above + design.ascent() - 0.5) + line * pitch;
+    return qRound((place().top() + fromTop) * zoom()) - y();
 }
 
-void Label::paintHalo() {
-    QPainter painter(this);
+void Label::paintEvent(QPaintEvent* event) {
+    if (zoom() != 1) {
+        paintZoomed();
+        return;
+    }
+    if (haloed_) {
+        QPainter painter(this);
+        paintHalo(painter, [&](const QPointF& moved) {
+            painter.drawText(QRectF(contentsRect()).translated(moved), static_cast<int>(alignment()), text());
+        });
+    }
+    QLabel::paintEvent(event);
+}
+
+void Label::paintHalo(QPainter& painter, const std::function<void(const QPointF&)>& paintText) const {
     painter.setPen(kWhite);
     // Letters consist of thin strokes, so that copies in four directions surround them.
-    for (const double dx : {-1.0, 1.0}) {
-        for (const double dy : {-1.0, 1.0}) {
-            const QRectF moved = QRectF(contentsRect()).translated(dx * zoom(), dy * zoom());
-            painter.drawText(moved, static_cast<int>(alignment()), text());
+    for (const double dx : {-zoom(), zoom()}) {
+        for (const double dy : {-zoom(), zoom()}) {
+            paintText({dx, dy});
         }
     }
 }
 
-void Label::paintLines() {
+void Label::paintZoomed() {
     QTextLayout layout(QString(text()).replace('\n', QChar::LineSeparator), font());
     QTextOption option(alignment() & Qt::AlignHorizontal_Mask);
-    option.setWrapMode(QTextOption::WordWrap);
+    option.setWrapMode(wordWrap() ? QTextOption::WordWrap : QTextOption::ManualWrap);
     layout.setTextOption(option);
-    // Not the height of the zoomed font: that is rounded to whole pixels, and lines would drift from the
-    // design.
-    const QFontMetricsF design(unzoomedFont());
-    const double pitch = (std::ceil(design.ascent()) + std::ceil(design.descent())) * zoom();
-    double top = 0;
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width());
-        line.setPosition({0, top});
-        top += pitch;
     }
     layout.endLayout();
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        QTextLine line = layout.lineAt(i);
+        line.setPosition({0, baseline(i, layout.lineCount()) - line.ascent()});
+    }
     QPainter painter(this);
+    if (haloed_) {
+        paintHalo(painter, [&](const QPointF& moved) { layout.draw(&painter, moved); });
+    }
     painter.setPen(palette().color(foregroundRole()));
-    const double lower = alignment().testFlag(Qt::AlignVCenter) ? (height() - top) / 2 : 0;
-    layout.draw(&painter, {0, lower});
+    layout.draw(&painter, {0, 0});
 }
 
 }  // namespace tavrune

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 #include <QLabel>
@@ -49,13 +50,15 @@ public:
 
 protected:
     void fontHasChanged() override { fit(); }
-    /// Keeps the lines of a text where they are in the design, at every zoom: other labels lie over its gaps.
+    /// Where a line of so many stands, in pixels from the top: at every zoom where it is in the design, so
+    /// that texts beside each other, or over each other's gaps, stay on one line.
+    [[nodiscard]] double baseline(int line, int lines) const;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void fit();
-    void paintHalo();
-    void paintLines();
+    void paintHalo(QPainter& painter, const std::function<void(const QPointF&)>& paintText) const;
+    void paintZoomed();
 
     bool autoSize_ = false;
     bool decorative_ = false;

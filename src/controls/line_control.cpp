@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPalette>
+#include <QtMath>
 
 namespace tavrune {
 
@@ -52,8 +53,13 @@ void LineControl::setThickness(double units) {
 void LineControl::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const double width = thickness_ * zoom();
-    if (this->height() <= width + 0.5 || this->width() <= width + 0.5) {
-        painter.fillRect(rect(), colour());
+    // By the design, too: between whole zooms the rounded edges of one line are a pixel further apart than
+    // those of another, which does not make it thicker or slanted. All have room for the whole units.
+    const bool isLevel = place().height() <= thickness_ || height() <= width + 0.5;
+    if (isLevel || place().width() <= thickness_ || this->width() <= width + 0.5) {
+        const double pixels = wholePixels(*this, qMax(1, qFloor(width)));
+        painter.fillRect(isLevel ? QRectF(0, 0, this->width(), pixels) : QRectF(0, 0, pixels, height()),
+                         colour());
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);

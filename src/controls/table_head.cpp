@@ -30,7 +30,7 @@ void TableHead::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setPen(textColour());
     for (const auto& [place, name] : words()) {
-        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip, name);
+        painter.drawText(QPointF(place.left(), baseline(0, 1)), name);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMenu>
+#include <QScrollArea>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -364,6 +365,26 @@ TEST_P(EveryForm, HasNoTextCutOffOrOverAnotherFittedToAnyScreen) {
             ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << screen.width() << ", help";
             form.click("newExercise");
         }
+    }
+}
+
+TEST_P(EveryForm, HasNoTextOffItsLineAtAnyFactor) {
+    const FormDriver form = open(2008);
+    QWidget& design = *form.page().findChild<QScrollArea*>()->widget();
+    for (const double zoom : {1.1, 1.37, 1.73, 2.2, 2.61, 3.3, 4.0}) {
+        design.setMinimumSize((QSizeF(kDesignWidth, kDesignHeight) * zoom).toSize());
+        for (QWidget* widget : design.findChildren<QWidget*>()) {
+            if (auto* const control = dynamic_cast<Control*>(widget)) {
+                control->setZoom(zoom);
+            }
+        }
+        test::settle();
+        ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << zoom;
+        answerWrongly(form);
+        form.click("giveAnswer");
+        openWholeHelp(form);
+        ASSERT_EQ(test::flawsOf(form.page()), std::vector<std::string>{}) << zoom << ", help";
+        form.click("newExercise");
     }
 }
 

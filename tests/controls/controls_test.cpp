@@ -16,6 +16,7 @@
 #include "controls/panel.h"
 #include "controls/row.h"
 #include "controls/table_head.h"
+#include "support/painted_texts.h"
 
 namespace tavrune {
 namespace {
@@ -87,6 +88,53 @@ TEST(OptionButton, HasAMarkThatGrowsWithIt) {
     option.setZoom(2.5);
     EXPECT_EQ(option.style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &option),
               qRound(mark * 2.5));
+}
+
+TEST(OptionButton, HasAnOutlineRoundItsMarkThatGrowsWithIt) {
+    OptionButton option;
+    option.setPlace({0, 0, 60, 20});
+    option.setZoom(4);
+    const QImage picture = option.grab().toImage();
+    const int middle = picture.height() / 2;
+    const QColor ground = picture.pixelColor(0, 0);
+    int outline = 0;
+    for (int x = 0; picture.pixelColor(x, middle) != kWhite; ++x) {
+        outline += picture.pixelColor(x, middle) != ground ? 1 : 0;
+    }
+    EXPECT_NEAR(outline, 4 * picture.devicePixelRatio(), 1);
+}
+
+TEST(OptionButton, ShowsItsFocusRoundItsTextAtEveryZoom) {
+    QWidget page;
+    OptionButton option(&page);
+    option.setText("Rod");
+    option.setPlace({0, 0, 100, 20});
+    page.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
+    focusOn(&option);
+    for (const double zoom : {1.0, 1.5, 2.0, 3.0, 4.0}) {
+        option.setZoom(zoom);
+        const QImage picture = option.grab().toImage();
+        const double ratio = picture.devicePixelRatio();
+        const double beside = test::paintedTexts(option).at(0).x - 2 * zoom;
+        EXPECT_NE(picture.pixelColor(qFloor(beside * ratio), picture.height() / 2), picture.pixelColor(0, 0))
+            << zoom;
+    }
+}
+
+TEST(Button, HasAnOutlineThatGrowsWithIt) {
+    Button button;
+    button.setPlace({0, 0, 76, 25});
+    for (const double zoom : {2.0, 3.0, 4.0}) {
+        button.setZoom(zoom);
+        const QImage picture = button.grab().toImage();
+        const QColor outline = picture.pixelColor(0, picture.height() / 2);
+        int width = 0;
+        while (picture.pixelColor(width, picture.height() / 2) == outline) {
+            ++width;
+        }
+        EXPECT_EQ(width, qFloor(zoom * picture.devicePixelRatio())) << zoom;
+    }
 }
 
 TEST(DesignFont, IsOneOfTheDesignsOwn) {
@@ -189,6 +237,75 @@ TEST(Label, KeepsItsLinesWhereTheDesignHasThemAtEveryZoom) {
         for (std::size_t line = 1; line < tops.size(); ++line) {
             EXPECT_NEAR(tops[line] - tops[0], (design[line] - design[0]) * zoom, 1)
                 << zoom << ", line " << line;
+        }
+    }
+}
+
+/// Whole ones, and what fits a window of any size.
+constexpr std::array kZooms{1.0, 1.25, 1.37, 1.5, 1.73, 2.0, 2.2, 2.61, 3.0, 4.0};
+
+/// Where the letters stand that a control paints at a time, within its parent.
+int lineOf(QWidget& control, std::size_t time = 0) {
+    return control.y() + test::paintedTexts(control).at(time).baseline;
+}
+
+TEST(Label, StandsOnOneLineWithWhatIsBesideItAtEveryZoom) {
+    QWidget page;
+    Label word(&page);
+    Label exponent(&page);
+    Label sign(&page);
+    Label centred(&page);
+    Label paragraph(&page);
+    TableHead head(&page);
+    AnswerBox second(&page);
+    AnswerBox box(&page);
+    const std::vector<std::pair<Label*, QRectF>> labels{
+        {&word, {0, 40, 20, 14}},     {&exponent, {20, 43, 10, 12}},  {&sign, {30, 27, 20, 40}},
+        {&centred, {50, 33, 20, 25}}, {&paragraph, {70, 14, 14, 70}}, {&head, {110, 40, 40, 14}}};
+    exponent.setTextSize(8);
+    sign.setTextSize(26);
+    sign.setSerif(true);
+    centred.setTextSize(13);
+    centred.setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    paragraph.setWordWrap(true);
+    for (const auto& [label, place] : labels) {
+        label->setPlace(place);
+        label->setCaption(label == &paragraph ? "α β H α" : "α");
+    }
+    head.standOver({&second});
+    second.setPlace({110, 60, 40, 20});
+    box.setPlace({160, 36, 40, 20});
+    box.setContent("5");
+    for (const double zoom : kZooms) {
+        for (QWidget* widget : page.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+            dynamic_cast<Control&>(*widget).setZoom(zoom);
+        }
+        for (const auto& [label, place] : labels) {
+            const std::size_t last = label == &paragraph ? 2 : 0;
+            EXPECT_EQ(lineOf(*label, last), qRound(50 * zoom)) << zoom << ", " << label->textSize();
+        }
+        EXPECT_EQ(lineOf(box), qRound(50 * zoom)) << zoom;
+    }
+}
+
+TEST(Label, IsPaintedAtItsPlaceAndInItsHaloAtEveryZoom) {
+    for (const bool isHaloed : {false, true}) {
+        Label label;
+        label.setPlace({0, 0, 40, 20});
+        label.setAlignment(Qt::AlignRight | Qt::AlignTop);
+        label.setHaloed(isHaloed);
+        label.setCaption("H");
+        for (const double zoom : kZooms) {
+            label.setZoom(zoom);
+            const std::vector<test::PaintedText> texts = test::paintedTexts(label);
+            ASSERT_EQ(texts.size(), isHaloed ? 5U : 1U) << zoom;
+            const double right = texts.back().x + QFontMetricsF(label.font()).horizontalAdvance("H");
+            EXPECT_NEAR(right, 40 * zoom, 0.51) << zoom;
+            EXPECT_EQ(texts.back().baseline, qRound(10 * zoom)) << zoom;
+            if (isHaloed) {
+                EXPECT_NEAR(texts.back().x - texts.front().x, zoom, 0.05);
+                EXPECT_NEAR(texts.back().baseline - texts.front().baseline, zoom, 0.5);
+            }
         }
     }
 }
@@ -347,6 +464,50 @@ TEST(LineControl, MovesTheEndOfAFractionBar) {
     line.setEnds({40, 70, 80, 70});
     line.setRightEnd(95);
     EXPECT_EQ(line.ends(), QLineF(40, 70, 95, 70));
+}
+
+/// How many rows, and how many columns, have a pixel of a line, if all these are just in its colour; -1 if
+/// one is not.
+std::pair<int, int> extentOfLine(QWidget& line) {
+    const QImage picture = line.grab().toImage();
+    std::set<int> rows;
+    std::set<int> columns;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y) == kGreen) {
+                rows.insert(y);
+                columns.insert(x);
+            } else if (picture.pixelColor(x, y) !=
+                       picture.pixelColor(picture.width() - 1, picture.height() - 1)) {
+                return {-1, -1};
+            }
+        }
+    }
+    return {static_cast<int>(rows.size()), static_cast<int>(columns.size())};
+}
+
+TEST(LineControl, IsAsThickAsEveryOtherWhereverItStandsAtEveryZoom) {
+    QWidget page;
+    for (const double thickness : {1.0, 2.0}) {
+        LineControl level(&page);
+        LineControl upright(&page);
+        for (LineControl* line : {&level, &upright}) {
+            line->setThickness(thickness);
+            line->setColour(kGreen);
+        }
+        for (const double zoom : kZooms) {
+            level.setZoom(zoom);
+            upright.setZoom(zoom);
+            for (int at = 0; at < 10; ++at) {
+                level.setEnds(QLineF(0, at, 40, at));
+                upright.setEnds(QLineF(at, 0, at, 40));
+                const double ratio = page.devicePixelRatioF();
+                const int pixels = qFloor(qFloor(thickness * zoom) * ratio);
+                EXPECT_EQ(extentOfLine(level), std::pair(pixels, qRound(level.width() * ratio))) << zoom;
+                EXPECT_EQ(extentOfLine(upright), std::pair(qRound(upright.height() * ratio), pixels)) << zoom;
+            }
+        }
+    }
 }
 
 class FractionOfThree : public testing::Test {

@@ -2,14 +2,19 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
+#include <type_traits>
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <QStyleOptionFrame>
 #include <QTextLayout>
 
 #include "controls/table_head.h"
 #include "shell/exercise_form.h"
+#include "support/painted_texts.h"
 #include "support/student.h"
 
 namespace tavrune::test {
@@ -17,6 +22,8 @@ namespace {
 
 // Glyphs may reach this many units over their advance without being seen as cut off or overlapping.
 constexpr double kSlack = 1.5;
+/// Where a whole pixel is nearest to a place that may lie just between two.
+constexpr double kHalfAPixel = 0.51;
 
 double slackOf(const QWidget& widget) {
     const auto* const control = dynamic_cast<const Control*>(&widget);
@@ -35,8 +42,7 @@ QRectF onPage(const QWidget& widget, const QRectF& place, const QWidget& page) {
 
 /// From one line of a label's text to the next.
 double pitchOf(const Label& label) {
-    const bool growsEvenly = label.wordWrap() && label.zoom() != 1;
-    return growsEvenly
+    return label.zoom() != 1
                ? QFontMetrics(designFont()).lineSpacing() * label.zoom() * label.textSize() / kDesignTextSize
                : QFontMetrics(label.font()).lineSpacing();
 }
@@ -173,6 +179,38 @@ bool isCovered(const QWidget& widget, const QPoint& pointOnPage, const QWidget& 
     return false;
 }
 
+/// Where the first baseline of a text stands in the design, in units from the top of the control: as Qt
+/// paints a plain widget of its size.
+template <class Plain>
+int designBaseline(const Control& control, Qt::Alignment alignment, int lines) {
+    Plain plain;
+    plain.setFont(control.unzoomedFont());
+    plain.setAlignment(alignment);
+    plain.setText("H" + QString("\nH").repeated(lines - 1));
+    plain.resize(100, control.designHeight());
+    return paintedTexts(plain).front().baseline;
+}
+
+/// How many pixels a control's text stands off where its design has it. A text that is not painted does not.
+template <class Plain, class Asked>
+double sunkBy(Asked& control) {
+    std::set<int> lines;
+    for (const PaintedText& text : paintedTexts(control)) {
+        // Not those of a halo.
+        if (text.colour == control.palette().color(control.foregroundRole())) {
+            lines.insert(text.baseline);
+        }
+    }
+    if (lines.empty()) {
+        return 0;
+    }
+    const bool isSingle = std::is_same_v<Plain, QLineEdit>;
+    const int design =
+        designBaseline<Plain>(control, control.alignment(), isSingle ? 1 : static_cast<int>(lines.size()));
+    const double wanted = (control.place().top() + design) * control.zoom();
+    return control.y() + *lines.begin() - wanted;
+}
+
 /// An underlined sign that stands just on the plain one of a caption.
 bool isSignOver(const Word& sign, const Word& word) {
     return sign.owner->font().underline() && sign.text.size() == 1 && word.text.contains(sign.text);
@@ -181,7 +219,7 @@ bool isSignOver(const Word& sign, const Word& word) {
 class Inspection {
 public:
     explicit Inspection(const QWidget& page) : page_(page) {
-        for (const Label* label : inSight<Label>(page)) {
+        for (Label* label : inSight<Label>(page)) {
             if (!label->text().trimmed().isEmpty()) {
                 look(*label);
             }
@@ -189,7 +227,7 @@ public:
         for (const QAbstractButton* button : inSight<QAbstractButton>(page)) {
             look(*button);
         }
-        for (const AnswerBox* box : inSight<AnswerBox>(page)) {
+        for (AnswerBox* box : inSight<AnswerBox>(page)) {
             look(*box);
         }
         compareWords();
@@ -201,7 +239,7 @@ private:
     const QWidget& page_;
     std::vector<Word> words_;
 
-    void look(const Label& label) {
+    void look(Label& label) {
         const Layout layout(label);
         if (layout.widest > label.width() + slackOf(label)) {
             flaws.push_back(named(label, label.text()) + " is cut off at its right");
@@ -210,6 +248,7 @@ private:
             flaws.push_back(named(label, label.text()) + " is cut off below");
         }
         checkInside(label, label.text());
+        checkLine<QLabel>(label, label.text());
         for (const auto& [place, text] : layout.words) {
             addWord(label, place, text);
         }
@@ -224,8 +263,9 @@ private:
         addWord(button, QRectF(button.rect()).adjusted(2, 4, -2, -4), button.text());
     }
 
-    void look(const AnswerBox& box) {
+    void look(AnswerBox& box) {
         checkInside(box, box.text());
+        checkLine<QLineEdit>(box, box.text());
         addWord(box, QRectF(box.rect()).adjusted(2, 3, -2, -3), "[" + box.text() + "]");
     }
 
@@ -234,6 +274,19 @@ private:
             QRectF(widget.parentWidget()->rect()).adjusted(-kSlack, -kSlack, kSlack, kSlack);
         if (!parent.contains(QRectF(widget.geometry()))) {
             flaws.push_back(named(widget, text) + " leaves its parent");
+        }
+    }
+
+    /// At the size of the design everything stands there, by definition.
+    template <class Plain, class Asked>
+    void checkLine(Asked& control, const QString& text) {
+        if (control.zoom() == 1 || text.trimmed().isEmpty()) {
+            return;
+        }
+        const double pixels = sunkBy<Plain>(control);
+        if (std::abs(pixels) > kHalfAPixel) {
+            flaws.push_back(named(control, text) + " stands " + std::to_string(pixels) +
+                            " pixels below its line");
         }
     }
 

@@ -8,7 +8,8 @@
 namespace tavrune::test {
 
 /// What is wrong with how a page, or any window, looks now, a sentence each: a visible text that is cut off,
-/// leaves its parent or the page, or lies over another. Empty if all is well.
+/// leaves its parent or the page, lies over another, or, where the window is zoomed, stands higher or lower
+/// than its design has it. Empty if all is well.
 [[nodiscard]] std::vector<std::string> flawsOf(const QWidget& window);
 
 /// The boxes of which the content is longer than they are, with it. What is typed may be; what a program
