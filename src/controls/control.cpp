@@ -1,6 +1,9 @@
 #include "controls/control.h"
 
+#include <map>
+
 #include <QFont>
+#include <QFontDatabase>
 #include <QPainter>
 #include <QPalette>
 #include <QtMath>
@@ -28,6 +31,15 @@ QFont zoomed(const QFont& design, double zoom) {
     return font;
 }
 
+/// Returns the first of these families that is installed, alone; all of them if none is.
+QStringList installed(const QStringList& families) {
+    // A question for the family itself would make a sorted list of all that are installed.
+    const auto first = std::find_if(families.begin(), families.end(), [](const QString& family) {
+        return !QFontDatabase::styles(family).isEmpty();
+    });
+    return first == families.end() ? families : QStringList(*first);
+}
+
 }  // namespace
 
 const QFont& designFont() {
@@ -39,6 +51,16 @@ const QFont& designFont() {
         return font;
     }();
     return *kFont;
+}
+
+const QFont& paintFont(const QFont& font) {
+    // Never deleted, as the design font.
+    static auto& known = *new std::map<QFont, QFont>;
+    const auto [place, isNew] = known.try_emplace(font, font);
+    if (isNew) {
+        place->second.setFamilies(installed(font.families()));
+    }
+    return place->second;
 }
 
 QRectF Control::place() const { return place_.value_or(QRectF(self_->geometry())); }

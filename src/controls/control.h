@@ -32,6 +32,10 @@ inline constexpr double kDesignTextSize = 11;
 /// gaps for numbers, whose widths fit this font only.
 [[nodiscard]] const QFont& designFont();
 
+/// Returns a font that looks alike and is quicker to paint with for the first time: it has but the first of
+/// the families of `font` that is installed. Of several Qt looks up at once what stands in for each of them.
+[[nodiscard]] const QFont& paintFont(const QFont& font);
+
 /// What all controls on a page have in common: a place in units of the design, and a text style. The place
 /// comes from the designer file; code changes it by the setters only, since they also compute the pixels for
 /// the zoom.

@@ -52,6 +52,15 @@ void Label::fit() {
     setPlace(fitted);
 }
 
+void Label::initPainter(QPainter* painter) const {
+    QLabel::initPainter(painter);
+    // Fields are measured in the design font too, which is looked up in any case; of other sizes there would
+    // be no end.
+    if (zoom() == 1 && font() != designFont()) {
+        painter->setFont(paintFont(font()));
+    }
+}
+
 double Label::baseline(int line, int lines) const {
     // Not the metrics of the zoomed font: these are rounded to whole pixels, and texts would drift from what
     // stands beside them.

@@ -53,6 +53,8 @@ protected:
     /// Where a line of so many stands, in pixels from the top: at every zoom where it is in the design, so
     /// that texts beside each other, or over each other's gaps, stay on one line.
     [[nodiscard]] double baseline(int line, int lines) const;
+    /// Every painter of a label begins with the font that is quickest to paint with.
+    void initPainter(QPainter* painter) const override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

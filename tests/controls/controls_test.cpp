@@ -142,6 +142,41 @@ TEST(DesignFont, IsOneOfTheDesignsOwn) {
     EXPECT_TRUE(designFont().families().contains(family)) << family.toStdString();
 }
 
+TEST(PaintFont, IsTheFirstInstalledOneAlone) {
+    const QFont& painted = paintFont(designFont());
+    EXPECT_EQ(painted.families(), QStringList{QFontInfo(designFont()).family()});
+    EXPECT_EQ(QFontInfo(painted).family(), QFontInfo(designFont()).family());
+    EXPECT_EQ(painted.pixelSize(), designFont().pixelSize());
+    EXPECT_EQ(&paintFont(designFont()), &painted);
+}
+
+TEST(PaintFont, IsTheSameWhereNoneIsInstalled) {
+    QFont font;
+    font.setFamilies({"No such family", "Nor such a one"});
+    EXPECT_EQ(paintFont(font), font);
+}
+
+TEST(Label, LooksAsQtPaintsItsFont) {
+    const QString text = "Rødder: √2 ⇒ ½";
+    for (const bool serif : {false, true}) {
+        for (const double size : {11.0, 15.0, 57.0}) {
+            Label label;
+            label.setBold(true);
+            label.setSerif(serif);
+            label.setTextSize(size);
+            label.setText(text);
+            label.resize(600, 80);
+            QLabel qts(text);
+            qts.setFont(label.font());
+            qts.setAlignment(label.alignment());
+            qts.setIndent(label.indent());
+            qts.resize(label.size());
+            EXPECT_GT(label.font().families().size(), 1);
+            EXPECT_EQ(label.grab().toImage(), qts.grab().toImage()) << serif << " at " << size;
+        }
+    }
+}
+
 TEST(FocusOn, LeavesWhatABoxHoldsUnselected) {
     QWidget window;
     AnswerBox box(&window);
