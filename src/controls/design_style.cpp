@@ -1,8 +1,13 @@
 #include "controls/design_style.h"
 
+#include <functional>
+#include <utility>
+
 #include <QAccessible>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPointer>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -12,6 +17,37 @@ namespace tavrune {
 namespace {
 
 const QColor kFieldOutline(128, 128, 128);
+
+/// An icon that is loaded when something of it is first asked for.
+class LateIcon final : public QIconEngine {
+public:
+    explicit LateIcon(std::function<QIcon()> load) : load_(std::move(load)) {}
+
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override {
+        icon().paint(painter, place, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return icon().pixmap(size, 1, mode, state);
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return icon().actualSize(size, mode, state);
+    }
+    QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override {
+        return icon().availableSizes(mode, state);
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new LateIcon(*this); }
+
+private:
+    const QIcon& icon() {
+        if (icon_.isNull()) {
+            icon_ = load_();
+        }
+        return icon_;
+    }
+
+    std::function<QIcon()> load_;
+    QIcon icon_;
+};
 
 // As Fusion has them, in units.
 constexpr double kButtonCorner = 2;
@@ -122,6 +158,16 @@ QRect DesignStyle::subElementRect(SubElement element, const QStyleOption* option
     const auto* const control = dynamic_cast<const Control*>(widget);
     const bool isLarger = control != nullptr && control->zoom() != 1;
     return isLarger && element == SE_LineEditContents ? rect.translated(0, offDesign(*control)) : rect;
+}
+
+QIcon DesignStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                const QWidget* widget) const {
+    if (which != SP_ToolBarHorizontalExtensionButton) {
+        return QProxyStyle::standardIcon(which, option, widget);
+    }
+    // The icon may outlive the style.
+    const QPointer<const QStyle> base = baseStyle();
+    return QIcon(new LateIcon([base, which] { return base.isNull() ? QIcon() : base->standardIcon(which); }));
 }
 
 int DesignStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QProxyStyle>
 
 namespace tavrune {
@@ -22,6 +23,9 @@ public:
     /// Keeps the text of fields where it is in the design, beside other texts, at every zoom.
     QRect subElementRect(SubElement element, const QStyleOption* option,
                          const QWidget* widget) const override;
+    /// Gives the icon of what a menu bar has no room for, which is seldom seen, without loading it yet.
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                       const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 };
 

@@ -697,6 +697,60 @@ public:
     }
 };
 
+/// Counts the icons that it is asked for.
+class CountingStyle : public QProxyStyle {
+public:
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        ++asked;
+        return QProxyStyle::standardIcon(which, option, widget);
+    }
+
+    mutable int asked = 0;
+};
+
+QImage painted(const QIcon& icon, QIcon::Mode mode) {
+    QImage image(40, 24, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    icon.paint(&painter, image.rect(), Qt::AlignCenter, mode);
+    return image;
+}
+
+TEST(DesignStyle, LoadsTheIconOfWhatAMenuBarHasNoRoomForOnceItIsSeen) {
+    constexpr auto kMore = QStyle::SP_ToolBarHorizontalExtensionButton;
+    DesignStyle style;
+    auto* const base = new CountingStyle;
+    style.setBaseStyle(base);
+    const QIcon icon = static_cast<const QStyle&>(style).standardIcon(kMore);
+    EXPECT_FALSE(icon.isNull());
+    EXPECT_EQ(base->asked, 0);
+    const QIcon whole = base->baseStyle()->standardIcon(kMore);
+    EXPECT_EQ(icon.availableSizes(), whole.availableSizes());
+    EXPECT_EQ(icon.actualSize({100, 100}), whole.actualSize({100, 100}));
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled}) {
+        EXPECT_EQ(icon.pixmap(16, mode).toImage(), whole.pixmap(16, mode).toImage());
+        EXPECT_EQ(painted(icon, mode), painted(whole, mode));
+    }
+    EXPECT_NE(painted(icon, QIcon::Normal), painted(QIcon(), QIcon::Normal));
+    EXPECT_EQ(base->asked, 1);
+}
+
+TEST(DesignStyle, LoadsEveryOtherIconAtOnce) {
+    DesignStyle style;
+    auto* const base = new CountingStyle;
+    style.setBaseStyle(base);
+    EXPECT_FALSE(static_cast<const QStyle&>(style).standardIcon(QStyle::SP_MessageBoxWarning).isNull());
+    EXPECT_EQ(base->asked, 1);
+}
+
+TEST(DesignStyle, LeavesAnIconThatOutlivesItEmpty) {
+    auto style = std::make_unique<DesignStyle>();
+    const QIcon icon = style->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, nullptr, nullptr);
+    style.reset();
+    EXPECT_TRUE(icon.pixmap(16).isNull());
+}
+
 TEST(DesignStyle, LeavesMessagesWithPlainWords) {
     DesignStyle style;
     style.setBaseStyle(new RichStyle);
