@@ -33,7 +33,8 @@ QPalette lightPalette() {
 
 }  // namespace
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+Application::Application(int& argc, char** argv)
+    : QApplication(argc, argv), danish_(QLibraryInfo::path(QLibraryInfo::TranslationsPath)) {
     setApplicationName("Tavrune");
     setStyle(new DesignStyle);
     setPalette(lightPalette());
@@ -44,7 +45,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     QAccessible::installFactory(accessibleControl);
     QAccessible::installFactory(accessibleGraph);
     Voice::instance().takeOver();
-    speakDanish();
+    installTranslator(&danish_);
     useDecimalMarkOf(QLocale());
 }
 
@@ -54,13 +55,6 @@ void Application::showIcon() {
         icon.addFile(QString(":/icons/%1.png").arg(size));
     }
     setWindowIcon(icon);
-}
-
-void Application::speakDanish() {
-    // For the texts that Qt itself shows: buttons of message boxes, context menus of fields.
-    if (danish_.load("qtbase_da", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        installTranslator(&danish_);
-    }
 }
 
 void Application::useDecimalMarkOf(const QLocale& locale) {

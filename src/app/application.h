@@ -4,8 +4,8 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
-#include <QTranslator>
 
+#include "app/qt_danish.h"
 #include "shell/failure.h"
 
 namespace tavrune {
@@ -30,9 +30,8 @@ public:
 
 private:
     static void showIcon();
-    void speakDanish();
 
-    QTranslator danish_;
+    QtDanish danish_;
 
     /// The message about a failure; null if none is shown.
     QPointer<QMessageBox> message_;

@@ -12,10 +12,11 @@
 namespace tavrune {
 namespace {
 
-constexpr const char* kLarger = "Ctrl++";
-constexpr const char* kSmaller = "Ctrl+-";
-constexpr const char* kFit = "Ctrl+9";
-constexpr const char* kDesignSize = "Ctrl+0";
+// Not as texts, to read which the words for the keys would be looked up in the user's language.
+constexpr QKeyCombination kLarger = Qt::CTRL | Qt::Key_Plus;
+constexpr QKeyCombination kSmaller = Qt::CTRL | Qt::Key_Minus;
+constexpr QKeyCombination kFit = Qt::CTRL | Qt::Key_9;
+constexpr QKeyCombination kDesignSize = Qt::CTRL | Qt::Key_0;
 
 /// One notch of a wheel, as Qt counts. Finer wheels and touchpads send parts of it.
 constexpr int kNotch = QWheelEvent::DefaultDeltasPerStep;
@@ -27,17 +28,17 @@ constexpr double kPinch = 1.2;
 
 SizeChoice::SizeChoice(QWidget* window, Sizes sizes)
     : QObject(window), window_(window), sizes_(std::move(sizes)) {
-    const auto bind = [this](const char* key, void (SizeChoice::*action)() const) {
+    const auto bind = [this](QKeyCombination key, void (SizeChoice::*action)() const) {
         connect(new QShortcut(QKeySequence(key), window_), &QShortcut::activated, this, action);
     };
     bind(kLarger, &SizeChoice::chooseLarger);
     // On keyboards with plus above the equals sign nobody has to hold Shift.
-    bind("Ctrl+=", &SizeChoice::chooseLarger);
+    bind(Qt::CTRL | Qt::Key_Equal, &SizeChoice::chooseLarger);
     bind(kSmaller, &SizeChoice::chooseSmaller);
     bind(kFit, &SizeChoice::chooseFit);
     bind(kDesignSize, &SizeChoice::chooseDesignSize);
     // Some desktops make a context menu event of this key, and some do not.
-    bind("Shift+F10", &SizeChoice::openMenuByKey);
+    bind(Qt::SHIFT | Qt::Key_F10, &SizeChoice::openMenuByKey);
     listenTo(window);
 }
 
@@ -52,7 +53,7 @@ void SizeChoice::choose(Zoom zoom) const {
 
 void SizeChoice::addTo(QMenu& menu) const {
     // The keys are those of the window: beside the entries they are only told.
-    const auto add = [&menu, this](const char* caption, const char* key, bool changes,
+    const auto add = [&menu, this](const char* caption, QKeyCombination key, bool changes,
                                    void (SizeChoice::*action)() const) {
         QAction* const entry = menu.addAction(caption);
         entry->setShortcut(QKeySequence(key));
