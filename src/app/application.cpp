@@ -1,5 +1,7 @@
 #include "app/application.h"
 
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
 
 #include <QAccessible>
@@ -8,6 +10,7 @@
 #include <QPalette>
 #include <QPixmapCache>
 #include <QTimer>
+#include <QWindow>
 
 #include "controls/accessible_controls.h"
 #include "controls/design_style.h"
@@ -21,6 +24,16 @@ namespace {
 /// In kilobytes. The style caches pictures of buttons under keys that are never used again once their page is
 /// gone: a larger cache would only fill up with these.
 constexpr int kPictureCache = 1024;
+
+/// Longer than the desktop takes to place a window.
+constexpr std::chrono::milliseconds kIconDelay(100);
+
+/// Returns whether a window is shown that nobody can see yet.
+bool isWindowAwaited() {
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    return std::any_of(windows.begin(), windows.end(),
+                       [](const QWindow* window) { return window->isVisible() && !window->isExposed(); });
+}
 
 /// Light colours, on a dark desktop too, since graphs and help panels are white, and right and wrong have
 /// given colours.
@@ -39,8 +52,14 @@ Application::Application(int& argc, char** argv)
     setStyle(new DesignStyle);
     setPalette(lightPalette());
     QPixmapCache::setCacheLimit(kPictureCache);
-    // Later, while the desktop places the first window: loading it here would delay that.
-    QTimer::singleShot(0, this, &Application::showIcon);
+    QTimer::singleShot(0, this, [this] {
+        // Loading the icon, and the desktop's drawing of it, would delay the first picture of the window.
+        if (isWindowAwaited()) {
+            QTimer::singleShot(kIconDelay, this, &Application::showIcon);
+        } else {
+            showIcon();
+        }
+    });
     setDesktopFileName("org.tavrune.Tavrune");
     QAccessible::installFactory(accessibleControl);
     QAccessible::installFactory(accessibleGraph);

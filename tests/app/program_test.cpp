@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include <clocale>
+#include <cstdlib>
 
 #include <QApplication>
 #include <QIcon>
@@ -9,6 +10,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -261,6 +263,21 @@ TEST(Application, HasItsIconAfterTheFirstRoundOfEvents) {
     settle();
     EXPECT_EQ(QApplication::windowIcon().availableSizes(),
               (QList<QSize>{{16, 16}, {32, 32}, {48, 48}, {64, 64}}));
+}
+
+TEST(Application, LoadsItsIconAfterTheFirstPictureOfAWindow) {
+    // In a process of its own, since in this one the icon may have been loaded.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            QWidget window;
+            window.show();
+            QCoreApplication::sendPostedEvents();
+            const bool isLate = QApplication::windowIcon().isNull();
+            const bool comes = QTest::qWaitFor([] { return !QApplication::windowIcon().isNull(); });
+            std::_Exit(isLate && comes && window.windowHandle()->isExposed() ? EXIT_SUCCESS : EXIT_FAILURE);
+        },
+        testing::ExitedWithCode(EXIT_SUCCESS), "");
 }
 
 class Failing : public QObject {
