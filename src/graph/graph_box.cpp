@@ -309,10 +309,19 @@ void GraphBox::renewPicture() {
         return;
     }
     QPainter painter(&picture_);
+    paintStrokes(painter, std::exchange(painted_, strokes_.size()));
+}
+
+void GraphBox::paintStrokes(QPainter& painter, std::size_t first) const {
+    const double ratio = devicePixelRatioF();
+    const QPointF corner = painter.deviceTransform().map(QPointF(0, 0));
     painter.scale(1 / ratio, 1 / ratio);
-    StrokePainter strokePainter(painter, pixels, Control::place().size(), ratio * zoom());
-    for (; painted_ < strokes_.size(); ++painted_) {
-        strokePainter.paint(strokes_[painted_]);
+    // Between two pixels of the screen nothing would be crisp.
+    painter.translate(QPointF(qRound(corner.x()), qRound(corner.y())) - corner);
+    StrokePainter strokePainter(painter, (QSizeF(size()) * ratio).toSize(), Control::place().size(),
+                                ratio * zoom());
+    for (std::size_t i = first; i < strokes_.size(); ++i) {
+        strokePainter.paint(strokes_[i]);
     }
     strokePainter.endCurve();
 }
@@ -326,14 +335,19 @@ void GraphBox::childEvent(QChildEvent* event) {
 }
 
 void GraphBox::paintEvent(QPaintEvent* /*event*/) {
-    if (!strokes_.empty()) {
+    const bool hasPicture = strokes_.size() > kFewStrokes;
+    if (hasPicture) {
         renewPicture();
     }
     if (framed_) {
         drawOutline(*this, zoom(), kOutline);
     }
-    if (!strokes_.empty()) {
+    if (hasPicture) {
         QPainter(this).drawPixmap(0, 0, picture_);
+    } else if (!strokes_.empty()) {
+        // A picture of the whole box costs more than a few lines.
+        QPainter painter(this);
+        paintStrokes(painter, 0);
     }
     if (hasFocus()) {
         QPainter painter(this);

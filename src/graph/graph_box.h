@@ -84,6 +84,9 @@ struct LineEnd {
     double above;
 };
 
+/// Up to so many strokes are painted anew each time; of more a picture is kept.
+inline constexpr std::size_t kFewStrokes = 256;
+
 /// A rectangle on which axes, ticks and curves are drawn, in coordinates of the exercise.
 ///
 /// A line that no `Figure` lays claim to is a `Meaning::Line` of its own, a point a `Meaning::Point`.
@@ -157,6 +160,8 @@ private:
     void addLine(double x1, double y1, double x2, double y2, const QColor& colour);
     void add(Stroke stroke);
     void renewPicture();
+    /// Paints on the box itself, or a picture of it, from a stroke on.
+    void paintStrokes(QPainter& painter, std::size_t first) const;
 
     GraphScale scale_;
     bool hasScale_ = false;

@@ -203,24 +203,43 @@ TEST_F(Box, KeepsADoubledTickOnceWhereItIsToldTo) {
     EXPECT_EQ(box.strokes().size(), 2U);
 }
 
-TEST_F(Box, PaintsAnUprightLineOnePixelWide) {
+/// Few strokes are painted anew each time, of more a picture is kept: what is seen is the same.
+class PaintedBox : public Box, public testing::WithParamInterface<bool> {
+protected:
+    void SetUp() override {
+        Box::SetUp();
+        fillUp();
+    }
+
+    /// Draws so much beside the box that it keeps a picture, if it is to.
+    void fillUp() {
+        for (std::size_t i = 0; GetParam() && i <= kFewStrokes; ++i) {
+            box.Line(20, 20, 21, 20, kBlue);
+        }
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Ways, PaintedBox, testing::Bool(),
+                         [](const auto& way) { return way.param ? "FromAPicture" : "Anew"; });
+
+TEST_P(PaintedBox, PaintsAnUprightLineOnePixelWide) {
     box.Line(0, 10, 0, -10, kGreen);
     EXPECT_EQ(inked(kGreen), 100);
     EXPECT_EQ(picture().pixelColor(50, 20), kGreen);
 }
 
-TEST_F(Box, PaintsALineOnItsOwnBorder) {
+TEST_P(PaintedBox, PaintsALineOnItsOwnBorder) {
     box.Line(-10, -10, 10, -10, kGreen);
     EXPECT_EQ(inked(kGreen), 100);
     EXPECT_EQ(picture().pixelColor(20, 99), kGreen);
 }
 
-TEST_F(Box, PaintsOnlyTheVisiblePartOfALine) {
+TEST_P(PaintedBox, PaintsOnlyTheVisiblePartOfALine) {
     box.Line(-1000, 0, 1000, 0, kGreen);
     EXPECT_EQ(inked(kGreen), 100);
 }
 
-TEST_F(Box, PaintsTheSmallPiecesOfACurveAsOneSmoothLine) {
+TEST_P(PaintedBox, PaintsTheSmallPiecesOfACurveAsOneSmoothLine) {
     // 400 pieces, each a quarter of a pixel wide, look like the one line that they make up.
     for (int piece = 0; piece < 400; ++piece) {
         const float x = -10 + 0.05F * static_cast<float>(piece);
@@ -229,6 +248,7 @@ TEST_F(Box, PaintsTheSmallPiecesOfACurveAsOneSmoothLine) {
     }
     const QImage curve = picture();
     box.Cls();
+    fillUp();
     box.Line(-10, -5, 10, 5, kGreen);
     const QImage line = picture();
     int unlike = 0;
@@ -240,7 +260,7 @@ TEST_F(Box, PaintsTheSmallPiecesOfACurveAsOneSmoothLine) {
     EXPECT_LT(unlike, 10);
 }
 
-TEST_F(Box, PaintsAPointAsWideAsItsPen) {
+TEST_P(PaintedBox, PaintsAPointAsWideAsItsPen) {
     box.PSet(2, 2, kGreen);
     EXPECT_EQ(inked(kGreen), 1);
     box.DrawWidth(3);
@@ -249,7 +269,7 @@ TEST_F(Box, PaintsAPointAsWideAsItsPen) {
     EXPECT_EQ(picture().pixelColor(25, 25), kGreen);
 }
 
-TEST_F(Box, PaintsDotsWithGaps) {
+TEST_P(PaintedBox, PaintsDotsWithGaps) {
     box.DrawStyle(LineStyle::Dotted);
     box.Line(0, 10, 0, -10, kGreen);
     const int ink = inked(kGreen);
@@ -257,14 +277,14 @@ TEST_F(Box, PaintsDotsWithGaps) {
     EXPECT_LT(ink, 80);
 }
 
-TEST_F(Box, OverdrawsTheOldByTheNew) {
+TEST_P(PaintedBox, OverdrawsTheOldByTheNew) {
     box.Line(0, 10, 0, -10, kRed);
     box.Line(0, 10, 0, -10, kGreen);
     EXPECT_EQ(inked(kRed), 0);
     EXPECT_EQ(inked(kGreen), 100);
 }
 
-TEST_F(Box, PaintsWhatIsAddedAfterAPaintAndNothingAfterClearing) {
+TEST_P(PaintedBox, PaintsWhatIsAddedAfterAPaintAndNothingAfterClearing) {
     box.Line(0, 10, 0, -10, kGreen);
     EXPECT_EQ(inked(kGreen), 100);
     box.Line(5, 10, 5, -10, kGreen);
@@ -274,31 +294,63 @@ TEST_F(Box, PaintsWhatIsAddedAfterAPaintAndNothingAfterClearing) {
     EXPECT_EQ(inked(kWhite), 100 * 100);
 }
 
-TEST_F(Box, TakesNumbersOfAnySize) {
+TEST_P(PaintedBox, TakesNumbersOfAnySize) {
     const double infinity = std::numeric_limits<double>::infinity();
+    const std::size_t before = box.strokes().size();
     for (const double x : {1e300, -1e300, 1e38, infinity, -infinity, std::nan("")}) {
         box.Line(x, x, 0, 0, kGreen);
         box.Line(0, -x, x, 3, kGreen);
         box.PSet(x, 0, kGreen);
     }
     box.Line(0, 0, infinity, 0, kRed);
-    EXPECT_EQ(box.strokes().size(), 19U);
+    EXPECT_EQ(box.strokes().size(), before + 19);
     EXPECT_EQ(inked(kRed), 50);
 }
 
-TEST_F(Box, TakesAScaleWithoutAnExtent) {
+TEST_P(PaintedBox, TakesAScaleWithoutAnExtent) {
     box.Scale(0, 0, 0, 0);
     box.Line(0, 0, 1, 1, kGreen);
     box.PSet(0, 0, kGreen);
     EXPECT_FALSE(picture().isNull());
 }
 
-TEST_F(Box, PaintsCrisplyAtEveryPixelRatio) {
+TEST_P(PaintedBox, PaintsCrisplyAtEveryPixelRatio) {
     box.Line(0, 10, 0, -10, kGreen);
     box.setZoom(2);
     EXPECT_EQ(picture().width(), 200);
     // Twice as long and twice as wide, in just its colour.
     EXPECT_EQ(inked(kGreen), 400);
+}
+
+TEST_P(PaintedBox, FillsWholePixelsOfTheScreenAtEveryRatio) {
+    box.Line(0, 10, 0, -10, kGreen);
+    const double ratio = box.devicePixelRatioF();
+    const int side = qRound(100 * ratio);
+    EXPECT_EQ(picture().height(), side);
+    EXPECT_EQ(inked(kGreen), side * qRound(ratio));
+    EXPECT_EQ(inked(kWhite), side * (side - qRound(ratio)));
+    box.setZoom(1.73);
+    EXPECT_EQ(inked(kGreen), picture().height() * qRound(1.73 * ratio));
+}
+
+TEST_P(PaintedBox, LooksTheSameEitherWay) {
+    const auto draw = [this] {
+        box.Line(-10, 0, 10, 0);
+        box.Line(-3, 10, -3, -10, kRed);
+        box.DrawWidth(3);
+        box.Line(-9, 4, 9, 4, kGreen);
+        box.PSet(5, -5, kBlue);
+        box.DrawWidth(1);
+        box.setFramed(true);
+    };
+    for (const double zoom : {1.0, 1.37, 3.0}) {
+        box.Cls();
+        box.setZoom(zoom);
+        draw();
+        const QImage few = picture();
+        fillUp();
+        EXPECT_EQ(picture(), few) << zoom;
+    }
 }
 
 TEST_F(Box, PlacesTextByItsScale) {
