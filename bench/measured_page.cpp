@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <numeric>
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -166,10 +167,14 @@ void MeasuredPage::drag() {
     // Of any size at which the page has to follow.
     window.resize(window.size() * 0.8);
     settle();
+    Samples frames;
     for (int step = 0; step < 2 * kSteps; ++step) {
         const QSize next = step < kSteps ? window.size() - kStep : window.size() + kStep;
-        take(dragging, [&] { window.resize(next); });
+        take(frames, [&] { window.resize(next); });
     }
+    // One frame may come late if the next comes early.
+    dragging.push_back(std::accumulate(frames.begin(), frames.end(), 0.0) /
+                       static_cast<double>(frames.size()));
     window.resize(window.size() / 0.8);
     settle();
 }

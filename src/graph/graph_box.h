@@ -85,7 +85,7 @@ struct LineEnd {
 };
 
 /// Up to so many strokes are painted anew each time; of more a picture is kept.
-inline constexpr std::size_t kFewStrokes = 256;
+inline constexpr std::size_t kFewStrokes = 2048;
 
 /// A rectangle on which axes, ticks and curves are drawn, in coordinates of the exercise.
 ///
