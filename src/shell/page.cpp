@@ -169,14 +169,8 @@ void Page::takeFocus() {
 void Page::openMenu() {
     QAction* const title = menuBar()->actions().constFirst();
     menuBar()->setActiveAction(title);
-    // The access key of the menu selects the first entry that can be chosen, too.
-    const QList<QAction*> entries = title->menu()->actions();
-    const auto first = std::find_if(entries.begin(), entries.end(), [](const QAction* entry) {
-        return entry->isEnabled() && !entry->isSeparator();
-    });
-    if (first != entries.end()) {
-        title->menu()->setActiveAction(*first);
-    }
+    // The access key of the menu does so, too.
+    selectFirstEntry(*title->menu());
 }
 
 bool Page::focusNextPrevChild(bool next) {

@@ -1,6 +1,6 @@
 #include "shell/size_choice.h"
 
-#include <algorithm>
+#include <utility>
 
 #include <QAccessible>
 #include <QApplication>
@@ -8,6 +8,7 @@
 
 #include "controls/answer_box.h"
 #include "controls/voice.h"
+#include "shell/topic_menu.h"
 
 namespace tavrune {
 namespace {
@@ -156,12 +157,7 @@ void SizeChoice::openMenu(const QContextMenuEvent& event) const {
         Qt::QueuedConnection);
     menu->popup(event.globalPos());
     if (isByKey) {
-        const QList<QAction*> entries = menu->actions();
-        const auto first = std::find_if(entries.begin(), entries.end(),
-                                        [](const QAction* entry) { return entry->isEnabled(); });
-        if (first != entries.end()) {
-            menu->setActiveAction(*first);
-        }
+        selectFirstEntry(*menu);
     }
 }
 

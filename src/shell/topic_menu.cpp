@@ -113,6 +113,16 @@ bool isOwnEntry(PageName page, PageName target) {
     return page == target || (page == PageName::Form2 && target == PageName::Form1);
 }
 
+void selectFirstEntry(QMenu& menu) {
+    const QList<QAction*> entries = menu.actions();
+    const auto first = std::find_if(entries.begin(), entries.end(), [](const QAction* entry) {
+        return entry->isEnabled() && !entry->isSeparator();
+    });
+    if (first != entries.end()) {
+        menu.setActiveAction(*first);
+    }
+}
+
 TopicMenu::TopicMenu(QMenuBar& bar, PageName page, const Handlers& handlers)
     : menu_(bar.addMenu("&Indhold")) {
     menu_->setObjectName("Indhold");

@@ -42,6 +42,9 @@ struct MenuLine {
 /// already.
 [[nodiscard]] bool isOwnEntry(PageName page, PageName target);
 
+/// Selects the first entry that can be chosen; none if there is none.
+void selectFirstEntry(QMenu& menu);
+
 /// Fills the menu bar of `page` with the one menu that every page has.
 class TopicMenu {
 public:

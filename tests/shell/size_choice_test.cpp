@@ -163,6 +163,18 @@ TEST_F(Sizes, AreOfferedByTheMenuKeyWithTheFirstEntryChosen) {
     EXPECT_EQ(lineOf(*openMenu()->activeAction()), kAtDesignSize.front());
 }
 
+TEST_F(Sizes, AreOfferedByKeyInABoxWithTheFirstEntryThatCanBeChosen) {
+    // Nothing to undo, to copy or to select: all of the box's own entries are disabled, the lines between
+    // them are not.
+    form.button("newExercise").setFocus();
+    form.box("askedCoordinate").setFocus();
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    ASSERT_NE(openMenu(), nullptr);
+    ASSERT_NE(openMenu()->activeAction(), nullptr);
+    EXPECT_TRUE(openMenu()->activeAction()->isEnabled());
+    EXPECT_FALSE(openMenu()->activeAction()->isSeparator());
+}
+
 TEST_F(Sizes, AreOfferedByKeyOnAPageWithoutFocus) {
     Program program(draws);
     program.open(PageName::Opstart);
