@@ -194,8 +194,7 @@ void Konvert::showWorkedSolution() {
     ui_->helpPanel->Cls();
     drawExampleBars();
     drawBarOver(ui_->workedSlopeDenominator);
-    drawBarOver(state_.factorKind == FactorKind::Whole ? ui_->workedInterceptNumerator
-                                                       : ui_->workedInterceptDenominator);
+    drawBarOver(ui_->workedInterceptDenominator);
 }
 
 void Konvert::layOutWorkedSolution() {

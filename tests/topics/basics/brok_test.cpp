@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "controls/fraction.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
 #include "support/looks.h"
@@ -268,6 +269,36 @@ TEST_F(BrokForm, WorksTheTaskOutInARow) {
               f.label("workedWrittenOutNumerator").place().width());
     EXPECT_EQ(f.find<LineControl>("workedWrittenOutBar").ends().x2(),
               f.label("workedWrittenOutNumerator").place().right());
+}
+
+TEST_F(BrokForm, LeavesTheSameGapBetweenAllPiecesOfTheRow) {
+    for (const auto& [a, b, c, d, operation] :
+         {std::tuple{-1, 2, 3, -4, Add}, {-4, 2, 3, 3, Multiply}, {9, 8, -10, 7, Subtract}}) {
+        const FormDriver& f = open(a, b, c, d, operation);
+        f.click("help", "showWorkedSolution");
+        const auto fraction = [&f](const char* prefix) {
+            const Fraction found = Fraction::of(f.page(), prefix);
+            return std::pair{found.left(), found.right()};
+        };
+        const auto label = [&f](const char* name) {
+            const QRectF place = f.label(name).place();
+            return std::pair{place.left(), place.right()};
+        };
+        const bool isWhole = f.isShown("workedReducedWholeNumber");
+        const std::vector row{fraction("workedFirst"),
+                              label("workedOperatorSign"),
+                              fraction("workedSecond"),
+                              label("workedWrittenOutEquals"),
+                              fraction("workedWrittenOut"),
+                              label("workedComputedEquals"),
+                              fraction("workedComputed"),
+                              label("workedReducedEquals"),
+                              isWhole ? label("workedReducedWholeNumber") : fraction("workedReduced")};
+        EXPECT_EQ(row[4].first, fromTwips(1080));
+        for (std::size_t i = 1; i < row.size(); ++i) {
+            EXPECT_NEAR(row[i].first - row[i - 1].second, 2, 1e-9) << a << "/" << b << ", piece " << i;
+        }
+    }
 }
 
 TEST_F(BrokForm, EndsTheRowInAWholeNumber) {

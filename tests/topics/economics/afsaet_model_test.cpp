@@ -174,6 +174,14 @@ TEST(AfsaetGenerator, PutsTheUpperBoundOneAboveTheSecondPointWhateverIsDrawn) {
     EXPECT_LT(beyond.a * beyond.Qhi + beyond.b, 0);
 }
 
+TEST(AfsaetGenerator, DrawsEachQuantityFromOneToThatOfTheFirstPointForTheLowerBound) {
+    for (int below = 0; below < 4; ++below) {
+        const AfsaetState s =
+            exercise(numbers({Kind::TwoPoints, 6, 3, 4, 6}) + Script{kQuantities, cellOf(below, 4), 0});
+        EXPECT_EQ(s.Qlo, 4 - below);
+    }
+}
+
 TEST(AfsaetGenerator, DrawsTheLowerPriceBeforeTheUpperOne) {
     const AfsaetState s =
         exercise(numbers({Kind::TwoPoints, 7, 4, 2, 5, -3}) + Script{kPrices, cellOf(3, 4), cellOf(0, 3)});
