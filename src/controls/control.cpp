@@ -70,7 +70,10 @@ void Control::setPlace(const QRectF& place) {
     applyPlace();
 }
 
-int Control::designHeight() const { return qRound(place().bottom()) - qRound(place().top()); }
+QSize Control::designSize() const {
+    const QRectF here = place();
+    return {qRound(here.right()) - qRound(here.left()), qRound(here.bottom()) - qRound(here.top())};
+}
 
 void Control::setLeft(double left) {
     QRectF moved = place();

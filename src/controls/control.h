@@ -47,8 +47,8 @@ public:
 
     /// Returns left, top, width and height in units, within the parent.
     [[nodiscard]] QRectF place() const;
-    /// Returns the height, in pixels, that the control has before any zoom.
-    [[nodiscard]] int designHeight() const;
+    /// Returns the size, in pixels, that the control has before any zoom.
+    [[nodiscard]] QSize designSize() const;
     void setPlace(const QRectF& place);
     void setLeft(double left);
     void setTop(double top);

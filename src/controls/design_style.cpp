@@ -96,7 +96,7 @@ int baselineIn(int height, const QFont& font) {
 
 /// How far down a field's text has to go to stand where the design has it.
 int offDesign(const Control& field) {
-    const int design = baselineIn(field.designHeight(), field.unzoomedFont());
+    const int design = baselineIn(field.designSize().height(), field.unzoomedFont());
     const QWidget& box = *field.widget();
     return qRound((field.place().top() + design) * field.zoom()) - box.y() -
            baselineIn(box.height(), box.font());

@@ -67,7 +67,7 @@ double Label::baseline(int line, int lines) const {
     const QFontMetricsF design(unzoomedFont());
     const double pitch = std::ceil(design.ascent()) + std::ceil(design.descent());
     const bool isCentred = alignment().testFlag(Qt::AlignVCenter);
-    const double above = isCentred ? (designHeight() - (lines - 1) * pitch - design.height()) / 2 : 0;
+    const double above = isCentred ? (designSize().height() - (lines - 1) * pitch - design.height()) / 2 : 0;
     // Qt draws letters at whole pixels, the lower one where it is half way to the next.
     const double fromTop = std::ceil(above + design.ascent() - 0.5) + line * pitch;
     return qRound((place().top() + fromTop) * zoom()) - y();
@@ -97,19 +97,45 @@ void Label::paintHalo(QPainter& painter, const std::function<void(const QPointF&
     }
 }
 
+QStringList Label::designLines() const {
+    if (!wordWrap()) {
+        return text().split('\n');
+    }
+    QTextLayout design(QString(text()).replace('\n', QChar::LineSeparator), unzoomedFont());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WordWrap);
+    design.setTextOption(option);
+    QStringList lines;
+    design.beginLayout();
+    for (QTextLine line = design.createLine(); line.isValid(); line = design.createLine()) {
+        line.setLineWidth(designSize().width());
+        QString words = design.text().mid(line.textStart(), line.textLength());
+        // Blanks at the end of a line take no room.
+        while (words.endsWith(QChar::LineSeparator) || words.endsWith(' ')) {
+            words.chop(1);
+        }
+        lines << words;
+    }
+    design.endLayout();
+    return lines;
+}
+
 void Label::paintZoomed() {
-    QTextLayout layout(QString(text()).replace('\n', QChar::LineSeparator), font());
+    QTextLayout layout(designLines().join(QChar::LineSeparator), font());
     QTextOption option(alignment() & Qt::AlignHorizontal_Mask);
-    option.setWrapMode(wordWrap() ? QTextOption::WordWrap : QTextOption::ManualWrap);
+    option.setWrapMode(QTextOption::ManualWrap);
     layout.setTextOption(option);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width());
+        line.setLineWidth(place().width() * zoom());
     }
     layout.endLayout();
+    // Of the place itself, not of its rounded edge: texts over each other's gaps, and their covers, would be
+    // a pixel off.
+    const double left = place().left() * zoom() - x();
     for (int i = 0; i < layout.lineCount(); ++i) {
         QTextLine line = layout.lineAt(i);
-        line.setPosition({0, baseline(i, layout.lineCount()) - line.ascent()});
+        line.setPosition({left, baseline(i, layout.lineCount()) - line.ascent()});
     }
     QPainter painter(this);
     if (haloed_) {

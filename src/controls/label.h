@@ -45,6 +45,9 @@ public:
     void setVerdict(bool verdict) { verdict_ = verdict; }
     [[nodiscard]] bool isVerdict() const { return verdict_; }
 
+    /// Returns the lines of the text: where the design has a line end, every zoom has.
+    [[nodiscard]] QStringList designLines() const;
+
     /// Returns the width of the text in units.
     [[nodiscard]] double textWidth() const;
 

@@ -345,6 +345,46 @@ TEST(Label, IsPaintedAtItsPlaceAndInItsHaloAtEveryZoom) {
     }
 }
 
+TEST(Label, BreaksItsLinesWhereTheDesignDoesAtEveryZoom) {
+    Label label;
+    label.setWordWrap(true);
+    label.setCaption("Beregn den resulterende\nfunktion for hver størrelse");
+    // The last word but one just fits, and just does not.
+    const double room = std::ceil(QFontMetricsF(label.font()).horizontalAdvance("funktion for hver"));
+    for (const double width : {room, room - 1}) {
+        label.setZoom(1);
+        label.setPlace({0, 0, width, 60});
+        std::vector<QString> design;
+        for (const double zoom : kZooms) {
+            label.setZoom(zoom);
+            std::vector<QString> lines;
+            for (const test::PaintedText& line : test::paintedTexts(label)) {
+                lines.push_back(line.text.trimmed());
+            }
+            if (zoom == 1) {
+                design = lines;
+                EXPECT_EQ(lines.at(2), width == room ? "funktion for hver" : "funktion for");
+            }
+            EXPECT_EQ(lines, design) << zoom;
+        }
+    }
+}
+
+TEST(Label, StandsAtItsPlaceNotAtItsRoundedEdge) {
+    QWidget page;
+    Label label(&page);
+    label.setCaption("<");
+    for (const double left : {10.0, 10.3, 11.5}) {
+        label.setPlace({left, 0, 20, 14});
+        for (const double zoom : kZooms) {
+            label.setZoom(zoom);
+            if (zoom != 1) {
+                EXPECT_NEAR(label.x() + test::paintedTexts(label).front().x, left * zoom, 0.02) << zoom;
+            }
+        }
+    }
+}
+
 TEST(Label, IsTransparentUntilItHasABackColour) {
     Label label;
     EXPECT_FALSE(label.autoFillBackground());

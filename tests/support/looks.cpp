@@ -60,10 +60,11 @@ struct Layout {
         const double width = label.width();
         const double pitch = pitchOf(label);
         double y = 0;
-        for (const QString& paragraph : label.text().split('\n')) {
+        const bool isWrapped = label.wordWrap() && label.zoom() == 1;
+        for (const QString& paragraph : isWrapped ? label.text().split('\n') : label.designLines()) {
             QTextLayout text(paragraph, label.font());
             QTextOption option;
-            option.setWrapMode(label.wordWrap() ? QTextOption::WordWrap : QTextOption::NoWrap);
+            option.setWrapMode(isWrapped ? QTextOption::WordWrap : QTextOption::NoWrap);
             text.setTextOption(option);
             text.beginLayout();
             while (true) {
@@ -71,7 +72,7 @@ struct Layout {
                 if (!line.isValid()) {
                     break;
                 }
-                line.setLineWidth(label.wordWrap() ? width : 1e6);
+                line.setLineWidth(isWrapped ? width : 1e6);
                 addLine(paragraph, line, y, metrics);
                 y += pitch;
             }
@@ -187,7 +188,7 @@ int designBaseline(const Control& control, Qt::Alignment alignment, int lines) {
     plain.setFont(control.unzoomedFont());
     plain.setAlignment(alignment);
     plain.setText("H" + QString("\nH").repeated(lines - 1));
-    plain.resize(100, control.designHeight());
+    plain.resize(100, control.designSize().height());
     return paintedTexts(plain).front().baseline;
 }
 

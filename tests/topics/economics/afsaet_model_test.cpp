@@ -177,7 +177,7 @@ TEST(AfsaetGenerator, PutsTheUpperBoundOneAboveTheSecondPointWhateverIsDrawn) {
 TEST(AfsaetGenerator, DrawsEachQuantityFromOneToThatOfTheFirstPointForTheLowerBound) {
     for (int below = 0; below < 4; ++below) {
         const AfsaetState s =
-            exercise(numbers({Kind::TwoPoints, 6, 3, 4, 6}) + Script{kQuantities, cellOf(below, 4), 0});
+            exercise(numbers({Kind::TwoPoints, 6, 3, 4, 7}) + Script{kQuantities, cellOf(below, 4), 0});
         EXPECT_EQ(s.Qlo, 4 - below);
     }
 }
