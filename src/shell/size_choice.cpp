@@ -1,5 +1,6 @@
 #include "shell/size_choice.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QAccessible>
@@ -100,8 +101,10 @@ bool SizeChoice::turned(const QWheelEvent& event) {
         return false;
     }
     const int delta = event.angleDelta().y();
-    // Whoever turns back wants an answer at once.
-    turned_ = (turned_ < 0) == (delta < 0) ? turned_ + delta : delta;
+    // Whoever turns back wants an answer at once; whoever turns further than to the last step has come there.
+    constexpr int kAllSteps = kNotch * static_cast<int>(kZoomSteps.size());
+    const int before = (turned_ < 0) == (delta < 0) ? turned_ : 0;
+    turned_ = before + std::clamp(delta, -kAllSteps, kAllSteps);
     for (; turned_ >= kNotch; turned_ -= kNotch) {
         chooseLarger();
     }

@@ -1,5 +1,7 @@
 #include "shell/size_choice.h"
 
+#include <limits>
+
 #include <QApplication>
 #include <QPointingDevice>
 #include <QScrollArea>
@@ -256,6 +258,13 @@ TEST_F(Sizes, WaitForAWholeNotchOfAFineWheel) {
     turnWheel(form.page(), -60);
     EXPECT_EQ(percent(), 125);
     turnWheel(form.page(), -60);
+    EXPECT_EQ(percent(), 100);
+}
+
+TEST_F(Sizes, EndAtTheLastStepHoweverFarTheWheelIsTurned) {
+    turnWheel(form.page(), std::numeric_limits<int>::max());
+    EXPECT_EQ(percent(), 300);
+    turnWheel(form.page(), std::numeric_limits<int>::min());
     EXPECT_EQ(percent(), 100);
 }
 
