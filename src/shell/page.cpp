@@ -10,30 +10,11 @@
 #include <QVBoxLayout>
 
 #include "controls/access_key.h"
-#include "controls/panel.h"
+#include "controls/accessible_controls.h"
 #include "controls/text.h"
 #include "shell/size_choice.h"
 
 namespace tavrune {
-namespace {
-
-/// Returns whether `front` is painted over `behind`: of the two children of their common ancestor that lead
-/// to them, the later one is in front. Precondition: `front` does not contain `behind`.
-bool liesInFront(const QWidget& front, const QWidget& behind) {
-    const QWidget* branch = &front;
-    while (!branch->parentWidget()->isAncestorOf(&behind)) {
-        branch = branch->parentWidget();
-    }
-    const QObjectList& siblings = branch->parentWidget()->children();
-    const auto other = std::find_if(siblings.begin(), siblings.end(), [&behind](const QObject* sibling) {
-        const auto* const widget = qobject_cast<const QWidget*>(sibling);
-        return widget == &behind || (widget != nullptr && widget->isAncestorOf(&behind));
-    });
-    return siblings.indexOf(branch) > other - siblings.begin();
-}
-
-}  // namespace
-
 Page::Page(PageName name)
     : name_(name),
       menuBar_(new QMenuBar(this)),
@@ -177,20 +158,11 @@ bool Page::focusNextPrevChild(bool next) {
     const QWidget* const start = focusWidget();
     while (QWidget::focusNextPrevChild(next)) {
         const QWidget* const now = focusWidget();
-        if (now == start || now == nullptr || !isUnderAPanel(*now)) {
+        if (now == start || now == nullptr || !isCovered(*now)) {
             return true;
         }
     }
     return false;
-}
-
-bool Page::isUnderAPanel(const QWidget& control) const {
-    const QPoint middle = control.mapTo(this, control.rect().center());
-    const QList<Panel*> panels = findChildren<Panel*>();
-    return std::any_of(panels.begin(), panels.end(), [&](const Panel* panel) {
-        return panel->isVisible() && !panel->isAncestorOf(&control) &&
-               panel->rect().contains(panel->mapFrom(this, middle)) && liesInFront(*panel, control);
-    });
 }
 
 bool Page::eventFilter(QObject* watched, QEvent* event) {

@@ -67,7 +67,7 @@ protected:
 
     [[nodiscard]] QWidget* design() const { return design_; }
 
-    /// Tab skips controls that lie under a panel.
+    /// Tab skips controls that lie under something.
     bool focusNextPrevChild(bool next) override;
     /// If a button and a menu title have the same access key, it belongs to the button.
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -100,7 +100,6 @@ private:
     void fit();
     void resizeTo(double factor);
     void resizeMenusTo(double factor);
-    [[nodiscard]] bool isUnderAPanel(const QWidget& control) const;
 
     PageName name_;
     QMenuBar* menuBar_;

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "conformance/form_suite.h"
+#include "controls/accessible_controls.h"
 
 namespace tavrune {
 namespace {
@@ -180,6 +181,14 @@ bool isReadBefore(const Page& page, const QWidget& one, const QWidget& other) {
 bool isOnTheHelpPanel(const Page& page, const QWidget& widget) {
     const auto* const panel = page.findChild<QWidget*>("helpPanel");
     return panel != nullptr && panel->isAncestorOf(&widget);
+}
+
+TEST_P(Keyboard, PassesByWhatLiesUnderTheHelp) {
+    inEveryState(31, 3, [](Page& page, const char* state) {
+        for (const QWidget* stop : tabWay(page)) {
+            EXPECT_FALSE(isCovered(*stop)) << nameOf(*stop) << ", " << state;
+        }
+    });
 }
 
 TEST_P(Keyboard, LeadsByTabAsOneReads) {
