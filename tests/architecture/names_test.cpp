@@ -112,7 +112,7 @@ TEST(Names, OfTheCodeAreThoseOfTheDesignerFilesInTheirOrder) {
     }
 }
 
-TEST(Names, StandOnceOnTheirPage) {
+TEST(Names, EachStandOnTheirPageJustOnce) {
     for (const auto& [page, names] : toldNames()) {
         for (const Names& side : {names.inRequests, names.inTheCode}) {
             std::set<std::string> seen;

@@ -445,7 +445,7 @@ TEST(OptionButton, CanBeUncheckedWithTheWholeGroup) {
     EXPECT_FALSE(other.isChosen());
 }
 
-TEST(OptionButton, IsBrowsedByTheArrowKeysAndChosenBySpaceOrEnter) {
+TEST(OptionButton, IsBrowsedByTheArrowKeysAndChosenByEnterOrSpace) {
     QWidget group;
     std::array<OptionButton, 3> options;
     AnswerBox box(&group);

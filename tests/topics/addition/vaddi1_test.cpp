@@ -197,7 +197,7 @@ TEST_F(Vaddi1Form, BearsItsFixedTexts) {
 
 TEST_F(Vaddi1Form, TellsTheMethodInThreeSteps) { test::expectSharedMethod(open(kFalling)); }
 
-TEST_F(Vaddi1Form, BeginsEachSentenceOfItsStepsOnALineOfItsOwn) {
+TEST_F(Vaddi1Form, BeginsEverySentenceInItsStepsOnALineOfItsOwn) {
     test::expectSentencesOnLinesOfTheirOwn(open(kFalling), test::kSharedStepSentences);
 }
 

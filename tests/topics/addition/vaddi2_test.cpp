@@ -227,7 +227,7 @@ TEST_F(Vaddi2Form, HasTheTextsOfItsDesign) {
 
 TEST_F(Vaddi2Form, TellsTheMethodInItsHelp) { test::expectSharedMethod(open(kThree)); }
 
-TEST_F(Vaddi2Form, BeginsEachSentenceOfItsStepsOnALineOfItsOwn) {
+TEST_F(Vaddi2Form, BeginsEverySentenceInItsStepsOnALineOfItsOwn) {
     test::expectSentencesOnLinesOfTheirOwn(open(kThree), test::kSharedStepSentences);
 }
 

@@ -305,7 +305,7 @@ TEST(KonvertSeeds, GiveEachKindAboutAsOften) {
     EXPECT_LT(fractions, 5'500);
 }
 
-TEST(KonvertJudge, TakesBothEndsOfTheToleranceOfEachNumber) {
+TEST(KonvertJudge, TakesBothEndsOfEachNumbersTolerance) {
     KonvertState s;
     s.slopeOfK = -0.25;
     s.interceptOfK = 5;
