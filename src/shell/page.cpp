@@ -101,9 +101,10 @@ void Page::setZoom(Zoom zoom) {
 
 void Page::fit() {
     const QSizeF window = this->window()->size();
-    const auto barHeight = [&] { return menuBar_->heightForWidth(qRound(window.width())); };
-    // How large a page of exercises can be with its menu, so that menus are alike on all pages.
-    const double bar = barHeight() / menuFactor_;
+    // How large a page of exercises can be with its menu, so that menus are alike on all pages. By the menu
+    // at its own size: otherwise what is found would depend on the size before, and two could give way to
+    // each other without end.
+    const int bar = menuFactor_ == 1 ? barHeight() : plainBarHeight_;
     const double page = std::min(window.width() / kDesignWidth, window.height() / (kDesignHeight + bar));
     resizeMenusTo(std::clamp(page, 1.0, kLargestFit));
     const double wanted = std::min(window.width() / extent_.whole.width(),
@@ -111,6 +112,8 @@ void Page::fit() {
     view_->setScrolls(wanted < extent_.leastFit);
     resizeTo(std::clamp(wanted, extent_.leastFit, kLargestFit));
 }
+
+int Page::barHeight() const { return menuBar_->heightForWidth(window()->width()); }
 
 void Page::resizeTo(double factor) {
     if (factor != factor_) {
@@ -123,6 +126,9 @@ void Page::resizeTo(double factor) {
 void Page::resizeMenusTo(double factor) {
     if (factor == menuFactor_) {
         return;
+    }
+    if (menuFactor_ == 1) {
+        plainBarHeight_ = barHeight();
     }
     menuFactor_ = factor;
     zoomMenu(*menuBar_, factor);

@@ -98,6 +98,7 @@ private:
     void sayOnDemand();
     void openMenu();
     void fit();
+    [[nodiscard]] int barHeight() const;
     void resizeTo(double factor);
     void resizeMenusTo(double factor);
 
@@ -113,6 +114,8 @@ private:
     Zoom zoom_;
     double factor_ = 1;
     double menuFactor_ = 1;
+    /// Of the menu at its own size.
+    int plainBarHeight_ = 0;
     TopicMenu topicMenu_;
 };
 

@@ -1,5 +1,7 @@
 // Pages that fit their window, and windows that are smaller than their page.
 
+#include <map>
+
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
@@ -117,6 +119,19 @@ TEST_F(FittedPage, IsTheSameWhicheverWayItCameToItsWindow) {
     form.page().setZoom(Zoom::fitted());
     settle();
     EXPECT_EQ(form.page().factor(), grown);
+}
+
+TEST_F(FittedPage, HasOneSizeInEachWindowAndComesToRestThere) {
+    std::map<int, double> factors;
+    for (int height = 460; height < 1900; height += 3) {
+        resize({3000, height});
+        factors[height] = form.page().factor();
+    }
+    for (const auto& [height, factor] : factors) {
+        resize({3000, 2200 - height});
+        resize({3000, height});
+        EXPECT_EQ(form.page().factor(), factor) << height;
+    }
 }
 
 TEST_F(FittedPage, KeepsWhatIsTypedAndWhereTheFocusIs) {
