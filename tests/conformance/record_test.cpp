@@ -1,0 +1,167 @@
+// Every page as it was, to the last number: what a few exercises on it show, draw and say is compared with
+// what is written down in record/. Whoever changes it on purpose has it written anew by script/record, and
+// reads the change.
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include <gtest/gtest.h>
+
+#include "conformance/facts.h"
+#include "support/form_driver.h"
+#include "support/page_record.h"
+
+namespace tavrune {
+namespace {
+
+using test::Answer;
+using test::FormDriver;
+using test::FormFacts;
+using test::PageRecord;
+
+/// Of which no exercise fails on any form.
+constexpr std::uint64_t kSeed = 4;
+/// So many on each form.
+constexpr std::size_t kExercises = 3;
+
+std::vector<std::string> linesOf(const std::string& path) {
+    std::ifstream file(path);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(file, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+/// The answers of the exercises on a form, given to somebody else; as many as there are before it fails.
+std::vector<Answer> rightAnswers(const FormFacts& facts) {
+    std::vector<Answer> answers;
+    SeededDraws draws(kSeed);
+    const FormDriver form(facts.page, draws);
+    while (answers.size() < kExercises && test::readFailure().message.empty()) {
+        answers.push_back(form.giveUp(facts.option));
+        form.click("newExercise");
+    }
+    static_cast<void>(test::readFailure());
+    return answers;
+}
+
+/// Exercises on a page, one after the other.
+class Play {
+public:
+    explicit Play(PageName page)
+        : facts_(test::factsOf(page)),
+          answers_(facts_ == nullptr ? std::vector<Answer>{} : rightAnswers(*facts_)),
+          draws_(kSeed),
+          form_(FormDriver::unshown(page, draws_)),
+          record_(form_.page()) {}
+
+    [[nodiscard]] std::vector<std::string> lines() {
+        record_.note("is made");
+        form_.show();
+        bool goesOn = hasNotFailed("opens");
+        for (std::size_t exercise = 0; exercise < answers_.size() && goesOn; ++exercise) {
+            goesOn = play(exercise);
+        }
+        return record_.lines();
+    }
+
+private:
+    /// Tries, then types what is right, or every other time has it given, and reads the help.
+    bool play(std::size_t exercise) {
+        return tryOut() && (exercise % 2 == 0 ? solve(answers_[exercise]) : click("giveAnswer")) &&
+               click("ok") && readHelp() && click("newExercise");
+    }
+
+    /// Notes what an action has led to, messages too. Returns false once the arithmetic has failed.
+    bool hasNotFailed(const std::string& action) {
+        const std::string message = form_.answerMessage();
+        const test::ProgramEnd end = test::readFailure();
+        record_.note(action);
+        for (const std::string& text : {message, end.message}) {
+            if (!text.empty()) {
+                record_.note("reads \"" + text + "\"");
+            }
+        }
+        return end.message.empty();
+    }
+
+    /// Does nothing if the button is hidden.
+    bool click(const std::string& button) {
+        if (form_.find(button).isVisible()) {
+            form_.click(button);
+            return hasNotFailed(button);
+        }
+        return true;
+    }
+
+    /// Chooses one option after the other, with small numbers in the boxes.
+    bool tryOut() {
+        for (const OptionButton* option : test::inSight<OptionButton>(form_.page())) {
+            if (!click(test::nameOf(*option)) || !answerSmall()) {
+                return false;
+            }
+        }
+        return answerSmall();
+    }
+
+    bool answerSmall() {
+        for (const AnswerBox* box : form_.boxes()) {
+            number_ = (5 * number_ + 3) % 16;
+            form_.type(test::nameOf(*box), std::to_string(number_ - 5));
+        }
+        return hasNotFailed("types") && click("ok");
+    }
+
+    bool solve(const Answer& answer) {
+        form_.write(answer);
+        return hasNotFailed("types what is right");
+    }
+
+    bool readHelp() {
+        if (!click("help")) {
+            return false;
+        }
+        std::set<const Button*> pressed;
+        while (const Button* const step = form_.nextStep(pressed)) {
+            pressed.insert(step);
+            if (!click(test::nameOf(*step))) {
+                return false;
+            }
+        }
+        const Button* const close = form_.closeButton();
+        return close == nullptr || click(test::nameOf(*close));
+    }
+
+    int number_ = 1;
+    const FormFacts* facts_;
+    std::vector<Answer> answers_;
+    SeededDraws draws_;
+    FormDriver form_;
+    PageRecord record_;
+};
+
+class RecordedPage : public testing::TestWithParam<PageName> {};
+
+INSTANTIATE_TEST_SUITE_P(Pages, RecordedPage, testing::ValuesIn(allPages()),
+                         [](const auto& row) { return test::asciiNameOf(row.param); });
+
+TEST_P(RecordedPage, IsAsItIsWrittenDown) {
+    const std::vector<std::string> lines = Play(GetParam()).lines();
+    const std::string name = "record/" + test::asciiNameOf(GetParam()) + ".txt";
+    std::filesystem::create_directories("record");
+    std::ofstream file(name);
+    std::ranges::copy(lines, std::ostream_iterator<std::string>(file, "\n"));
+    file.close();
+
+    const std::vector<std::string> written = linesOf(TAVRUNE_SOURCE_DIR "/../tests/conformance/" + name);
+    const auto [here, there] = std::ranges::mismatch(lines, written);
+    EXPECT_TRUE(here == lines.end() && there == written.end())
+        << name << ", line " << here - lines.begin() + 1 << "\nwas "
+        << (there == written.end() ? "nothing" : *there) << "\nis  "
+        << (here == lines.end() ? "nothing" : *here);
+}
+
+}  // namespace
+}  // namespace tavrune
