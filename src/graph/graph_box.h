@@ -15,10 +15,10 @@ namespace tavrune {
 /// A user scale: the coordinates of a box's top left and bottom right corners. y grows upwards where y1 is
 /// the larger.
 struct GraphScale {
-    float x1 = 0;
-    float y1 = 0;
-    float x2 = 0;
-    float y2 = 0;
+    float x1{};
+    float y1{};
+    float x2{};
+    float y2{};
 
     /// From a y counted up from the lower border to one of the scale, or back: where the scale runs downwards
     /// from 0.
@@ -60,17 +60,17 @@ struct Stroke {
 
     Kind kind = Kind::Line;
     /// In the coordinates of `scale`; a point has its second end where its first is.
-    float x1 = 0;
-    float y1 = 0;
-    float x2 = 0;
-    float y2 = 0;
+    float x1{};
+    float y1{};
+    float x2{};
+    float y2{};
     QColor colour;
     LineStyle style = LineStyle::Solid;
     int width = 1;
     GraphScale scale;
     Meaning meaning = Meaning::Line;
     /// The same for all strokes of one figure, which follow one another; 0 for a figure of one stroke.
-    std::size_t figure = 0;
+    std::size_t figure{};
 
     /// Compares what is drawn. What it means is nothing to be seen: a picture is the same whoever drew it,
     /// and a frame that keeps each stroke once has it already.

@@ -72,8 +72,8 @@ private:
 
 /// A straight piece of a function, P = slope·Q + intercept.
 struct Piece {
-    double slope = 0;
-    double intercept = 0;
+    double slope{};
+    double intercept{};
 
     [[nodiscard]] double at(double q) const { return slope * q + intercept; }
 
@@ -119,7 +119,7 @@ enum class Rule {
 };
 
 struct Target {
-    double value = 0;
+    double value{};
     Rule rule = Rule::Near;
 
     /// Returns whether the verdict takes the value for right.

@@ -23,12 +23,12 @@ struct Laddi1State {
     /// leaves it as it was.
     Piece secondSegment;
     /// 0 with one segment. Unrounded until the first step of the help.
-    double kinkQuantity = 0;
+    double kinkQuantity{};
     /// Both functions fall.
-    bool upperEndAsked = false;
+    bool upperEndAsked{};
     /// Unrounded. Kept (addition-unseen-end): it is written with the answer of every later exercise, unseen
     /// where there is none.
-    double upperEnd = 0;
+    double upperEnd{};
 };
 
 /// Draws function 1 until it is not the axis P = 0, then function 2, and adds them up.

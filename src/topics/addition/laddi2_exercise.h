@@ -14,7 +14,7 @@ namespace tavrune {
 /// A function of two straight pieces, which need not meet at its kink. Whole numbers throughout.
 struct KinkedFunction {
     /// 3..7.
-    double kink = 0;
+    double kink{};
     /// Slope -4..4, intercept 0..4; above P = 0 all the way to the kink.
     Piece before;
     /// Slope -4..4; at the kink its price is 5..9 if it falls, 1..5 if it rises.

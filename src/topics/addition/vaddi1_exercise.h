@@ -33,7 +33,7 @@ struct Vaddi1State {
     /// From Q = 0 to the kink. Kept (vaddi1-stale-segment): a level lone segment leaves it as it was.
     Piece firstSegment;
     /// 0 with one segment.
-    double kinkQuantity = 0;
+    double kinkQuantity{};
     /// The second segment, or the only one.
     Piece secondSegment;
     int segmentCount = 1;
@@ -41,7 +41,7 @@ struct Vaddi1State {
     TableCell upperEnd;
     /// Kept (vaddi1-latch): it stays set after the first exercise that has an upper end, so every later one
     /// is judged with it.
-    bool upperEndAsked = false;
+    bool upperEndAsked{};
 };
 
 /// Draws until not both functions are level, and none of them lies on an edge of the graph.

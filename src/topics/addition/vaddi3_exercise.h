@@ -47,17 +47,17 @@ struct SumSegment {
 struct Vaddi3State {
     KinkKind kinkKind = KinkKind::JumpDown;
     /// Function 1 before the kink, and after it.
-    float slope1Before = 0;
-    float intercept1Before = 0;
-    float slope1After = 0;
-    double intercept1After = 0;
-    float kinkQuantity = 0;
+    float slope1Before{};
+    float intercept1Before{};
+    float slope1After{};
+    double intercept1After{};
+    float kinkQuantity{};
     /// Where the two parts stand at the kink. The second is a double where its part is drawn for itself.
-    float kinkPriceBefore = 0;
-    double kinkPriceAfter = 0;
+    float kinkPriceBefore{};
+    double kinkPriceAfter{};
     /// Function 2, level for a slope of 0.
-    float slope2 = 0;
-    float intercept2 = 0;
+    float slope2{};
+    float intercept2{};
 
     static constexpr std::size_t kTableRows = 5;
     using Column = std::array<TableCell, kTableRows>;
@@ -68,7 +68,7 @@ struct Vaddi3State {
     /// 1 to 4.
     std::vector<SumSegment> segments;
     /// The sum falls to P = 0. It does not if function 2 is level.
-    bool upperEndAsked = false;
+    bool upperEndAsked{};
     TableCell upperEnd;
 
     [[nodiscard]] Column& column(TableColumn column) { return helpTable[static_cast<std::size_t>(column)]; }
@@ -115,7 +115,7 @@ struct Vaddi3Answer {
     /// The values of the `answerFields`.
     std::vector<double> typed;
     /// The value in the third row of the help table, under Q1, or Q1b at a jump up.
-    double helpCell = 0;
+    double helpCell{};
 };
 
 /// Judges the answer.

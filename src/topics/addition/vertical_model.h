@@ -19,8 +19,8 @@ struct VerticalSum {
     /// The quantities at which one segment ends and the next begins, one fewer than there are segments.
     std::vector<double> breaks;
     /// The last segment ends at `upperEnd`, and that is asked for.
-    bool upperEndAsked = false;
-    double upperEnd = 0;
+    bool upperEndAsked{};
+    double upperEnd{};
 
     [[nodiscard]] std::size_t last() const { return segments.size() - 1; }
     [[nodiscard]] int rowOfSegment(std::size_t segment) const {

@@ -14,15 +14,15 @@ enum class Operation { Subtract, Add, Multiply, Divide };
 
 /// One task on two fractions, a/b and c/d. The result is never 0.
 struct BrokState {
-    float numeratorA = 0;
-    float denominatorB = 0;
-    float numeratorC = 0;
-    float denominatorD = 0;
+    float numeratorA{};
+    float denominatorB{};
+    float numeratorC{};
+    float denominatorD{};
     /// Nothing until there is an exercise.
     std::optional<Operation> operation;
     /// The result as computed: not reduced, and either part may be negative.
-    double resultNumerator = 0;
-    double resultDenominator = 0;
+    double resultNumerator{};
+    double resultDenominator{};
 };
 
 /// Returns "-", "+", "*" or "/", or nothing for no operation.

@@ -23,16 +23,16 @@ enum class LineTask {
 /// One task on the straight line Y = slope * X + intercept.
 struct DlinieState {
     LineTask taskType = LineTask::None;
-    float x1 = 0;
-    float y1 = 0;
-    float x2 = 0;
-    float y2 = 0;
-    float slopeGiven = 0;
-    float xCross = 0;
-    float yCross = 0;
+    float x1{};
+    float y1{};
+    float x2{};
+    float y2{};
+    float slopeGiven{};
+    float xCross{};
+    float yCross{};
     /// The answer to 2 decimals. It outlives the exercise: a `LineTask::None` is judged by the last one.
-    double slope = 0;
-    double intercept = 0;
+    double slope{};
+    double intercept{};
 };
 
 /// Whether the drawn slope may be 0.

@@ -13,16 +13,16 @@ enum class FactorKind { Whole = 1, Fraction = 2 };
 
 /// A function P = aQ + b and the factor f of its conversion: 1 Q is f K, so P = a/f² K + b/f.
 struct KonvertState {
-    float slopeOfQ = 0;
-    float interceptOfQ = 0;
+    float slopeOfQ{};
+    float interceptOfQ{};
     FactorKind factorKind = FactorKind::Whole;
     /// Only for a fraction.
     float factorNumerator = 1;
     float factorDenominator = 1;
     float factor = 1;
     /// The solution: quotients of singles, with the digits of singles until they are rounded.
-    double slopeOfK = 0;
-    double interceptOfK = 0;
+    double slopeOfK{};
+    double interceptOfK{};
 };
 
 /// Draws until the new slope lies from -50 to 50.

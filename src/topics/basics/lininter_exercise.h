@@ -16,20 +16,20 @@ enum class Coordinate { Quantity, Price };
 /// line. The other coordinate is asked for.
 struct LininterState {
     /// Whole, 1 to 10. The points differ in both coordinates.
-    float Qa = 0;
-    float Pa = 0;
-    float Qb = 0;
-    float Pb = 0;
+    float Qa{};
+    float Pa{};
+    float Qb{};
+    float Pb{};
     /// P = lineSlope * Q + lineIntercept, unrounded. The size of the slope is 0.45 to 2.5.
-    float lineSlope = 0;
-    float lineIntercept = 0;
+    float lineSlope{};
+    float lineIntercept{};
     /// The coordinate of the third point that is given. The other is asked for.
     Coordinate given = Coordinate::Quantity;
     /// Whole, 1 to 8. Only the given one is drawn; the other keeps its old value.
-    float givenQ = 0;
-    float givenP = 0;
+    float givenQ{};
+    float givenP{};
     /// The coordinate asked for, unrounded, less than 16 in size.
-    float target = 0;
+    float target{};
 };
 
 /// Draws until the line is neither too steep nor too flat, then which coordinate is given, then the given

@@ -24,19 +24,19 @@ struct TomtoState {
     /// Nothing until there is an exercise; lines count as explicit then.
     std::optional<LineForm> form;
     /// Whole numbers; only the implicit form uses the c's.
-    float a1 = 0;
-    float b1 = 0;
-    float c1 = 0;
-    float a2 = 0;
-    float b2 = 0;
-    float c2 = 0;
+    float a1{};
+    float b1{};
+    float c1{};
+    float a2{};
+    float b2{};
+    float c2{};
     Relation relation = Relation::Crossing;
     /// The crossing, to 2 decimals. Lines that do not cross leave both as an earlier exercise or try has set
     /// them, and an old value can make the generator draw once more.
-    double solutionQ = 0;
-    double solutionP = 0;
+    double solutionQ{};
+    double solutionP{};
     /// The upper end of both axes, short or long; 0 until the exercise is judged or answered.
-    float graphMax = 0;
+    float graphMax{};
 };
 
 /// Draws the exercise that a form opens with.

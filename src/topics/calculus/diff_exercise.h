@@ -13,15 +13,15 @@ namespace tavrune {
 /// 16, from 17 on a cubic aQ³+bQ²+cQ+d. All numbers are whole.
 struct DiffState {
     /// Signed, 0 for an absent term.
-    float coefficientA = 0;
-    float coefficientB = 0;
-    float coefficientC = 0;
-    float coefficientD = 0;
+    float coefficientA{};
+    float coefficientB{};
+    float coefficientC{};
+    float coefficientD{};
     /// 1 to 5
-    float pointQ = 0;
+    float pointQ{};
     /// 1 to 50
     int patternCase = 1;
-    double slopeAtPoint = 0;
+    double slopeAtPoint{};
 };
 
 /// A shape of the polynomial. A quadratic has no d.

@@ -11,26 +11,26 @@ namespace tavrune {
 /// A function in two linear pieces, P1 = a1 Q + b1 up to the kink k and P2 = a2 Q + b2 after it, whose
 /// integral from v to w is asked for. The pieces need not meet at k.
 struct Integ2State {
-    float a1 = 0;
-    float b1 = 0;
-    float a2 = 0;
-    float b2 = 0;
-    float k = 0;
+    float a1{};
+    float b1{};
+    float a2{};
+    float b2{};
+    float k{};
     /// 0 <= v < k < w <= 9, all whole.
-    float v = 0;
-    float w = 0;
+    float v{};
+    float w{};
     /// The integral from v to k, the one from k to w, and their sum; all unrounded.
-    double first = 0;
-    double second = 0;
-    double total = 0;
+    double first{};
+    double second{};
+    double total{};
 };
 
 /// One of the two pieces, P = slope Q + intercept, and the limits between which it is integrated.
 struct Integ2Piece {
-    float slope = 0;
-    float intercept = 0;
-    float lowerLimit = 0;
-    float upperLimit = 0;
+    float slope{};
+    float intercept{};
+    float lowerLimit{};
+    float upperLimit{};
 };
 
 /// Draws until the limits stand on the graph and the pieces are of one of three families: a fall and a

@@ -12,17 +12,17 @@ namespace tavrune {
 /// singles.
 struct IntegState {
     /// Signed; 0 where the shape has no such term. Sizes 1 to 4, 1 to 4 and 1 to 5.
-    float a = 0;
-    float b = 0;
-    float c = 0;
+    float a{};
+    float b{};
+    float c{};
     /// The upper limit, 2 to 7.
-    float w = 0;
+    float w{};
     /// The lower limit, 1 to 6, less than w.
-    float v = 0;
+    float v{};
     /// 1 to 26: which terms p has, and with which signs.
-    int shape = 0;
+    int shape{};
     /// From v to w, unrounded.
-    double integral = 0;
+    double integral{};
 };
 
 /// Draws until v is less than w and p at v is 60 or less in size.

@@ -10,10 +10,10 @@ namespace tavrune {
 
 /// The numbers of the answer in the order in which they are typed, with the bounds of the quantity.
 struct AfsaetAnswer {
-    double a = 0;
-    double b = 0;
-    double Qlo = 0;
-    double Qhi = 0;
+    double a{};
+    double b{};
+    double Qlo{};
+    double Qhi{};
 
     bool operator==(const AfsaetAnswer&) const = default;
 };

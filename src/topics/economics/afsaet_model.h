@@ -29,25 +29,25 @@ struct AfsaetState {
     AfsaetKind kind = AfsaetKind::TwoPoints;
     AfsaetInterval interval = AfsaetInterval::InPrices;
     /// The answer, with the bounds of the quantity: a < 0 and 3 <= b <= 10.
-    double a = 0;
-    double b = 0;
-    double Qlo = 0;
-    double Qhi = 0;
+    double a{};
+    double b{};
+    double Qlo{};
+    double Qhi{};
     /// Two points, the first one up and to the left. Not every kind uses all of these numbers.
-    double P1 = 0;
-    double Q1 = 0;
-    double P2 = 0;
-    double Q2 = 0;
+    double P1{};
+    double Q1{};
+    double P2{};
+    double Q2{};
     /// -6 to -2; -1 by a draw of just 0.
-    float Ep = 0;
-    float Ep2 = 0;
-    float slope = 0;
+    float Ep{};
+    float Ep2{};
+    float slope{};
     /// Whole. Only where the interval is told in prices.
-    float Plo = 0;
-    float Phi = 0;
+    float Plo{};
+    float Phi{};
     /// Where the line meets the axes, for two elasticities only. Qmax is whole.
-    double Pmax = 0;
-    float Qmax = 0;
+    double Pmax{};
+    float Qmax{};
 };
 
 /// Draws until a kind, its numbers and its interval go together, with a new kind at each try.

@@ -10,7 +10,7 @@ namespace tavrune {
 
 /// Where a formula stands in its box, in units.
 struct FormulaPlace {
-    double top = 0;
+    double top{};
     /// From the left of a Q to the left of its exponent.
     double exponentOffset = fromTwips(120);
 };

@@ -10,9 +10,9 @@ namespace tavrune {
 
 /// P = aQ² + bQ + c. Drawn numbers: whole, and singles.
 struct Polynomial {
-    float a = 0;
-    float b = 0;
-    float c = 0;
+    float a{};
+    float b{};
+    float c{};
 };
 
 /// Returns one of the eighteen shapes of a polynomial. Precondition: `patternCase` is 1 to 18.
@@ -39,8 +39,8 @@ struct Polynomial {
 
 /// Unrounded, the one with the larger numerator first.
 struct Roots {
-    double rootOne = 0;
-    double rootTwo = 0;
+    double rootOne{};
+    double rootTwo{};
 };
 
 /// Returns both roots, a double one twice. Precondition: the discriminant is not below 0.
@@ -48,8 +48,8 @@ struct Roots {
 
 /// Unrounded: -b/(2a) is a quotient of singles, -d/(4a) one of a double.
 struct Vertex {
-    float q = 0;
-    double p = 0;
+    float q{};
+    double p{};
 };
 
 [[nodiscard]] Vertex vertexOf(const Polynomial& p);
@@ -60,7 +60,7 @@ struct RootTask {
     Polynomial coefficients;
     /// "5Q²-3Q+1"
     std::string polynomialText;
-    double discriminant = 0;
+    double discriminant{};
     /// Written only where the polynomial has roots, and read only there.
     Roots roots;
 };

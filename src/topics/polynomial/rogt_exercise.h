@@ -18,8 +18,8 @@ void newExercise(RogtState& s, Draws& draws);
 
 /// Solved if both parts of the answer are right. Right roots leave both of their boxes right.
 struct RogtJudgement : Judgement {
-    bool rootsAreRight = false;
-    bool vertexIsRight = false;
+    bool rootsAreRight{};
+    bool vertexIsRight{};
 };
 
 /// Judges the chosen count with what is typed for both roots, and for Q and P of the vertex.

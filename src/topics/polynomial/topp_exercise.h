@@ -16,7 +16,7 @@ struct ToppState {
     /// What the task shows. In one pattern it is not what `polynomial` says.
     std::string polynomialText;
     /// b² - 4ac
-    double discriminant = 0;
+    double discriminant{};
     /// Its coordinates are 15 or less in size.
     Vertex vertex;
 };
