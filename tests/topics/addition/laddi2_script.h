@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 #include "support/scripted_draws.h"
 
 namespace tavrune::test {
@@ -24,9 +26,14 @@ struct DrawnKinked {
     return {cellOf(kink1 - 3, 5), cellOf(kink2 - 3, 5)};
 }
 
+/// The sides of a coin that a piece falls below: its last draw that does, and its first that does not.
+[[nodiscard]] inline float coinOf(bool isFalling, float share) {
+    return isFalling ? std::nextafter(share, 0.0F) : share;
+}
+
 /// A level piece can come from either side of the coin.
 [[nodiscard]] inline Script beforeScriptOf(bool isFallingDrawn, int size, int intercept) {
-    return {isFallingDrawn ? 0.69F : 0.71F, cellOf(size, 5), cellOf(intercept, 5)};
+    return {coinOf(isFallingDrawn, 0.7F), cellOf(size, 5), cellOf(intercept, 5)};
 }
 
 [[nodiscard]] inline Script beforeScriptOf(const DrawnPiece& p) {
@@ -35,7 +42,7 @@ struct DrawnKinked {
 
 /// `place` is 0 for the lowest of the five prices at the kink.
 [[nodiscard]] inline Script afterScriptOf(bool isFallingDrawn, int size, int place) {
-    return {isFallingDrawn ? 0.49F : 0.51F, cellOf(size, 5), cellOf(place, 5)};
+    return {coinOf(isFallingDrawn, 0.5F), cellOf(size, 5), cellOf(place, 5)};
 }
 
 [[nodiscard]] inline Script afterScriptOf(int kink, const DrawnPiece& p) {
