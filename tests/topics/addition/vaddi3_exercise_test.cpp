@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <functional>
+#include <cstdint>
 #include <iostream>
 #include <map>
 #include <set>
+#include <sstream>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -15,7 +17,7 @@
 #include "support/decimal_mark.h"
 #include "support/exact.h"
 #include "support/lot.h"
-#include "topics/addition/judged_fields.h"
+#include "topics/addition/vaddi3_market.h"
 #include "topics/addition/vaddi3_tasks.h"
 
 namespace tavrune {
@@ -25,6 +27,8 @@ using enum TableColumn;
 using test::cellOf;
 using test::DecimalMark;
 using test::Exact;
+using test::exact;
+using test::Functions;
 using test::Proof;
 using test::Script;
 using test::ScriptedDraws;
@@ -154,32 +158,6 @@ TEST_P(Vaddi3Rejects, AndGoesBackToTheFirstIntercept) {
 
 TEST(Vaddi3Draw, TakesAJumpDownThatEndsAtFifty) {
     EXPECT_EQ(exerciseOf({KinkKind::JumpDown, 5, -0.1F, 3, -2, 0.5F, -1, 5}).slope1Before, -0.1F);
-}
-
-TEST(Vaddi3Draw, FailsOnASlopeOfZero) {
-    const auto kindOfFailure = [](const Script& script) -> std::optional<ArithmeticFailure::Kind> {
-        ScriptedDraws draws(script);
-        Vaddi3State s;
-        try {
-            newExercise(s, draws);
-        } catch (const ArithmeticFailure& failure) {
-            EXPECT_TRUE(draws.isUsedUp());
-            return failure.kind();
-        }
-        return std::nullopt;
-    };
-    for (const KinkKind kind : {KinkKind::JumpDown, KinkKind::Steeper}) {
-        // Before the kink is drawn.
-        EXPECT_EQ(kindOfFailure(test::kindOf(kind) + Script{cellOf(2, 5), 0}),
-                  ArithmeticFailure::Kind::DivisionByZero);
-    }
-    for (Vaddi3Task task : {test::kTwoSegments, test::kFourSegments, test::kSteeper, test::kFlatter}) {
-        Script second = test::secondPartOf(task);
-        second.front() = 0;
-        EXPECT_EQ(kindOfFailure(test::kindOf(task.kind) + test::firstPartOf(task) + second +
-                                test::secondFunctionOf(task)),
-                  ArithmeticFailure::Kind::DivisionByZero);
-    }
 }
 
 TEST(Vaddi3Draw, TakesTheFlattestSteepSlopeForADrawOfZero) {
@@ -565,275 +543,6 @@ void forEachExercise(Action action) {
     forEachExercise(action, [](const Vaddi3State&, int) {});
 }
 
-/// Runs through those of the lot that differ in their functions; returns how many they are.
-template <class Action>
-std::size_t forEachDifferentExercise(Action action) {
-    std::set<std::array<double, 8>> seen;
-    forEachExercise([&](const Vaddi3State& s, int seed) {
-        const bool isNew =
-            seen.insert({static_cast<double>(s.kinkKind), s.intercept1Before, s.slope1Before, s.kinkQuantity,
-                         s.slope1After, s.intercept1After, s.slope2, s.intercept2})
-                .second;
-        if (isNew) {
-            action(s, seed);
-        }
-    });
-    return seen.size();
-}
-
-/// The drawn number, which is a whole one or a number of tenths.
-Exact exact(double drawn) { return {std::llround(drawn * 10), 10}; }
-
-/// The two functions, and all that can be bought at a price.
-struct Market {
-    KinkKind kind;
-    Exact slopeBefore, start1, slopeAfter, interceptAfter, kink;
-    Exact slope2, start2;
-    Exact kinkFirst, kinkSecond;
-
-    /// A stretch of the sum between two prices at which something begins or ends.
-    struct Stretch {
-        Exact startQ, startP, endQ, endP;
-        Exact slope = (startP - endP) / (startQ - endQ);
-        Exact intercept = startP - slope * startQ;
-
-        [[nodiscard]] bool isAround(Exact p) const { return endP < p && p < startP; }
-        [[nodiscard]] Exact at(Exact p) const { return (p - intercept) / slope; }
-    };
-
-    explicit Market(const Vaddi3State& s)
-        : kind(s.kinkKind),
-          slopeBefore(exact(s.slope1Before)),
-          start1(exact(s.intercept1Before)),
-          slopeAfter(exact(s.slope1After)),
-          interceptAfter(exact(s.intercept1After)),
-          kink(exact(s.kinkQuantity)),
-          slope2(exact(s.slope2)),
-          start2(exact(s.intercept2)),
-          kinkFirst(slopeBefore * kink + start1),
-          kinkSecond(slopeAfter * kink + interceptAfter) {}
-
-    [[nodiscard]] bool isLevel() const { return slope2 == Exact(0); }
-    [[nodiscard]] Exact before(Exact p) const { return (p - start1) / slopeBefore; }
-    [[nodiscard]] Exact after(Exact p) const { return (p - interceptAfter) / slopeAfter; }
-    [[nodiscard]] Exact second(Exact p) const {
-        return isLevel() || p > start2 ? Exact(0) : (p - start2) / slope2;
-    }
-    /// The prices between which function 1 falls upright.
-    [[nodiscard]] bool isJumpedOver(Exact p) const { return kinkSecond < p && p < kinkFirst; }
-
-    /// The quantities of the sum at a price at which nothing begins or ends, read off the functions. A
-    /// stretch that runs upright has no function, and over a level function the market ends with the part
-    /// of function 1 that comes to it first.
-    [[nodiscard]] std::vector<Exact> bought(Exact p) const {
-        const bool isOutside = isLevel() ? p < start2 || p > start1 : p > start2 && p > start1;
-        if (isOutside || (isJumpedOver(p) && (isLevel() || p > start2))) {
-            return {};
-        }
-        std::vector<Exact> all;
-        if (p > start1) {
-            all.emplace_back(0);
-        } else if (isJumpedOver(p)) {
-            all.push_back(kink);
-        } else {
-            if (p > kinkFirst) {
-                all.push_back(before(p));
-            }
-            const bool isCutBeforeTheJump = kind == KinkKind::JumpUp && isLevel() && start2 >= kinkFirst;
-            if (p < kinkSecond && !isCutBeforeTheJump) {
-                all.push_back(after(p));
-            }
-        }
-        for (Exact& q : all) {
-            q = q + second(p);
-        }
-        return all;
-    }
-
-    /// The sloping pieces of the sum, as the functions and their prices give them.
-    [[nodiscard]] std::vector<Stretch> stretches() const {
-        const Exact top = isLevel() ? start1 : std::max(start1, start2);
-        const Exact bottom = isLevel() ? start2 : Exact(0);
-        std::vector<Stretch> all;
-        std::vector<Exact> breaks{start1, start2};
-        if (kind != KinkKind::JumpUp) {
-            // The parts of a jump up end each in its own run.
-            breaks.insert(breaks.end(), {kinkFirst, kinkSecond});
-        }
-        const auto run = [&](Exact from, Exact to, auto quantity) {
-            std::set<Exact, std::greater<>> prices{from, to};
-            for (const Exact price : breaks) {
-                if (to < price && price < from) {
-                    prices.insert(price);
-                }
-            }
-            for (auto price = prices.begin(); from > to && std::next(price) != prices.end(); ++price) {
-                const Exact next = *std::next(price);
-                const Exact startQ = quantity(*price) + second(*price);
-                const Exact endQ = quantity(next) + second(next);
-                if (startQ != endQ) {
-                    all.push_back(Stretch{startQ, *price, endQ, next});
-                }
-            }
-        };
-        const auto first = [this](Exact p) { return p > start1 ? Exact(0) : before(p); };
-        if (kind == KinkKind::JumpUp) {
-            run(top, std::max(bottom, kinkFirst), first);
-            if (bottom < kinkFirst) {
-                run(kinkSecond, bottom, [this](Exact p) { return after(p); });
-            }
-        } else {
-            run(top, bottom,
-                [&](Exact p) { return p >= kinkFirst ? first(p) : (p >= kinkSecond ? kink : after(p)); });
-        }
-        return all;
-    }
-
-    [[nodiscard]] bool isBreak(Exact p) const {
-        const auto breaks = {start1, kinkFirst, kinkSecond, start2, Exact(0)};
-        return std::find(breaks.begin(), breaks.end(), p) != breaks.end();
-    }
-};
-
-/// Half of the last decimal, and what singles may lose.
-constexpr double kHalf = 0.005 + 1e-5;
-
-bool isNear(double rounded, Exact exact) { return std::abs(rounded - exact.value()) <= kHalf; }
-bool isNear(const TableCell& cell, Exact exact) { return cell.isNumeric() && isNear(cell.number(), exact); }
-
-/// True if the stretches hold all that is bought, and no more, at prices in the middle between two tenths,
-/// where nothing begins or ends: at every fourth of them, from another one in each exercise.
-bool areAllThatIsBought(const std::vector<Market::Stretch>& stretches, const Market& market, int seed) {
-    constexpr int kStep = 4;
-    for (int tenth = seed % kStep; tenth < 100; tenth += kStep) {
-        const Exact price(2 * tenth + 1, 20);
-        std::vector<Exact> found;
-        for (const Market::Stretch& stretch : stretches) {
-            if (stretch.isAround(price)) {
-                found.push_back(stretch.at(price));
-            }
-        }
-        if (found != market.bought(price)) {
-            return false;
-        }
-    }
-    return true;
-}
-
-/// What is wrong with the segments, in a word; empty if nothing is.
-std::string flawOfSum(const Vaddi3State& s, int seed) {
-    const Market market(s);
-    const std::vector<Market::Stretch> stretches = market.stretches();
-    if (!areAllThatIsBought(stretches, market, seed)) {
-        return "not the sum, by the test itself";
-    }
-    const std::size_t sloping = s.segments.size() - (market.isLevel() ? 1 : 0);
-    if (sloping != stretches.size()) {
-        return "another number of segments";
-    }
-    for (std::size_t i = 0; i < sloping; ++i) {
-        const SumSegment& segment = s.segments[i];
-        const Market::Stretch& stretch = stretches[i];
-        if (!isNear(segment.startQ, stretch.startQ) || !isNear(segment.startP, stretch.startP) ||
-            !isNear(segment.endQ, stretch.endQ) || !isNear(segment.endP, stretch.endP)) {
-            return "another end";
-        }
-        if (!isNear(segment.piece.slope, stretch.slope) ||
-            !isNear(segment.piece.intercept, stretch.intercept)) {
-            return "another line";
-        }
-        // Along the segment: slope and intercept are off by half a decimal at most.
-        for (int quarter = 0; quarter <= 4; ++quarter) {
-            const Exact q = stretch.startQ + (stretch.endQ - stretch.startQ) * Exact(quarter, 4);
-            const Exact p = stretch.slope * q + stretch.intercept;
-            if (std::abs(segment.piece.at(q.value()) - p.value()) > kHalf * (q.value() + 1)) {
-                return "off the sum";
-            }
-        }
-    }
-    if (!market.isLevel()) {
-        return isNear(s.upperEnd, market.after(0) + market.second(0)) ? "" : "another upper end";
-    }
-    const SumSegment& level = s.segments.back();
-    const bool isLevel = level.piece.slope == 0 && level.piece.intercept == s.intercept2 &&
-                         level.endQ.isUnbounded() && level.startP == level.endP &&
-                         isNear(level.startP, market.start2);
-    const TableCell start = sloping == 0 ? TableCell(0.0) : s.segments[sloping - 1].endQ;
-    return isLevel && level.startQ == start ? "" : "another level piece";
-}
-
-/// What is wrong with the help table, in a word.
-std::string flawOfTable(const Vaddi3State& s) {
-    const Market market(s);
-    const ColumnRoles columns = columnRoles(s);
-    Exact above = 100;
-    std::size_t rows = 0;
-    for (; rows < 5 && s.column(columns.price)[rows].isNumeric(); ++rows) {
-        const Exact p = exact(s.column(columns.price)[rows].number());
-        if (!isNear(s.column(columns.price)[rows], p) || !(p < above) || !market.isBreak(p)) {
-            return "prices";
-        }
-        above = p;
-        const auto is = [&s, rows](TableColumn column, std::optional<Exact> quantity) {
-            const TableCell& cell = s.column(column)[rows];
-            if (!quantity) {
-                return cell.isBlank();
-            }
-            return *quantity > Exact(900) ? cell.isUnbounded() : isNear(cell, *quantity);
-        };
-        const bool isOnFirst = p >= market.kinkFirst;
-        const bool isOnSecond = p <= market.kinkSecond && !(market.kind >= KinkKind::Steeper && isOnFirst);
-        const bool isInJump = !isOnFirst && !isOnSecond;
-        const Exact first = isOnFirst ? market.before(p) : (isInJump ? market.kink : Exact(0));
-        const Exact second = isOnSecond ? market.after(p) : Exact(0);
-        const bool isAbove1 = p > market.start1;
-        std::optional<Exact> other;
-        if (p <= market.start2) {
-            other = market.isLevel() && p < market.start2 ? Exact(1000) : market.second(p);
-        }
-        const std::vector<Exact> parts =
-            s.isJumpUp() ? std::vector<Exact>{first, second} : std::vector<Exact>{first + second};
-        if (!is(columns.quantity2, other)) {
-            return "quantities of function 2";
-        }
-        for (std::size_t part = 0; part < parts.size(); ++part) {
-            const Exact own = isAbove1 ? Exact(0) : parts[part];
-            if (!is(columns.function1[part].quantity, isAbove1 ? std::nullopt : std::optional(own))) {
-                return "quantities of function 1";
-            }
-            if (!is(columns.function1[part].total, own + other.value_or(0))) {
-                return "totals";
-            }
-        }
-    }
-    for (std::size_t row = rows; row < 5; ++row) {
-        if (s.partsOfRows[row] != Parts::None) {
-            return "rows that are left";
-        }
-        for (const Vaddi3State::Column& column : s.helpTable) {
-            if (!column[row].isBlank()) {
-                return "rows that are left";
-            }
-        }
-    }
-    return rows >= 3 && above == Exact(0) ? "" : "rows";
-}
-
-TEST(Vaddi3Exercises, AddUpTheTrueFunctions) {
-    std::map<int, int> counts;
-    const std::size_t different = forEachDifferentExercise([&counts](const Vaddi3State& s, int seed) {
-        ASSERT_EQ(flawOfSum(s, seed), "") << "seed " << seed << ": " << sumText(s);
-        ++counts[s.segmentCount()];
-    });
-    std::cout << "    " << different << " different exercises; with 1, 2, 3, 4 segments: " << counts[1]
-              << ", " << counts[2] << ", " << counts[3] << ", " << counts[4] << "\n";
-}
-
-TEST(Vaddi3Exercises, TellTheTrueQuantitiesInTheHelpTable) {
-    forEachDifferentExercise(
-        [](const Vaddi3State& s, int seed) { ASSERT_EQ(flawOfTable(s), "") << "seed " << seed; });
-}
-
 /// Where the start of function 2 lies on function 1.
 enum class Place {
     AboveFunction1,
@@ -892,29 +601,6 @@ TEST(Vaddi3Exercises, ReachEveryKindWithEveryPositionOfFunction2) {
     EXPECT_EQ(counts[KinkKind::Flatter], (std::set<int>{1, 2, 3}));
 }
 
-TEST(Vaddi3Exercises, TakeTheirOwnAnswerAndNoOther) {
-    Proof proof("Vaddi3", 8);
-    const auto kindOf = [](const Vaddi3State& s) {
-        return 2 * static_cast<int>(s.kinkKind) + (s.slope2 == 0 ? 1 : 0);
-    };
-    const auto count = [&](const Vaddi3State& s, int /*seed*/) {
-        proof.visit(Proof::From::Seeds, kindOf(s));
-        if (s.segmentCount() == 3 && s.upperEndAsked) {
-            proof.unsolvable("with three segments and an upper end, judged by a cell of the help table");
-        }
-    };
-    const auto failed = [&](const Vaddi3State& s, int /*seed*/) {
-        proof.visit(Proof::From::Seeds, kindOf(s));
-        proof.unsolvable("with a draw of just 0 for a slope, ending the program");
-    };
-    forEachExercise(count, failed);
-    forEachDifferentExercise([](const Vaddi3State& s, int seed) {
-        ASSERT_EQ(test::flawOfJudging(answerFields(s), [](const AnswerField& f) { return f.target.value; }),
-                  "")
-            << "seed " << seed;
-    });
-}
-
 TEST(Vaddi3Exercises, AreRightInTheirOwnFieldsButForThreeSegmentsWithAnUpperEnd) {
     // With three segments the verdict reads the third cell of the third row of the help table instead.
     int exercises = 0;
@@ -941,6 +627,308 @@ TEST(Vaddi3Exercises, AreRightInTheirOwnFieldsButForThreeSegmentsWithAnUpperEnd)
 TEST(Vaddi3Exercises, ReadTheSameWithTheDanishMark) {
     const DecimalMark inUse(",");
     EXPECT_EQ(sumText(exerciseOf(test::kTwoSegments)), "P=-0,5Q+9 0<Q<4; P=-1,33Q+10,33 4<Q<7,75");
+}
+
+// The whole space. A draw is one of 2^24, but all that it gives is a whole number, so that it falls into a
+// few cells of draws that behave alike:
+//
+//     kind                                                4 cells
+//     start of function 1                                 5
+//     slope before the kink    flat 8, steep 4            and one draw, 0, for no slope if it is to be flat
+//     quantity of the kink     1 to 8                     as many as fit before function 1 comes to 0
+//     slope after the kink     steep 4, flat 8            and one draw, 0, for no slope
+//     intercept after the kink 1 to 8                     at a jump only, by the prices left for it
+//     slope of function 2      5
+//     start of function 2      5
+//
+// Each exercise comes of one cell each, so that the space is small enough to be walked from cell to cell: by
+// the least draw of each cell, and by the greatest.
+
+constexpr int kAllDraws = 1 << 24;
+
+/// How many draws from a bound singles may round otherwise.
+constexpr int kOfSingles = 32;
+
+/// The draws that give one whole number.
+struct Cell {
+    int whole;
+    float least;
+    float greatest;
+};
+
+/// The cells of the draws u by the whole number not above `at0` + `change`·u; `unsure` draws at the bounds
+/// between two cells are left out.
+std::vector<Cell> cellsOf(Exact at0, Exact change, int unsure = 0) {
+    const auto floorOf = [](Exact x) { return static_cast<int>(std::floor(x.value())); };
+    const auto drawOf = [](int number) { return static_cast<float>(number) / kAllDraws; };
+    if (change == Exact(0)) {
+        return {{floorOf(at0), 0, test::kLargestDraw}};
+    }
+    std::vector<Cell> cells;
+    const Exact at1 = at0 + change;
+    for (int whole = floorOf(std::min(at0, at1)); Exact(whole) <= std::max(at0, at1); ++whole) {
+        const Exact reached = (Exact(whole) - at0) / change * kAllDraws;
+        const Exact left = (Exact(whole + 1) - at0) / change * kAllDraws;
+        const bool isRising = Exact(0) < change;
+        int least = isRising ? -floorOf(Exact(0) - reached) : floorOf(left) + 1;
+        int greatest = isRising ? -floorOf(Exact(0) - left) - 1 : floorOf(reached);
+        if (greatest < 0 || least >= kAllDraws) {
+            continue;
+        }
+        least = least <= 0 ? 0 : least + unsure;
+        greatest = greatest >= kAllDraws - 1 ? kAllDraws - 1 : std::max(least, greatest - unsure);
+        cells.push_back({whole, drawOf(least), drawOf(greatest)});
+    }
+    return cells;
+}
+
+/// What is drawn up to some place, and the draws for it: the least, and the greatest.
+struct Way {
+    Functions functions;
+    std::array<Script, 2> scripts;
+
+    [[nodiscard]] Way with(const Cell& cell) const {
+        return {functions, {scripts[0] + Script{cell.least}, scripts[1] + Script{cell.greatest}}};
+    }
+};
+
+/// The ways to a function 1 of one kind, the kind first.
+struct FirstFunctions {
+    std::vector<Way> taken;
+    /// It is drawn again.
+    std::vector<Way> rejected;
+    /// One of its slopes is 0.
+    std::vector<Way> failing;
+};
+
+void addPartsAfter(FirstFunctions& all, const Way& before, Exact kinkPrice) {
+    const KinkKind kind = before.functions.kind;
+    const bool isSteep = kind == KinkKind::JumpDown || kind == KinkKind::Steeper;
+    for (const Cell& slope : isSteep ? cellsOf(0, -4) : cellsOf(0, -8)) {
+        Way way = before.with(slope);
+        way.functions.slopeAfter = isSteep ? slope.whole : slope.whole / 10.0;
+        const Exact drop = exact(way.functions.slopeAfter) * exact(way.functions.kink);
+        std::vector<Way>& ways = slope.whole == 0 ? all.failing : all.taken;
+        if (kind == KinkKind::Steeper || kind == KinkKind::Flatter) {
+            way.functions.interceptAfter = (kinkPrice - drop).value();
+            ways.push_back(way);
+            continue;
+        }
+        // From half below the first part towards 1.5; from 1.5 above it towards its start.
+        const Exact start = exact(way.functions.start1);
+        const Exact from = kinkPrice + (isSteep ? Exact(-1, 2) : Exact(3, 2));
+        const Exact to = isSteep ? Exact(3, 2) : start;
+        for (const Cell& intercept : cellsOf(from - drop, to - from, kOfSingles)) {
+            Way jump = way.with(intercept);
+            jump.functions.interceptAfter = intercept.whole;
+            (drop + intercept.whole < Exact(1) ? all.rejected : ways).push_back(jump);
+        }
+    }
+}
+
+void addKinks(FirstFunctions& all, const Way& line, Exact zero) {
+    const KinkKind kind = line.functions.kind;
+    for (Cell quantity : cellsOf(1, zero - 1, kOfSingles)) {
+        // A jump down is at 8 at most.
+        constexpr int kFarthest = 8;
+        if (kind == KinkKind::JumpDown && quantity.whole >= kFarthest) {
+            quantity.greatest = test::kLargestDraw;
+            if (quantity.whole > kFarthest) {
+                continue;
+            }
+        }
+        Way way = line.with(quantity);
+        way.functions.kink = quantity.whole;
+        const Exact price = exact(way.functions.slopeBefore) * quantity.whole + exact(way.functions.start1);
+        const bool isSteepAfter = kind == KinkKind::JumpDown || kind == KinkKind::Steeper;
+        if (isSteepAfter && price <= Exact(1)) {
+            all.rejected.push_back(way);
+        } else {
+            addPartsAfter(all, way, price);
+        }
+    }
+}
+
+FirstFunctions firstFunctionsOf(KinkKind kind) {
+    FirstFunctions all;
+    const Cell kindCell = cellsOf(0, 4).at(static_cast<std::size_t>(kind));
+    const bool isFlat = kind == KinkKind::JumpDown || kind == KinkKind::Steeper;
+    for (const Cell& start : cellsOf(5, 5)) {
+        // Three times a draw does not always fit into a single.
+        for (const Cell& slope : isFlat ? cellsOf(0, -8) : cellsOf(-2, -3, 1)) {
+            Way way = Way{}.with(kindCell).with(start).with(slope);
+            way.functions = {.kind = kind,
+                             .start1 = static_cast<double>(start.whole),
+                             .slopeBefore = isFlat ? slope.whole / 10.0 : slope.whole};
+            if (slope.whole == 0) {
+                all.failing.push_back(way);
+                continue;
+            }
+            const Exact zero = Exact(-start.whole) / exact(way.functions.slopeBefore);
+            if (zero <= Exact(1) || zero > Exact(kind == KinkKind::JumpDown ? 50 : 8)) {
+                all.rejected.push_back(way);
+            } else {
+                addKinks(all, way, zero);
+            }
+        }
+    }
+    return all;
+}
+
+const std::map<KinkKind, FirstFunctions>& firstFunctions() {
+    static const std::map<KinkKind, FirstFunctions> all = [] {
+        std::map<KinkKind, FirstFunctions> found;
+        for (const KinkKind kind :
+             {KinkKind::JumpDown, KinkKind::JumpUp, KinkKind::Steeper, KinkKind::Flatter}) {
+            found[kind] = firstFunctionsOf(kind);
+        }
+        return found;
+    }();
+    return all;
+}
+
+/// The ways to function 2 alone.
+std::vector<Way> secondFunctions() {
+    std::vector<Way> all;
+    for (const Cell& slope : cellsOf(0, 5)) {
+        for (const Cell& start : cellsOf(5, 5)) {
+            Way way = Way{}.with(slope).with(start);
+            way.functions.slope2 = -slope.whole;
+            way.functions.start2 = start.whole;
+            all.push_back(way);
+        }
+    }
+    return all;
+}
+
+Way operator+(const Way& first, const Way& second) {
+    Way way{first.functions, {first.scripts[0] + second.scripts[0], first.scripts[1] + second.scripts[1]}};
+    way.functions.slope2 = second.functions.slope2;
+    way.functions.start2 = second.functions.start2;
+    return way;
+}
+
+std::string textOf(const Way& way) {
+    std::ostringstream text;
+    const Functions& f = way.functions;
+    text << "kind " << static_cast<int>(f.kind) << ", " << f.slopeBefore << "Q+" << f.start1 << " up to "
+         << f.kink << ", then " << f.slopeAfter << "Q+" << f.interceptAfter << "; " << f.slope2 << "Q+"
+         << f.start2;
+    return text.str();
+}
+
+/// The exercise of a way: the least and the greatest of its draws give the same.
+Vaddi3State exerciseOf(const Way& way) {
+    const auto least = test::exerciseOf<Vaddi3State>(way.scripts[0], test::Reseeds{1});
+    const auto greatest = test::exerciseOf<Vaddi3State>(way.scripts[1], test::Reseeds{1});
+    EXPECT_TRUE(test::readOff(least) == test::readOff(greatest)) << textOf(way);
+    return greatest;
+}
+
+TEST(Vaddi3Space, HasSoManyExercises) {
+    EXPECT_EQ(secondFunctions().size(), 25U);
+    // Times 25: 111,200, 24,200, 1,500 and 6,400, together 143,300.
+    EXPECT_EQ(firstFunctions().at(KinkKind::JumpDown).taken.size(), 4448U);
+    EXPECT_EQ(firstFunctions().at(KinkKind::JumpUp).taken.size(), 968U);
+    // 15 parts before the kink with 4 after it; 32 with 8.
+    EXPECT_EQ(firstFunctions().at(KinkKind::Steeper).taken.size(), 60U);
+    EXPECT_EQ(firstFunctions().at(KinkKind::Flatter).taken.size(), 256U);
+}
+
+/// The kind of an exercise for the proof: that of function 1, and whether function 2 is level.
+int proofKindOf(const Vaddi3State& s) { return 2 * static_cast<int>(s.kinkKind) + (s.slope2 == 0 ? 1 : 0); }
+
+void enter(Proof& proof, Proof::From from, const Vaddi3State& s) {
+    proof.visit(from, proofKindOf(s));
+    if (s.segmentCount() == 3 && s.upperEndAsked) {
+        proof.unsolvable("with three segments and an upper end, judged by a cell of the help table");
+    }
+}
+
+TEST(Vaddi3Space, IsTheTrueSumInEveryExerciseThatCanBeDrawn) {
+    Proof proof("Vaddi3", 8);
+    const int stride = test::lotSize(23, 1);
+    int number = 0;
+    std::set<Functions> firsts;
+    std::set<Functions> seconds;
+    const std::vector<Way> ways = secondFunctions();
+    for (const Way& second : ways) {
+        seconds.insert(second.functions);
+    }
+    for (const auto& [kind, first] : firstFunctions()) {
+        for (const Way& way : first.taken) {
+            EXPECT_TRUE(firsts.insert(way.functions).second) << "twice: " << textOf(way);
+            for (const Way& second : ways) {
+                if (++number % stride == 0) {
+                    const Way whole = way + second;
+                    const Vaddi3State s = exerciseOf(whole);
+                    ASSERT_EQ(test::flawOf(s, whole.functions, number), "") << textOf(whole);
+                    enter(proof, Proof::From::WholeSpace, s);
+                }
+            }
+        }
+    }
+    // Seeds give nothing else.
+    forEachExercise(
+        [&](const Vaddi3State& s, int seed) {
+            Functions first = test::readOff(s);
+            const Functions second{.slope2 = std::exchange(first.slope2, 0),
+                                   .start2 = std::exchange(first.start2, 0)};
+            ASSERT_TRUE(firsts.contains(first) && seconds.contains(second)) << "seed " << seed;
+            enter(proof, Proof::From::Seeds, s);
+        },
+        [&proof](const Vaddi3State& s, int /*seed*/) {
+            proof.visit(Proof::From::Seeds, proofKindOf(s));
+            proof.unsolvable("with a draw of just 0 for a slope, ending the program");
+        });
+}
+
+TEST(Vaddi3Space, IsDrawnAgainFromTheFirstInterceptWhereverItDoesNotSuit) {
+    std::map<KinkKind, std::size_t> counts;
+    const Way second = secondFunctions().front();
+    for (const auto& [kind, first] : firstFunctions()) {
+        counts[kind] = first.rejected.size();
+        for (const Way& way : first.rejected) {
+            Way again = first.taken.front() + second;
+            for (std::size_t i = 0; i < way.scripts.size(); ++i) {
+                // The kind is drawn once.
+                again.scripts[i].erase(again.scripts[i].begin());
+                again.scripts[i] = way.scripts[i] + again.scripts[i];
+            }
+            EXPECT_TRUE(test::readOff(exerciseOf(again)) == again.functions) << "after " << textOf(way);
+        }
+    }
+    EXPECT_EQ(counts, (std::map<KinkKind, std::size_t>{{KinkKind::JumpDown, 44},
+                                                       {KinkKind::JumpUp, 1},
+                                                       {KinkKind::Steeper, 42},
+                                                       {KinkKind::Flatter, 1}}));
+}
+
+/// How a script fails that is used up by then.
+std::optional<ArithmeticFailure::Kind> failureOf(const Script& script) {
+    ScriptedDraws draws(script);
+    Vaddi3State s;
+    try {
+        newExercise(s, draws);
+    } catch (const ArithmeticFailure& failure) {
+        EXPECT_TRUE(draws.isUsedUp());
+        return failure.kind();
+    }
+    return std::nullopt;
+}
+
+TEST(Vaddi3Space, FailsOnEverySlopeOfZero) {
+    const Way second = secondFunctions().back();
+    for (const auto& [kind, first] : firstFunctions()) {
+        EXPECT_GT(first.failing.size(), 0U);
+        for (const Way& way : first.failing) {
+            // It fails before the kink as soon as it is drawn, after it when the sum is made.
+            const bool isAtOnce = way.functions.slopeBefore == 0;
+            for (const Script& script : (isAtOnce ? way : way + second).scripts) {
+                EXPECT_EQ(failureOf(script), ArithmeticFailure::Kind::DivisionByZero) << textOf(way);
+            }
+        }
+    }
 }
 
 }  // namespace
