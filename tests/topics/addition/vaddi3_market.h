@@ -4,12 +4,14 @@
 #include <array>
 #include <cmath>
 #include <compare>
+#include <cstdint>
 #include <functional>
 #include <iterator>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "numeric/text.h"
@@ -233,79 +235,66 @@ inline constexpr double kHalf = 0.005 + 1e-5;
     return "";
 }
 
-/// What is wrong with a filled row of the help table, in a word.
-[[nodiscard]] inline std::string flawOfRow(const Vaddi3State& s, const Market& market, std::size_t row,
-                                           Exact p) {
-    const ColumnRoles columns = columnRoles(s);
-    const auto is = [&s, row](TableColumn column, std::optional<Exact> quantity) {
-        const std::string text = s.column(column)[row].text();
-        return quantity ? shows(text, *quantity) : text == " ";
-    };
+/// What a row of the help table has to show, nothing where it is blank.
+using Row = std::array<std::optional<Exact>, kTableColumns>;
+
+/// The row at a price: P, Q1a, Q1b, Q2 and the totals with Q1a and with Q1b at a jump up; otherwise P, Q1, Q2
+/// and the total, in the columns between.
+[[nodiscard]] inline Row rowAt(const Market& market, Exact p) {
     const bool isOnFirst = p >= market.kinkFirst;
     const bool isOnSecond = p <= market.kinkSecond && !(market.kind >= KinkKind::Steeper && isOnFirst);
     const bool isInJump = !isOnFirst && !isOnSecond;
     const Exact first = isOnFirst ? market.before(p) : (isInJump ? market.kink : Exact(0));
     const Exact second = isOnSecond ? market.after(p) : Exact(0);
-    const bool isAbove1 = p > market.start1;
     const bool isUnbounded = market.isLevel() && p < market.start2;
+    const auto own = [&](Exact q) { return p > market.start1 ? std::nullopt : std::optional(q); };
+    const auto total = [&](Exact q) {
+        return isUnbounded ? Exact(Market::kUnbounded) : own(q).value_or(0) + market.second(p);
+    };
     std::optional<Exact> other;
     if (p <= market.start2) {
         other = isUnbounded ? Exact(Market::kUnbounded) : market.second(p);
     }
-    const bool isJumpUp = market.kind == KinkKind::JumpUp;
-    const std::vector<Exact> parts =
-        isJumpUp ? std::vector<Exact>{first, second} : std::vector<Exact>{first + second};
-    if (!is(columns.quantity2, other)) {
-        return "quantities of function 2";
+    if (market.kind == KinkKind::JumpUp) {
+        return {p, own(first), own(second), other, total(first), total(second)};
     }
-    for (std::size_t part = 0; part < parts.size(); ++part) {
-        const Exact own = isAbove1 ? Exact(0) : parts[part];
-        if (!is(columns.function1[part].quantity, isAbove1 ? std::nullopt : std::optional(own))) {
-            return "quantities of function 1";
-        }
-        if (!is(columns.function1[part].total, isUnbounded ? *other : own + other.value_or(0))) {
-            return "totals";
-        }
-    }
-    // A price in the jump, where only function 2 can have its start, is one of both parts.
-    const bool isBetween = market.kinkFirst <= p && p <= market.kinkSecond && p == market.start2;
-    const bool isOfFirst = p > market.kinkSecond || p == market.kinkFirst || isBetween;
-    const bool isOfSecond = p < market.kinkFirst || p == market.kinkSecond || isBetween;
-    return isRowOf(s, row, Part::BeforeKink) == (!isJumpUp || isOfFirst) &&
-                   isRowOf(s, row, Part::AfterKink) == (!isJumpUp || isOfSecond)
-               ? ""
-               : "rows of the parts";
+    return {std::nullopt, p, own(first + second), other, total(first + second), std::nullopt};
 }
 
-/// What is wrong with the help table, in a word.
-[[nodiscard]] inline std::string flawOfTable(const Vaddi3State& s, const Market& market) {
-    const TableColumn prices = columnRoles(s).price;
+/// True if the price is of this part. One in a jump, where only function 2 can have its start, is of both.
+[[nodiscard]] inline bool isPriceOf(const Market& market, Part part, Exact p) {
+    const bool isAtStart2 = market.kinkFirst <= p && p <= market.kinkSecond && p == market.start2;
+    return market.kind != KinkKind::JumpUp || isAtStart2 ||
+           (part == Part::BeforeKink ? p > market.kinkSecond || p == market.kinkFirst
+                                     : p < market.kinkFirst || p == market.kinkSecond);
+}
+
+/// True if the help table has just the prices at which something begins or ends, and all that belongs to
+/// them.
+[[nodiscard]] inline bool isTableOf(const Vaddi3State& s, const Market& market) {
     std::size_t row = 0;
-    for (const Exact p : market.breaks()) {
-        if (const std::string text = s.column(prices)[row].text();
-            text == " " || typedAgain(text) != p.value()) {
-            return "prices";
+    const auto has = [&s, &row](const Row& numbers, bool isBefore, bool isAfter) {
+        for (std::size_t column = 0; column < kTableColumns; ++column) {
+            const std::string text = s.helpTable[column][row].text();
+            if (numbers[column] ? !shows(text, *numbers[column]) : text != " ") {
+                return false;
+            }
         }
-        if (std::string flaw = flawOfRow(s, market, row, p); !flaw.empty()) {
-            return flaw;
+        return isRowOf(s, row, Part::BeforeKink) == isBefore && isRowOf(s, row, Part::AfterKink) == isAfter;
+    };
+    for (const Exact p : market.breaks()) {
+        if (!has(rowAt(market, p), isPriceOf(market, Part::BeforeKink, p),
+                 isPriceOf(market, Part::AfterKink, p))) {
+            return false;
         }
         ++row;
     }
-    for (std::size_t column = 0; column < kTableColumns; ++column) {
-        const bool isOuter = column == 0 || column + 1 == kTableColumns;
-        for (std::size_t blank = isOuter && !s.isJumpUp() ? 0 : row; blank < Vaddi3State::kTableRows;
-             ++blank) {
-            if (s.helpTable[column][blank].text() != " ") {
-                return "cells that are left";
-            }
-        }
-    }
     for (; row < Vaddi3State::kTableRows; ++row) {
-        if (isRowOf(s, row, Part::BeforeKink) || isRowOf(s, row, Part::AfterKink)) {
-            return "rows that are left";
+        if (!has({}, false, false)) {
+            return false;
         }
     }
-    return "";
+    return true;
 }
 
 /// The numbers in a text, which stand where its words have a "#"; nothing if it has other words.
@@ -382,8 +371,9 @@ inline constexpr double kHalf = 0.005 + 1e-5;
     return isAll;
 }
 
-/// What is wrong with the verdict on the answer: as it is, and with one number at a time past its tolerance.
-/// With three sloping segments the upper end is judged by a cell of the help table, its mark by the field.
+/// What is wrong with the verdict on the answer: as it is, and with one number at a time at its tolerance,
+/// and past it. With three sloping segments the upper end is judged by a cell of the help table, its mark by
+/// the field.
 [[nodiscard]] inline std::string flawOfVerdict(const Vaddi3State& s,
                                                const std::vector<Market::Stretch>& stretches) {
     std::vector<double> typed;
@@ -391,24 +381,57 @@ inline constexpr double kHalf = 0.005 + 1e-5;
         typed.push_back(typedAgain(NumberText(field.target.value)));
     }
     const double upperEnd = typed.back();
-    const bool isByTheTable = stretches.size() == 3 && stretches.back().slope != Exact(0);
+    const bool isSloping = stretches.back().slope != Exact(0);
+    const bool isByTheTable = stretches.size() == 3 && isSloping;
     const std::vector<bool> all(typed.size(), true);
     if (judge(s, {.typed = typed, .helpCell = upperEnd}) != Judgement{all, true} ||
         judge(s, {.typed = typed, .helpCell = upperEnd + kJustPast}) != Judgement{all, !isByTheTable}) {
         return "refuses its own answer, or takes a wrong cell";
     }
     for (std::size_t i = 0; i < typed.size(); ++i) {
-        std::vector<double> wrong = typed;
-        wrong[i] += kJustPast;
-        std::vector<bool> isRight = all;
-        isRight[i] = false;
-        const bool isSolved = isByTheTable && i + 1 == typed.size();
-        if (judge(s, {.typed = wrong, .helpCell = upperEnd}) != Judgement{isRight, isSolved}) {
-            return "takes another number, or marks it otherwise";
+        const bool isUpperEnd = isSloping && i + 1 == typed.size();
+        const bool isLoneStart = stretches.size() == 1 && i == 2;
+        for (const auto& [off, isTaken] : {std::pair(-kJustPast, false), std::pair(-0.005, isUpperEnd),
+                                           std::pair(0.005, !isLoneStart), std::pair(kJustPast, false)}) {
+            std::vector<double> moved = typed;
+            moved[i] += off;
+            std::vector<bool> isRight = all;
+            isRight[i] = isTaken;
+            const bool isSolved = isTaken || (isUpperEnd && isByTheTable);
+            if (judge(s, {.typed = moved, .helpCell = upperEnd}) != Judgement{isRight, isSolved}) {
+                return "takes another number, or marks it otherwise";
+            }
         }
     }
     return "";
 }
+
+/// How often a number just between two of two decimals was shown as the one farther from 0, and how often, by
+/// what singles lose, as the other.
+struct Halves {
+    int away = 0;
+    int towards = 0;
+
+    bool operator==(const Halves&) const = default;
+
+    void count(double rounded, Exact number) {
+        const Exact doubled = number * 200;
+        const std::int64_t whole = std::llround(doubled.value());
+        if (Exact(whole) == doubled && whole % 2 != 0) {
+            ++(std::abs(rounded) > std::abs(number.value()) ? away : towards);
+        }
+    }
+
+    /// Counts the numbers of the sum.
+    void count(const Vaddi3State& s, const Functions& functions) {
+        const std::vector<Market::Stretch> stretches = Market(functions).stretches();
+        for (std::size_t i = 0; i < stretches.size(); ++i) {
+            count(s.segments[i].piece.slope, stretches[i].slope);
+            count(s.segments[i].piece.intercept, stretches[i].intercept);
+            count(s.segments[i].startQ.number(), stretches[i].startQ);
+        }
+    }
+};
 
 /// What is wrong with the exercise of these functions, which has this number among the others; empty if
 /// nothing is.
@@ -426,6 +449,9 @@ inline constexpr double kHalf = 0.005 + 1e-5;
     if (!areAllThatIsBought(stretches, market, number)) {
         return "not the sum, by the test itself";
     }
+    if (!isTableOf(s, market)) {
+        return "another help table";
+    }
     if (!isPathOf(s, stretches)) {
         return "another path";
     }
@@ -433,7 +459,7 @@ inline constexpr double kHalf = 0.005 + 1e-5;
     if (!areAskedFor(fields, stretches) || s.upperEndAsked == market.isLevel()) {
         return "asks for something else";
     }
-    for (std::string flaw : {flawOfSum(s, stretches), flawOfTable(s, market), flawOfVerdict(s, stretches),
+    for (std::string flaw : {flawOfSum(s, stretches), flawOfVerdict(s, stretches),
                              flawOfJudging(fields, [](const AnswerField& f) { return f.target.value; })}) {
         if (!flaw.empty()) {
             return flaw;

@@ -20,24 +20,29 @@ struct Vaddi3Task {
     int intercept2;
 };
 
+/// True if the first part is flat and the second steep, not the other way round.
+[[nodiscard]] inline bool startsFlat(KinkKind kind) {
+    return kind == KinkKind::JumpDown || kind == KinkKind::Steeper;
+}
+
 [[nodiscard]] inline float drawOfFlatSlope(float slope) {
     return cellOf(static_cast<int>(std::lround(slope * -10)) - 1, 8);
 }
 
 /// The draws of the first part alone: intercept, slope, kink.
 [[nodiscard]] inline Script firstPartOf(const Vaddi3Task& t) {
-    const bool startsFlat = t.kind == KinkKind::JumpDown || t.kind == KinkKind::Steeper;
     const float zero = static_cast<float>(-t.intercept1) / t.slopeBefore;
-    return {cellOf(t.intercept1 - 5, 5),
-            startsFlat ? drawOfFlatSlope(t.slopeBefore) : cellOf(static_cast<int>(-t.slopeBefore) - 3, 3),
-            (static_cast<float>(t.kink) - 0.5F) / (zero - 1)};
+    return {
+        cellOf(t.intercept1 - 5, 5),
+        startsFlat(t.kind) ? drawOfFlatSlope(t.slopeBefore) : cellOf(static_cast<int>(-t.slopeBefore) - 3, 3),
+        (static_cast<float>(t.kink) - 0.5F) / (zero - 1)};
 }
 
 /// The draws of the second part alone.
 [[nodiscard]] inline Script secondPartOf(const Vaddi3Task& t) {
-    const bool startsFlat = t.kind == KinkKind::JumpDown || t.kind == KinkKind::Steeper;
     const bool isJump = t.kind == KinkKind::JumpDown || t.kind == KinkKind::JumpUp;
-    Script draws{startsFlat ? cellOf(static_cast<int>(-t.slopeAfter) - 1, 4) : drawOfFlatSlope(t.slopeAfter)};
+    Script draws{startsFlat(t.kind) ? cellOf(static_cast<int>(-t.slopeAfter) - 1, 4)
+                                    : drawOfFlatSlope(t.slopeAfter)};
     return isJump ? draws + Script{t.secondDraw} : draws;
 }
 
