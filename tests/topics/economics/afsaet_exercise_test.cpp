@@ -3,7 +3,7 @@
 #include <array>
 #include <cfenv>
 #include <cmath>
-#include <optional>
+#include <ostream>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -14,7 +14,9 @@
 #include "support/judged.h"
 #include "support/lot.h"
 #include "support/proof.h"
+#include "topics/economics/afsaet_reader.h"
 #include "topics/economics/afsaet_script.h"
+#include "topics/economics/afsaet_space.h"
 
 namespace tavrune {
 namespace {
@@ -26,10 +28,17 @@ using test::Proof;
 using test::ProofDraws;
 using test::readsAsItself;
 using test::afsaet::exercise;
+using test::afsaet::factsOf;
+using test::afsaet::Fate;
+using test::afsaet::forEachTry;
 using test::afsaet::numbers;
 using test::afsaet::Sample;
 using test::afsaet::sample;
 using test::afsaet::samples;
+using test::afsaet::sidesOf;
+using test::afsaet::solved;
+using test::afsaet::Try;
+using test::afsaet::TryDraws;
 
 using Kind = AfsaetKind;
 
@@ -198,73 +207,6 @@ TEST(AfsaetWorked, IsFoundByWhatAStepFinds) {
     EXPECT_EQ(workedStep(s, AfsaetHelp::TwoElasticities, AfsaetUnknown::Quantity).text, "");
 }
 
-/// What the student is told, read back from the texts: enough to fix a line, two facts of any kind.
-struct Facts {
-    std::vector<std::pair<double, double>> points;  // P; Q
-    std::optional<double> slope;
-    std::optional<double> b;     // from an elasticity at a price: Ep = P/(P - b)
-    std::optional<double> Qmax;  // from an elasticity at a quantity: Ep = (Q - Qmax)/Q
-};
-
-void read(const std::string& fact, Facts& facts) {
-    const auto valueFrom = [&fact](std::size_t at) { return Val(fact.substr(at)); };
-    const std::size_t equals = fact.find('=');
-    if (fact.front() == '(') {
-        const std::size_t open = fact.find('(', equals);
-        facts.points.emplace_back(valueFrom(open + 1), valueFrom(fact.find(';', open) + 1));
-    } else if (fact.front() == 'H') {
-        facts.slope = valueFrom(equals + 1);
-    } else {
-        const double Ep = valueFrom(equals + 1);
-        const double at = valueFrom(fact.rfind('=') + 1);
-        if (fact.find('P', equals) != std::string::npos) {
-            facts.b = at - at / Ep;
-        } else {
-            facts.Qmax = at * (1 - Ep);
-        }
-    }
-}
-
-/// Slope and intercept of the one line that the facts allow.
-std::pair<double, double> solve(const Facts& facts) {
-    if (facts.b && facts.Qmax) {
-        return {-*facts.b / *facts.Qmax, *facts.b};
-    }
-    if (facts.slope && facts.b) {
-        return {*facts.slope, *facts.b};
-    }
-    if (facts.slope && facts.Qmax) {
-        return {*facts.slope, -*facts.slope * *facts.Qmax};
-    }
-    const auto [P, Q] = facts.points.at(0);
-    if (facts.slope) {
-        return {*facts.slope, P - *facts.slope * Q};
-    }
-    if (facts.b) {
-        return {(P - *facts.b) / Q, *facts.b};
-    }
-    if (facts.Qmax) {
-        const double a = P / (Q - *facts.Qmax);
-        return {a, -a * *facts.Qmax};
-    }
-    const auto [P2, Q2] = facts.points.at(1);
-    const double a = (P2 - P) / (Q2 - Q);
-    return {a, P - a * Q};
-}
-
-/// The four numbers that the task determines, unrounded.
-AfsaetAnswer solved(const AfsaetTask& task) {
-    Facts facts;
-    read(task.firstFact, facts);
-    read(task.secondFact, facts);
-    const auto [a, b] = solve(facts);
-    const std::size_t mark = task.range.find('<');
-    const double lower = Val(task.range.substr(task.range.rfind(' ', mark) + 1));
-    const double upper = Val(task.range.substr(mark + 3));
-    return task.range.at(mark + 1) == 'P' ? AfsaetAnswer{a, b, (upper - b) / a, (lower - b) / a}
-                                          : AfsaetAnswer{a, b, lower, upper};
-}
-
 TEST(AfsaetReader, SolvesTheTextsOfEverySample) {
     for (const Sample& row : samples()) {
         const std::vector<double> found = typed(solved({"", row.firstFact, row.secondFact, row.range}));
@@ -277,6 +219,68 @@ TEST(AfsaetReader, SolvesTheTextsOfEverySample) {
 bool isWhole(double x) { return x == std::floor(x); }
 
 bool hasTwoDecimals(double x) { return x == std::round(x * 100) / 100; }
+
+/// What a worked step begins with, and the number that it is to find on the line P = aQ + b.
+std::pair<std::string, double> wantedOf(const AfsaetStep& step, const AfsaetState& s, double a, double b) {
+    switch (step.unknown) {
+        case AfsaetUnknown::Slope:
+            return {step.denominator.empty() ? "a = " : "= ", a};
+        case AfsaetUnknown::Intercept:
+            return {"b = ", b};
+        case AfsaetUnknown::MaxPrice:
+            return {"Pmax = ", b};
+        case AfsaetUnknown::MaxQuantity:
+            return {"Qmax = ", -b / a};
+        case AfsaetUnknown::Quantity:
+            return {"Q = ", (s.P1 - b) / a};
+        case AfsaetUnknown::Price:
+            return {"P = ", a * s.Q1 + b};
+    }
+    return {};
+}
+
+/// What does not hold of the worked solution of the line P = aQ + b.
+const char* workedFlawOf(const AfsaetState& s, double a, double b) {
+    const AfsaetHelp help = helpFor(s);
+    // Rounded slopes and coordinates go into the steps of these three, and make at most so much of them.
+    const bool isOfRounded = help == AfsaetHelp::TwoPoints || help == AfsaetHelp::ElasticityAtOtherPrice ||
+                             help == AfsaetHelp::ElasticityAtOtherQuantity;
+    const double slack = isOfRounded ? 0.0304 : 1e-9;
+    const std::vector<AfsaetStep> steps = workedSteps(s, help);
+    for (const AfsaetStep& step : steps) {
+        const auto& [beginning, wanted] = wantedOf(step, s, a, b);
+        std::vector<double> sides = sidesOf(step);
+        const double rounded = sides.back();
+        sides.pop_back();
+        for (const double side : sides) {
+            if (std::abs(side - wanted) > slack) {
+                return "a side of a worked step is another number";
+            }
+        }
+        if (sides.empty() || step.text.rfind(beginning, 0) != 0 || std::abs(rounded - wanted) > 0.00501 ||
+            !hasTwoDecimals(rounded)) {
+            return "a worked step does not come to what it is to find";
+        }
+    }
+    const bool isByMaxPrice = help == AfsaetHelp::TwoElasticities;
+    if (isByMaxPrice || help == AfsaetHelp::ElasticityAtPriceAndSlope) {
+        const double between = isByMaxPrice ? b : (s.P1 - b) / a;
+        const bool isFraction = steps.back().text.find(isByMaxPrice ? ")/" : "))") != std::string::npos;
+        const bool isHeld = std::abs(between - std::round(between * 100) / 100) < 1e-9;
+        const bool isShownAsSuch = isByMaxPrice || sidesOf(steps.front()).size() == (isFraction ? 3 : 2);
+        if (isFraction == isHeld || !isShownAsSuch) {
+            return "a number between is a fraction although 2 decimals hold it, or is cut";
+        }
+    }
+    const double last = isByMaxPrice ? s.a : s.b;
+    if (equationText(s) != "P = " + NumberText(s.a) + "Q + " + NumberText(s.b) ||
+        !test::endsIn(steps.back().text, "= " + NumberText(last))) {
+        return "the worked solution does not end in the answer";
+    }
+    return nullptr;
+}
+
+int kindOf(const AfsaetState& s) { return 2 * static_cast<int>(helpFor(s)) + static_cast<int>(s.interval); }
 
 /// What must hold of an exercise, whatever was drawn; the first thing that does not, or nothing.
 const char* flawOf(const AfsaetState& s) {
@@ -327,31 +331,101 @@ const char* flawOf(const AfsaetState& s) {
             }
         }
     }
-    const AfsaetHelp help = helpFor(s);
-    const double last = help == AfsaetHelp::TwoElasticities ? s.a : s.b;
-    if (equationText(s) != "P = " + NumberText(s.a) + "Q + " + NumberText(s.b) ||
-        !test::endsIn(workedSteps(s, help).back().text, "= " + NumberText(last))) {
-        return "the worked solution does not end in the answer";
-    }
-    return nullptr;
+    return workedFlawOf(s, told[0], told[1]);
 }
 
-TEST(AfsaetProperties, HoldOverManyExercises) {
-    // Each of the nine helps both ways, but for an elasticity at a quantity beside a point.
-    Proof proof("afsæt", 16);
+/// How many tries are drawn again, how many are exercises, and how many of both go otherwise than exact
+/// numbers say, since singles fall to the other side of an edge.
+struct Counts {
+    int left = 0;
+    int taken = 0;
+    int bySingles = 0;
+
+    bool operator==(const Counts&) const = default;
+};
+
+void PrintTo(const Counts& counts, std::ostream* out) {
+    *out << "{" << counts.left << ", " << counts.taken << ", " << counts.bySingles << "}";
+}
+
+bool isToldAs(const Fate& fate, const AfsaetState& s) {
+    const bool isInPrices = s.interval == AfsaetInterval::InPrices;
+    return s.interval == fate.interval && (isInPrices ? s.Plo : s.Qlo) == fate.lower &&
+           (isInPrices ? s.Phi : s.Qhi) == fate.upper;
+}
+
+void proveTry(const Try& t, Proof& proof, Counts& counts) {
+    static const Sample& next = sample("ElasticityAtPointQuantity");
+    TryDraws draws(t.script(), next.script());
     AfsaetState s;
-    std::feclearexcept(FE_ALL_EXCEPT);
+    newExercise(s, draws);
+    const Fate fate = t.fate();
+    const bool isAsExpected =
+        draws.isUsedUp() && draws.isTaken() == fate.isTaken && (!fate.isTaken || isToldAs(fate, s));
+    ASSERT_TRUE(isAsExpected || fate.isOnEdge) << testing::PrintToString(t);
+    counts.bySingles += isAsExpected ? 0 : 1;
+    if (!draws.isTaken()) {
+        ++counts.left;
+        ASSERT_EQ(answerOf(s), next.answer) << testing::PrintToString(t);
+        return;
+    }
+    ++counts.taken;
+    proof.visit(Proof::From::WholeSpace, kindOf(s));
+    ASSERT_EQ(factsOf(taskTexts(s)), t.facts()) << testing::PrintToString(t);
+    const char* const flaw = flawOf(s);
+    ASSERT_EQ(flaw, nullptr) << flaw << ": " << testing::PrintToString(t);
+}
+
+struct SpaceRow {
+    Kind kind;
+    Counts all;
+    Counts ofSome;
+};
+
+// 5,696,714 tries, or those of every 67th set of numbers.
+void proveSpace(Proof& proof) {
+    constexpr int kStride = 67;
+    const int stride = lotSize(kStride, 1);
+    for (const auto& [kind, all, ofSome] : {
+             SpaceRow{Kind::TwoPoints, {219'260, 261'188, 0}, {3'252, 4'031, 0}},
+             SpaceRow{Kind::PointAndElasticityAtPrice, {76'501, 28'526, 212}, {1'097, 441, 2}},
+             SpaceRow{Kind::PointAndElasticityAtQuantity, {56'954, 3'046, 534}, {851, 45, 9}},
+             SpaceRow{Kind::PointAndSlope, {1'119'422, 287'098, 0}, {16'791, 4'209, 0}},
+             SpaceRow{Kind::TwoElasticities, {918'354, 775'165, 5'599}, {13'537, 11'775, 95}},
+             SpaceRow{Kind::ElasticityAtPriceAndSlope, {453'150, 522'450, 0}, {6'685, 7'899, 0}},
+             SpaceRow{Kind::ElasticityAtQuantityAndSlope, {846'711, 128'889, 0}, {12'703, 1'881, 0}},
+         }) {
+        Counts counts;
+        forEachTry(kind, stride, [&proof, &counts](const Try& t) {
+            if (!testing::Test::HasFatalFailure()) {
+                proveTry(t, proof, counts);
+            }
+        });
+        EXPECT_EQ(counts, stride == kStride ? ofSome : all) << "kind " << static_cast<int>(kind);
+    }
+}
+
+void proveSeeded(Proof& proof) {
+    AfsaetState s;
     for (const auto ends : {ProofDraws::Ends::None, ProofDraws::Ends::AboveZero}) {
         ProofDraws draws(61, ends);
         for (int i = 0; i < lotSize(ends == ProofDraws::Ends::None ? 100'000 : 20'000); ++i) {
             draws.beginExercise();
             newExercise(s, draws);
-            proof.visit(Proof::From::Seeds, 2 * static_cast<int>(helpFor(s)) + static_cast<int>(s.interval));
+            proof.visit(Proof::From::Seeds, kindOf(s));
             const char* const flaw = flawOf(s);
             ASSERT_EQ(flaw, nullptr) << flaw << ": " << taskTexts(s).firstFact << " "
                                      << taskTexts(s).secondFact << " " << taskTexts(s).range;
         }
     }
+}
+
+TEST(AfsaetProperties, HoldOfEveryExerciseThatCanBeDrawn) {
+    // Each of the nine helps both ways, but for an elasticity at a quantity beside a point.
+    Proof proof("afsæt", 16);
+    std::feclearexcept(FE_ALL_EXCEPT);
+    proveSpace(proof);
+    proveSeeded(proof);
     EXPECT_EQ(std::fetestexcept(FE_DIVBYZERO | FE_INVALID), 0) << "also in what was rejected";
 }
 

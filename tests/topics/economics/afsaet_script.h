@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <ostream>
 #include <stdexcept>
 #include <string_view>
@@ -25,18 +26,26 @@ struct Numbers {
     int slope = -2;
 };
 
-/// -6 to -2.
-[[nodiscard]] constexpr float negative(int value) { return cellOf(-value - 2, 5); }
+/// A draw that falls into cell `cell` once it is multiplied by `factor`, at that part of the cell.
+[[nodiscard]] constexpr float drawIn(int cell, double factor, double within) {
+    return std::min(static_cast<float>((cell + within) / factor), kLargestDraw);
+}
 
-[[nodiscard]] inline Script numbers(const Numbers& n) {
-    return {cellOf(static_cast<int>(n.kind), 7),
-            cellOf(n.P1, 10),
-            cellOf(n.P2, 10),
-            cellOf(n.Q1, 10),
-            cellOf(n.Q2, 10),
-            negative(n.Ep),
-            negative(n.Ep2),
-            negative(n.slope)};
+/// -6 to -1.
+[[nodiscard]] constexpr float negative(int value, double within) {
+    return value == -1 ? 0 : drawIn(-value - 2, 5, within);
+}
+
+/// Each draw at that part of those that give the same number.
+[[nodiscard]] inline Script numbers(const Numbers& n, double within = 0.5) {
+    return {drawIn(static_cast<int>(n.kind), 7, within),
+            drawIn(n.P1, 10, within),
+            drawIn(n.P2, 10, within),
+            drawIn(n.Q1, 10, within),
+            drawIn(n.Q2, 10, within),
+            negative(n.Ep, within),
+            negative(n.Ep2, within),
+            negative(n.slope, within)};
 }
 
 /// The coin.
