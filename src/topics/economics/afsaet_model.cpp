@@ -212,6 +212,7 @@ Outcome fromTwoElasticities(Attempt& t, Draws& draws) {
         t.Qhi = t.quantityAt(t.Plo);
         return t.Qlo > t.Q1 || t.Qhi < t.Q1 ? Outcome::Rejected : Outcome::Accepted;
     }
+    // Kept (afsaet-bound-below-zero): the largest draw is rounded up by the addition, to -1 for some Q1.
     const float Qlo = t.Q1 - Int(draws.Rnd() * t.Q1 + 1);
     const double Qhi = t.Q1 + Int((Qcap - t.Q1) * 0.8);
     return Qlo == Qhi ? tellAroundElasticities(t, 0.0F, Int(t.Qmax)) : tellAroundElasticities(t, Qlo, Qhi);

@@ -250,6 +250,16 @@ TEST(AfsaetGenerator, ComparesTheUpperQuantityOfTwoElasticitiesInDoubles) {
     EXPECT_EQ(exercise(drawn + sample("TwoPointsInQuantities").script()).kind, Kind::TwoPoints);
 }
 
+TEST(AfsaetGenerator, TellsABoundBelowZeroByTheLargestDraw) {
+    const auto rangeFrom = [](float u) {
+        return taskTexts(
+                   exercise(numbers({Kind::TwoElasticities, 6, 1, 1, 5, -3, -3}) + Script{kQuantities, u}))
+            .range;
+    };
+    EXPECT_EQ(rangeFrom(kLargestDraw), "Funktionen gælder i intervallet -1<Q<3");
+    EXPECT_EQ(rangeFrom(kLargestDraw - (1 - kLargestDraw)), "Funktionen gælder i intervallet 0<Q<3");
+}
+
 TEST(AfsaetGenerator, FlipsItsCoinForTwoElasticitiesThatFallTooLittle) {
     for (const float coin : {kPrices, kQuantities}) {
         const AfsaetState s =
