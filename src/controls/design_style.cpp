@@ -60,7 +60,7 @@ void drawEnlarged(const QStyle& style, QStyle::PrimitiveElement element, const O
                   QPainter& painter, double zoom) {
     const QSizeF size = option.rect.size();
     Option design(option);
-    design.rect = QRect(QPoint(0, 0), (size / zoom).toSize().expandedTo({1, 1}));
+    design.rect = QRect(QPoint(), (size / zoom).toSize().expandedTo({1, 1}));
     painter.save();
     painter.translate(option.rect.topLeft());
     painter.scale(size.width() / design.rect.width(), size.height() / design.rect.height());

@@ -274,7 +274,7 @@ QStringList ExerciseForm::wrongFields() const {
     QList<AnswerBox*> boxes = design()->findChildren<AnswerBox*>();
     boxes.removeIf([](const AnswerBox* box) { return !box->isVisible() || !box->isMarked(); });
     const auto place = [this](const AnswerBox* box) {
-        const QPoint corner = box->mapTo(design(), QPoint(0, 0));
+        const QPoint corner = box->mapTo(design(), QPoint());
         return std::tuple(corner.y(), corner.x());
     };
     std::sort(boxes.begin(), boxes.end(),

@@ -36,7 +36,7 @@ bool isText(const QWidget& widget) {
 bool isPanel(const QWidget& widget) { return qobject_cast<const Panel*>(&widget) != nullptr; }
 
 QRect areaOn(const QWidget& page, const QWidget& widget) {
-    return {widget.mapTo(&page, QPoint(0, 0)), widget.size()};
+    return {widget.mapTo(&page, QPoint()), widget.size()};
 }
 
 bool overlap(int from, int to, int otherFrom, int otherTo) { return from < otherTo && otherFrom < to; }

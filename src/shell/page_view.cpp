@@ -45,7 +45,7 @@ void PageView::showFocus() {
         return;
     }
     // All of it, not only the cursor of a field; of what is larger than the view, the middle.
-    const QRect place(focused->mapTo(widget(), QPoint(0, 0)), focused->size());
+    const QRect place(focused->mapTo(widget(), QPoint()), focused->size());
     const QSize around = (place.size() / 2 + QSize(kAround, kAround)).boundedTo(viewport()->size() / 2);
     ensureVisible(place.center().x(), place.center().y(), around.width(), around.height());
 }

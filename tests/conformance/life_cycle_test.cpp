@@ -74,6 +74,22 @@ std::vector<FormFacts> formsWithAPanel() {
 
 INSTANTIATE_TEST_SUITE_P(Forms, EveryPanel, testing::ValuesIn(formsWithAPanel()), test::asciiName);
 
+TEST_P(EveryForm, LeavesNoOptionRedOnceTheAnswerIsGiven) {
+    for (std::uint64_t seed = 1; seed <= 6; ++seed) {
+        const FormDriver form = open(seed);
+        for (const OptionButton* option : test::inSight<OptionButton>(form.page())) {
+            form.answerWrongly(nameOf(*option));
+        }
+        if (form.isShown("giveAnswer")) {
+            form.click("giveAnswer");
+        }
+        for (const OptionButton* option : test::inSight<OptionButton>(form.page())) {
+            EXPECT_NE(option->backColour(), kRed) << nameOf(*option);
+        }
+        static_cast<void>(hasFailed());
+    }
+}
+
 TEST_P(EveryForm, BearsItsNameAndItsTitle) {
     const FormDriver form = open();
     EXPECT_EQ(form.page().objectName().toStdString(), textOf(facts().page));

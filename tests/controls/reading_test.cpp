@@ -143,6 +143,18 @@ TEST(Reading, PutsBarsIntoWords) {
               "med 4"});
 }
 
+TEST(Reading, TakesWhatStandsAboveForAFractionWithoutABarOnlyBesideSomething) {
+    Sheet sheet;
+    sheet.addCentred("P1", {60, 9, 30, 14});
+    sheet.addCentred("P2", {60, 28, 30, 14});
+    Label& before = sheet.add("a =", 0, 0);
+    before.setLeft(60 - before.place().width() - 2);
+    before.setTop(18.5);
+    EXPECT_EQ(sheet.words(), Words{"a lig med brøk: P1 over P2"});
+    before.setLeft(60 - before.place().width() - 40);
+    EXPECT_EQ(sheet.words(), (Words{"P1", "a lig med", "P2"}));
+}
+
 TEST(Reading, HearsAFractionInAFraction) {
     Sheet sheet;
     sheet.add("Q =", 10, 38);

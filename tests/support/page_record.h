@@ -24,6 +24,9 @@ public:
     /// Adds a moment, headed by what led to it; the first one is the whole page.
     void note(const std::string& action);
 
+    /// Forgets what was said since.
+    void skip() { static_cast<void>(ear_.heard()); }
+
     [[nodiscard]] const std::vector<std::string>& lines() const { return lines_; }
 
 private:

@@ -32,6 +32,7 @@ enum class TableColumn {
     Part2Total
 };
 inline constexpr std::size_t kTableColumns = 6;
+static_assert(TableColumn(kTableColumns - 1) == TableColumn::Part2Total);
 
 /// A segment of the sum between its upper and its lower end, rounded.
 struct SumSegment {

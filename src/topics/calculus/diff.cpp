@@ -42,7 +42,6 @@ void Diff::newExercise() {
     hideAll({ui_->helpPanel, ui_->workedDerivative, ui_->workedDerivativeAtPoint, ui_->workedResult});
     ui_->generalRule->show();
     drawAxes(*ui_->graph, axes());
-    ui_->newExercise->hide();
 
     tavrune::newExercise(state_, draws());
 

@@ -19,22 +19,22 @@ enum class Outcome { Rejected, Accepted };
 struct Attempt {
     AfsaetKind kind = AfsaetKind::TwoPoints;
     AfsaetInterval interval = AfsaetInterval::InPrices;
-    float P1 = 0;
-    float P2 = 0;
-    float Q1 = 0;
-    float Q2 = 0;
-    float Ep = 0;
-    float Ep2 = 0;
-    float slope = 0;
-    float a = 0;
-    float b = 0;
-    float Plo = 0;
-    float Phi = 0;
-    float Pmax = 0;
-    float Qmax = 0;
+    float P1{};
+    float P2{};
+    float Q1{};
+    float Q2{};
+    float Ep{};
+    float Ep2{};
+    float slope{};
+    float a{};
+    float b{};
+    float Plo{};
+    float Phi{};
+    float Pmax{};
+    float Qmax{};
     /// Doubles because some kinds compute them as such; the others store singles here.
-    double Qlo = 0;
-    double Qhi = 0;
+    double Qlo{};
+    double Qhi{};
 
     /// Where the line meets the Q axis. a is not 0.
     [[nodiscard]] float qCross() const { return -b / a; }

@@ -67,9 +67,9 @@ constexpr double kLargestSingle = std::numeric_limits<float>::max();
 /// Where the points of a curve lie. The first is the first of `start`, `start` + 1, ... that is low enough;
 /// from there the curve goes on in steps of 0.1.
 struct Plot {
-    double start = 0;
+    double start{};
     /// The point beyond this is the last.
-    double lastQ = 0;
+    double lastQ{};
     /// The first point is nearer to the axis than this ...
     double firstWithin = kInfinity;
     /// ... or just as near.

@@ -43,7 +43,6 @@ void Topp::newExercise() {
     ui_->helpPanel->hide();
     ui_->workedSolutionCover->show();
     drawAxes(*ui_->graph, axes());
-    ui_->newExercise->hide();
 
     tavrune::newExercise(state_, draws());
 
