@@ -82,6 +82,15 @@ TEST(Control, GivesATextTheSameRoomAtEveryZoom) {
     }
 }
 
+TEST(Label, HintsSmallLettersOnly) {
+    Label label;
+    for (const auto& [size, hinting] :
+         {std::pair{16, QFont::PreferVerticalHinting}, std::pair{17, QFont::PreferNoHinting}}) {
+        label.setTextSize(size);
+        EXPECT_EQ(label.font().hintingPreference(), hinting) << size;
+    }
+}
+
 TEST(OptionButton, HasAMarkThatGrowsWithIt) {
     OptionButton option;
     const int mark = option.style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &option);
@@ -431,6 +440,16 @@ TEST(Button, IsPressedAtOnceByItsAccessKey) {
     button.hide();
     QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
     EXPECT_EQ(pressed, 1);
+}
+
+TEST(OptionButton, ShowsWhatItStandsOnAgainOnceItsColourIsReset) {
+    OptionButton option;
+    option.setBackColour(kGreen);
+    EXPECT_TRUE(option.autoFillBackground());
+    EXPECT_EQ(option.accessibleDescription(), "rigtigt svar");
+    option.resetBackColour();
+    EXPECT_FALSE(option.autoFillBackground());
+    EXPECT_EQ(option.accessibleDescription(), "");
 }
 
 TEST(OptionButton, CanBeUncheckedWithTheWholeGroup) {

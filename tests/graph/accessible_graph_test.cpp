@@ -37,6 +37,21 @@ TEST(AccessibleGraph, StaysAGraphWithItsNumbersAndIsNoneAsAFrame) {
     EXPECT_EQ(told(box).text(QAccessible::Name), "graf over linien");
 }
 
+TEST(AccessibleGraph, IsInvisibleBehindACover) {
+    QWidget page;
+    GraphBox box(&page);
+    box.setGeometry(10, 10, 50, 50);
+    Label cover(&page);
+    cover.setGeometry(0, 0, 100, 100);
+    cover.setBackColour(kWhite);
+    page.show();
+    EXPECT_TRUE(told(box).state().invisible);
+    cover.hide();
+    EXPECT_FALSE(told(box).state().invisible);
+    box.hide();
+    EXPECT_TRUE(told(box).state().invisible);
+}
+
 TEST(AccessibleGraph, IsMadeOfNothingElse) {
     QWidget other;
     EXPECT_EQ(accessibleGraph("QWidget", &other), nullptr);

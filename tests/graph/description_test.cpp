@@ -221,6 +221,19 @@ TEST_F(Told, TellsABrokenLineWithItsCorners) {
     EXPECT_EQ(told(), "Knækket linie gennem (0; 8), (4; 4) og (10; 1), grøn.");
 }
 
+TEST_F(Told, TellsFivePiecesCornerByCornerAndSixAsACurve) {
+    std::vector<QLineF> pieces;
+    for (int x = 0; x < 5; ++x) {
+        pieces.emplace_back(x, x * x % 5, x + 1, (x + 1) * (x + 1) % 5);
+    }
+    draw(Meaning::Line, pieces, kBlue);
+    EXPECT_EQ(told().find("Kurve"), std::string::npos) << told();
+    box.Cls();
+    pieces.emplace_back(5, 0, 6, 1);
+    draw(Meaning::Line, pieces, kBlue);
+    EXPECT_EQ(told().find("Kurve af 6 streger"), 0U) << told();
+}
+
 TEST_F(Told, PassesByAPieceWithoutLength) {
     draw(Meaning::Line, {{0, 8, 0, 8}, {0, 8, 10, 1}}, kGreen);
     EXPECT_EQ(told(), "Linie fra (0; 8) til (10; 1), grøn.");

@@ -721,6 +721,7 @@ TEST_F(Integ2Form, KeepsItsSumInSightHoweverOftenTheHelpWasOpened) {
     const QRectF first = form->label("workedSumSegment1").place();
     const QRectF second = form->label("workedSumSegment2").place();
     const QRectF sum = form->label("workedResult").place();
+    EXPECT_EQ(first.width(), 140);
     EXPECT_LE(first.right(), form->label("workedSumPlus").place().left());
     EXPECT_LE(form->label("workedSumPlus").place().right(), second.left());
     EXPECT_LE(second.right(), sum.left());
