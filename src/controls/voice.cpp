@@ -96,6 +96,10 @@ void Voice::filter(QAccessibleEvent& event) {
 }
 
 void Voice::deliver(QAccessibleEvent& event) {
+    if (outlet_) {
+        outlet_(event);
+        return;
+    }
     QAccessible::installUpdateHandler(nullptr);
     QAccessible::updateAccessibility(&event);
     QAccessible::installUpdateHandler(&Voice::pass);
@@ -139,10 +143,10 @@ void Voice::end() {
     }
 }
 
-Voice::Sights Voice::sightsNow() {
+Voice::Sights Voice::sightsNow() const {
     Sights now;
     const QWidget* const window = QApplication::activeWindow();
-    if (window != nullptr && QAccessible::isActive()) {
+    if (window != nullptr && isHeard()) {
         const StillPages still;
         for (QWidget* widget : window->findChildren<QWidget*>()) {
             now[widget] = isTold(*widget);
@@ -172,7 +176,7 @@ void Voice::tellSights() {
 void Voice::sayNow(const QString& words) {
     emit said(words);
     QWidget* const window = QApplication::activeWindow();
-    if (!QAccessible::isActive() || window == nullptr) {
+    if (window == nullptr || !isHeard()) {
         return;
     }
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -49,6 +50,13 @@ public:
     /// From now on all that Qt tells a screen reader passes here.
     void takeOver();
 
+    /// Takes what Qt tells, and passes it on: at once, at the end of the round, or not at all.
+    void filter(QAccessibleEvent& event);
+
+    /// Where it is passed on to; an empty one is the platform's screen reader, as at first.
+    using Outlet = std::function<void(QAccessibleEvent& event)>;
+    void setOutlet(Outlet outlet) { outlet_ = std::move(outlet); }
+
     /// Has words said: at once, or, in a round, at its end. Empty words are left out.
     void say(const QString& words);
 
@@ -74,17 +82,17 @@ private:
     Voice() = default;
 
     static void pass(QAccessibleEvent* event);
-    void filter(QAccessibleEvent& event);
-    static void deliver(QAccessibleEvent& event);
+    void deliver(QAccessibleEvent& event);
     void sayNow(const QString& words);
 
     void begin();
     void end();
     /// What stands on the active window, and whether it is told to be seen. What has gone is never looked at.
     using Sights = std::map<QWidget*, bool>;
-    [[nodiscard]] static Sights sightsNow();
+    [[nodiscard]] Sights sightsNow() const;
     void tellSights();
 
+    Outlet outlet_;
     int rounds_ = 0;
     QStringList words_;
     bool focusIsKeptBack_ = false;

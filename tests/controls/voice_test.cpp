@@ -1,12 +1,16 @@
 #include "controls/voice.h"
 
+#include <utility>
+#include <vector>
+
 #include <QAccessible>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
 #include "controls/answer_box.h"
-#include "controls/button.h"
+#include "controls/label.h"
+#include "support/student.h"
 
 namespace tavrune {
 namespace {
@@ -58,6 +62,132 @@ TEST_F(AVoice, SaysTheSameWordsAsOftenAsItIsAsked) {
 }
 
 TEST_F(AVoice, IsHeardByWhoListens) { EXPECT_TRUE(voice.isHeard()); }
+
+/// A screen reader in front of a window with two fields and a label, and what it is told.
+class AReader : public testing::Test {
+protected:
+    using Told = std::pair<QAccessible::Event, const QObject*>;
+
+    AReader() {
+        first.setAccessibleName("rod 1");
+        second.setAccessibleName("rod 2");
+        second.setGeometry(0, 40, 60, 20);
+        label.setCaption("FORKERT");
+        label.setGeometry(0, 80, 60, 20);
+        label.hide();
+        window.show();
+        window.activateWindow();
+        test::settle();
+        first.setFocus();
+        Voice::instance().setOutlet(
+            [](const QAccessibleEvent& event) { told().emplace_back(event.type(), event.object()); });
+        // What is there already is nothing new.
+        { const Voice::Round round; }
+        told().clear();
+    }
+
+    ~AReader() override { Voice::instance().setOutlet({}); }
+
+    /// All that has come through, in its order.
+    [[nodiscard]] static std::vector<Told>& told() {
+        static std::vector<Told> told;
+        return told;
+    }
+
+    /// The notification that has come through as such a one of them.
+    [[nodiscard]] static QString wordsOf(std::size_t at) {
+        const auto* const notification = qobject_cast<const QWidget*>(told().at(at).second);
+        return notification == nullptr ? "" : notification->accessibleName();
+    }
+
+    static void tell(QWidget& widget, QAccessible::Event type) {
+        QAccessibleEvent event(&widget, type);
+        Voice::instance().filter(event);
+    }
+
+    QWidget window;
+    AnswerBox first{&window};
+    AnswerBox second{&window};
+    Label label{&window};
+
+private:
+    QSignalSpy listens_{&Voice::instance(), &Voice::said};
+};
+
+TEST_F(AReader, IsToldTheWordsOfARoundThenTheFocus) {
+    {
+        const Voice::Round round;
+        second.setFocus();
+        tell(second, QAccessible::Focus);
+        Voice::instance().say("FORKERT.");
+        EXPECT_TRUE(told().empty());
+    }
+    ASSERT_EQ(told().size(), 2U);
+    EXPECT_EQ(told()[0].first, QAccessible::ObjectShow);
+    EXPECT_EQ(wordsOf(0), "FORKERT.");
+    EXPECT_EQ(told()[1], Told(QAccessible::Focus, &second));
+}
+
+TEST_F(AReader, IsToldNoFocusThatHasNotMoved) {
+    { const Voice::Round round; }
+    EXPECT_TRUE(told().empty());
+}
+
+TEST_F(AReader, IsToldByNameWhereTheFocusStaysIfThatIsAskedFor) {
+    tell(first, QAccessible::Focus);
+    told().clear();
+    {
+        const Voice::Round round;
+        Voice::instance().say("FORKERT.");
+        Voice::instance().tellFocusAgain();
+    }
+    ASSERT_EQ(told().size(), 1U);
+    EXPECT_EQ(wordsOf(0), "FORKERT. rod 1.");
+    { const Voice::Round next; }
+    EXPECT_EQ(told().size(), 1U) << "it was asked for once";
+}
+
+TEST_F(AReader, IsToldAtTheEndOfARoundWhatHasComeIntoSightAndWhatHasGone) {
+    {
+        const Voice::Round round;
+        label.show();
+        EXPECT_TRUE(told().empty());
+    }
+    EXPECT_EQ(told(), std::vector{Told(QAccessible::ObjectShow, &label)});
+    told().clear();
+    {
+        const Voice::Round round;
+        label.hide();
+        second.hide();
+        second.show();
+    }
+    EXPECT_EQ(told(), std::vector{Told(QAccessible::ObjectHide, &label)});
+}
+
+TEST_F(AReader, IsToldOfTextOnlyInTheFieldWithTheFocusAndOutsideARound) {
+    tell(first, QAccessible::Focus);
+    told().clear();
+    tell(second, QAccessible::TextCaretMoved);
+    EXPECT_TRUE(told().empty());
+    tell(first, QAccessible::TextCaretMoved);
+    EXPECT_EQ(told(), std::vector{Told(QAccessible::TextCaretMoved, &first)});
+    told().clear();
+    {
+        const Voice::Round round;
+        tell(first, QAccessible::TextUpdated);
+        tell(label, QAccessible::NameChanged);
+    }
+    EXPECT_EQ(told(), std::vector{Told(QAccessible::NameChanged, &label)});
+}
+
+TEST_F(AReader, IsToldNothingWhereThereIsNoWindow) {
+    window.hide();
+    test::settle();
+    told().clear();
+    Voice::instance().say("FORKERT.");
+    { const Voice::Round round; }
+    EXPECT_TRUE(told().empty());
+}
 
 TEST(NobodysVoice, IsNotHeard) { EXPECT_FALSE(Voice::instance().isHeard()); }
 
