@@ -553,6 +553,25 @@ TEST(LineControl, HasItsEndsAtTheCornersOfItsPlace) {
     EXPECT_EQ(line.ends(), QLineF(10, 5, 40, 30));
 }
 
+TEST(LineControl, RunsFromCornerToCorner) {
+    LineControl line;
+    line.setColour(kGreen);
+    for (const bool rises : {true, false}) {
+        line.setEnds(rises ? QLineF(0, 40, 40, 0) : QLineF(0, 0, 40, 40));
+        const QImage picture = line.grab().toImage();
+        const auto isGreen = [&picture](int x, int y) {
+            const QColor seen = picture.pixelColor(x, y);
+            return seen.green() > seen.red() + 40;
+        };
+        const int far = picture.width() - 2;
+        EXPECT_EQ(isGreen(1, far), rises);
+        EXPECT_EQ(isGreen(far, 1), rises);
+        EXPECT_EQ(isGreen(1, 1), !rises);
+        EXPECT_EQ(isGreen(far, far), !rises);
+        EXPECT_TRUE(isGreen(far / 2, far / 2) || isGreen(far / 2, far / 2 + 1));
+    }
+}
+
 TEST(LineControl, MovesTheEndOfAFractionBar) {
     LineControl line;
     line.setEnds({40, 70, 80, 70});
