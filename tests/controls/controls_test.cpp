@@ -17,6 +17,7 @@
 #include "controls/row.h"
 #include "controls/table_head.h"
 #include "support/painted_texts.h"
+#include "support/student.h"
 
 namespace tavrune {
 namespace {
@@ -111,6 +112,32 @@ TEST(OptionButton, HasAnOutlineRoundItsMarkThatGrowsWithIt) {
         outline += picture.pixelColor(x, middle) != ground ? 1 : 0;
     }
     EXPECT_NEAR(outline, 4 * picture.devicePixelRatio(), 1);
+}
+
+TEST(Button, HasAnOutlineInTheColourOfItsState) {
+    QWidget page;
+    Button button(&page);
+    button.setPlace({0, 0, 80, 30});
+    button.setZoom(2);
+    page.show();
+    page.activateWindow();
+    test::settle();
+    // Half a step of a channel may be lost on the way to the picture.
+    const auto isOutlined = [&button](const QColor& colour) {
+        const QImage picture = button.grab().toImage();
+        const QColor seen = picture.pixelColor(0, picture.height() / 2);
+        return std::abs(seen.red() - colour.red()) <= 1 && std::abs(seen.green() - colour.green()) <= 1 &&
+               std::abs(seen.blue() - colour.blue()) <= 1;
+    };
+    const QPalette& palette = button.palette();
+    const QColor plain = palette.color(QPalette::Window).darker(140);
+    button.clearFocus();
+    EXPECT_TRUE(isOutlined(plain));
+    EXPECT_FALSE(isOutlined(plain.lighter(115)));
+    button.setFocus();
+    EXPECT_TRUE(isOutlined(palette.color(QPalette::Highlight).darker(125)));
+    button.setEnabled(false);
+    EXPECT_TRUE(isOutlined(plain.lighter(115)));
 }
 
 TEST(OptionButton, ShowsItsFocusRoundItsTextAtEveryZoom) {

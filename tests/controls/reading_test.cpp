@@ -155,6 +155,15 @@ TEST(Reading, TakesWhatStandsAboveForAFractionWithoutABarOnlyBesideSomething) {
     EXPECT_EQ(sheet.words(), (Words{"P1", "a lig med", "P2"}));
 }
 
+TEST(Reading, ReadsTheRowsBesideAParagraphFromTheTop) {
+    Sheet sheet;
+    sheet.add("nederst", 10, 44);
+    sheet.add("øverst", 10, 10);
+    sheet.addWrapped("et afsnit på tre linier, som begge rækker står ved siden af", {60, 10, 100, 48});
+    EXPECT_EQ(sheet.words(),
+              (Words{"øverst", "et afsnit på tre linier, som begge rækker står ved siden af", "nederst"}));
+}
+
 TEST(Reading, HearsAFractionInAFraction) {
     Sheet sheet;
     sheet.add("Q =", 10, 38);

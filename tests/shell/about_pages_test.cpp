@@ -117,6 +117,7 @@ TEST_F(AboutPages, LeadToEachOther) {
 
 TEST(AboutBox, TellsWhoMadeTheProgram) {
     FrmAbout about;
+    EXPECT_EQ(about.objectName(), "frmAbout");
     EXPECT_EQ(about.factor(), 1);
     EXPECT_EQ(about.windowTitle().toStdString(), "Om Tavrune");
     EXPECT_EQ(about.findChild<Label*>("programName")->caption(), "Tavrune 2.2");

@@ -196,6 +196,9 @@ std::string Student::answerMessage() const {
     if (box == nullptr) {
         return "";
     }
+    if (QApplication::activeModalWidget() != box) {
+        throw std::logic_error("what lies behind the message can be used");
+    }
     std::string text = box->text().toStdString();
     QTest::keyClick(box->button(QMessageBox::Ok), Qt::Key_Return);
     settle();
