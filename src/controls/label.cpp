@@ -102,9 +102,6 @@ QStringList Label::designLines() const {
         return text().split('\n');
     }
     QTextLayout design(QString(text()).replace('\n', QChar::LineSeparator), unzoomedFont());
-    QTextOption option;
-    option.setWrapMode(QTextOption::WordWrap);
-    design.setTextOption(option);
     QStringList lines;
     design.beginLayout();
     for (QTextLine line = design.createLine(); line.isValid(); line = design.createLine()) {

@@ -16,6 +16,7 @@
 
 #include "app/application.h"
 #include "app/pages.h"
+#include "controls/voice.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
 #include "support/form_driver.h"
@@ -98,6 +99,17 @@ TEST_F(ProgramRun, MaximisesAWindowAgainForTheNextPage) {
     choose(PageName::Brok);
     EXPECT_TRUE(program.window()->isMaximized());
     EXPECT_EQ(areaInWindow(*program.page()), belowTheMenu(*program.window()));
+}
+
+TEST_F(ProgramRun, SaysThePageThatHasCome) {
+    program.window()->activateWindow();
+    settle();
+    const QSignalSpy said(&Voice::instance(), &Voice::said);
+    choose(PageName::Form1);
+    ASSERT_EQ(said.size(), 1);
+    const QString words = said[0][0].toString();
+    EXPECT_TRUE(words.startsWith(program.page()->windowTitle() + ". ")) << words.toStdString();
+    EXPECT_TRUE(words.contains("opgaver inden for emnet")) << words.toStdString();
 }
 
 TEST_F(ProgramRun, PutsTheFocusOnThePageThatHasCome) {
