@@ -39,7 +39,7 @@ TEST_F(HearingOfALabel, TellsATextOnce) {
     EXPECT_TRUE(hearing.news().isEmpty());
 }
 
-TEST_F(HearingOfALabel, TellsATextAgainThatAnotherStoodInPlaceOf) {
+TEST_F(HearingOfALabel, TellsATextAgainAfterAnother) {
     EXPECT_EQ(newsOf("Bestem toppunktet"), QStringList("Bestem toppunktet."));
     EXPECT_EQ(newsOf("Find rødderne"), QStringList("Find rødderne."));
 }

@@ -46,19 +46,19 @@ constexpr int kUnit = 24;
 constexpr int kLastQ = 17;
 
 /// The price of a piece in 24ths, at q 24ths.
-int priceOf(const DrawnPiece& piece, int q) { return piece.slope * q + piece.intercept * kUnit; }
+int priceAt(const DrawnPiece& piece, int q) { return piece.slope * q + piece.intercept * kUnit; }
 
 /// The piece of a function at q 24ths, none where the function has ended.
 const DrawnPiece* pieceAt(const DrawnKinked& f, int q) {
     const DrawnPiece& piece = q < f.kink * kUnit ? f.before : f.after;
-    return priceOf(piece, q) > 0 ? &piece : nullptr;
+    return priceAt(piece, q) > 0 ? &piece : nullptr;
 }
 
 std::optional<int> trueSum(const DrawnKinked& f1, const DrawnKinked& f2, int q) {
     std::optional<int> sum;
     for (const DrawnKinked* const f : {&f1, &f2}) {
         if (const DrawnPiece* const piece = pieceAt(*f, q)) {
-            sum = sum.value_or(0) + priceOf(*piece, q);
+            sum = sum.value_or(0) + priceAt(*piece, q);
         }
     }
     return sum;
@@ -78,7 +78,7 @@ std::optional<int> firstDeviation(const Laddi2State& s, const DrawnKinked& f1, c
         while (at < s.sum.breaks.size() && q > s.sum.breaks[at] * kUnit) {
             ++at;
         }
-        std::optional<int> answer = priceOf(drawnOf(s.sum.segments[at]), q);
+        std::optional<int> answer = priceAt(drawnOf(s.sum.segments[at]), q);
         if (s.sum.upperEndAsked && q > s.breakPoints.back() * kUnit) {
             answer = std::nullopt;
         }

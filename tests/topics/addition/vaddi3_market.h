@@ -262,7 +262,7 @@ using Row = std::array<std::optional<Exact>, kTableColumns>;
 }
 
 /// True if the price is of this part. One in a jump, where only function 2 can have its start, is of both.
-[[nodiscard]] inline bool isPriceOf(const Market& market, Part part, Exact p) {
+[[nodiscard]] inline bool hasPrice(const Market& market, Part part, Exact p) {
     const bool isAtStart2 = market.kinkFirst <= p && p <= market.kinkSecond && p == market.start2;
     return market.kind != KinkKind::JumpUp || isAtStart2 ||
            (part == Part::BeforeKink ? p > market.kinkSecond || p == market.kinkFirst
@@ -283,8 +283,8 @@ using Row = std::array<std::optional<Exact>, kTableColumns>;
         return isRowOf(s, row, Part::BeforeKink) == isBefore && isRowOf(s, row, Part::AfterKink) == isAfter;
     };
     for (const Exact p : market.breaks()) {
-        if (!has(rowAt(market, p), isPriceOf(market, Part::BeforeKink, p),
-                 isPriceOf(market, Part::AfterKink, p))) {
+        if (!has(rowAt(market, p), hasPrice(market, Part::BeforeKink, p),
+                 hasPrice(market, Part::AfterKink, p))) {
             return false;
         }
         ++row;
