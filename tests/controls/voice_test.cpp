@@ -1,5 +1,6 @@
 #include "controls/voice.h"
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -81,6 +82,7 @@ protected:
         first.setFocus();
         Voice::instance().setOutlet(
             [](const QAccessibleEvent& event) { told().emplace_back(event.type(), event.object()); });
+        listen();
         // What is there already is nothing new.
         { const Voice::Round round; }
         told().clear();
@@ -110,8 +112,11 @@ protected:
     AnswerBox second{&window};
     Label label{&window};
 
+    void listen() { listens_.emplace(&Voice::instance(), &Voice::said); }
+    void leave() { listens_.reset(); }
+
 private:
-    QSignalSpy listens_{&Voice::instance(), &Voice::said};
+    std::optional<QSignalSpy> listens_;
 };
 
 TEST_F(AReader, IsToldTheWordsOfARoundThenTheFocus) {
@@ -162,6 +167,17 @@ TEST_F(AReader, IsToldAtTheEndOfARoundWhatHasComeIntoSightAndWhatHasGone) {
         second.show();
     }
     EXPECT_EQ(told(), std::vector{Told(QAccessible::ObjectHide, &label)});
+}
+
+TEST_F(AReader, IsToldWhatComesIntoSightInTheFirstRoundThatIsHeard) {
+    leave();
+    { const Voice::Round unheard; }
+    listen();
+    {
+        const Voice::Round round;
+        label.show();
+    }
+    EXPECT_EQ(told(), std::vector{Told(QAccessible::ObjectShow, &label)});
 }
 
 TEST_F(AReader, IsToldOfTextOnlyInTheFieldWithTheFocusAndOutsideARound) {

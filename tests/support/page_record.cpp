@@ -1,10 +1,10 @@
 #include "support/page_record.h"
 
+#include <cmath>
 #include <cstdint>
 #include <sstream>
 
 #include "controls/accessible_controls.h"
-#include "controls/line_control.h"
 #include "graph/graph_box.h"
 #include "numeric/text.h"
 #include "support/student.h"
@@ -151,9 +151,10 @@ void PageRecord::note(const std::string& action) {
         lines_.push_back("  " + quoted(words));
     }
     std::map<std::string, Properties> now = state();
-    for (auto& [name, properties] : now) {
+    for (const auto& [name, properties] : now) {
         std::string changed;
-        const Properties& before = last_[name];
+        const auto then = last_.find(name);
+        const Properties before = then == last_.end() ? Properties{} : then->second;
         for (const auto& [property, value] : properties) {
             const auto was = before.find(property);
             if (value != (was != before.end() ? was->second : ordinary(property))) {
@@ -162,6 +163,11 @@ void PageRecord::note(const std::string& action) {
         }
         if (!changed.empty()) {
             lines_.push_back("  " + name + changed);
+        }
+    }
+    for (const auto& [name, properties] : last_) {
+        if (now.count(name) == 0) {
+            lines_.push_back("  " + name + "; gone");
         }
     }
     last_ = std::move(now);

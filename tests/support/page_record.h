@@ -11,8 +11,9 @@ namespace tavrune::test {
 
 /// Writes down what a page does, for all of it to be compared with what it did before: a line for each
 /// control that has changed between two moments, with what of it has changed, and one for all that was said.
-/// Places are those of the design, so that nothing hangs on a screen or a font. Precondition: the page
-/// outlives the record.
+/// Places are those of
+/// the design, so that nothing hangs on a screen; what follows a text hangs on the font. Precondition: the
+/// page outlives the record.
 ///
 ///     PageRecord record(page);
 ///     student.click("ok");
