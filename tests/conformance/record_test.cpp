@@ -2,15 +2,12 @@
 // what is written down in record/. Whoever changes it on purpose has it written anew by script/record, and
 // reads the change.
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
 #include <gtest/gtest.h>
 
 #include "conformance/facts.h"
 #include "support/form_driver.h"
 #include "support/page_record.h"
+#include "support/written_down.h"
 
 namespace tavrune {
 namespace {
@@ -26,15 +23,6 @@ constexpr std::uint64_t kSeed = 4;
 constexpr std::size_t kExercises = 3;
 /// So many more, of which few are written down.
 constexpr int kLookedThrough = 40;
-
-std::vector<std::string> linesOf(const std::string& path) {
-    std::ifstream file(path);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(file, line);) {
-        lines.push_back(line);
-    }
-    return lines;
-}
 
 /// The answers of the exercises on a form, given to somebody else; as many as there are before it fails.
 std::vector<Answer> rightAnswers(const FormFacts& facts) {
@@ -184,19 +172,7 @@ INSTANTIATE_TEST_SUITE_P(Pages, RecordedPage, testing::ValuesIn(allPages()),
                          [](const auto& row) { return test::asciiNameOf(row.param); });
 
 TEST_P(RecordedPage, IsAsItIsWrittenDown) {
-    const std::vector<std::string> lines = Play(GetParam()).lines();
-    const std::string name = "record/" + test::asciiNameOf(GetParam()) + ".txt";
-    std::filesystem::create_directories("record");
-    std::ofstream file(name);
-    std::ranges::copy(lines, std::ostream_iterator<std::string>(file, "\n"));
-    file.close();
-
-    const std::vector<std::string> written = linesOf(TAVRUNE_SOURCE_DIR "/../tests/conformance/" + name);
-    const auto [here, there] = std::ranges::mismatch(lines, written);
-    EXPECT_TRUE(here == lines.end() && there == written.end())
-        << name << ", line " << here - lines.begin() + 1 << "\nwas "
-        << (there == written.end() ? "nothing" : *there) << "\nis  "
-        << (here == lines.end() ? "nothing" : *here);
+    test::expectAsWrittenDown(Play(GetParam()).lines(), test::asciiNameOf(GetParam()));
 }
 
 }  // namespace

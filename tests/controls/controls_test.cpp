@@ -16,7 +16,7 @@
 #include "controls/panel.h"
 #include "controls/row.h"
 #include "controls/table_head.h"
-#include "support/painted_texts.h"
+#include "support/painting.h"
 #include "support/student.h"
 
 namespace tavrune {

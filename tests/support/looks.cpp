@@ -14,7 +14,7 @@
 
 #include "controls/table_head.h"
 #include "shell/exercise_form.h"
-#include "support/painted_texts.h"
+#include "support/painting.h"
 #include "support/student.h"
 
 namespace tavrune::test {

@@ -1,12 +1,12 @@
 #include "support/page_record.h"
 
 #include <cmath>
-#include <cstdint>
 #include <sstream>
 
 #include "controls/accessible_controls.h"
 #include "graph/graph_box.h"
 #include "numeric/text.h"
+#include "support/digest.h"
 #include "support/student.h"
 
 namespace tavrune::test {
@@ -36,17 +36,6 @@ std::string strokeText(const Stroke& stroke) {
         text << " width " << stroke.width;
     }
     return text.str();
-}
-
-/// The same for the same text in every build and on every processor.
-std::string digest(const std::string& text) {
-    std::uint32_t hash = 2166136261U;
-    for (const char letter : text) {
-        hash = (hash ^ static_cast<unsigned char>(letter)) * 16777619U;
-    }
-    std::ostringstream hex;
-    hex << std::hex << hash;
-    return hex.str();
 }
 
 /// All strokes, or how many they are with their digest where they are more than can be read.

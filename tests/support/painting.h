@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include <QColor>
@@ -20,5 +21,12 @@ struct PaintedText {
 
 /// The texts that a widget paints itself, without its children, in their order.
 [[nodiscard]] std::vector<PaintedText> paintedTexts(QWidget& widget);
+
+/// All that a widget paints itself, without its children: a line for each operation, in their order, with
+/// its place in pixels of the widget.
+///
+///     fill 0 0 80 1 #808080
+///     text "RIGTIGT" at 3 12, 11 high, #008200
+[[nodiscard]] std::vector<std::string> painting(QWidget& widget);
 
 }  // namespace tavrune::test
