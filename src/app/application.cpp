@@ -98,7 +98,6 @@ void Application::endAfter(ArithmeticFailure::Kind kind) {
     message_ = new QMessageBox(QMessageBox::Critical, "Tavrune", QString::fromUtf8(messageFor(kind)),
                                QMessageBox::Ok);
     message_->setAttribute(Qt::WA_DeleteOnClose);
-    message_->setTextFormat(Qt::PlainText);
     message_->setWindowModality(Qt::ApplicationModal);
     connect(message_, &QMessageBox::finished, this, [] { exit(1); });
     message_->show();

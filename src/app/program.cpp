@@ -23,10 +23,7 @@ void Program::open(PageName name) {
     connect(page, &Page::closeChosen, this, &Program::closeChosen);
     connect(page, &Page::zoomed, this, &Program::zoomAll);
     connect(page, &Page::resized, this, &Program::resizeAbout);
-    // A new page has the size of the design.
-    if (zoom_ != page->zoom()) {
-        page->setZoom(zoom_);
-    }
+    page->setZoom(zoom_);
     if (window_.isNull()) {
         window_ = new Window;
     }
@@ -64,7 +61,7 @@ void Program::resizeAbout(double factor) {
 void Program::openAbout() {
     if (about_ == nullptr) {
         about_ = new FrmAbout;
-        about_->setFactor(page() == nullptr ? 1 : page()->menuFactor());
+        about_->setFactor(page()->menuFactor());
         const auto factor = [this] { return page() == nullptr ? about_->factor() : page()->menuFactor(); };
         new SizeChoice(about_, {.chosen = [this] { return zoom_; },
                                 .factor = factor,

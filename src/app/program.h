@@ -25,7 +25,7 @@ public:
     /// Opens a page, maximised, and deletes the one before it. Precondition: it is not the about box.
     void open(PageName name);
 
-    /// Opens the about box, or raises it if it is open.
+    /// Opens the about box, or raises it if it is open. Precondition: otherwise a page is open.
     void openAbout();
 
     /// Null before a page is opened, and once the user has closed the window.

@@ -8,11 +8,7 @@
 
 namespace tavrune {
 
-Window::Window() {
-    setAttribute(Qt::WA_DeleteOnClose);
-    // The page has menus of its own.
-    setContextMenuPolicy(Qt::NoContextMenu);
-}
+Window::Window() { setAttribute(Qt::WA_DeleteOnClose); }
 
 void Window::hold(Page* page) {
     Page* const last = page_;
@@ -38,14 +34,14 @@ void Window::hold(Page* page) {
     page->takeFocus();
 }
 
-void Window::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
+bool Window::event(QEvent* event) {
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && !hasBeenActive_ &&
         page_ != nullptr) {
         hasBeenActive_ = true;
         // After a reader has said the title.
         QTimer::singleShot(0, page_, &Page::sayOnOpening);
     }
+    return QMainWindow::event(event);
 }
 
 }  // namespace tavrune

@@ -25,7 +25,7 @@ public:
 
 protected:
     /// A page that came before the window was active says itself now.
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     QPointer<Page> page_;

@@ -277,8 +277,7 @@ QStringList ExerciseForm::wrongFields() const {
         const QPoint corner = box->mapTo(design(), QPoint());
         return std::tuple(corner.y(), corner.x());
     };
-    std::sort(boxes.begin(), boxes.end(),
-              [&place](const AnswerBox* one, const AnswerBox* other) { return place(one) < place(other); });
+    std::ranges::sort(boxes, {}, place);
     QStringList names;
     for (const AnswerBox* box : boxes) {
         names << box->accessibleName();
@@ -306,8 +305,7 @@ void ExerciseForm::openPanel(QWidget* panel, QWidget* firstButton) {
     focusOn(firstButton);
 }
 
-void ExerciseForm::showEvent(QShowEvent* event) {
-    Page::showEvent(event);
+void ExerciseForm::showEvent(QShowEvent* /*event*/) {
     if (hasOpened_) {
         return;
     }

@@ -30,10 +30,7 @@ private:
     }
     /// The distance between two lines of a label.
     [[nodiscard]] double linePitch() const {
-        const auto height = [this](const QString& text) {
-            return metrics_.boundingRect(QRect(0, 0, 1000, 1000), Qt::AlignTop | Qt::TextWordWrap, text)
-                .height();
-        };
+        const auto height = [this](const QString& text) { return metrics_.size({}, text).height(); };
         return (height("x\nx\nx\nx\nx\nx\nx\nx\nx\nx\nx") - height("x")) / 10.0;
     }
     void breakLine() {

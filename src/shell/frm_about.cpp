@@ -27,8 +27,7 @@ FrmAbout::FrmAbout() {
 
 void FrmAbout::setFactor(double factor) {
     const QSizeF room = screen()->availableSize() - (frameGeometry().size() - size());
-    factor_ = std::min(
-        {factor, 1.0 * room.width() / designSize_.width(), 1.0 * room.height() / designSize_.height()});
+    factor_ = std::min({factor, room.width() / designSize_.width(), room.height() / designSize_.height()});
     zoomControls(*this, factor_);
     setFixedSize(designSize_ * factor_);
     if (isVisible()) {
@@ -36,28 +35,26 @@ void FrmAbout::setFactor(double factor) {
     }
 }
 
-void FrmAbout::showEvent(QShowEvent* event) {
+void FrmAbout::showEvent(QShowEvent* /*event*/) {
     if (!hasOpened_) {
         centre();
     }
-    QWidget::showEvent(event);
 }
 
-void FrmAbout::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
+bool FrmAbout::event(QEvent* event) {
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && Voice::instance().isHeard()) {
         // After a reader has said the title.
         QTimer::singleShot(0, this, [this] { Voice::instance().say(Hearing(*this).task()); });
     }
+    return QWidget::event(event);
 }
 
-void FrmAbout::paintEvent(QPaintEvent* event) {
+void FrmAbout::paintEvent(QPaintEvent* /*event*/) {
     if (!hasOpened_) {
         hasOpened_ = true;
         // Now the size of the frame of the window manager is known.
         QTimer::singleShot(0, this, &FrmAbout::centre);
     }
-    QWidget::paintEvent(event);
 }
 
 void FrmAbout::centre() { move(centredOn(screen()->geometry(), frameGeometry().size())); }

@@ -45,7 +45,7 @@ QList<AnswerBox*> boxesOn(const QWidget& region) {
     return region.findChildren<AnswerBox*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-/// Numbers and names at an axis, heads of columns.
+/// Numbers and names at an axis, heads of columns, and what has no words at all.
 bool isMark(const QString& words) {
     static const QRegularExpression mark("^(\\d+|minus|[A-Z]\\d?[ab]?|Qtotal[ab]?|[ ,.;])*$");
     return mark.match(words).hasMatch();
@@ -85,7 +85,7 @@ QString Hearing::task() const {
     }
     for (const GraphBox* graph : design_->findChildren<GraphBox*>()) {
         for (const Passage& passage : passages(*graph, isText)) {
-            if (graph->isChart() && isSeen(*graph) && !isMark(passage.words)) {
+            if (graph->isChart() && !isMark(passage.words)) {
                 words << sentence(passage.words);
             }
         }
@@ -139,7 +139,7 @@ std::vector<Hearing::Said> Hearing::shown() const {
     for (const QWidget* region : regions) {
         const QList<AnswerBox*> boxes = boxesOn(*region);
         for (const Passage& passage : passagesOf(*region)) {
-            if (!passage.words.isEmpty() && !isGlue(*region, passage, boxes)) {
+            if (!isGlue(*region, passage, boxes)) {
                 shown.emplace_back(passage.lead, passage.words);
             }
         }
@@ -197,12 +197,11 @@ QStringList Hearing::newOnGraphs() const {
         const std::vector<Stroke>& old = before->second;
         const std::vector<Stroke>& now = graph->strokes();
         // Most are drawn on further; some are cleared, or all is drawn once more.
-        const bool isFurther = now.size() >= old.size() && std::equal(old.begin(), old.end(), now.begin());
+        const auto further = std::mismatch(old.begin(), old.end(), now.begin(), now.end()).second;
         std::vector<Stroke> strokes;
-        std::copy_if(isFurther ? now.begin() + static_cast<std::ptrdiff_t>(old.size()) : now.begin(),
-                     now.end(), std::back_inserter(strokes), [&old](const Stroke& stroke) {
-                         return std::find(old.begin(), old.end(), stroke) == old.end();
-                     });
+        std::copy_if(further, now.end(), std::back_inserter(strokes), [&old](const Stroke& stroke) {
+            return std::find(old.begin(), old.end(), stroke) == old.end();
+        });
         const QString figures = fromUtf8(describeFigures(strokes));
         if (!figures.isEmpty()) {
             news << sentence("Nyt på " + graph->accessibleName()) + ' ' + figures;

@@ -25,7 +25,6 @@ Page::Page(PageName name)
                  {.open = [this](PageName target) { emit chosen(target); },
                   .close = [this] { emit closeChosen(); }}) {
     setObjectName(fromUtf8(textOf(name)));
-    setContextMenuPolicy(Qt::NoContextMenu);
     design_->setFont(designFont());
     QPalette blackOnWhite = palette();
     blackOnWhite.setColor(QPalette::Text, kBlack);
@@ -46,8 +45,8 @@ Page::Page(PageName name)
                                                   }});
     sizes->listenTo(view_->viewport());
     connect(new QShortcut(Qt::Key_F2, this), &QShortcut::activated, this, &Page::sayOnDemand);
-    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*from*/, QWidget* to) {
-        if (to != nullptr && design_->isAncestorOf(to)) {
+    connect(qApp, &QApplication::focusChanged, &focusListener_, [this](const QWidget* /*from*/, QWidget* to) {
+        if (design_->isAncestorOf(to)) {
             taskIsSaid_ = false;
             view_->showFocus();
         }
@@ -55,11 +54,6 @@ Page::Page(PageName name)
     menuBar()->installEventFilter(this);
     // As on most desktops; and on pages where a button has the access key of the menu, the only key for it.
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, &Page::openMenu);
-}
-
-Page::~Page() {
-    // As a page goes, the focus moves once more.
-    disconnect(qApp, nullptr, this, nullptr);
 }
 
 void Page::designIsReady() { setWindowTitle(design_->windowTitle()); }
@@ -85,7 +79,7 @@ void Page::sayOnDemand() {
 
 void Page::setExtent(const Extent& extent) {
     extent_ = extent;
-    view_->setNeeded((extent_.needed * factor_).toSize());
+    resizeTo(factor_);
 }
 
 void Page::setZoom(Zoom zoom) {
@@ -138,8 +132,7 @@ void Page::resizeMenusTo(double factor) {
     emit resized(factor);
 }
 
-void Page::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
+void Page::resizeEvent(QResizeEvent* /*event*/) {
     if (zoom_.isFitted()) {
         fit();
     }
@@ -172,8 +165,7 @@ bool Page::focusNextPrevChild(bool next) {
 }
 
 bool Page::eventFilter(QObject* watched, QEvent* event) {
-    return (watched == menuBar() && clickedInsteadOfMenu(*design_, event)) ||
-           QWidget::eventFilter(watched, event);
+    return clickedInsteadOfMenu(*design_, event) || QWidget::eventFilter(watched, event);
 }
 
 void Page::tell(const QString& message) {

@@ -24,7 +24,6 @@ class Page : public QWidget {
 
 public:
     explicit Page(PageName name);
-    ~Page() override;
 
     [[nodiscard]] PageName name() const { return name_; }
     [[nodiscard]] TopicMenu& topicMenu() { return topicMenu_; }
@@ -117,6 +116,8 @@ private:
     /// Of the menu at its own size.
     int plainBarHeight_ = 0;
     TopicMenu topicMenu_;
+    /// The last, to go first: as a page goes, the focus moves once more.
+    QObject focusListener_;
 };
 
 }  // namespace tavrune

@@ -4,8 +4,8 @@ namespace tavrune {
 
 std::string_view textOf(PageName name) {
 #define TAVRUNE_TEXT(form, text, ...) text,
-    static constexpr std::array<std::string_view, 4 + kExercisePages.size()> kTexts{
-        "Opstart", "Form1", "Form2", "frmAbout", TAVRUNE_EXERCISES(TAVRUNE_TEXT)};
+    static constexpr auto kTexts = std::to_array<std::string_view>(
+        {"Opstart", "Form1", "Form2", "frmAbout", TAVRUNE_EXERCISES(TAVRUNE_TEXT)});
 #undef TAVRUNE_TEXT
     return kTexts.at(static_cast<std::size_t>(name));
 }

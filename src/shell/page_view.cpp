@@ -41,7 +41,7 @@ void PageView::setScrolls(bool scrolls) {
 
 void PageView::showFocus() {
     QWidget* const focused = widget()->focusWidget();
-    if (focused == nullptr || !widget()->isAncestorOf(focused)) {
+    if (focused == nullptr) {
         return;
     }
     // All of it, not only the cursor of a field; of what is larger than the view, the middle.

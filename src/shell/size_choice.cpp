@@ -100,11 +100,10 @@ bool SizeChoice::turned(const QWheelEvent& event) {
         turned_ = 0;
         return false;
     }
-    const int delta = event.angleDelta().y();
     // Whoever turns back wants an answer at once; whoever turns further than to the last step has come there.
     constexpr int kAllSteps = kNotch * static_cast<int>(kZoomSteps.size());
-    const int before = (turned_ < 0) == (delta < 0) ? turned_ : 0;
-    turned_ = before + std::clamp(delta, -kAllSteps, kAllSteps);
+    const int delta = std::clamp(event.angleDelta().y(), -kAllSteps, kAllSteps);
+    turned_ = (turned_ * delta < 0 ? 0 : turned_) + delta;
     for (; turned_ >= kNotch; turned_ -= kNotch) {
         chooseLarger();
     }

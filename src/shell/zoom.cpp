@@ -35,10 +35,10 @@ void zoomControls(const QWidget& design, double factor) {
 void zoomMenu(QWidget& menu, double factor) {
     // The font of the desktop, whose size is in points or in pixels.
     QFont font = QApplication::font(&menu);
-    if (font.pixelSize() > 0) {
-        font.setPixelSize(qRound(font.pixelSize() * factor));
-    } else {
+    if (font.pixelSize() == -1) {
         font.setPointSizeF(font.pointSizeF() * factor);
+    } else {
+        font.setPixelSize(qRound(font.pixelSize() * factor));
     }
     menu.setFont(font);
 }
