@@ -3,10 +3,13 @@
 #include <clocale>
 #include <cstdlib>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
+#include <QPixmapCache>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -89,6 +92,7 @@ TEST_F(ProgramRun, KeepsItsWindowWhoseTitleFollowsThePages) {
         EXPECT_EQ(window->windowTitle(), program.page()->windowTitle());
         EXPECT_EQ(window->page(), program.page());
         EXPECT_EQ(areaInWindow(*program.page()), belowTheMenu(*window));
+        EXPECT_EQ(program.page()->findChild<QScrollArea*>()->geometry(), program.page()->rect());
     }
     EXPECT_EQ(window->windowTitle().toStdString(), "Tavrune - Vandret addition - Niveau 3");
 }
@@ -110,6 +114,69 @@ TEST_F(ProgramRun, SaysThePageThatHasCome) {
     const QString words = said[0][0].toString();
     EXPECT_TRUE(words.startsWith(program.page()->windowTitle() + ". ")) << words.toStdString();
     EXPECT_TRUE(words.contains("opgaver inden for emnet")) << words.toStdString();
+}
+
+TEST_F(ProgramRun, SaysTheTitleOfAPageAndItsFirstExerciseInOne) {
+    program.window()->activateWindow();
+    settle();
+    const QSignalSpy said(&Voice::instance(), &Voice::said);
+    choose(PageName::Lininter);
+    ASSERT_EQ(said.size(), 1);
+    const QString words = said[0][0].toString();
+    EXPECT_TRUE(words.startsWith(program.page()->windowTitle() + ". ")) << words.toStdString();
+    EXPECT_GT(words.size(), program.page()->windowTitle().size() + 20) << words.toStdString();
+}
+
+TEST_F(ProgramRun, SaysItsFirstPageOnceAsItsWindowBecomesActive) {
+    QWidget another;
+    another.show();
+    const QSignalSpy said(&Voice::instance(), &Voice::said);
+    Program next(draws);
+    next.open(PageName::Opstart);
+    for (int times = 0; times < 2; ++times) {
+        next.window()->activateWindow();
+        settle();
+        another.activateWindow();
+        settle();
+    }
+    ASSERT_EQ(said.size(), 1);
+    EXPECT_TRUE(said[0][0].toString().contains("Velkommen til"));
+}
+
+TEST_F(ProgramRun, LeavesAPageWithoutMovingTheFocusOnIt) {
+    choose(PageName::Brok);
+    program.window()->activateWindow();
+    settle();
+    const QPointer<Page> left = program.page();
+    int moves = 0;
+    const auto watch = QObject::connect(qApp, &QApplication::focusChanged, qApp,
+                                        [&](const QWidget* /*from*/, const QWidget* to) {
+                                            moves += !left.isNull() && left->isAncestorOf(to) ? 1 : 0;
+                                        });
+    choose(PageName::Form1);
+    QObject::disconnect(watch);
+    EXPECT_EQ(moves, 0);
+}
+
+TEST_F(ProgramRun, BringsTheAboutBoxToTheFront) {
+    class Raises : public QObject {
+    public:
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+            count += event->type() == QEvent::ZOrderChange ? 1 : 0;
+            return false;
+        }
+        int count = 0;
+    } raises;
+    program.page()->menuBar()->findChild<QMenu*>("Om")->actions().constFirst()->trigger();
+    settle();
+    ASSERT_NE(program.about(), nullptr);
+    program.window()->activateWindow();
+    settle();
+    program.about()->installEventFilter(&raises);
+    program.openAbout();
+    settle();
+    EXPECT_EQ(QApplication::activeWindow(), program.about());
+    EXPECT_EQ(raises.count, 1);
 }
 
 TEST_F(ProgramRun, PutsTheFocusOnThePageThatHasCome) {
@@ -271,6 +338,24 @@ TEST(ProcessLocale, LeavesTheReadingAndWritingOfNumbersAlone) {
     EXPECT_EQ(Val("1,5"), 1);
 }
 
+TEST(Application, IsKnownToTheDesktopAndToReaders) {
+    EXPECT_EQ(QGuiApplication::desktopFileName(), "org.tavrune.Tavrune");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(qApp)->text(QAccessible::Name), "Tavrune");
+}
+
+TEST(Application, KeepsFewPicturesOfButtons) { EXPECT_LE(QPixmapCache::cacheLimit(), 1024); }
+
+TEST(Application, ShowsWhatIsSelectedInWhiteOnBlueOnALightGround) {
+    const QPalette colours = QApplication::palette();
+    EXPECT_EQ(colours.color(QPalette::Window), QColor(239, 239, 239));
+    EXPECT_EQ(colours.color(QPalette::HighlightedText), QColor(255, 255, 255));
+    EXPECT_EQ(colours.color(QPalette::Highlight), QColor(48, 140, 198));
+}
+
+TEST(Application, SpeaksDanishForQt) {
+    EXPECT_TRUE(QCoreApplication::translate("QLineEdit", "&Undo").startsWith("&Fortryd"));
+}
+
 TEST(Application, HasItsIconAfterTheFirstRoundOfEvents) {
     settle();
     EXPECT_EQ(QApplication::windowIcon().availableSizes(),
@@ -288,6 +373,18 @@ TEST(Application, LoadsItsIconAfterTheFirstPictureOfAWindow) {
             const bool isLate = QApplication::windowIcon().isNull();
             const bool comes = QTest::qWaitFor([] { return !QApplication::windowIcon().isNull(); });
             std::_Exit(isLate && comes && window.windowHandle()->isExposed() ? EXIT_SUCCESS : EXIT_FAILURE);
+        },
+        testing::ExitedWithCode(EXIT_SUCCESS), "");
+}
+
+TEST(Application, LoadsItsIconAtOnceWhereNoWindowIsShown) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            QWindow hidden;
+            hidden.create();
+            settle();
+            std::_Exit(QApplication::windowIcon().isNull() ? EXIT_FAILURE : EXIT_SUCCESS);
         },
         testing::ExitedWithCode(EXIT_SUCCESS), "");
 }
@@ -310,8 +407,20 @@ TEST(Application, TellsOfAFailureOfTheArithmeticAndEndsWithStatusOne) {
     });
     answer.start(0);
     QCoreApplication::postEvent(&failing, new QEvent(QEvent::User));
+    testing::internal::CaptureStderr();
     EXPECT_EQ(QCoreApplication::exec(), 1);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find(messageFor(ArithmeticFailure::Kind::Overflow)),
+              std::string::npos);
     EXPECT_EQ(told, messageFor(ArithmeticFailure::Kind::Overflow));
+}
+
+TEST(Application, TakesAnEventThatFailsForHandledAndTellsOfEachFailure) {
+    Failing failing;
+    for (int times = 0; times < 2; ++times) {
+        QEvent event(QEvent::User);
+        EXPECT_TRUE(QCoreApplication::sendEvent(&failing, &event));
+        EXPECT_EQ(test::readFailure().status, 1);
+    }
 }
 
 }  // namespace

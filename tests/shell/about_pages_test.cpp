@@ -1,8 +1,11 @@
+#include <QPointer>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
+#include "controls/voice.h"
 #include "numeric/draws.h"
 #include "shell/frm_about.h"
 #include "support/expect.h"
@@ -172,6 +175,60 @@ TEST(AboutBox, IsCentredOnceAndNeverAgain) {
 TEST(AboutBox, StandsInTheMiddleOfTheScreen) {
     EXPECT_EQ(centredOn(QRect(0, 0, 800, 600), {420, 260}), QPoint(190, 170));
     EXPECT_EQ(centredOn(QRect(1000, 0, 640, 480), {420, 260}), QPoint(1110, 110));
+}
+
+TEST(AboutBox, StandsInTheMiddleOfTheScreenFromItsFirstPictureOn) {
+    class FirstPicture : public QObject {
+    public:
+        bool eventFilter(QObject* watched, QEvent* event) override {
+            if (event->type() == QEvent::Paint && !corner) {
+                corner = static_cast<QWidget*>(watched)->pos();
+            }
+            return false;
+        }
+        std::optional<QPoint> corner;
+    } first;
+    FrmAbout about;
+    about.installEventFilter(&first);
+    about.show();
+    test::settle();
+    ASSERT_TRUE(first.corner.has_value());
+    // But for the frame, whose size is not yet known.
+    EXPECT_LT((*first.corner - about.pos()).manhattanLength(), 30);
+}
+
+TEST(AboutBox, HasOneSizeAndGoesAsItIsClosed) {
+    const QPointer<FrmAbout> about = new FrmAbout;
+    EXPECT_EQ(about->minimumSize(), about->size());
+    EXPECT_EQ(about->maximumSize(), about->size());
+    EXPECT_FALSE(about->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+    about->show();
+    about->close();
+    test::settle();
+    EXPECT_TRUE(about.isNull());
+}
+
+TEST(AboutBox, SaysItselfAsOftenAsItBecomesTheActiveWindow) {
+    const QSignalSpy said(&Voice::instance(), &Voice::said);
+    FrmAbout about;
+    about.show();
+    about.activateWindow();
+    test::settle();
+    ASSERT_EQ(said.size(), 1);
+    EXPECT_TRUE(said[0][0].toString().contains("Udviklet af holdet bag Tavrune"));
+    QWidget another;
+    another.show();
+    another.activateWindow();
+    test::settle();
+    about.setEnabled(false);
+    about.setEnabled(true);
+    EXPECT_EQ(said.size(), 1);
+    about.activateWindow();
+    test::settle();
+    EXPECT_EQ(said.size(), 2);
+    about.setEnabled(false);
+    test::settle();
+    EXPECT_EQ(said.size(), 2);
 }
 
 }  // namespace

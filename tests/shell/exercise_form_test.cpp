@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "graph/graph_box.h"
 #include "support/form_driver.h"
 
 namespace tavrune {
@@ -19,10 +20,12 @@ using test::settle;
 
 enum class VerdictKind { One, Two, TwoDark };
 
-/// A form with two boxes, the four buttons and a verdict, that writes down what it is asked to do.
+/// A form with two boxes, the four buttons, a verdict and graphs, each in a place of its own, that writes
+/// down what it is asked to do.
 class Sample : public ExerciseForm {
 public:
     Sample(Draws& draws, VerdictKind kind, LastBox last) : ExerciseForm(PageName::Brok, draws) {
+        int place = 0;
         for (const auto& [control, name] : std::initializer_list<std::pair<QWidget*, const char*>>{
                  {&newExerciseButton, "newExercise"},
                  {&ok, "ok"},
@@ -33,10 +36,16 @@ public:
                  {&vis, "vis"},
                  {&first, "first"},
                  {&second, "second"},
+                 {&helpGraph, "helpGraph"},
+                 {&graph, "graph"},
+                 {&nextGraph, "nextGraph"},
                  {&right, kind == VerdictKind::One ? "verdict" : "right"},
                  {&wrong, kind == VerdictKind::One ? "" : "wrong"}}) {
             control->setObjectName(name);
+            control->setGeometry(0, place, 80, 20);
+            place += 25;
         }
+        panel.setGeometry(200, 0, 100, 440);
         panel.hide();
         if (kind == VerdictKind::TwoDark) {
             wrong.setBackColour(QColor(192, 0, 0));
@@ -47,6 +56,7 @@ public:
 
     using ExerciseForm::clearBoxes;
     using ExerciseForm::design;
+    using ExerciseForm::enterChainWhileShown;
     using ExerciseForm::enterGoes;
     using ExerciseForm::hideVerdict;
     using ExerciseForm::showAsking;
@@ -77,6 +87,9 @@ public:
     Panel panel{design()};
     Button vis{&panel};
     Button close{&panel};
+    GraphBox helpGraph{&panel};
+    GraphBox graph{design()};
+    GraphBox nextGraph{design()};
 
 protected:
     void newExercise() override {
@@ -101,8 +114,20 @@ protected:
     Sample& open(VerdictKind kind = VerdictKind::One, LastBox last = LastBox::OkOrStay) {
         form = std::make_unique<Sample>(draws, kind, last);
         form->show();
+        form->activateWindow();
         settle();
         return *form;
+    }
+
+    /// Presses "&OK", which hides all that is named.
+    static void hideByOk(Sample& s, std::vector<QWidget*> hidden) {
+        s.ok.setFocus();
+        s.judging = [&hidden](Sample& /*judged*/) {
+            for (QWidget* widget : hidden) {
+                widget->hide();
+            }
+        };
+        s.ok.click();
     }
 
     SeededDraws draws{1};
@@ -261,6 +286,8 @@ TEST_F(LifeCycle, TwoLabelsHaveFixedCaptionsAndColours) {
 }
 
 TEST_F(LifeCycle, TheDarkWrongLabelGetsItsFinalColourAtTheOpening) {
+    const Sample light(draws, VerdictKind::Two, LastBox::OkOrStay);
+    EXPECT_EQ(light.wrong.backColour(), QColor(255, 0, 0)) << "where the design has none";
     const Sample unshown(draws, VerdictKind::TwoDark, LastBox::OkOrStay);
     EXPECT_EQ(unshown.wrong.backColour(), QColor(192, 0, 0));
     EXPECT_EQ(open(VerdictKind::TwoDark).wrong.backColour(), QColor(255, 0, 0));
@@ -331,6 +358,64 @@ TEST_F(LifeCycle, TakesTheLastWordOnWhereEnterGoes) {
     s.first.setFocus();
     QTest::keyClick(&s.first, Qt::Key_Return);
     EXPECT_EQ(s.focus(), "first");
+}
+
+TEST_F(LifeCycle, EnterGoesOverABoxThatIsHiddenToOkAtOnce) {
+    Sample& s = open();
+    AnswerBox third(s.design());
+    third.setObjectName("third");
+    third.show();
+    s.enterChainWhileShown({&s.first, &s.second, &third}, LastBox::OkOrStay);
+    s.first.setFocus();
+    for (const char* next : {"second", "third", "ok"}) {
+        QTest::keyClick(s.focusWidget(), Qt::Key_Return);
+        EXPECT_EQ(s.focus(), next);
+    }
+    third.hide();
+    QTest::keyClick(&s.second, Qt::Key_Return);
+    EXPECT_EQ(s.focus(), "ok");
+}
+
+TEST_F(LifeCycle, TabComesToGraphsAfterTheFieldsAndToThoseOfTheHelpWhereTheyStand) {
+    Sample& s = open();
+    s.panel.show();
+    s.first.setFocus();
+    Calls walk;
+    do {
+        walk.push_back(s.focus());
+        QTest::keyClick(s.focusWidget(), Qt::Key_Tab);
+    } while (s.focus() != "first" && walk.size() < 20);
+    EXPECT_EQ(walk, (Calls{"first", "second", "graph", "nextGraph", "newExercise", "ok", "help", "vis",
+                           "closeHelp", "helpGraph"}));
+}
+
+TEST_F(LifeCycle, AButtonThatIsHiddenHandsTheFocusOnToNoGraph) {
+    Sample& s = open();
+    QWidget::setTabOrder(&s.ok, &s.graph);
+    QWidget::setTabOrder(&s.graph, &s.nextGraph);
+    hideByOk(s, {&s.ok});
+    EXPECT_EQ(s.focus(), "help");
+}
+
+TEST_F(LifeCycle, AGraphKeepsTheFocusWhereNothingElseCanHaveIt) {
+    Sample& s = open();
+    hideByOk(s, {&s.first, &s.second, &s.newExerciseButton, &s.helpButton, &s.nextGraph, &s.ok});
+    EXPECT_EQ(s.focus(), "graph");
+}
+
+TEST_F(LifeCycle, VerdictsAreWhiteInTheMiddleOfTheirLabels) {
+    for (const VerdictKind kind : {VerdictKind::One, VerdictKind::Two}) {
+        const Sample unshown(draws, kind, LastBox::OkOrStay);
+        for (const Label* label : {&unshown.right, &unshown.wrong}) {
+            if (label->objectName().isEmpty()) {
+                continue;
+            }
+            EXPECT_TRUE(label->isHidden());
+            EXPECT_TRUE(label->isVerdict());
+            EXPECT_EQ(label->alignment(), Qt::AlignCenter);
+            EXPECT_EQ(label->textColour(), kWhite);
+        }
+    }
 }
 
 TEST_F(LifeCycle, ClearedBoxesAreEmptyAndWhite) {

@@ -72,6 +72,23 @@ TEST_F(FittedPage, IsInSightAsAWholeAndAsLargeAsCanBe) {
     }
 }
 
+TEST_F(FittedPage, FillsItsWindowToAPixelInOneDirection) {
+    const auto bar = [this] { return form.page().menuBar()->heightForWidth(form.page().width()); };
+    resize({1288, 3000});
+    EXPECT_EQ(form.page().factor(), 2);
+    resize({4000, 1000});
+    EXPECT_EQ(form.page().factor(), (1000 - bar()) / 446.0);
+}
+
+TEST_F(FittedPage, HasScrollBarsAgainOnceAnotherSizeIsChosen) {
+    resize({700, 600});
+    ASSERT_FALSE(isScrolled(form.page()));
+    form.page().setZoom(Zoom(300));
+    settle();
+    EXPECT_TRUE(viewOf(form.page()).horizontalScrollBar()->isVisible());
+    EXPECT_TRUE(viewOf(form.page()).verticalScrollBar()->isVisible());
+}
+
 TEST_F(FittedPage, IsAtMostFourTimesAsLargeAsItsDesign) {
     resize({4000, 4000});
     EXPECT_EQ(form.page().factor(), 4);
@@ -184,6 +201,17 @@ TEST(FittedStartPage, HasNoTextCutOffOrOverAnother) {
                 << screen.width() << ": " << window.width() << " x " << window.height();
         }
     }
+}
+
+TEST(FittedStartPage, FillsTheWindowToAPixelInOneDirection) {
+    Opstart page(QSize(640, 480));
+    page.setZoom(Zoom::fitted());
+    page.resize(1280, 3000);
+    page.show();
+    EXPECT_EQ(page.factor(), 2);
+    page.resize(3000, 1000);
+    settle();
+    EXPECT_EQ(page.factor(), (1000 - page.menuBar()->heightForWidth(3000)) / 440.0);
 }
 
 TEST(FittedStartPage, StaysLargeEnoughToBeRead) {

@@ -68,6 +68,8 @@ TEST(Opstart, MakesASizeOfTwelveFourteenAndAQuarterOnAScreenOf800) {
     EXPECT_DOUBLE_EQ(label.textSize(), 14.25);
 }
 
+TEST(Opstart, KeepsTheSizeOfItsTextsOnAScreenThatTellsNoSize) { EXPECT_EQ(stretchFor({0, 0}).text, 1); }
+
 struct LabelRow {
     const char* name;
     const char* text;

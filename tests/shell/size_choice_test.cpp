@@ -3,6 +3,7 @@
 #include <limits>
 
 #include <QApplication>
+#include <QPointer>
 #include <QPointingDevice>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -28,8 +29,9 @@ std::string lineOf(const QAction& entry) {
     if (entry.isSeparator()) {
         return "-";
     }
-    const std::string line = entry.text().toStdString() + ": " +
-                             entry.shortcut().toString(QKeySequence::PortableText).toStdString();
+    const QKeySequence key = entry.isShortcutVisibleInContextMenu() ? entry.shortcut() : QKeySequence();
+    const std::string line =
+        entry.text().toStdString() + ": " + key.toString(QKeySequence::PortableText).toStdString();
     return entry.isEnabled() ? line : "(" + line + ")";
 }
 
@@ -263,6 +265,20 @@ TEST_F(Sizes, WaitForAWholeNotchOfAFineWheel) {
     EXPECT_EQ(percent(), 100);
 }
 
+TEST_F(Sizes, AreCountedFromNothingAfterAWheelWithoutCtrlAndNotAfterOneToTheSide) {
+    turnWheel(form.page(), 119);
+    EXPECT_EQ(percent(), 100);
+    turnWheel(form.page(), 0);
+    turnWheel(form.page(), 1);
+    EXPECT_EQ(percent(), 125);
+    turnWheel(form.page(), 60);
+    turnWheel(form.page(), 60, Qt::NoModifier);
+    turnWheel(form.page(), 119);
+    EXPECT_EQ(percent(), 125);
+    turnWheel(form.page(), 1);
+    EXPECT_EQ(percent(), 150);
+}
+
 TEST_F(Sizes, EndAtTheLastStepHoweverFarTheWheelIsTurned) {
     turnWheel(form.page(), std::numeric_limits<int>::max());
     EXPECT_EQ(percent(), 300);
@@ -295,6 +311,29 @@ TEST_F(Sizes, AreChosenByFingersThatMoveApartOrTogether) {
     EXPECT_EQ(percent(), 100);
     EXPECT_FALSE(pinch(Qt::RotateNativeGesture, 2));
     EXPECT_EQ(percent(), 100);
+}
+
+TEST_F(Sizes, AreChosenAsSoonAsFingersHaveMovedByAFifthAndNotAgainBefore) {
+    pinch(Qt::ZoomNativeGesture, 0.1);
+    EXPECT_EQ(percent(), 100);
+    pinch(Qt::BeginNativeGesture);
+    pinch(Qt::ZoomNativeGesture, 0.2);
+    EXPECT_EQ(percent(), 125);
+    pinch(Qt::ZoomNativeGesture, 0.19);
+    EXPECT_EQ(percent(), 125);
+    pinch(Qt::BeginNativeGesture);
+    pinch(Qt::ZoomNativeGesture, 1 / 1.2 - 1);
+    EXPECT_EQ(percent(), 100);
+    pinch(Qt::ZoomNativeGesture, 0.19);
+    EXPECT_EQ(percent(), 100);
+}
+
+TEST_F(Sizes, LeaveNoMenuBehind) {
+    askAt(form.find("givenPointsHeading"));
+    const QPointer<QMenu> menu = openMenu();
+    ASSERT_FALSE(menu.isNull());
+    closeMenu();
+    EXPECT_TRUE(menu.isNull());
 }
 
 TEST_F(Sizes, AreChosenByKeysWhileABoxHasTheFocusAndTypeNothing) {

@@ -1,5 +1,6 @@
 #include "shell/zoom.h"
 
+#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScrollArea>
@@ -55,6 +56,21 @@ TEST(Zoom, IsSaidInWords) {
     EXPECT_EQ(wordsFor(Zoom()), "100 procent");
     EXPECT_EQ(wordsFor(Zoom(250)), "250 procent");
     EXPECT_EQ(wordsFor(Zoom::fitted()), "tilpasset vinduet");
+}
+
+TEST(Zoom, IsThatOfAMenuInTheFontOfTheDesktopWhetherThatIsInPointsOrInPixels) {
+    const QFont before = QApplication::font();
+    QFont font = before;
+    font.setPointSizeF(10);
+    QApplication::setFont(font);
+    QMenu menu;
+    zoomMenu(menu, 1.5);
+    EXPECT_EQ(menu.font().pointSizeF(), 15);
+    font.setPixelSize(20);
+    QApplication::setFont(font);
+    zoomMenu(menu, 1.5);
+    EXPECT_EQ(menu.font().pixelSize(), 30);
+    QApplication::setFont(before);
 }
 
 class ZoomedPage : public testing::Test {
