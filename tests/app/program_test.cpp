@@ -414,6 +414,17 @@ TEST(Application, TellsOfAFailureOfTheArithmeticAndEndsWithStatusOne) {
     EXPECT_EQ(told, messageFor(ArithmeticFailure::Kind::Overflow));
 }
 
+TEST(Pages, HandAFailureToTheApplicationAndStand) {
+    class FailingDraws : public Draws {
+    public:
+        float Rnd() override { throw ArithmeticFailure(ArithmeticFailure::Kind::Overflow); }
+        void Randomize() override {}
+    } draws;
+    const std::unique_ptr<Page> page = makePage(PageName::Brok, draws);
+    EXPECT_NO_THROW(page->findChild<Button*>("newExercise")->click());
+    EXPECT_EQ(test::readFailure().status, 1);
+}
+
 TEST(Application, TakesAnEventThatFailsForHandledAndTellsOfEachFailure) {
     Failing failing;
     for (int times = 0; times < 2; ++times) {

@@ -1,3 +1,5 @@
+#include <optional>
+
 #include <QPointer>
 #include <QScreen>
 #include <QSignalSpy>

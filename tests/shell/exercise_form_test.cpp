@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <QAccessible>
 #include <QMessageBox>
 #include <QSignalSpy>
 #include <QTest>
@@ -568,6 +569,16 @@ TEST_F(Announcement, TakesTheWrongVerdictWhereBothAreShown) {
         judged.second.mark(true);
     };
     EXPECT_EQ(heard(s), QStringList{"FORKERT: skæring."});
+}
+
+TEST_F(Announcement, EndsWithTheFieldInWhichTheFocusStays) {
+    Sample& s = openNamed(VerdictKind::One);
+    QAccessibleEvent focus(&s.first, QAccessible::Focus);
+    Voice::instance().filter(focus);
+    s.judging = [](Sample& judged) { judged.showFailed(); };
+    EXPECT_EQ(heard(s), QStringList{"FORKERT. hældning."});
+    s.judging = [&s](Sample& /*judged*/) { s.newExerciseButton.click(); };
+    EXPECT_EQ(heard(s), QStringList{"hældning."});
 }
 
 TEST_F(Announcement, IsSilentWhereNothingIsJudged) {

@@ -1,5 +1,7 @@
 #include "shell/page.h"
 
+#include <memory>
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QSignalSpy>
@@ -107,13 +109,13 @@ protected:
 };
 
 TEST_F(PageOnDemand, SaysItsTaskAgainOnceTheFocusHasMoved) {
-    const QSignalSpy said(&Voice::instance(), &Voice::said);
+    const QSignalSpy listens(&Voice::instance(), &Voice::said);
     const test::FormDriver form(PageName::Lininter, draws);
     const QString task = heard(form.page());
     form.button("help").setFocus();
     EXPECT_EQ(heard(form.page()), task);
     form.page().menuBar()->setFocus();
-    EXPECT_NE(heard(form.page()), task) << "the focus is no longer on the page, nor on another part of it";
+    EXPECT_TRUE(heard(form.page()).contains("akse")) << "the menu is beside the page";
 }
 
 TEST_F(PageOnDemand, SaysItsTaskFirstWhereNothingHasTheFocus) {
