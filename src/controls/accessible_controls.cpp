@@ -76,12 +76,12 @@ public:
     }
 
 private:
-    std::size_t print_ = 0;
-    int still_ = 0;
+    std::size_t print_{};
+    int still_{};
     std::vector<Passage> all_;
 
     static std::size_t printOf(const QWidget& region) {
-        std::size_t print = 1;
+        std::size_t print{};
         for (const QObject* child : region.children()) {
             if (const auto* const widget = qobject_cast<const QWidget*>(child)) {
                 const QRect place = widget->geometry();
@@ -237,7 +237,7 @@ QAccessibleInterface* accessibleControl(const QString& /*className*/, QObject* o
 int StillPages::current_ = 0;
 
 StillPages::StillPages() {
-    static int last = 0;
+    static int last{};
     current_ = ++last;
 }
 

@@ -22,8 +22,6 @@ public:
     void setText(QAccessible::Text kind, const QString& text) override {
         if (kind == QAccessible::Value) {
             replaceText(0, characterCount(), text);
-        } else {
-            QAccessibleWidget::setText(kind, text);
         }
     }
 

@@ -74,7 +74,6 @@ void AnswerBox::fontHasChanged() {
 
 void AnswerBox::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        event->accept();
         if (!event->isAutoRepeat()) {
             emit enterPressed();
         }

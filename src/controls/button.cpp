@@ -7,16 +7,12 @@
 
 namespace tavrune {
 
-Button::Button(QWidget* parent) : QPushButton(parent), Control(this) {
-    wear(designFont());
-    setFocusPolicy(Qt::StrongFocus);
-}
+Button::Button(QWidget* parent) : QPushButton(parent), Control(this) { wear(designFont()); }
 
 bool Button::event(QEvent* event) { return clickedByAccessKey(*this, event) || QPushButton::event(event); }
 
 void Button::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        event->accept();
         if (!event->isAutoRepeat()) {
             click();
         }

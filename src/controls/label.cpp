@@ -13,7 +13,6 @@ namespace tavrune {
 Label::Label(QWidget* parent) : QLabel(parent), Control(this) {
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    setIndent(0);
     wear(designFont());
 }
 
@@ -113,7 +112,6 @@ QStringList Label::designLines() const {
         }
         lines << words;
     }
-    design.endLayout();
     return lines;
 }
 

@@ -1,5 +1,7 @@
 #include "controls/line_control.h"
 
+#include <cmath>
+
 #include <QPainter>
 #include <QPalette>
 #include <QtMath>
@@ -8,7 +10,6 @@ namespace tavrune {
 
 LineControl::LineControl(QWidget* parent) : QWidget(parent), Control(this) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setFocusPolicy(Qt::NoFocus);
     setColour(kBlack);
 }
 
@@ -18,7 +19,8 @@ void LineControl::setRising(bool rising) {
 }
 
 void LineControl::setEnds(const QLineF& ends) {
-    rising_ = (ends.dx() < 0) != (ends.dy() < 0) && ends.dy() != 0;
+    // What runs along an axis neither rises nor falls, and is not asked.
+    rising_ = std::signbit(ends.dx()) != std::signbit(ends.dy());
     QRectF box = QRectF(ends.p1(), ends.p2()).normalized();
     box.setWidth(qMax(box.width(), thickness_));
     box.setHeight(qMax(box.height(), thickness_));

@@ -51,7 +51,6 @@ void OptionButton::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            event->accept();
             if (!event->isAutoRepeat()) {
                 click();
             }
@@ -78,12 +77,12 @@ void OptionButton::focusOnNeighbour(int step) {
     const QList<OptionButton*> group =
         parentWidget()->findChildren<OptionButton*>(Qt::FindDirectChildrenOnly);
     const qsizetype count = group.size();
-    for (qsizetype at = group.indexOf(this), left = count - 1; left > 0; --left) {
+    qsizetype at = group.indexOf(this);
+    do {
         at = (at + step + count) % count;
-        if (group[at]->isVisible() && group[at]->isEnabled()) {
-            group[at]->setFocus(Qt::TabFocusReason);
-            return;
-        }
+    } while (group[at] != this && !(group[at]->isVisible() && group[at]->isEnabled()));
+    if (group[at] != this) {
+        group[at]->setFocus(Qt::TabFocusReason);
     }
 }
 

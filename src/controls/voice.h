@@ -28,7 +28,7 @@ private:
     explicit Announcements(QWidget& window);
 
     std::vector<QWidget*> notifications_;
-    std::size_t next_ = 0;
+    std::size_t next_{};
 };
 
 /// What a screen reader is told beside what it finds on a page by itself: tasks, verdicts, worked lines.
@@ -95,7 +95,7 @@ private:
     Outlet outlet_;
     int rounds_ = 0;
     QStringList words_;
-    bool focusIsKeptBack_ = false;
+    bool focusIsKeptBack_{};
     bool focusIsDue_ = false;
     /// What a screen reader knows to have the focus.
     QPointer<QObject> focus_;

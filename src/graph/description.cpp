@@ -50,7 +50,7 @@ std::vector<std::string> turnsOf(const Points& run) {
             continue;
         }
         if (direction * rise < 0) {
-            turns.push_back((direction > 0 ? "højest ved " : "lavest ved ") + pointText(run[i - 1]));
+            turns.push_back((std::signbit(rise) ? "højest ved " : "lavest ved ") + pointText(run[i - 1]));
         }
         direction = rise;
     }

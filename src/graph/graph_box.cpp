@@ -27,9 +27,8 @@ public:
           perX_(pixels.width() / (static_cast<double>(scale.x2) - scale.x1)),
           perY_(pixels.height() / (static_cast<double>(scale.y2) - scale.y1)) {}
 
-    [[nodiscard]] QPointF operator()(double x, double y) const {
-        return {(x - origin_.x()) * perX_, (y - origin_.y()) * perY_};
-    }
+    [[nodiscard]] QPointF operator()(double x, double y) const { return {ofX(x), (y - origin_.y()) * perY_}; }
+    [[nodiscard]] double ofX(double x) const { return (x - origin_.x()) * perX_; }
 
 private:
     QPointF origin_;
@@ -178,7 +177,6 @@ bool Stroke::operator==(const Stroke& other) const {
 }
 
 GraphBox::GraphBox(QWidget* parent) : QWidget(parent), Control(this) {
-    setFocusPolicy(Qt::NoFocus);
     setAutoFillBackground(true);
     setPaletteColour(QPalette::WindowText, kBlack);
     setBackColour(kWhite);
@@ -220,7 +218,6 @@ void GraphBox::PSet(double x, double y, const QColor& colour) {
 void GraphBox::Cls() {
     strokes_.clear();
     picture_ = QPixmap();
-    painted_ = 0;
     update();
 }
 
@@ -241,7 +238,7 @@ void GraphBox::place(Control& control, double x, double y) const {
 }
 
 void GraphBox::placeLeft(Control& control, double x) const {
-    control.setLeft(Mapping(scale(), Control::place().size())(x, 0).x());
+    control.setLeft(Mapping(scale(), Control::place().size()).ofX(x));
 }
 
 double GraphBox::leftOf(const Control& control) const {
@@ -299,12 +296,12 @@ void GraphBox::add(Stroke stroke) {
 void GraphBox::renewPicture() {
     const double ratio = devicePixelRatioF();
     const QSize pixels = (QSizeF(size()) * ratio).toSize();
-    if (picture_.size() != pixels || picture_.devicePixelRatio() != ratio) {
+    if (picture_.size() != pixels) {
         picture_ = QPixmap(pixels);
-        picture_.setDevicePixelRatio(ratio);
         picture_.fill(Qt::transparent);
         painted_ = 0;
     }
+    picture_.setDevicePixelRatio(ratio);
     if (painted_ == strokes_.size()) {
         return;
     }
@@ -331,7 +328,6 @@ void GraphBox::childEvent(QChildEvent* event) {
     if (label != nullptr && !bare_ && !panel_ && !label->wordWrap()) {
         label->setHaloed(true);
     }
-    QWidget::childEvent(event);
 }
 
 void GraphBox::paintEvent(QPaintEvent* /*event*/) {

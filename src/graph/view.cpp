@@ -40,16 +40,17 @@ std::vector<QLineF> View::seen(Strokes figure) const {
 
 std::vector<Points> View::seenRuns(Strokes line) const {
     std::vector<Points> runs;
-    bool goesOn = false;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        const auto part = seen(line[i]);
-        if (part && !(goesOn && areJoined(line[i - 1], line[i]) && areNear(runs.back().back(), part->p1()))) {
+    const Stroke* last = nullptr;
+    for (const Stroke& stroke : line) {
+        const auto part = seen(stroke);
+        if (part &&
+            !(last != nullptr && areJoined(*last, stroke) && areNear(runs.back().back(), part->p1()))) {
             runs.push_back({part->p1()});
         }
         if (part) {
             runs.back().push_back(part->p2());
         }
-        goesOn = part.has_value();
+        last = part ? &stroke : nullptr;
     }
     return runs;
 }
