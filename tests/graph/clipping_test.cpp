@@ -19,6 +19,13 @@ TEST(Clipped, CutsALineAtTheBorder) {
     EXPECT_EQ(clipped({-50, -50, 150, 150}, kBox), QLineF(0, 0, 50, 50));
 }
 
+TEST(Clipped, KeepsALineOnTheBorder) {
+    for (const QLineF& line :
+         {QLineF(0, 0, 0, 50), {100, 0, 100, 50}, {0, 0, 100, 0}, {0, 50, 100, 50}, {0, 0, 100, 50}}) {
+        EXPECT_EQ(clipped(line, kBox), line);
+    }
+}
+
 TEST(Clipped, KeepsTheDirectionOfALine) {
     EXPECT_EQ(clipped({200, 25, -100, 25}, kBox), QLineF(100, 25, 0, 25));
 }
@@ -45,8 +52,10 @@ TEST(Clipped, KeepsWhatIsSeenOfAHugeSlantedLineOnTheBox) {
 }
 
 TEST(Clipped, LeavesNothingOfANan) {
-    EXPECT_EQ(clipped({0, std::nan(""), 10, 10}, kBox), std::nullopt);
-    EXPECT_EQ(clipped({0, 0, 10, std::nan("")}, kBox), std::nullopt);
+    const double nan = std::nan("");
+    for (const QLineF& line : {QLineF(nan, 0, 10, 10), {0, nan, 10, 10}, {0, 0, nan, 10}, {0, 0, 10, nan}}) {
+        EXPECT_EQ(clipped(line, kBox), std::nullopt);
+    }
 }
 
 }  // namespace

@@ -37,6 +37,18 @@ TEST(PlotCurve, EndsAtOnceWhereItBeginsBeyondTheSize) {
     EXPECT_EQ(graph.strokes().size(), 1U);
 }
 
+TEST(PlotCurve, GoesOnAsLongAsTheSizeIsOnlyMet) {
+    GraphBox graph;
+    plotCurve(graph, [](double x) { return x; }, {.start = 0, .step = 1, .exactEnd = 100, .largest = 2});
+    EXPECT_EQ(graph.strokes().size(), 4U);
+}
+
+TEST(PlotCurve, EndsWhereItMeetsItsExactEnd) {
+    GraphBox graph;
+    plotCurve(graph, [](double x) { return x; }, {.start = 0, .step = 1, .exactEnd = 3, .largest = 100});
+    EXPECT_EQ(graph.strokes().size(), 3U);
+}
+
 TEST(PlotCurve, NeverMeetsItsExactEnd) {
     for (const CurveRange range :
          {CurveRange{-10, 0.05, 10, 2000}, CurveRange{-10, 0.05, 7, 2000}, CurveRange{-7, 0.05, 7, 1000},

@@ -292,6 +292,71 @@ TEST_F(Told, TellsTwoDottedCurvesWhereOneJumps) {
               "Prikket kurve fra (2; 8) til (2.99; 7.01), sort.");
 }
 
+TEST_F(Told, TellsFourTurnsOfACurve) {
+    // Level between a rise and a fall, each by less than 1, by 1 and by more.
+    const std::vector<double> heights{0, 0.5, 0.5, -0.5, 1.5, 1, 2, -1, 3, 3};
+    std::vector<QLineF> pieces;
+    for (std::size_t i = 1; i < heights.size(); ++i) {
+        const auto x = static_cast<double>(i);
+        pieces.emplace_back(x - 1, heights[i - 1], x, heights[i]);
+    }
+    draw(Meaning::Line, pieces, kRed);
+    EXPECT_EQ(told(),
+              "Kurve af 9 streger fra (0; 0) til (9; 3), højest ved (2; 0.5), lavest ved (3; -0.5), "
+              "højest ved (4; 1.5), lavest ved (5; 1), rød.");
+}
+
+TEST_F(Told, TellsTheFirstFourRunsOfACurve) {
+    std::vector<QLineF> pieces;
+    for (int x = -9; x < -3; ++x) {
+        pieces.emplace_back(x, x, x + 0.5, x);
+    }
+    draw(Meaning::Line, pieces, kRed);
+    EXPECT_EQ(told(),
+              "Kurve af 6 streger fra (-9; -9) til (-8.5; -9), fra (-8; -8) til (-7.5; -8), "
+              "fra (-7; -7) til (-6.5; -7) og fra (-6; -6) til (-5.5; -6), rød.");
+}
+
+TEST_F(Told, TellsAHatchingOfOneLineAndOfTwo) {
+    repeat(Meaning::Hatching, 1, 0.5, [this](double t) { box.Line(1 + t, 0, 1 + t, 2, kBlue); });
+    EXPECT_EQ(told(), "Skraveret område fra x = 1 til x = 1, mellem y = 0 og y = 2, blå.");
+    box.Cls();
+    repeat(Meaning::Hatching, 2, 0.5, [this](double t) { box.Line(1 + t, 0, 1 + t, 2, kBlue); });
+    EXPECT_EQ(told(), "Skraveret område fra x = 1 til x = 2, mellem y = 0 og y = 2, blå.");
+}
+
+TEST_F(Told, TellsTicksFromTwoOn) {
+    drawAxes(box, {.scale = box.scale(),
+                   .level = {-10, 10},
+                   .upright = {10, -10},
+                   .ticks = {{.along = Along::X, .from = 3, .before = 8, .step = 4, .offAxis = {0.1}},
+                             {.along = Along::Y, .from = 3, .before = 4, .offAxis = {0.1}}}});
+    EXPECT_EQ(told(), "Mærker for hver 4 på den vandrette akse. Ellers tom.");
+}
+
+TEST_F(Told, TellsAllOfTwentyFourAndOfMoreTheFirstAndTheLast) {
+    const auto pointsFrom = [](int first, int last) {
+        std::string text;
+        for (int i = first; i <= last; ++i) {
+            text += "Punkt i (" + std::to_string(i % 10) + "; " + std::to_string(i / 10) + "), rød.";
+            text += i < last ? " " : "";
+        }
+        return text;
+    };
+    const auto drawUpTo = [this](int last) {
+        box.Cls();
+        for (int i = 1; i <= last; ++i) {
+            box.PSet(i % 10, i / 10, kRed);
+        }
+    };
+    drawUpTo(24);
+    EXPECT_EQ(told(), pointsFrom(1, 24));
+    drawUpTo(25);
+    EXPECT_EQ(told(), pointsFrom(1, 12) + " Derefter 1 andre. " + pointsFrom(14, 25));
+    drawUpTo(60);
+    EXPECT_EQ(told(), pointsFrom(1, 12) + " Derefter 36 andre. " + pointsFrom(49, 60));
+}
+
 TEST_F(Told, LeavesTheMiddleOutOfVeryMany) {
     repeat(500, 1, [this](double t) { box.Line(-9, t / 100, 9, 9 - t / 60, kRed); });
     const std::string words = told();

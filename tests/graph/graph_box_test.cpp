@@ -1,13 +1,16 @@
 #include "graph/graph_box.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
 #include <QImage>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
 #include "controls/label.h"
+#include "support/painting.h"
 #include "support/strokes.h"
 
 namespace tavrune {
@@ -367,6 +370,80 @@ TEST_F(Box, PlacesTextByItsScale) {
     box.placeLeft(label, 0);
     EXPECT_NEAR(label.place().left(), 50, 1e-6);
     EXPECT_NEAR(label.place().top(), 51, 1e-4);
+}
+
+TEST_F(Box, KeepsAPictureOfMoreThanAFewStrokes) {
+    const auto isPicture = [this] {
+        const std::vector<std::string> painted = test::painting(box);
+        return std::ranges::any_of(painted,
+                                   [](const std::string& line) { return line.starts_with("picture"); });
+    };
+    for (std::size_t i = 0; i < kFewStrokes; ++i) {
+        box.PSet(1, 1);
+    }
+    EXPECT_FALSE(isPicture());
+    box.PSet(1, 1);
+    EXPECT_TRUE(isPicture());
+}
+
+TEST_P(PaintedBox, IsPaintedFromTheFirstStrokeOnWhereItsSizeHasChanged) {
+    box.Cls();
+    box.Line(0, 10, 0, -10, kGreen);
+    fillUp();
+    EXPECT_GT(inked(kGreen), 0);
+    box.setZoom(2);
+    EXPECT_GT(inked(kGreen), 0);
+}
+
+TEST_F(Box, IsPaintedAnewOnceSomethingIsDrawnOrClearedOrFramed) {
+    box.show();
+    EXPECT_FALSE(test::isPaintedAfter(box, [] {}));
+    EXPECT_TRUE(test::isPaintedAfter(box, [this] { box.Line(0, 0, 1, 1); }));
+    EXPECT_TRUE(test::isPaintedAfter(box, [this] { box.Cls(); }));
+    EXPECT_TRUE(test::isPaintedAfter(box, [this] { box.setFramed(true); }));
+}
+
+/// What stands on a box at such a place of a page, in pixels of the screen, but for its edge.
+QImage pictureAt(int place) {
+    QWidget page;
+    GraphBox box(&page);
+    page.resize(140, 140);
+    box.setPlace({0, 0, 100, 100});
+    box.move(place, place);
+    box.Scale(-10, 10, 10, -10);
+    box.Line(0, 10, 0, -10, kGreen);
+    box.Line(-10, 3, 10, 3, kRed);
+    box.Line(-10, -10, 10, 10, kBlue);
+    box.PSet(-5, 5);
+    const QImage whole = page.grab().toImage();
+    const double ratio = whole.devicePixelRatio();
+    QImage part = whole.copy(qRound(place * ratio) + 3, qRound(place * ratio) + 3, qFloor(90 * ratio),
+                             qFloor(90 * ratio));
+    part.setDevicePixelRatio(1);
+    return part;
+}
+
+TEST(BoxOnAPage, LooksTheSameWhereverItStandsAtEveryRatio) {
+    for (const int place : {1, 2, 3, 7}) {
+        EXPECT_EQ(pictureAt(place), pictureAt(0)) << place;
+    }
+}
+
+TEST(BoxOnAPage, KeepsClicksFromWhatIsBehindIt) {
+    class Page : public QWidget {
+    public:
+        int pressed = 0;
+
+    protected:
+        void mousePressEvent(QMouseEvent* /*event*/) override { ++pressed; }
+    } page;
+    GraphBox box(&page);
+    page.show();
+    for (const bool isBare : {false, true}) {
+        box.setBare(isBare);
+        QTest::mousePress(&box, Qt::LeftButton);
+        EXPECT_EQ(page.pressed, 0) << isBare;
+    }
 }
 
 class NumberOverAnArea : public Box {

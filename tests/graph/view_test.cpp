@@ -41,6 +41,30 @@ TEST(View, TellsTheRunsOfALineThatLeavesAndComesBackApart) {
               (std::vector<Points>{{{0, 8}, {1, 10}}, {{7, 10}, {8, 8}}}));
 }
 
+/// How many runs are seen of a line that goes out of a square of 25 and comes back.
+std::size_t runsOver(const std::vector<Stroke>& line) { return View({0, 25, 25, 0}).seenRuns(line).size(); }
+
+TEST(View, TakesALineForOneThatComesBackWhereItHasLeft) {
+    // A gap of 8 % of the scale, and of a little more.
+    EXPECT_EQ(runsOver({line(2, 24, 4, 26), line(4, 26, 6, 24)}), 1U);
+    EXPECT_EQ(runsOver({line(2, 24, 4, 26), line(4, 26, 6.25, 24)}), 2U);
+    EXPECT_EQ(runsOver({line(24, 2, 26, 4), line(26, 4, 24, 6)}), 1U);
+    EXPECT_EQ(runsOver({line(24, 2, 26, 4), line(26, 4, 24, 6.25)}), 2U);
+}
+
+TEST(View, TellsTheRunsApartOfALineThatGoesOnWhereNobodySeesIt) {
+    EXPECT_EQ(runsOver({line(2, 24, 4, 26), line(4, 26, 4, 30), line(4, 30, 4, 26), line(4, 26, 6, 24)}), 2U);
+    EXPECT_EQ(runsOver({line(2, 24, 4, 26), line(4.5, 26, 5, 24)}), 2U) << "it goes on elsewhere";
+    EXPECT_EQ(runsOver({line(24, 1, 26, 3), line(26, 3, 24, 24)}), 2U) << "it comes back far up";
+}
+
+TEST(View, HasTheHeightOfAScaleWithoutOne) {
+    const View view({-10, 3, 10, 3});
+    EXPECT_EQ(view.lowest(), 3);
+    EXPECT_EQ(view.highest(), 3);
+    EXPECT_EQ(view.seen(line(0, 3, 1, 3)), std::nullopt);
+}
+
 TEST(View, HasTheMiddleOfAFigureOfWhichHalfIsSeen) {
     const std::vector<Stroke> strokes{line(9, 4, 11, 4), line(9, 6, 11, 6)};
     EXPECT_EQ(View({-10, 10, 10, -10}).middleOf(strokes), QPointF(10, 5));

@@ -2,11 +2,13 @@
 
 #include <cmath>
 
+#include <QEvent>
 #include <QPaintEngine>
 #include <QPainter>
 
 #include "numeric/text.h"
 #include "support/digest.h"
+#include "support/student.h"
 
 namespace tavrune::test {
 namespace {
@@ -143,6 +145,22 @@ std::vector<PaintedText> paintedTexts(QWidget& widget) {
     KeepingDevice device(widget);
     widget.render(&device, QPoint(), QRegion(), QWidget::RenderFlags());
     return device.keeper.texts;
+}
+
+bool isPaintedAfter(QWidget& shown, const std::function<void()>& happen) {
+    class Paints : public QObject {
+    public:
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+            any = any || event->type() == QEvent::Paint;
+            return false;
+        }
+        bool any = false;
+    } paints;
+    settle();
+    shown.installEventFilter(&paints);
+    happen();
+    settle();
+    return paints.any;
 }
 
 std::vector<std::string> painting(QWidget& widget) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,9 @@ struct PaintedText {
 
 /// The texts that a widget paints itself, without its children, in their order.
 [[nodiscard]] std::vector<PaintedText> paintedTexts(QWidget& widget);
+
+/// Whether a widget that is shown is painted again once something has happened to it.
+[[nodiscard]] bool isPaintedAfter(QWidget& shown, const std::function<void()>& happen);
 
 /// All that a widget paints itself, without its children: a line for each operation, in their order, with
 /// its place in pixels of the widget.
