@@ -138,6 +138,7 @@ TEST_F(AccessibleControls, AFieldIsReadAndWrittenAsAText) {
     EXPECT_EQ(text.text(1, 3), "2.");
     EXPECT_EQ(text.text(-5, 99), "12.5");
     EXPECT_EQ(text.text(3, 1), "");
+    EXPECT_TRUE(field.state().selectableText);
     text.setCursorPosition(2);
     EXPECT_EQ(text.cursorPosition(), 2);
     EXPECT_EQ(text.selectionCount(), 0);
@@ -147,14 +148,80 @@ TEST_F(AccessibleControls, AFieldIsReadAndWrittenAsAText) {
     text.selection(0, &start, &end);
     EXPECT_EQ((std::pair{start, end}), (std::pair{1, 3}));
     EXPECT_EQ(box.selectedText(), "2.");
+    EXPECT_EQ(text.selectionCount(), 1);
+    text.setSelection(1, 0, 4);
+    EXPECT_EQ(box.selectedText(), "2.") << "there is no other selection";
+    text.selection(1, &start, &end);
+    EXPECT_EQ((std::pair{start, end}), (std::pair{0, 0}));
     text.removeSelection(0);
     EXPECT_EQ(text.selectionCount(), 0);
+    text.selection(0, &start, &end);
+    EXPECT_EQ((std::pair{start, end}), (std::pair{0, 0}));
+    text.addSelection(2, 4);
+    EXPECT_EQ(box.selectedText(), ".5");
+    text.scrollToSubstring(0, 1);
+    EXPECT_EQ(box.selectedText(), "1");
+    text.attributes(2, &start, &end);
+    EXPECT_EQ((std::pair{start, end}), (std::pair{0, 4}));
+    EXPECT_EQ(text.characterRect(1).left(), text.characterRect(0).right() + 1);
+    EXPECT_EQ(text.characterRect(0).width(), box.fontMetrics().horizontalAdvance("1"));
     EXPECT_EQ(text.offsetAtPoint(text.characterRect(2).center()), 2);
     QAccessibleEditableTextInterface& typing = *field.editableTextInterface();
     typing.insertText(99, "0");
     typing.deleteText(-1, 1);
     typing.replaceText(0, 1, "3");
     EXPECT_EQ(box.content(), "3.50");
+    typing.replaceText(3, 1, "7");
+    EXPECT_EQ(box.content(), "3.570");
+    field.setText(QAccessible::Name, "hældning");
+    EXPECT_EQ(box.content(), "3.570");
+    field.setText(QAccessible::Value, "8");
+    EXPECT_EQ(box.content(), "8");
+}
+
+TEST_F(AccessibleControls, AFieldHasOneLine) {
+    AnswerBox box(&window);
+    box.setContent("12 5");
+    window.show();
+    QAccessibleTextInterface& text = *told(box).textInterface();
+    int start = 7;
+    int end = 7;
+    for (const auto type : {QAccessible::LineBoundary, QAccessible::ParagraphBoundary,
+                            QAccessible::SentenceBoundary, QAccessible::NoBoundary}) {
+        EXPECT_EQ(text.textAtOffset(4, type, &start, &end), "12 5") << type;
+        EXPECT_EQ((std::pair{start, end}), (std::pair{0, 4})) << type;
+    }
+    EXPECT_EQ(text.textAtOffset(1, QAccessible::CharBoundary, &start, &end), "2");
+    EXPECT_EQ(text.textAtOffset(0, QAccessible::WordBoundary, &start, &end), "12");
+}
+
+TEST_F(AccessibleControls, ATextCoversNothingButAVerdictAVerdict) {
+    Label text(&window);
+    Label front(&window);
+    for (Label* label : {&text, &front}) {
+        label->setGeometry(0, 0, 100, 25);
+        label->setCaption("d = 16");
+        label->setBackColour(kWhite);
+    }
+    window.show();
+    for (const bool isTextVerdict : {false, true}) {
+        for (const bool isFrontVerdict : {false, true}) {
+            text.setVerdict(isTextVerdict);
+            front.setVerdict(isFrontVerdict);
+            EXPECT_EQ(isCovered(text), isTextVerdict && isFrontVerdict);
+        }
+    }
+    front.setGeometry(0, 100, 100, 25);
+    EXPECT_FALSE(isCovered(text)) << "it stands elsewhere";
+}
+
+TEST_F(AccessibleControls, ALabelWithoutAPageIsItsCaption) {
+    Label label;
+    label.setCaption(" d =  16");
+    label.show();
+    EXPECT_EQ(name(label), "d = 16");
+    label.setAccessibleName("diskriminanten");
+    EXPECT_EQ(name(label), "diskriminanten");
 }
 
 TEST_F(AccessibleControls, OfTwoVerdictsAtOnePlaceTheOneInFrontIsTold) {
@@ -184,6 +251,17 @@ TEST_F(AccessibleControls, AButtonIsClickedAtOnce) {
     EXPECT_EQ(actions.keyBindingsForAction(QAccessibleActionInterface::pressAction()), QStringList("Alt+G"));
     actions.doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(clicked.count(), 1);
+    const QString focus = QAccessibleActionInterface::setFocusAction();
+    EXPECT_TRUE(actions.keyBindingsForAction(focus).isEmpty());
+    window.show();
+    actions.doAction(focus);
+    EXPECT_EQ(window.focusWidget(), &button);
+    EXPECT_EQ(clicked.count(), 1);
+    button.setAccessibleName("Giv hele svaret");
+    EXPECT_EQ(name(button), "Giv hele svaret");
+    EXPECT_EQ(description(button), "");
+    button.setText("Luk");
+    EXPECT_TRUE(actions.keyBindingsForAction(QAccessibleActionInterface::pressAction()).isEmpty());
     button.setEnabled(false);
     EXPECT_FALSE(actions.actionNames().contains(QAccessibleActionInterface::pressAction()));
 }
@@ -194,6 +272,7 @@ TEST_F(AccessibleControls, AnOptionIsChosenWithAllThatAClickRuns) {
     const QSignalSpy clicked(&option, &QAbstractButton::clicked);
     EXPECT_EQ(told(option).role(), QAccessible::RadioButton);
     EXPECT_EQ(name(option), "To rødder");
+    EXPECT_EQ(description(option), "");
     EXPECT_TRUE(told(option).state().checkable);
     EXPECT_FALSE(told(option).state().checked);
     told(option).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());

@@ -1,6 +1,7 @@
 #include "controls/answer_box.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QTest>
@@ -98,6 +99,36 @@ TEST_F(AnswerBoxKeys, WriteNothingWithAlt) {
     QTest::keyClick(&box, '2', Qt::AltModifier | Qt::ControlModifier);
     QTest::keyClick(&box, '3');
     EXPECT_EQ(box.content().back(), '3');
+}
+
+TEST_F(AnswerBoxKeys, LeaveToThePageWhatTheBoxDoesNotTake) {
+    const auto isTaken = [this](auto&& event) {
+        QCoreApplication::sendEvent(&box, &event);
+        return event.isAccepted();
+    };
+    const auto key = [](Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
+        return QKeyEvent(QEvent::KeyPress, key, modifiers, text);
+    };
+    EXPECT_TRUE(isTaken(key(Qt::Key_Comma, Qt::NoModifier, ",")));
+    EXPECT_FALSE(isTaken(key(Qt::Key_O, Qt::AltModifier, "o")));
+    box.setReadOnly(true);
+    EXPECT_FALSE(isTaken(key(Qt::Key_Comma, Qt::NoModifier, ",")));
+    EXPECT_TRUE(isTaken(key(Qt::Key_Return, Qt::NoModifier, "\r")));
+}
+
+TEST(AnswerBox, LeavesItsMenuToThePage) {
+    class Page : public QWidget {
+    public:
+        int asked = 0;
+
+    protected:
+        void contextMenuEvent(QContextMenuEvent* /*event*/) override { ++asked; }
+    } page;
+    AnswerBox box(&page);
+    page.show();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3), box.mapToGlobal(QPoint(3, 3)));
+    QCoreApplication::sendEvent(&box, &event);
+    EXPECT_EQ(page.asked, 1);
 }
 
 TEST_F(AnswerBoxKeys, TakeATextOfAnyLength) {

@@ -1,10 +1,16 @@
 #include <array>
 #include <set>
 
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QShortcutEvent>
+#include <QStyleFactory>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
+#include "controls/access_key.h"
 #include "controls/answer_box.h"
 #include "controls/button.h"
 #include "controls/design_style.h"
@@ -56,6 +62,42 @@ TEST(Control, KeepsItsPlaceInUnitsAtEveryZoom) {
     label.setZoom(1);
     EXPECT_EQ(label.geometry().left(), 30);
     EXPECT_EQ(label.font().pixelSize(), 11);
+}
+
+TEST(Control, WithoutAPlaceOfItsDesignIsZoomedFromWhereItStands) {
+    QWidget page;
+    Label label(&page);
+    label.setGeometry(10, 20, 30, 40);
+    label.setZoom(2);
+    EXPECT_EQ(label.geometry(), QRect(20, 40, 60, 80));
+    label.setZoom(1);
+    EXPECT_EQ(label.geometry(), QRect(10, 20, 30, 40));
+}
+
+TEST(Control, HasATextOfOnePixelAtLeast) {
+    Label label;
+    label.setTextSize(0.2);
+    EXPECT_EQ(label.font().pixelSize(), 1);
+    label.setZoom(1.5);
+    EXPECT_EQ(label.font().pixelSize(), 1);
+    label.setZoom(0.5);
+    EXPECT_EQ(label.font().pixelSize(), 1);
+}
+
+TEST(Control, IsPaintedAnewOnceItLooksDifferent) {
+    QWidget page;
+    Panel panel(&page);
+    LineControl line(&page);
+    line.setPlace({0, 40, 30, 30});
+    TableHead head(&page);
+    head.setPlace({40, 40, 30, 14});
+    page.show();
+    EXPECT_FALSE(test::isPaintedAfter(panel, [] {}));
+    EXPECT_TRUE(test::isPaintedAfter(panel, [&] { panel.setFramed(true); }));
+    EXPECT_TRUE(test::isPaintedAfter(line, [&] { line.setRising(true); }));
+    EXPECT_TRUE(test::isPaintedAfter(line, [&] { line.setThickness(3); }));
+    EXPECT_TRUE(test::isPaintedAfter(line, [&] { line.setEnds({0, 40, 30, 70}); }));
+    EXPECT_TRUE(test::isPaintedAfter(head, [&] { head.standOver({&panel}); }));
 }
 
 TEST(Control, KeepsAFractionOfATextSizeThatTheScreenRounds) {
@@ -211,6 +253,30 @@ TEST(Label, LooksAsQtPaintsItsFont) {
             EXPECT_EQ(label.grab().toImage(), qts.grab().toImage()) << serif << " at " << size;
         }
     }
+}
+
+/// A label that shows what its painters begin with.
+class OpenLabel : public Label {
+public:
+    using Label::initPainter;
+};
+
+TEST(Label, IsPaintedWithOneFamilyWhereTheFontIsNotThatOfTheDesign) {
+    OpenLabel label;
+    label.setTextColour(kRed);
+    const auto families = [&label] {
+        QImage image(10, 10, QImage::Format_RGB32);
+        QPainter painter(&image);
+        label.initPainter(&painter);
+        EXPECT_EQ(painter.pen().color(), kRed);
+        EXPECT_EQ(painter.font().pixelSize(), label.font().pixelSize());
+        return painter.font().families();
+    };
+    EXPECT_EQ(families(), designFont().families());
+    label.setTextSize(15);
+    EXPECT_EQ(families(), paintFont(designFont()).families());
+    label.setZoom(2);
+    EXPECT_EQ(families(), designFont().families());
 }
 
 TEST(FocusOn, LeavesWhatABoxHoldsUnselected) {
@@ -464,10 +530,35 @@ TEST(Button, IsPressedAtOnceByItsAccessKey) {
     QObject::connect(&button, &Button::clicked, &button, [&pressed] { ++pressed; });
     QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
     EXPECT_EQ(pressed, 1);
+    EXPECT_EQ(window.focusWidget(), &button);
     button.hide();
     QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
     EXPECT_EQ(pressed, 1);
 }
+
+TEST(Button, IsClickedByAnAccessKeyThatAMenuHasToo) {
+    QWidget window;
+    Button button(&window);
+    button.setText("&Ny opgave");
+    window.show();
+    int pressed = 0;
+    QObject::connect(&button, &Button::clicked, &button, [&pressed] { ++pressed; });
+    QShortcutEvent both(button.shortcut(), 1, true);
+    EXPECT_TRUE(clickedInsteadOfMenu(window, &both));
+    EXPECT_EQ(pressed, 1);
+    QShortcutEvent alone(button.shortcut(), 1, false);
+    EXPECT_FALSE(clickedInsteadOfMenu(window, &alone));
+    QShortcutEvent other(QKeySequence("Alt+X"), 1, true);
+    EXPECT_FALSE(clickedInsteadOfMenu(window, &other));
+    button.setEnabled(false);
+    EXPECT_FALSE(clickedInsteadOfMenu(window, &both));
+    button.setEnabled(true);
+    button.hide();
+    EXPECT_FALSE(clickedInsteadOfMenu(window, &both));
+    EXPECT_EQ(pressed, 1);
+}
+
+TEST(Button, TakesTheFocusByTabAndByAClick) { EXPECT_EQ(Button().focusPolicy(), Qt::StrongFocus); }
 
 TEST(OptionButton, ShowsWhatItStandsOnAgainOnceItsColourIsReset) {
     OptionButton option;
@@ -488,6 +579,10 @@ TEST(OptionButton, CanBeUncheckedWithTheWholeGroup) {
     EXPECT_FALSE(one.isChosen());
     other.setChosen(false);
     EXPECT_FALSE(one.isChosen());
+    EXPECT_FALSE(other.isChosen());
+    other.click();
+    one.click();
+    EXPECT_TRUE(one.isChosen());
     EXPECT_FALSE(other.isChosen());
 }
 
@@ -512,6 +607,11 @@ TEST(OptionButton, IsBrowsedByTheArrowKeysAndChosenByEnterOrSpace) {
     EXPECT_TRUE(goes(options[0], Qt::Key_Left, options[2]));
     options[1].setEnabled(false);
     EXPECT_TRUE(goes(options[2], Qt::Key_Up, options[0]));
+    options[2].hide();
+    EXPECT_TRUE(goes(options[0], Qt::Key_Down, options[0])) << "there is no other";
+    options[2].show();
+    EXPECT_TRUE(goes(options[0], Qt::Key_Down, options[2]));
+    EXPECT_TRUE(goes(options[2], Qt::Key_Right, options[0]));
     for (const OptionButton& option : options) {
         EXPECT_FALSE(option.isChosen());
     }
@@ -557,11 +657,14 @@ TEST(OptionButton, RunsItsClickOnlyWhenClicked) {
 TEST(OptionButton, GoesBackToTheSystemsButtonFace) {
     OptionButton option;
     const QColor face = option.backColour();
+    const QColor letters = option.palette().color(QPalette::WindowText);
+    EXPECT_NE(letters, kWhite);
     EXPECT_EQ(face, option.palette().color(QPalette::Button));
     option.setBackColour(QColor(0, 130, 0));
     EXPECT_EQ(option.backColour(), QColor(0, 130, 0));
     option.resetBackColour();
     EXPECT_EQ(option.backColour(), face);
+    EXPECT_EQ(option.palette().color(QPalette::WindowText), letters);
 }
 
 TEST(OptionButton, IsFilledWithItsBackColour) {
@@ -578,6 +681,22 @@ TEST(LineControl, HasItsEndsAtTheCornersOfItsPlace) {
     EXPECT_EQ(line.ends(), QLineF(10, 30, 40, 5));
     line.setEnds({10, 5, 40, 30});
     EXPECT_EQ(line.ends(), QLineF(10, 5, 40, 30));
+    line.setEnds({40, 5, 10, 30});
+    EXPECT_EQ(line.ends(), QLineF(10, 30, 40, 5));
+    line.setEnds({10, 30, 10, 5});
+    EXPECT_EQ(line.ends(), QLineF(10, 5, 10, 30));
+    line.setEnds({40, 5, 10, 5});
+    EXPECT_EQ(line.ends(), QLineF(10, 5, 40, 5));
+}
+
+TEST(LineControl, LeavesClicksToWhatItIsDrawnOver) {
+    QWidget page;
+    Button button(&page);
+    button.setPlace({0, 0, 50, 30});
+    LineControl line(&page);
+    line.setPlace({0, 0, 50, 30});
+    page.show();
+    EXPECT_EQ(page.childAt(20, 10), &button);
 }
 
 TEST(LineControl, RunsFromCornerToCorner) {
@@ -664,6 +783,9 @@ TEST_F(FractionOfThree, IsAsWideAsItsWiderText) {
     EXPECT_EQ(top.place().width(), bottom.textWidth());
     EXPECT_FALSE(top.isAutoSize());
     EXPECT_TRUE(bottom.isAutoSize());
+    EXPECT_TRUE(top.alignment().testFlag(Qt::AlignHCenter));
+    EXPECT_TRUE(bottom.alignment().testFlag(Qt::AlignHCenter));
+    EXPECT_EQ(bar.ends().x2(), top.place().right());
     fraction.setTexts("4 - (-10)", "3");
     EXPECT_EQ(bottom.place().width(), top.textWidth());
     EXPECT_EQ(fraction.right(), top.place().right());
@@ -707,6 +829,7 @@ TEST_F(HeadOfTwoColumns, StandsOverTheMiddleOfEachAtEveryZoom) {
         const auto words = head.words();
         ASSERT_EQ(words.size(), 2U);
         EXPECT_EQ(words[0].second, "P");
+        EXPECT_EQ(words[0].first.top(), 0);
         EXPECT_NEAR(words[0].first.center().x(), 25 * zoom, 1e-9);
         EXPECT_EQ(words[1].second, "Qtotal");
         EXPECT_NEAR(words[1].first.center().x(), 100 * zoom, 1e-9);
@@ -835,6 +958,7 @@ TEST(DesignStyle, LoadsTheIconOfWhatAMenuBarHasNoRoomForOnceItIsSeen) {
     EXPECT_EQ(icon.actualSize({100, 100}), whole.actualSize({100, 100}));
     for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled}) {
         EXPECT_EQ(icon.pixmap(16, mode).toImage(), whole.pixmap(16, mode).toImage());
+        EXPECT_EQ(icon.pixmap(4, mode).toImage(), whole.pixmap(4, mode).toImage());
         EXPECT_EQ(painted(icon, mode), painted(whole, mode));
     }
     EXPECT_NE(painted(icon, QIcon::Normal), painted(QIcon(), QIcon::Normal));
@@ -864,6 +988,23 @@ TEST(DesignStyle, LeavesMessagesWithPlainWords) {
     };
     EXPECT_EQ(hint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons), 0);
     EXPECT_EQ(hint(QStyle::SH_MessageBox_TextInteractionFlags), Qt::NoTextInteraction);
+}
+
+TEST(DesignStyle, PaintsWhatIsNoControlAsItsBaseDoes) {
+    DesignStyle style;
+    const std::unique_ptr<QStyle> base(QStyleFactory::create("Fusion"));
+    QPushButton button("OK");
+    QRadioButton option("Rød");
+    QLineEdit field("12");
+    for (QWidget* widget :
+         {static_cast<QWidget*>(&button), static_cast<QWidget*>(&option), static_cast<QWidget*>(&field)}) {
+        widget->resize(80, 30);
+        widget->setStyle(base.get());
+        const QImage plain = widget->grab().toImage();
+        widget->setStyle(&style);
+        EXPECT_EQ(widget->grab().toImage(), plain) << widget->metaObject()->className();
+        widget->setStyle(nullptr);
+    }
 }
 
 TEST(AnswerBox, HasAnOutlineTwiceAsWideWhereTheFocusStands) {
@@ -924,9 +1065,18 @@ TEST(AnswerBox, IsBlackOnWhiteInTheDesignFontOnAnyPage) {
     page.setPalette(QPalette(QColor(20, 20, 20)));
     const AnswerBox box(&page);
     EXPECT_EQ(box.font().pixelSize(), 11);
-    for (const auto state : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        EXPECT_EQ(box.palette().color(state, QPalette::Base), kWhite);
-        EXPECT_EQ(box.palette().color(state, QPalette::Text), kBlack);
+    for (const auto& [text, base] : {std::pair{kWhite, kBlack}, {kBlack, kRed}, {kRed, kWhite}}) {
+        QPalette palette;
+        palette.setColor(QPalette::Text, text);
+        palette.setColor(QPalette::Base, base);
+        page.setPalette(palette);
+        const AnswerBox other(&page);
+        for (const auto state : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            for (const AnswerBox* each : {&box, &other}) {
+                EXPECT_EQ(each->palette().color(state, QPalette::Base), kWhite);
+                EXPECT_EQ(each->palette().color(state, QPalette::Text), kBlack);
+            }
+        }
     }
 }
 

@@ -207,12 +207,70 @@ void hangGraphs(Gallery& gallery) {
     }
 }
 
+/// A graph without a frame, of as many units as its scale has.
+GraphBox& hangSheet(Gallery& gallery, const std::string& title) {
+    auto& graph = gallery.hang<GraphBox>(title, 80, 60);
+    graph.Scale(0, 0, 80, 60);
+    return graph;
+}
+
+/// What stands just inside and just outside of where it is painted in another way.
+void hangBorderCases(Gallery& gallery) {
+    GraphBox& points = hangSheet(gallery, "graph with points by its borders");
+    for (const int width : {1, 2}) {
+        points.DrawWidth(width);
+        for (const double beyond : {-1.0, -0.5, 0.0, 0.25, 0.5, 0.75, 1.0, 2.0, 2.5}) {
+            points.PSet(80 + beyond, 30);
+            points.PSet(40, 60 + beyond, kRed);
+            points.PSet(-beyond, 20);
+            points.PSet(30, -beyond, kRed);
+        }
+    }
+    GraphBox& ticks = gallery.hang<GraphBox>("graph with ticks on its axes and by them", 80, 60);
+    ticks.Scale(-40, 30, 40, -30);
+    for (int quarters = -8; quarters <= 8; ++quarters) {
+        {
+            const Figure tick(ticks, Meaning::TickOfX);
+            ticks.PSet(10, quarters / 4.0);
+        }
+        const Figure tick(ticks, Meaning::TickOfY);
+        ticks.PSet(quarters / 4.0, 10);
+    }
+    GraphBox& behind = hangSheet(gallery, "graph with points and lines over curves");
+    behind.Line(0, 0, 40, 30, kRed);
+    behind.PSet(20, 15);
+    behind.Line(0, 30, 40, 0, kRed);
+    behind.Line(0, 15, 40, 15, kBlue);
+    behind.Line(40, 15, 60, 45, kRed);
+    behind.DrawWidth(2);
+    behind.Line(60, 45, 70, 50, kRed);
+    behind.DrawStyle(LineStyle::Dotted);
+    behind.Line(70, 50, 75, 10, kRed);
+    const auto hang = [&](const std::string& title, const QLineF& ends, double thickness) {
+        auto& line = gallery.hang<LineControl>(title, 10, 10);
+        line.setThickness(thickness);
+        line.setEnds(ends);
+    };
+    hang("line that falls by less than a pixel", {10, 20, 50, 21.2}, 1);
+    hang("line that is upright but for less than a pixel", {10, 20, 11.2, 60}, 1);
+    hang("line that falls by half its thickness", {10, 20, 50, 22}, 1.5);
+    hang("line that is upright but for half its thickness", {10, 20, 12, 60}, 1.5);
+    hang("line that falls by two pixels", {10, 20, 50, 22}, 1);
+    hang("line that is upright but for two pixels", {10, 20, 12, 60}, 1);
+    gallery.hang<Label>("label with a text too long for it", 30, 30).setCaption("123 456 789 = P");
+    Label& spaced = gallery.hang<Label>("running text with blanks, in the middle", 70, 60);
+    spaced.setWordWrap(true);
+    spaced.setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    spaced.setCaption("Find  den   mængde,  \n\nhvor de to   priser er ens.");
+}
+
 TEST(RecordedControls, ArePaintedAsIsWrittenDownAtEveryRatio) {
     Gallery gallery;
     hangLabels(gallery);
     hangLines(gallery);
     hangFields(gallery);
     hangGraphs(gallery);
+    hangBorderCases(gallery);
     for (const double zoom : {1.0, 1.25, 2.0}) {
         gallery.paintAll(zoom);
     }

@@ -131,6 +131,46 @@ TEST_F(AReader, IsToldTheWordsOfARoundThenTheFocus) {
     EXPECT_EQ(told()[0].first, QAccessible::ObjectShow);
     EXPECT_EQ(wordsOf(0), "FORKERT.");
     EXPECT_EQ(told()[1], Told(QAccessible::Focus, &second));
+    { const Voice::Round next; }
+    EXPECT_EQ(told().size(), 2U);
+}
+
+TEST_F(AReader, IsNotToldTwiceWhereTheFocusHasGone) {
+    tell(first, QAccessible::Focus);
+    told().clear();
+    {
+        const Voice::Round round;
+        second.setFocus();
+        tell(second, QAccessible::Focus);
+        Voice::instance().tellFocusAgain();
+    }
+    EXPECT_EQ(told(), std::vector{Told(QAccessible::Focus, &second)});
+}
+
+TEST_F(AReader, IsToldWithoutAWordOfAFieldThatHasNoName) {
+    first.setAccessibleName("");
+    tell(first, QAccessible::Focus);
+    told().clear();
+    {
+        const Voice::Round round;
+        Voice::instance().tellFocusAgain();
+        Voice::instance().say("FORKERT.");
+    }
+    ASSERT_EQ(told().size(), 1U);
+    EXPECT_EQ(wordsOf(0).trimmed(), "FORKERT.");
+}
+
+TEST_F(AReader, IsToldInTheNextRoundWhatHasComeIntoSightBeforeIt) {
+    label.show();
+    { const Voice::Round round; }
+    EXPECT_EQ(told(), std::vector{Told(QAccessible::ObjectShow, &label)});
+}
+
+TEST_F(AReader, IsNotToldInARoundWhatComesAndGoes) {
+    const Voice::Round round;
+    tell(label, QAccessible::ObjectShow);
+    tell(label, QAccessible::ObjectHide);
+    EXPECT_TRUE(told().empty());
 }
 
 TEST_F(AReader, IsToldNoFocusThatHasNotMoved) {
@@ -188,6 +228,10 @@ TEST_F(AReader, IsToldOfTextOnlyInTheFieldWithTheFocusAndOutsideARound) {
     tell(first, QAccessible::TextCaretMoved);
     EXPECT_EQ(told(), std::vector{Told(QAccessible::TextCaretMoved, &first)});
     told().clear();
+    second.setFocus();
+    tell(first, QAccessible::TextSelectionChanged);
+    EXPECT_TRUE(told().empty()) << "the focus has left it";
+    first.setFocus();
     {
         const Voice::Round round;
         tell(first, QAccessible::TextUpdated);
@@ -205,12 +249,30 @@ TEST_F(AReader, IsToldNothingWhereThereIsNoWindow) {
     EXPECT_TRUE(told().empty());
 }
 
+TEST(NobodysVoice, IsStillToldByQtOnceItHasPassedOnWhatItWasTold) {
+    AnswerBox field;
+    const auto installed = [] {
+        const auto handler = QAccessible::installUpdateHandler(nullptr);
+        QAccessible::installUpdateHandler(handler);
+        return handler;
+    };
+    Voice::instance().takeOver();
+    const auto its = installed();
+    ASSERT_NE(its, nullptr);
+    QAccessibleEvent event(&field, QAccessible::NameChanged);
+    its(&event);
+    EXPECT_EQ(installed(), its);
+    QAccessible::installUpdateHandler(nullptr);
+}
+
 TEST(NobodysVoice, IsNotHeard) { EXPECT_FALSE(Voice::instance().isHeard()); }
 
 TEST(AnAnnouncement, IsANotificationOnAStatusBarThatNobodySeesAndNeverTheSameTwiceInARow) {
     QWidget window;
+    Announcements::of(window);
     window.show();
     Announcements& announcements = Announcements::of(window);
+    test::settle();
     EXPECT_EQ(&Announcements::of(window), &announcements);
     EXPECT_FALSE(announcements.isVisible());
     const QAccessibleInterface* const bar = QAccessible::queryAccessibleInterface(&announcements);
@@ -222,6 +284,11 @@ TEST(AnAnnouncement, IsANotificationOnAStatusBarThatNobodySeesAndNeverTheSameTwi
     EXPECT_EQ(told->parent(), bar);
     EXPECT_NE(announcements.next("FORKERT."), first);
     EXPECT_EQ(told->text(QAccessible::Name), "FORKERT.") << "who has not asked yet still hears the old words";
+    for (int later = 0; later < 6; ++later) {
+        announcements.next("RIGTIGT.");
+    }
+    EXPECT_EQ(told->text(QAccessible::Name), "FORKERT.") << "of eight all can still be asked for";
+    EXPECT_EQ(announcements.next("RIGTIGT."), first);
 }
 
 }  // namespace
