@@ -96,7 +96,7 @@ private:
     int rounds_ = 0;
     QStringList words_;
     bool focusIsKeptBack_{};
-    bool focusIsDue_ = false;
+    bool focusIsDue_{};
     /// What a screen reader knows to have the focus.
     QPointer<QObject> focus_;
     /// All that was on the window when the last round ended.

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include <QChildEvent>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include "controls/label.h"
@@ -351,10 +350,8 @@ void GraphBox::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
-void GraphBox::mousePressEvent(QMouseEvent* event) {
-    if (!bare_) {
-        event->accept();
-    }
+void GraphBox::mousePressEvent(QMouseEvent* /*event*/) {
+    // What is not ignored does not reach the page.
 }
 
 Figure::Figure(GraphBox& box, Meaning meaning) : box_(box), isOutermost_(!box.meaning_) {

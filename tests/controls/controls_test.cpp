@@ -676,6 +676,8 @@ TEST(OptionButton, IsFilledWithItsBackColour) {
 
 TEST(LineControl, HasItsEndsAtTheCornersOfItsPlace) {
     LineControl line;
+    line.setPlace({10, 5, 30, 25});
+    EXPECT_EQ(line.ends(), QLineF(10, 5, 40, 30));
     line.setEnds({10, 30, 40, 5});
     EXPECT_EQ(line.place(), QRectF(10, 5, 30, 25));
     EXPECT_EQ(line.ends(), QLineF(10, 30, 40, 5));
