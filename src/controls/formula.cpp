@@ -24,11 +24,11 @@ constexpr double kLimitReach = 6;
 /// From a fraction without a bar to what stands beside it.
 constexpr double kBeside = 42;
 
-bool isLevel(const PageLine& line) { return std::abs(line.ends.dy()) < 1 && line.ends.dx() > kMeet; }
+bool isLevel(const PageLine& line) { return line.ends.dy() == 0 && line.ends.dx() > kMeet; }
 
-bool isSlanted(const PageLine& line) {
-    return std::abs(line.ends.dy()) >= 2 && std::abs(line.ends.dx()) >= 2;
-}
+bool isFalling(const PageLine& line) { return line.ends.dy() >= 2 && line.ends.dx() >= 2; }
+
+bool isRising(const PageLine& line) { return line.ends.dy() <= -2 && line.ends.dx() >= 2; }
 
 /// Takes out those that `isWanted`.
 template <class Wanted>
@@ -66,8 +66,7 @@ void silenceNamed(Parts& parts) {
 
 void makeRoot(Parts& parts, const PageLine& bar, const std::vector<PageLine>& lines) {
     const auto rise = std::find_if(lines.begin(), lines.end(), [&](const PageLine& line) {
-        return isSlanted(line) && QLineF(line.ends.p2(), bar.ends.p1()).length() < kMeet &&
-               line.ends.y1() > line.ends.y2();
+        return isRising(line) && QLineF(line.ends.p2(), bar.ends.p1()).length() < kMeet;
     });
     if (rise == lines.end()) {
         return;
@@ -85,10 +84,9 @@ void makeRoot(Parts& parts, const PageLine& bar, const std::vector<PageLine>& li
     root.text = single.match(root.text).hasMatch() ? "√" + root.text : "√(" + root.text + ")";
     root.label = nullptr;
     root.ink.setLeft(rise->ends.x1());
-    root.room.setLeft(rise->ends.x1());
     for (const PageLine& line : lines) {
         if (line.widget == bar.widget || line.widget == rise->widget ||
-            (isSlanted(line) && QLineF(line.ends.p2(), rise->ends.p1()).length() < kMeet)) {
+            (isFalling(line) && QLineF(line.ends.p2(), rise->ends.p1()).length() < kMeet)) {
             root.pieces.push_back(line.widget);
         }
     }
@@ -102,8 +100,8 @@ void addLimits(Parts& parts, const Label& sign) {
     const auto limits = [&](double from, double to) {
         return takenFrom(parts, [&](const Part& part) {
             const double height = (part.ink.center().y() - room.center().y()) / room.height();
-            return part.label != &sign && part.ink.left() > room.left() &&
-                   part.ink.left() < room.right() + kLimitReach && height > from && height < to;
+            return part.ink.left() > room.left() && part.ink.left() < room.right() + kLimitReach &&
+                   height > from && height < to;
         });
     };
     const Parts upper = limits(-0.7, -0.2);
@@ -145,7 +143,7 @@ QString besideBar(const QString& text) {
     return text.contains('/') && !text.startsWith('(') && !text.contains("brøk") ? "(" + text + ")" : text;
 }
 
-void addFraction(Parts& parts, Parts above, Parts below, const QRectF& bar, const QWidget* line) {
+void addFraction(Parts& parts, Parts above, Parts below, const QLineF& bar, const QWidget* line) {
     Part fraction = inOneRow(std::move(above));
     const Part denominator = inOneRow(std::move(below));
     fraction.text =
@@ -156,7 +154,7 @@ void addFraction(Parts& parts, Parts above, Parts below, const QRectF& bar, cons
     }
     absorb(fraction, denominator);
     const double half = 4 * scaleOf(fraction);
-    fraction.ink = QRectF(bar.left(), bar.center().y() - half, bar.width(), 2 * half);
+    fraction.ink = QRectF(bar.x1(), bar.center().y() - half, bar.dx(), 2 * half);
     parts.push_back(std::move(fraction));
 }
 
@@ -173,7 +171,7 @@ void makeFraction(Parts& parts, const PageLine& bar) {
         std::any_of(parts.begin(), parts.end(), isBelow)) {
         Parts above = takenFrom(parts, isAbove);
         Parts below = takenFrom(parts, isBelow);
-        addFraction(parts, std::move(above), std::move(below), {bar.ends.p1(), bar.ends.p2()}, bar.widget);
+        addFraction(parts, std::move(above), std::move(below), bar.ends, bar.widget);
     }
 }
 
@@ -192,30 +190,32 @@ bool isOver(const Part& upper, const Part& lower) {
            distance > kMeet && distance < 2 * kReach * scaleOf(upper);
 }
 
-void makeFractionsWithoutBar(Parts& parts) {
-    for (std::size_t i = 0; i < parts.size(); ++i) {
-        const auto lower = std::find_if(parts.begin(), parts.end(),
-                                        [&](const Part& other) { return isOver(parts[i], other); });
+/// Makes the first that there is. False if there is none.
+bool makeFractionWithoutBar(Parts& parts) {
+    for (const Part& upper : parts) {
+        const auto lower =
+            std::find_if(parts.begin(), parts.end(), [&](const Part& other) { return isOver(upper, other); });
         if (lower == parts.end()) {
             continue;
         }
-        const double middle = (parts[i].ink.bottom() + lower->ink.top()) / 2;
+        const double middle = (upper.ink.bottom() + lower->ink.top()) / 2;
         const bool isBesideSomething = std::any_of(parts.begin(), parts.end(), [&](const Part& other) {
             return other.label != nullptr && std::abs(other.ink.center().y() - middle) < kMeet &&
-                   std::abs(other.ink.right() - parts[i].room.left()) < kBeside;
+                   std::abs(other.ink.right() - upper.room.left()) < kBeside;
         });
         if (!isBesideSomething) {
             continue;
         }
-        const QRectF place = parts[i].label->place();
-        const Label* const upperLabel = parts[i].label;
+        const QRectF place = upper.label->place();
+        const Label* const upperLabel = upper.label;
         const Label* const lowerLabel = lower->label;
         Parts above = takenFrom(parts, [&](const Part& part) { return part.label == upperLabel; });
         Parts below = takenFrom(parts, [&](const Part& part) { return part.label == lowerLabel; });
-        addFraction(parts, std::move(above), std::move(below), {place.left(), middle, place.width(), 0},
+        addFraction(parts, std::move(above), std::move(below), {place.left(), middle, place.right(), middle},
                     nullptr);
-        i = static_cast<std::size_t>(-1);
+        return true;
     }
+    return false;
 }
 
 }  // namespace
@@ -224,16 +224,17 @@ std::vector<Part> combined(std::vector<Part> parts, std::vector<PageLine> lines)
     silenceNamed(parts);
     fillGaps(parts);
     addLimits(parts);
-    std::sort(lines.begin(), lines.end(),
-              [](const PageLine& one, const PageLine& other) { return one.ends.dx() < other.ends.dx(); });
-    for (const auto make : {0, 1}) {
-        for (const PageLine& line : lines) {
-            if (isLevel(line)) {
-                make == 0 ? makeRoot(parts, line, lines) : makeFraction(parts, line);
-            }
-        }
+    std::ranges::sort(lines, {}, [](const PageLine& line) { return line.ends.dx(); });
+    std::vector<PageLine> bars;
+    std::copy_if(lines.begin(), lines.end(), std::back_inserter(bars), isLevel);
+    for (const PageLine& bar : bars) {
+        makeRoot(parts, bar, lines);
     }
-    makeFractionsWithoutBar(parts);
+    for (const PageLine& bar : bars) {
+        makeFraction(parts, bar);
+    }
+    while (makeFractionWithoutBar(parts)) {
+    }
     std::erase_if(parts,
                   [](const Part& part) { return part.label != nullptr && part.label->isDecorative(); });
     for (Part& part : parts) {

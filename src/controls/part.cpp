@@ -1,6 +1,7 @@
 #include "controls/part.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include <QRegularExpression>
@@ -36,8 +37,7 @@ QString exponentText(const QString& text) {
 
 /// True if `inner` is written into the text of `host`, which begins further left.
 bool liesIn(const Part& inner, const Part& host) {
-    if (inner.label == nullptr || host.label == nullptr || &inner == &host || host.text == "∫" ||
-        inner.label->wordWrap()) {
+    if (host.text == "∫" || inner.label->wordWrap()) {
         return false;
     }
     const double x = inner.ink.left();
@@ -108,9 +108,8 @@ private:
         }
         const TextPlaces places(*parts_[host].label);
         // From the end, so that places before it stay.
-        std::sort(inner.begin(), inner.end(), [&](std::size_t one, std::size_t other) {
-            return places.at(parts_[one].ink).boundary > places.at(parts_[other].ink).boundary;
-        });
+        std::ranges::stable_sort(inner, std::greater{},
+                                 [&](std::size_t i) { return places.at(parts_[i].ink).boundary; });
         QString text = parts_[host].label->text();
         for (const std::size_t i : inner) {
             write(i);
@@ -164,16 +163,13 @@ Part partOf(const Label& label) {
 }
 
 Part inOneRow(std::vector<Part> parts) {
-    std::stable_sort(parts.begin(), parts.end(),
-                     [](const Part& one, const Part& other) { return one.ink.left() < other.ink.left(); });
+    std::ranges::stable_sort(parts, {}, [](const Part& part) { return part.ink.left(); });
     Part row = std::move(parts.front());
     Part last = row;
     for (std::size_t i = 1; i < parts.size(); ++i) {
         const Part& next = parts[i];
         const double gap = next.ink.left() - last.ink.right();
-        if (last.text.isEmpty() || next.text.isEmpty()) {
-            row.text += next.text;
-        } else if (gap < kTouch && isRaisedOver(next, last)) {
+        if (gap < kTouch && isRaisedOver(next, last)) {
             row.text = row.text.trimmed() + exponentText(next.text);
         } else {
             const QChar end = last.text.trimmed().back();

@@ -16,9 +16,9 @@ struct Part {
     /// Where its letters stand: from the top of the capitals to the baseline. Of a fraction, where those of
     /// a line beside it would.
     QRectF ink;
-    /// All the room that it takes.
+    /// All the room that its labels take.
     QRectF room;
-    /// In signs, to be put into words by `spoken`.
+    /// In signs, to be put into words by `spoken`. Never empty.
     QString text;
     /// The labels and lines that it is made of, a label first.
     std::vector<const QWidget*> pieces;
@@ -37,7 +37,8 @@ struct Part {
 void absorb(Part& whole, const Part& piece);
 
 /// Writes labels into the gaps of the texts that they lie in, and exponents over them, then tidies all texts:
-/// line ends between sentences are stops, wide gaps that are left are pauses.
+/// line ends between sentences are stops, wide gaps that are left are pauses. Precondition: each is a label
+/// that stands by itself.
 void fillGaps(std::vector<Part>& parts);
 
 /// The text of parts that stand beside each other, from the left. Precondition: there is one.

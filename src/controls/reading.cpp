@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <limits>
 #include <optional>
 #include <utility>
 
@@ -49,7 +50,7 @@ double widthOf(const QWidget& region) {
     if (dynamic_cast<const Control*>(&region) != nullptr) {
         return areaOf(region).width();
     }
-    double width = 0;
+    double width{};
     for (const QObject* const child : region.children()) {
         if (const auto* const control = dynamic_cast<const Control*>(child)) {
             width = std::max(width, control->place().right());
@@ -64,13 +65,13 @@ bool areSideBySide(const QRectF& one, const QRectF& other) {
 
 bool isMarker(const QString& text) {
     static const QRegularExpression marker("^\\w{1,2}[.)]$");
-    return text.size() <= 3 && marker.match(text).hasMatch();
+    return marker.match(text).hasMatch();
 }
 
 /// The strip of white that parts columns, while bands are added from the top.
 class Strip {
 public:
-    explicit Strip(double width) : isInked_(static_cast<std::size_t>(std::max(width, 1.0)) + 1, false) {}
+    explicit Strip(double width) : isInked_(static_cast<std::size_t>(width) + 1, false) {}
 
     void add(const QRectF& ink) {
         const auto at = [this](double x) {
@@ -80,23 +81,21 @@ public:
                   isInked_.begin() + at(std::max(std::ceil(ink.right()), std::floor(ink.left()))), true);
     }
 
-    /// The middle of the widest that has ink on both sides.
-    [[nodiscard]] std::optional<double> middle() const {
-        const double width = static_cast<double>(isInked_.size());
+    /// The end of the widest that has ink on both sides.
+    [[nodiscard]] std::optional<double> end() const {
+        const auto width = static_cast<double>(isInked_.size());
         std::optional<double> found;
         double widest = kColumnGap;
-        std::ptrdiff_t end = -1;
-        for (std::ptrdiff_t x = 0; x < std::ssize(isInked_); ++x) {
-            if (!isInked_[static_cast<std::size_t>(x)]) {
-                continue;
+        auto ink = std::find(isInked_.begin(), isInked_.end(), true);
+        while (ink != isInked_.end()) {
+            const auto white = std::find(ink, isInked_.end(), false);
+            ink = std::find(white, isInked_.end(), true);
+            const auto gap = static_cast<double>(std::distance(white, ink));
+            const auto x = static_cast<double>(std::distance(isInked_.begin(), ink));
+            if (gap >= widest && x > kFirstColumnEnd * width && x < kLastColumnStart * width) {
+                widest = gap;
+                found = x;
             }
-            const auto white = static_cast<double>(x - end - 1);
-            if (end >= 0 && white >= widest && static_cast<double>(x) > kFirstColumnEnd * width &&
-                static_cast<double>(x) < kLastColumnStart * width) {
-                widest = white;
-                found = static_cast<double>(x) - white / 2;
-            }
-            end = x;
         }
         return found;
     }
@@ -177,14 +176,12 @@ private:
 
     /// From the top, with white between them.
     [[nodiscard]] static std::vector<Items> bandsOf(Items items) {
-        std::stable_sort(items.begin(), items.end(),
-                         [](const Item& one, const Item& other) { return one.ink.top() < other.ink.top(); });
+        std::ranges::stable_sort(items, {}, [](const Item& item) { return item.ink.top(); });
         std::vector<Items> bands;
-        double bottom = 0;
+        double bottom = -std::numeric_limits<double>::infinity();
         for (Item& item : items) {
-            if (bands.empty() || item.ink.top() >= bottom) {
+            if (item.ink.top() >= bottom) {
                 bands.emplace_back();
-                bottom = item.ink.bottom();
             }
             bottom = std::max(bottom, item.ink.bottom());
             bands.back().push_back(std::move(item));
@@ -193,13 +190,13 @@ private:
     }
 
     void readColumns(std::vector<Items> bands) {
-        for (std::size_t first = 0; first < bands.size();) {
-            const auto [end, middle] = columnsFrom(bands, first);
+        for (std::size_t first = 0; first != bands.size();) {
+            const auto [end, rightColumn] = columnsFrom(bands, first);
             Items left;
             Items right;
-            for (std::size_t i = first; i < end; ++i) {
+            for (std::size_t i = first; i != end; ++i) {
                 for (Item& item : bands[i]) {
-                    (item.ink.center().x() < middle ? left : right).push_back(std::move(item));
+                    (item.ink.left() < rightColumn ? left : right).push_back(std::move(item));
                 }
             }
             readRows(std::move(left));
@@ -210,22 +207,22 @@ private:
 
     struct Columns {
         std::size_t end;
-        double middle;
+        double rightColumn;
     };
 
-    /// As many bands from `first` as can be read in columns; one alone, all left of its middle, if none can.
+    /// As many bands from `first` as can be read in columns; one alone, all of it left, if none can.
     [[nodiscard]] Columns columnsFrom(const std::vector<Items>& bands, std::size_t first) const {
-        Columns columns{first + 1, 2 * width_ + 1e6};
+        Columns columns{first + 1, std::numeric_limits<double>::infinity()};
         Strip strip(width_);
         Items items;
-        for (std::size_t i = first; i < bands.size() && !hasField(bands[i]); ++i) {
+        for (std::size_t i = first; i != bands.size() && !hasField(bands[i]); ++i) {
             for (const Item& item : bands[i]) {
                 strip.add(item.ink);
             }
             items.insert(items.end(), bands[i].begin(), bands[i].end());
-            const std::optional<double> middle = strip.middle();
-            if (middle.has_value() && isMoreThanARow(items, *middle)) {
-                columns = {i + 1, *middle};
+            const std::optional<double> end = strip.end();
+            if (end.has_value() && isMoreThanARow(items, *end)) {
+                columns = {i + 1, *end};
             }
         }
         return columns;
@@ -239,10 +236,10 @@ private:
     }
 
     /// Two things stand over each other on one side of the white.
-    [[nodiscard]] static bool isMoreThanARow(const Items& items, double middle) {
+    [[nodiscard]] static bool isMoreThanARow(const Items& items, double rightColumn) {
         return std::any_of(items.begin(), items.end(), [&](const Item& one) {
             return std::any_of(items.begin(), items.end(), [&](const Item& other) {
-                return (one.ink.center().x() < middle) == (other.ink.center().x() < middle) &&
+                return (one.ink.left() < rightColumn) == (other.ink.left() < rightColumn) &&
                        !areSideBySide(one.ink, other.ink);
             });
         });
@@ -258,9 +255,7 @@ private:
 
     /// What stands highest, with all that stands beside it or beside something in the same row.
     [[nodiscard]] static Items rowTakenFrom(Items& band) {
-        std::stable_sort(band.begin(), band.end(), [](const Item& one, const Item& other) {
-            return one.ink.center().y() < other.ink.center().y();
-        });
+        std::ranges::stable_sort(band, {}, [](const Item& item) { return item.ink.center().y(); });
         Items row;
         row.push_back(std::move(band.front()));
         band.erase(band.begin());
@@ -282,9 +277,7 @@ private:
     }
 
     void readRow(Items row) {
-        std::stable_sort(row.begin(), row.end(), [](const Item& one, const Item& other) {
-            return one.ink.left() < other.ink.left();
-        });
+        std::ranges::stable_sort(row, {}, [](const Item& item) { return item.ink.left(); });
         std::vector<Part> parts;
         for (Item& item : row) {
             if (!parts.empty() && (item.isBox() || isParted(parts.back(), item.part))) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include <QFontMetricsF>
 #include <QTextLayout>
@@ -38,12 +39,10 @@ TextExtent extentOf(const Label& label) {
     const auto before = std::find_if(text.begin(), text.end(), isInk) - text.begin();
     const auto behind = std::find_if(text.rbegin(), text.rend(), isInk) - text.rbegin();
     const double blank = metrics.horizontalAdvance(QChar(' '));
-    TextExtent extent;
-    extent.line = QRectF(left, top, width, height);
-    extent.ink =
-        QRectF(left, top + std::ceil(metrics.ascent()) - metrics.capHeight(), width, metrics.capHeight())
-            .adjusted(blank * static_cast<double>(before), 0, -blank * static_cast<double>(behind), 0);
-    return extent;
+    const double baseline = top + std::ceil(metrics.ascent());
+    return {QRectF(left + blank * static_cast<double>(before), baseline - metrics.capHeight(),
+                   width - blank * static_cast<double>(before + behind), metrics.capHeight()),
+            QRectF(left, top, width, height)};
 }
 
 TextPlaces::TextPlaces(const Label& label) : text_(label.text()) {
@@ -71,40 +70,23 @@ TextPlaces::TextPlaces(const Label& label) : text_(label.text()) {
 }
 
 TextPlaces::Gap TextPlaces::at(const QRectF& ink) const {
-    const auto line = std::min_element(lines_.begin(), lines_.end(), [&](const Line& one, const Line& other) {
-        const double y = ink.center().y() - pitch_ / 2;
-        return std::abs(one.top - y) < std::abs(other.top - y);
-    });
-    const std::vector<double>& edges = line->edges;
-    const auto nearest = [&](double x) {
-        return std::min_element(
-                   edges.begin(), edges.end(),
-                   [x](double one, double other) { return std::abs(one - x) < std::abs(other - x); }) -
-               edges.begin();
-    };
-    Gap gap;
-    gap.boundary = line->start + nearest(ink.left());
+    const double top = ink.center().y() - pitch_ / 2;
+    const Line& line =
+        *std::ranges::min_element(lines_, {}, [&](const Line& one) { return std::abs(one.top - top); });
+    const auto begin = line.edges.begin();
+    const auto nearest =
+        std::ranges::min_element(line.edges, {}, [&](double edge) { return std::abs(edge - ink.left()); });
+    const qsizetype boundary = line.start + (nearest - begin);
     // The letter that the middle stands over.
-    const auto over = std::upper_bound(edges.begin(), edges.end(), ink.center().x()) - edges.begin() - 1;
-    qsizetype first = line->start + std::clamp<qsizetype>(over, 0, static_cast<qsizetype>(edges.size()) - 1);
-    gap.first = first;
-    gap.length = 1;
-    const auto isBlank = [this](qsizetype i) {
-        return i >= 0 && i < text_.size() && text_[i].isSpace() && text_[i] != '\n';
-    };
-    gap.isBlank = isBlank(first);
-    if (gap.isBlank) {
-        while (isBlank(first - 1)) {
-            --first;
-        }
-        qsizetype end = gap.first;
-        while (isBlank(end)) {
-            ++end;
-        }
-        gap.first = first;
-        gap.length = end - first;
+    const auto over = std::upper_bound(begin, line.edges.end(), ink.center().x()) - begin - 1;
+    const auto letter = text_.begin() + line.start + std::max<qsizetype>(over, 0);
+    const auto isBlank = [](QChar sign) { return sign.isSpace() && sign != '\n'; };
+    const auto last = std::find_if_not(letter, text_.end(), isBlank);
+    if (last == letter) {
+        return {false, letter - text_.begin(), last - letter, boundary};
     }
-    return gap;
+    const auto first = std::find_if_not(std::make_reverse_iterator(letter), text_.rend(), isBlank).base();
+    return {true, first - text_.begin(), last - first, boundary};
 }
 
 }  // namespace tavrune

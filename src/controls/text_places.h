@@ -26,11 +26,12 @@ public:
 
     /// A place in the text: the run of blanks there, or the boundary between two letters.
     struct Gap {
-        bool isBlank = false;
-        qsizetype first = 0;
-        qsizetype length = 0;
+        bool isBlank;
+        qsizetype first;
+        /// Of the blanks, none where there is a letter.
+        qsizetype length;
         /// Nearest to the left end of what stands there.
-        qsizetype boundary = 0;
+        qsizetype boundary;
     };
 
     /// The place that is covered by `ink`, in the line that stands at its height.
@@ -38,8 +39,8 @@ public:
 
 private:
     struct Line {
-        double top = 0;
-        qsizetype start = 0;
+        double top;
+        qsizetype start;
         /// The left edges of its letters, and the right edge of the last.
         std::vector<double> edges;
     };

@@ -19,78 +19,23 @@
 #include "controls/label.h"
 #include "controls/line_control.h"
 #include "controls/panel.h"
+#include "controls/table_head.h"
 #include "numeric/draws.h"
 #include "support/form_driver.h"
+#include "support/sheet.h"
 
 namespace tavrune {
 namespace {
 
+using test::begin;
 using test::FormDriver;
-using Words = std::vector<std::string>;
-
-bool isInSight(const QWidget& widget) { return !widget.isHidden() && !isCovered(widget); }
-
-bool isPanel(const QWidget& widget) { return qobject_cast<const Panel*>(&widget) != nullptr; }
-
-Words wordsOf(const std::vector<Passage>& passages) {
-    Words words;
-    for (const Passage& passage : passages) {
-        words.push_back(passage.words.toStdString());
-    }
-    return words;
-}
-
-/// A panel to which labels and lines are added by their places.
-class Sheet {
-public:
-    Sheet() { panel_.setPlace({0, 0, 600, 400}); }
-
-    Label& add(const std::string& text, double left, double top, double size = 11) {
-        auto* const label = new Label(&panel_);
-        label->setPlace({left, top, 0, 0});
-        label->setTextSize(size);
-        label->setCaption(text);
-        label->setAutoSize(true);
-        return *label;
-    }
-
-    Label& addWrapped(const std::string& text, const QRectF& place) {
-        Label& label = add("", 0, 0);
-        label.setAutoSize(false);
-        label.setWordWrap(true);
-        label.setPlace(place);
-        label.setCaption(text);
-        return label;
-    }
-
-    Label& addCentred(const std::string& text, const QRectF& place) {
-        Label& label = add(text, 0, 0);
-        label.setAutoSize(false);
-        label.setPlace(place);
-        label.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-        return label;
-    }
-
-    LineControl& addLine(const QLineF& ends) {
-        auto* const line = new LineControl(&panel_);
-        line->setEnds(ends);
-        return *line;
-    }
-
-    template <class Widget>
-    Widget& addAt(const QRectF& place) {
-        auto* const widget = new Widget(&panel_);
-        widget->setPlace(place);
-        return *widget;
-    }
-
-    [[nodiscard]] std::vector<Passage> read() const { return passages(panel_, isInSight); }
-    [[nodiscard]] Words words() const { return wordsOf(read()); }
-    [[nodiscard]] Panel& panel() { return panel_; }
-
-private:
-    Panel panel_;
-};
+using test::inkOf;
+using test::isInSight;
+using test::isPanel;
+using test::kBit;
+using test::Sheet;
+using test::Words;
+using test::wordsOf;
 
 TEST(Reading, WritesNumbersIntoTheGapsOfAText) {
     Sheet sheet;
@@ -263,6 +208,210 @@ TEST(Reading, GoesIntoBoxesIfAsked) {
     EXPECT_EQ(wordsOf(passages(sheet.panel(), isInSight, isPanel)), (Words{"først", "så", "sidst"}));
     inner.hide();
     EXPECT_EQ(wordsOf(passages(sheet.panel(), isInSight, isPanel)), (Words{"først", "sidst"}));
+}
+
+TEST(Reading, PartsARowWhereTheWhiteIsTooWideForTheSizeOfItsLetters) {
+    const auto isOne = [](const std::string& left, const std::string& right, double gap, double size) {
+        Sheet sheet;
+        const Label& first = sheet.addAlong(left, 10, 50, size);
+        sheet.addAlong(right, inkOf(first).right() + gap, 50, size);
+        return sheet.words().size() == 1;
+    };
+    const auto expectLongest = [&](const std::string& left, const std::string& right, double gap,
+                                   double size) {
+        EXPECT_TRUE(isOne(left, right, gap, size)) << left << right << gap;
+        EXPECT_FALSE(isOne(left, right, gap + kBit, size)) << left << right << gap;
+    };
+    expectLongest("a", "b", 28, 11);
+    expectLongest("a", "b", 56, 22);
+    // A sign at either end joins what is farther apart.
+    expectLongest("a =", "b", 84, 11);
+    expectLongest("a", "= b", 84, 11);
+    expectLongest("a =", "b", 168, 22);
+}
+
+TEST(Reading, PartsARowAtWhatStandsBetweenTheMiddlesOfItsTexts) {
+    Sheet sheet;
+    const Label& left = sheet.addAlong("en", 100, 50);
+    const Label& right = sheet.addAlong("to", inkOf(left).right() + 10, 50);
+    auto& button = sheet.addAt<Button>({0, 0, 4, 20});
+    const auto isParted = [&](double middle, double top) {
+        button.setPlace({middle - 2, top, 4, 20});
+        return sheet.words().size() == 2;
+    };
+    const double leftMiddle = inkOf(left).center().x();
+    const double rightMiddle = inkOf(right).center().x();
+    EXPECT_FALSE(isParted(leftMiddle, 40));
+    EXPECT_TRUE(isParted(leftMiddle + kBit, 40));
+    EXPECT_TRUE(isParted(rightMiddle - kBit, 40));
+    EXPECT_FALSE(isParted(rightMiddle, 40));
+    const double between = (leftMiddle + rightMiddle) / 2;
+    EXPECT_FALSE(isParted(between, inkOf(left).top() - 20)) << "over the row";
+    EXPECT_TRUE(isParted(between, inkOf(left).top() - 20 + kBit));
+    EXPECT_TRUE(isParted(between, inkOf(left).bottom() - kBit));
+    EXPECT_FALSE(isParted(between, inkOf(left).bottom())) << "under the row";
+}
+
+TEST(Reading, SaysVerdictsAndParagraphsApartFromWhatStandsBesideThem) {
+    Sheet sheet;
+    Label& left = sheet.addAlong("FORKERT", 10, 50);
+    const double beside = inkOf(left).right() + 4;
+    Label& right = sheet.addAlong("igen", beside, 50);
+    EXPECT_EQ(sheet.words(), Words{"FORKERT igen"});
+    left.setVerdict(true);
+    EXPECT_EQ(sheet.words(), (Words{"FORKERT", "igen"}));
+    left.setVerdict(false);
+    right.setVerdict(true);
+    EXPECT_EQ(sheet.words(), (Words{"FORKERT", "igen"}));
+    right.hide();
+    sheet.addWrapped("et afsnit", {beside, 43, 100, 14});
+    EXPECT_EQ(sheet.words(), (Words{"FORKERT", "et afsnit"}));
+    left.setCaption("1)");
+    begin(left, beside - 20, 50);
+    EXPECT_EQ(sheet.words(), Words{"1) et afsnit"});
+    left.setCaption("abc)");
+    EXPECT_EQ(sheet.words(), (Words{"abc parentes slut", "et afsnit"}));
+}
+
+/// "a" over "b" in a left column, "c" over "d" in a right one, whose letters begin there.
+class ReadingOfColumns : public testing::Test {
+protected:
+    /// Ink that is as wide as its place.
+    static void addColumn(Sheet& sheet, const std::string& upper, const std::string& lower, double left,
+                          double right) {
+        sheet.addWrapped(upper, {left, 40, right - left, 10});
+        sheet.addWrapped(lower, {left, 60, right - left, 10});
+    }
+
+    [[nodiscard]] static bool areColumns(double width, double leftEnd, double rightStart) {
+        Sheet sheet(width);
+        addColumn(sheet, "a", "b", 10, leftEnd);
+        addColumn(sheet, "c", "d", rightStart, rightStart + 20);
+        return sheet.words() == Words{"a", "b", "c", "d"};
+    }
+};
+
+TEST_F(ReadingOfColumns, TakesThemForColumnsWhereWhitePartsThem) {
+    EXPECT_TRUE(areColumns(600, 292, 300));
+    EXPECT_FALSE(areColumns(600, 292 + kBit, 300)) << "too narrow";
+    EXPECT_FALSE(areColumns(600, 292, 300 - kBit)) << "too narrow";
+}
+
+TEST_F(ReadingOfColumns, TakesThemForColumnsInTheMiddleOfTheRegion) {
+    // 0.3 and 0.75 of 333 lie just under these.
+    EXPECT_TRUE(areColumns(332, 50, 100));
+    EXPECT_FALSE(areColumns(332, 50, 99));
+    EXPECT_TRUE(areColumns(332, 50, 249));
+    EXPECT_FALSE(areColumns(332, 50, 250));
+}
+
+TEST_F(ReadingOfColumns, PartsThemAtTheWidestWhite) {
+    Sheet sheet;
+    addColumn(sheet, "a", "b", 10, 190);
+    addColumn(sheet, "c", "d", 200, 300);
+    addColumn(sheet, "e", "f", 320, 380);
+    addColumn(sheet, "g", "h", 390, 500);
+    EXPECT_EQ(sheet.words(), (Words{"a", "c", "b", "d", "e", "g", "f", "h"}));
+}
+
+TEST_F(ReadingOfColumns, TakesOneRowForNoColumns) {
+    Sheet sheet;
+    sheet.addAlong("a", 278, 50);
+    sheet.addAlong("b", 300, 50);
+    EXPECT_EQ(sheet.words(), Words{"a, b"});
+}
+
+TEST_F(ReadingOfColumns, TakesRowsThatTouchForMoreThanOne) {
+    Sheet sheet;
+    sheet.addWrapped("a", {10, 40, 280, 10});
+    sheet.addWrapped("b", {10, 50, 280, 10});
+    sheet.addWrapped("c", {300, 40, 100, 20});
+    sheet.addWrapped("d", {300, 60, 100, 10});
+    EXPECT_EQ(sheet.words(), (Words{"a", "b", "c", "d"}));
+}
+
+TEST_F(ReadingOfColumns, BeginsThemUnderATitleThatTouchesThem) {
+    Sheet sheet;
+    sheet.addWrapped("titel", {10, 20, 500, 20});
+    addColumn(sheet, "a", "b", 10, 280);
+    addColumn(sheet, "c", "d", 300, 400);
+    EXPECT_EQ(sheet.words(), (Words{"titel", "a", "b", "c", "d"}));
+}
+
+TEST_F(ReadingOfColumns, ReadsRowsAcrossBesideFieldsAndTables) {
+    const auto areAcross = [](const QRectF& place, bool isTable) {
+        Sheet sheet;
+        addColumn(sheet, "a", "b", 10, 280);
+        addColumn(sheet, "c", "d", 300, 400);
+        if (isTable) {
+            sheet.addAt<TableHead>(place);
+        } else {
+            sheet.addAt<AnswerBox>(place);
+        }
+        return sheet.words() == Words{"a", "c", "b", "d"};
+    };
+    for (const bool isTable : {false, true}) {
+        EXPECT_TRUE(areAcross({450, 40, 20, 30}, isTable));
+        // Beside one of two rows is enough, over and under them is not.
+        EXPECT_FALSE(areAcross({450, 20, 20, 20}, isTable));
+        EXPECT_TRUE(areAcross({450, 20, 20, 20 + kBit}, isTable));
+        EXPECT_TRUE(areAcross({450, 70 - kBit, 20, 20}, isTable));
+        EXPECT_FALSE(areAcross({450, 70, 20, 20}, isTable));
+    }
+}
+
+TEST(Reading, ReadsASmallParagraphAsOneOfItsRow) {
+    const auto wordsWith = [](double height) {
+        Sheet sheet;
+        sheet.addAlong("øverst", 10, 15);
+        sheet.addAlong("nederst", 10, 27);
+        sheet.addWrapped("afsnit", {60, 10, 100, height});
+        return sheet.words();
+    };
+    EXPECT_EQ(wordsWith(22).back(), "afsnit");
+    EXPECT_EQ(wordsWith(22 + kBit), (Words{"øverst", "afsnit", "nederst"}));
+}
+
+TEST(Reading, ReadsAMarkerBeforeTheParagraphThatItStandsBeside) {
+    Sheet sheet;
+    sheet.addWrapped("afsnit", {60, 10, 100, 48});
+    sheet.addAlong("1)", 40, 44);
+    EXPECT_EQ(sheet.words(), Words{"1) afsnit"});
+}
+
+TEST(Reading, TakesForARowWhatSharesTwoFifthsOfItsHeight) {
+    const auto wordsWith = [](double top, double height) {
+        Sheet sheet;
+        sheet.addWrapped("højre", {200, 10, 100, 10});
+        sheet.addWrapped("venstre", {10, top, 100, height});
+        return sheet.words();
+    };
+    EXPECT_EQ(wordsWith(16, 10), (Words{"venstre", "højre"}));
+    EXPECT_EQ(wordsWith(16 + kBit, 10), (Words{"højre", "venstre"}));
+    // Of the smaller of two heights.
+    EXPECT_EQ(wordsWith(16, 20), (Words{"venstre", "højre"}));
+    EXPECT_EQ(wordsWith(16 + kBit, 20), (Words{"højre", "venstre"}));
+}
+
+TEST(Reading, ReadsBoxesOverATextAfterIt) {
+    Sheet sheet;
+    const auto addBox = [&sheet](const std::string& text, const QRectF& place) -> Panel& {
+        auto& box = sheet.addAt<Panel>(place);
+        auto* const label = new Label(&box);
+        label->setPlace({0, 0, 80, 14});
+        label->setCaption(text);
+        return box;
+    };
+    addBox("en", {10, 10, 100, 40});
+    addBox("to", {50, 30, 100, 40});
+    sheet.addAlong("tre", 10, 90);
+    const auto words = [&sheet] {
+        return wordsOf(passages(
+            sheet.panel(), [](const QWidget& widget) { return !widget.isHidden(); }, isPanel));
+    };
+    EXPECT_EQ(words(), (Words{"en", "to", "tre"})) << "over each other only";
+    sheet.addAlong("fire", 60, 20);
+    EXPECT_EQ(words(), (Words{"fire", "to", "tre", "en"}));
 }
 
 /// A form with its help open and all of it shown.
