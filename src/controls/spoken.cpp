@@ -15,9 +15,9 @@ namespace {
 enum class Kind { Operand, Word, Prose, Sign, Power, Opening, Closing, Mark };
 
 struct Token {
-    Kind kind = Kind::Mark;
+    Kind kind;
     QString text;
-    bool followsBlank = false;
+    bool followsBlank;
     /// Said in place of the text, as words of their own; the text itself as it stands, if null.
     QString words;
 };
@@ -98,14 +98,13 @@ bool belongsToFormula(const QString& word) {
 bool isName(const QString& word) {
     static const QRegularExpression name(
         "^([A-Za-hj-z](\\d+[a-z]?)?|[A-Z]{2,4}\\d?|[PQE]([abp]|max|min|total)[a-z\\d]?|d[A-Z]{1,3})$");
-    constexpr int kLongest = 8;
-    return word.size() <= kLongest && name.match(word).hasMatch();
+    return name.match(word).hasMatch();
 }
 
 /// Of two names without a sign between them, as in "aQ" and "a1Q": the length of the first. 0 if it is one.
 qsizetype firstOfTwoNames(const QString& word) {
     static const QRegularExpression product("^([abc]\\d?)[A-Z]\\d?$");
-    return word.size() > 4 ? 0 : product.match(word).capturedLength(1);
+    return product.match(word).capturedLength(1);
 }
 
 class Reader {
@@ -127,11 +126,12 @@ public:
 private:
     const QString& text_;
     qsizetype at_ = 0;
-    bool blank_ = true;
+    bool blank_{};
     Tokens tokens_;
 
     [[nodiscard]] QChar peek(qsizetype ahead) const {
-        return at_ + ahead < text_.size() ? text_[at_ + ahead] : QChar();
+        const QStringView rest = QStringView(text_).mid(at_ + ahead);
+        return rest.isEmpty() ? QChar() : rest.front();
     }
 
     void take(Kind kind, qsizetype length, const QString& words = {}) {
@@ -150,7 +150,8 @@ private:
             readNumber();
         } else if (first.isLetter()) {
             readWord();
-        } else if (signWords().contains(text_.mid(at_, 2)) && at_ + 1 < text_.size()) {
+        } else if (signWords().contains(text_.mid(at_, 2))) {
+            // The last one may stand alone.
             take(Kind::Sign, 2);
         } else if (signWords().contains(first)) {
             take(Kind::Sign, 1);
@@ -209,7 +210,7 @@ public:
     explicit Speaker(Tokens tokens) : tokens_(std::move(tokens)) {}
 
     [[nodiscard]] QString words() {
-        for (std::size_t i = 0; i < tokens_.size(); ++i) {
+        for (std::size_t i = 0; i != tokens_.size(); ++i) {
             if (tokens_[i].kind == Kind::Sign && isSign(i)) {
                 tokens_[i].words = signWords().value(tokens_[i].text);
             }
@@ -234,6 +235,7 @@ public:
 private:
     Tokens tokens_;
 
+    /// False before the first and behind the last.
     [[nodiscard]] bool is(std::size_t i, std::initializer_list<Kind> kinds) const {
         return i < tokens_.size() && std::find(kinds.begin(), kinds.end(), tokens_[i].kind) != kinds.end();
     }
@@ -249,33 +251,33 @@ private:
 
     /// The comma behind "brøk slut".
     [[nodiscard]] bool isFractionEnd(std::size_t comma) const {
-        return comma > 0 && is(comma - 1, {Kind::Word}) && tokens_[comma - 1].text == "slut";
+        return is(comma - 1, {Kind::Word}) && tokens_[comma - 1].text == "slut";
     }
 
     /// As a sign of mathematics, unlike the hyphen of a word and the bar of "og/eller".
     [[nodiscard]] bool isSign(std::size_t i) const {
         const QString& text = tokens_[i].text;
-        const bool isFirst = i == 0;
+        const bool isAlone = tokens_.size() == 1;
         const bool isLast = i + 1 == tokens_.size();
         const bool hasNext = beginsOperand(i + 1) || is(i + 1, {Kind::Sign});
         if (text == "/") {
-            return isFirst ? isLast : (endsOperand(i - 1) || isFractionEnd(i - 1)) && hasNext;
+            return isAlone || ((endsOperand(i - 1) || isFractionEnd(i - 1)) && hasNext);
         }
         if (text == "-" || text == "–") {
-            if (!isFirst && !tokens_[i].followsBlank && is(i - 1, {Kind::Prose})) {
+            if (!tokens_[i].followsBlank && is(i - 1, {Kind::Prose})) {
                 return false;
             }
-            return isLast ? isFirst || endsOperand(i - 1) || is(i - 1, {Kind::Sign}) : hasNext;
+            return isLast ? isAlone || endsOperand(i - 1) || is(i - 1, {Kind::Sign}) : hasNext;
         }
         if (text == "<" || text == ">" || text == "*") {
-            return hasNext || (!isFirst && endsOperand(i - 1)) || (isFirst && isLast);
+            return isAlone || hasNext || endsOperand(i - 1);
         }
         return true;
     }
 
     void sayBrackets() {
         std::vector<std::size_t> open;
-        for (std::size_t i = 0; i < tokens_.size(); ++i) {
+        for (std::size_t i = 0; i != tokens_.size(); ++i) {
             if (tokens_[i].kind == Kind::Opening) {
                 open.push_back(i);
             } else if (tokens_[i].kind == Kind::Closing && !open.empty()) {
@@ -305,17 +307,15 @@ private:
         bool hasProse = false;
         bool hasSign = false;
         bool isPoint = false;
-        bool isMade = false;
     };
 
     [[nodiscard]] Content contentOf(std::size_t opening, std::size_t closing) const {
         Content content;
         int depth = 0;
-        for (std::size_t i = opening + 1; i < closing; ++i) {
+        for (std::size_t i = opening + 1; i != closing; ++i) {
             const Token& token = tokens_[i];
             depth += token.kind == Kind::Opening ? 1 : token.kind == Kind::Closing ? -1 : 0;
             content.hasProse = content.hasProse || token.kind == Kind::Prose;
-            content.isMade = content.isMade || token.kind == Kind::Word;
             content.hasSign = content.hasSign || (token.kind == Kind::Sign && i > opening + 1);
             content.isPoint = content.isPoint ||
                               (depth == 0 && (token.text == ";" || (token.text == "," && !endsFraction(i))));
@@ -355,13 +355,13 @@ private:
 
     /// "4(-3)" would be a difference without its brackets.
     [[nodiscard]] bool isNegativeFactor(std::size_t opening) const {
-        return opening > 0 && endsOperand(opening - 1) && is(opening + 1, {Kind::Sign});
+        return endsOperand(opening - 1) && is(opening + 1, {Kind::Sign});
     }
 
     /// "styk (Q)", but not "brøk: (-4)*6".
     [[nodiscard]] bool belongsToProse(std::size_t opening, std::size_t closing) const {
-        return opening > 0 && (tokens_[opening - 1].kind == Kind::Prose ||
-                               (tokens_[opening - 1].kind == Kind::Mark && !is(closing + 1, {Kind::Sign})));
+        return is(opening - 1, {Kind::Prose}) ||
+               (is(opening - 1, {Kind::Mark}) && !is(closing + 1, {Kind::Sign}));
     }
 
     void wrap(std::size_t opening, std::size_t closing) {
@@ -383,7 +383,7 @@ private:
     void sayPoint(std::size_t opening, std::size_t closing) {
         tokens_[opening].words = "";
         tokens_[closing].words = "";
-        for (std::size_t i = opening + 1; i < closing; ++i) {
+        for (std::size_t i = opening + 1; i != closing; ++i) {
             if (tokens_[i].text == ";") {
                 tokens_[i].words = "semikolon";
             } else if (tokens_[i].text == "," && !endsFraction(i)) {

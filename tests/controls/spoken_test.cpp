@@ -69,6 +69,66 @@ INSTANTIATE_TEST_SUITE_P(
                     Line{"'Rødder' eller 'Q'", "'Rødder' eller 'Q'"}, Line{"&Næste side >", "&Næste side >"},
                     Line{"1.-koordinatet", "1.-koordinatet"}, Line{"", ""}, Line{"   ", ""}));
 
+INSTANTIATE_TEST_SUITE_P(Names, Spoken,
+                         testing::Values(Line{"Qα", "Q alfa"}, Line{"MC = P'", "MC lig med P mærke"},
+                                         Line{"P′ = 2", "P mærke lig med 2"}, Line{"'Q'", "'Q'"},
+                                         Line{"Q'", "Q mærke"}, Line{"Qtotal1 - 2", "Qtotal1 minus 2"},
+                                         Line{"a1Q2 - c", "a1 Q2 minus c"}, Line{"abc1Q-2", "abc1Q-2"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    SignsBetween, Spoken,
+    testing::Values(Line{"Q>=0", "Q større end eller lig med 0"}, Line{"2=", "2 lig med"}, Line{"; 2", "; 2"},
+                    Line{"a -", "a minus"}, Line{"a + -", "a plus minus"}, Line{"- a", "minus a"},
+                    Line{"pris - 2", "pris minus 2"}, Line{"pris-2", "pris-2"}, Line{"pris -", "pris -"},
+                    Line{"- pris", "- pris"}, Line{"– 2", "minus 2"}, Line{"/ 2", "/ 2"}, Line{"2 /", "2 /"},
+                    Line{"pris / 2", "pris / 2"}, Line{"2/pris", "2/pris"}, Line{"2 <", "2 mindre end"},
+                    Line{"< 2", "mindre end 2"}, Line{"pris <", "pris <"}, Line{"*", "gange"},
+                    Line{"2 *", "2 gange"}, Line{"pris > pris", "pris > pris"},
+                    Line{"4/-2", "4 divideret med minus 2"}, Line{"4*-2", "4 gange minus 2"},
+                    Line{"pris * -2", "pris gange minus 2"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Parts, Spoken,
+    testing::Values(Line{"- brøk: 1 over 2", "minus brøk: 1 over 2"},
+                    Line{"- kvadratroden af 2", "minus kvadratroden af 2"},
+                    Line{"- integralet af P", "minus integralet af P"}, Line{"- over 2", "- over 2"},
+                    Line{"brøk slut -", "brøk slut minus"}, Line{"over -", "over -"},
+                    Line{"brøk slut/3", "brøk slut divideret med 3"},
+                    Line{"brøk slut, / 3", "brøk slut, divideret med 3"}, Line{"over / 3", "over / 3"},
+                    Line{"over, / 3", "over, / 3"}, Line{", / 3", ", / 3"},
+                    Line{"slut, / 3", "slut, divideret med 3"},
+                    Line{"brøk: (-4)*6 over 2", "brøk: minus 4 gange 6 over 2"},
+                    Line{"(brøk: 1 over 2, brøk slut,)²",
+                         "parentes brøk: 1 over 2, brøk slut, parentes slut i anden"},
+                    Line{"(brøk: 1 over 2, brøk slut,)·3", "brøk: 1 over 2, brøk slut, gange 3"},
+                    Line{"(brøk: 1 over 2, brøk slut, ; 3)", "brøk: 1 over 2, brøk slut, semikolon 3"},
+                    Line{"(brøk: 1 over 2, brøk slut, , 3)", "brøk: 1 over 2, brøk slut, komma 3"}));
+
+INSTANTIATE_TEST_SUITE_P(BracketsInBrackets, Spoken,
+                         testing::Values(Line{"((1;2)-3)·2",
+                                              "parentes 1 semikolon 2 minus 3 parentes slut gange 2"},
+                                         Line{"((1)-2;3)", "1 minus 2 semikolon 3"},
+                                         Line{"(4,5)·2", "4,5 gange 2"}, Line{"(4.5, 3)", "4.5 komma 3"},
+                                         Line{"(5, 3)", "5 komma 3"}, Line{"(1,;2)", "1 komma semikolon 2"}));
+
+INSTANTIATE_TEST_SUITE_P(BracketsAlone, Spoken,
+                         testing::Values(Line{"()", "()"}, Line{"(2", "parentes 2"},
+                                         Line{"(2 +", "parentes 2 plus"}, Line{"2 + (", "2 plus"},
+                                         Line{") + 2", "parentes slut plus 2"},
+                                         Line{"2 )", "2 parentes slut"}, Line{"2+)", "2 plus parentes slut"},
+                                         Line{"+A)", "plus A)"}, Line{"(grønt)", "(grønt)"},
+                                         Line{"(grønt Q)", "(grønt Q)"}, Line{": (Q)", ": (Q)"},
+                                         Line{"(3)²", "parentes 3 parentes slut i anden"},
+                                         Line{"(3)a²", "3 a i anden"}, Line{"(a²)", "a i anden"}));
+
+INSTANTIATE_TEST_SUITE_P(Functions, Spoken,
+                         testing::Values(Line{"P(a+b)", "P af parentes a plus b parentes slut"},
+                                         Line{"2·P(w)", "2 gange P af w"}, Line{"-P(w)", "minus P af w"},
+                                         Line{"2P(w)", "2 P w"}, Line{"P1(w)", "P1 w"}, Line{"a(b)", "a b"},
+                                         Line{"P (w)", "P w"},
+                                         Line{"d(a+b)", "d parentes a plus b parentes slut"},
+                                         Line{"P(-2)", "P af minus 2"}));
+
 /// Texts that nobody would write, of all signs that are looked at.
 QString randomText(std::mt19937& random) {
     static const QString letters = "QPabdinoxæ019,.;:()+-*/=<>²³ⁿ½√∫αω'·≤≠∞\"  \n\t";
