@@ -303,6 +303,11 @@ TEST_F(ReadingOfColumns, TakesThemForColumnsInTheMiddleOfTheRegion) {
     EXPECT_FALSE(areColumns(332, 50, 99));
     EXPECT_TRUE(areColumns(332, 50, 249));
     EXPECT_FALSE(areColumns(332, 50, 250));
+    // 0.3 and 0.75 of 340 are these.
+    EXPECT_FALSE(areColumns(339, 50, 102));
+    EXPECT_TRUE(areColumns(339, 50, 103));
+    EXPECT_TRUE(areColumns(339, 50, 254));
+    EXPECT_FALSE(areColumns(339, 50, 255));
 }
 
 TEST_F(ReadingOfColumns, PartsThemAtTheWidestWhite) {
