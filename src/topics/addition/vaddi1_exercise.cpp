@@ -1,5 +1,8 @@
 #include "topics/addition/vaddi1_exercise.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "numeric/arithmetic.h"
 #include "numeric/rounding.h"
 
@@ -129,8 +132,9 @@ void drawTask(Vaddi1State& s, Draws& draws) {
 bool isOneSegment(const Vaddi1State& s) {
     const double start1 = s.function1.intercept * factorOf(s.direction);
     const double start2 = s.function2.intercept * factorOf(s.direction);
-    return start1 == start2 || (s.function1.slope == 0 && start1 <= start2) ||
-           (s.function2.slope == 0 && start2 <= start1);
+    const double slopeOfOuter =
+        std::min(std::pair{start1, s.function1.slope}, std::pair{start2, s.function2.slope}).second;
+    return start1 == start2 || slopeOfOuter == 0;
 }
 
 bool hasUpperEnd(const Vaddi1State& s) {
@@ -145,7 +149,7 @@ void solve(Vaddi1State& s) {
     }
     if (hasUpperEnd(s)) {
         const TableCell& last = s.tableQtotal[Vaddi1State::kLastRow];
-        s.upperEnd = last.isEmpty() || last.isBlank() ? s.tableQtotal[Vaddi1State::kMiddleRow] : last;
+        s.upperEnd = last.isBlank() ? s.tableQtotal[Vaddi1State::kMiddleRow] : last;
         s.upperEndAsked = true;
     }
     s.firstSegment = rounded(s.firstSegment);

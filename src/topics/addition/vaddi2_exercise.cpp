@@ -47,9 +47,7 @@ std::vector<Start> startsOf(const Vaddi2State& s) {
     for (const Piece& function : s.functions) {
         all.push_back({function.intercept, isLevel(function)});
     }
-    std::sort(all.begin(), all.end(), [factor = factorOf(s.direction)](const Start& one, const Start& other) {
-        return factor * one.price < factor * other.price;
-    });
+    std::ranges::sort(all, {}, [&s](const Start& start) { return factorOf(s.direction) * start.price; });
     std::vector<Start> starts;
     for (const Start& start : all) {
         if (!starts.empty() && starts.back().price == start.price) {

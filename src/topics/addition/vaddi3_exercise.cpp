@@ -1,6 +1,8 @@
 #include "topics/addition/vaddi3_exercise.h"
 
 #include <algorithm>
+#include <functional>
+#include <limits>
 #include <optional>
 
 #include "numeric/arithmetic.h"
@@ -40,8 +42,7 @@ private:
 const Carried kNone = 0.0F;
 
 /// Stands for any quantity. It is shown as "oo", and so is its sum with another quantity.
-const Carried kUnboundedQuantity = 1000.0F;
-constexpr double kLargestShown = 999;
+const Carried kUnboundedQuantity = std::numeric_limits<float>::infinity();
 
 /// Nothing where a function does not exist.
 using Quantity = std::optional<Carried>;
@@ -53,7 +54,7 @@ TableCell shown(const Quantity& quantity) {
     if (!quantity) {
         return TableCell::blank();
     }
-    return quantity->value() > kLargestShown ? TableCell::unbounded() : RoundUp2(quantity->value());
+    return *quantity == kUnboundedQuantity ? TableCell::unbounded() : RoundUp2(quantity->value());
 }
 
 bool haveCommonPart(Parts one, Parts other) {
@@ -94,9 +95,8 @@ bool drawPartBefore(Vaddi3State& s, Draws& draws) {
     s.intercept1Before = Int(draws.Rnd() * 5) + 5;
     s.slope1Before = startsFlat(s) ? flatSlope(draws) : Int(draws.Rnd() * -3) - 2;
     const float zero = divide(-s.intercept1Before, s.slope1Before);
-    const float nearest = startsFlat(s) ? 2 : 1;
     const float farthest = s.kinkKind == KinkKind::JumpDown ? 50 : 8;
-    if (zero <= nearest || zero > farthest) {
+    if (zero <= 1 || zero > farthest) {
         return false;
     }
     s.kinkQuantity = Int(draws.Rnd() * (zero - 1)) + 1;
@@ -126,7 +126,7 @@ bool drawPartAfter(Vaddi3State& s, Draws& draws) {
             return true;
     }
     s.kinkPriceAfter = drop + s.intercept1After;
-    return s.isJumpUp() || s.kinkPriceAfter > 0.5;
+    return s.kinkPriceAfter > 0;
 }
 
 void drawTask(Vaddi3State& s, Draws& draws) {
@@ -140,23 +140,24 @@ void drawTask(Vaddi3State& s, Draws& draws) {
 
 // The sum.
 
-/// Returns the quantity of function 1 before the kink, 0 for a price that this part does not have. At a jump
-/// down it has the prices that are jumped over.
+/// Returns the quantity of function 1 before the kink, 0 for a price below this part. At a jump down it has
+/// the prices that are jumped over. It counts only where function 1 does not start below the price.
 Carried quantityBefore(const Vaddi3State& s, Carried price) {
-    const Carried onLine = (price - s.intercept1Before) / s.slope1Before;
     const Carried kink = s.kinkPriceBefore;
-    if (price == kink || (price > s.kinkPriceAfter && price < kink)) {
-        return s.kinkQuantity;
+    if (price > kink) {
+        return (price - s.intercept1Before) / s.slope1Before;
     }
-    return price < kink || onLine < kNone ? kNone : onLine;
+    return price == kink || price > s.kinkPriceAfter ? s.kinkQuantity : kNone;
 }
 
 /// Returns the quantity of function 1 after the kink, 0 for a price that this part does not have, and for the
 /// price at which it meets the part before.
 Carried quantityAfter(const Vaddi3State& s, Carried price) {
+    // Kept (vaddi3-zero-slope): a slope of 0 fails for every price, also for one that this part does not
+    // have.
     const Carried onLine = (price - s.intercept1After) / s.slope1After;
     const bool isMeeting = price == s.kinkPriceBefore && price == s.kinkPriceAfter;
-    return price > s.kinkPriceAfter || isMeeting || onLine < kNone ? kNone : onLine;
+    return price > s.kinkPriceAfter || isMeeting ? kNone : onLine;
 }
 
 /// Returns the quantity of function 2.
@@ -189,14 +190,13 @@ Parts partsAtIntercept2(const Vaddi3State& s) {
 
 /// The prices at which something begins or ends, falling, each once.
 std::vector<PriceRow> priceRows(const Vaddi3State& s) {
-    const Carried kinkAfter = s.isJump() ? Carried(s.kinkPriceAfter) : Carried(s.kinkPriceBefore);
     std::vector<PriceRow> rows{{s.intercept1Before, Parts::BeforeKink},
                                {s.kinkPriceBefore, Parts::BeforeKink},
-                               {kinkAfter, Parts::AfterKink},
+                               {s.kinkPriceAfter, Parts::AfterKink},
                                {s.intercept2, partsAtIntercept2(s)},
                                {kNone, Parts::AfterKink}};
-    std::stable_sort(rows.begin(), rows.end(),
-                     [](const PriceRow& a, const PriceRow& b) { return a.price > b.price; });
+    // Of equal ones the first is kept: where the parts meet, the single.
+    std::ranges::stable_sort(rows, std::greater<>{}, &PriceRow::price);
     for (auto row = rows.begin(); row + 1 != rows.end();) {
         const auto next = row + 1;
         if (row->price == next->price) {
@@ -278,9 +278,8 @@ void addUpOverLevel(Vaddi3State& s) {
         end = to;
     };
     if (level < s.intercept1Before) {
-        const Point atKink{s.kinkQuantity, kink};
-        runTo(level < kink ? atKink : Point{quantityBefore(s, level), level}, s.slope1Before,
-              s.intercept1Before);
+        const Carried lowest = std::max(level, kink);
+        runTo({quantityBefore(s, lowest), lowest}, s.slope1Before, s.intercept1Before);
     }
     if (level < kink && level < s.kinkPriceAfter) {
         end.price = s.kinkPriceAfter;

@@ -1,5 +1,7 @@
 #include "topics/basics/konvert_exercise.h"
 
+#include <cmath>
+
 #include "numeric/arithmetic.h"
 #include "numeric/judging.h"
 #include "numeric/rounding.h"
@@ -47,7 +49,7 @@ void newExercise(KonvertState& state, Draws& draws) {
         }
         state.slopeOfK = state.slopeOfQ / (state.factor * state.factor);
         state.interceptOfK = state.interceptOfQ / state.factor;
-    } while (state.slopeOfK < -kSteepest || state.slopeOfK > kSteepest);
+    } while (std::abs(state.slopeOfK) > kSteepest);
 }
 
 Judgement judge(const KonvertState& state, const std::vector<double>& typed) {

@@ -84,7 +84,7 @@ void solveImplicit(TomtoState& s) {
 /// doubles, (x + 0.005) * 100 can fall short of the whole number that x * 100 + 0.5 reaches, so a half may go
 /// down in Q and up in P: 1.125 is 1.12 as Q and 1.13 as P. What is stored is what is judged.
 void roundSolution(TomtoState& s) {
-    const double r = s.solutionQ < 0 ? 0.004999 : 0.005;
+    const double r = std::signbit(s.solutionQ) ? 0.004999 : 0.005;
     s.solutionQ = Int((s.solutionQ + r) * 100) / 100;
     s.solutionQ = RoundSigned2(s.solutionQ);
     s.solutionP = RoundSigned2(s.solutionP);
@@ -124,7 +124,8 @@ GraphLine implicitLine(float graphMax, float a, float b, float c) {
 
 /// A quotient with its sign before it, both parts by size. signedQuotientText(3, -7) -> "-3/7"
 std::string signedQuotientText(float n, float m) {
-    return (n / m < 0 ? "-" : "") + sizeText(n) + "/" + sizeText(m);
+    const bool isNegative = n != 0 && std::signbit(n) != std::signbit(m);
+    return (isNegative ? "-" : "") + sizeText(n) + "/" + sizeText(m);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
+#include <tuple>
 
 #include "numeric/arithmetic.h"
 #include "numeric/rounding.h"
@@ -38,7 +38,6 @@ struct Attempt {
 
     /// Where the line meets the Q axis. a is not 0.
     [[nodiscard]] float qCross() const { return -b / a; }
-    [[nodiscard]] float cappedQCross() const { return std::min(qCross(), static_cast<float>(kEnd)); }
 
     /// In single or double precision, as Q is.
     template <class Quantity>
@@ -55,11 +54,9 @@ AfsaetInterval drawInterval(Draws& draws) {
     return draws.Rnd() > 0.5 ? AfsaetInterval::InPrices : AfsaetInterval::InQuantities;
 }
 
-/// The denominators of the kinds. Every kind wants them all, also those that it does not use: so P1 and Q1
-/// are above 0.
-bool hasZeroDenominator(const Attempt& t) {
-    return (t.Q1 - t.Q2) + t.Ep * t.Q2 == 0 || t.Ep * t.Q1 == 0 || t.Ep * (t.P1 - t.P2) + t.P2 == 0;
-}
+/// The denominators of the kinds that can be 0. Every kind wants them all, also those that it does not use:
+/// so P1 and Q1 are above 0.
+bool hasZeroDenominator(const Attempt& t) { return t.Q1 == 0 || t.Ep * (t.P1 - t.P2) + t.P2 == 0; }
 
 void tellInQuantities(Attempt& t, double Qlo, double Qhi) {
     t.interval = AfsaetInterval::InQuantities;
@@ -155,9 +152,6 @@ Outcome fromPointAndElasticityAtQuantity(Attempt& t, Draws& /*draws*/) {
         t.a = t.P1 / (t.Ep * t.Q1);
     } else {
         t.P2 = (t.Ep * t.P1 * t.Q2) / ((t.Q1 - t.Q2) + t.Ep * t.Q2);
-        if (t.P2 >= t.P1) {
-            return Outcome::Rejected;
-        }
         t.a = (t.P2 - t.P1) / (t.Q2 - t.Q1);
     }
     t.b = t.P1 - t.a * t.Q1;
@@ -186,22 +180,12 @@ Outcome fromPointAndSlope(Attempt& t, Draws& draws) {
     return Outcome::Accepted;
 }
 
-/// Rejects quantities between which the point at P1 or the point at Q1 does not lie.
-template <class Upper>
-Outcome tellAroundElasticities(Attempt& t, float Qlo, Upper Qhi) {
-    if (Qlo == Qhi || t.priceAt(Qlo) < t.P1 || t.priceAt(Qhi) > t.P1) {
-        return Outcome::Rejected;
-    }
-    tellInQuantities(t, Qlo, Qhi);
-    return Outcome::Accepted;
-}
-
 Outcome fromTwoElasticities(Attempt& t, Draws& draws) {
     t.b = -t.P1 / t.Ep + t.P1;
     t.Qmax = -t.Ep2 * t.Q1 + t.Q1;
     t.a = -t.b / t.Qmax;
     t.Pmax = t.b;
-    const float Qcap = t.cappedQCross();
+    const float Qcap = std::min(t.qCross(), static_cast<float>(kEnd));
     const float floorPrice = std::max(kEnd * t.a + t.b, 0.0F);
     const bool fallsEnough = -kEnd * t.a >= 2;
     if (drawInterval(draws) == AfsaetInterval::InPrices && fallsEnough) {
@@ -215,7 +199,9 @@ Outcome fromTwoElasticities(Attempt& t, Draws& draws) {
     // Kept (afsaet-bound-below-zero): the largest draw is rounded up by the addition, to -1 for some Q1.
     const float Qlo = t.Q1 - Int(draws.Rnd() * t.Q1 + 1);
     const double Qhi = t.Q1 + Int((Qcap - t.Q1) * 0.8);
-    return Qlo == Qhi ? tellAroundElasticities(t, 0.0F, Int(t.Qmax)) : tellAroundElasticities(t, Qlo, Qhi);
+    tellInQuantities(t, Qlo, Qhi);
+    // The point at P1 is to lie between them; that at Q1 does.
+    return t.priceAt(Qlo) < t.P1 || t.priceAt(Qhi) > t.P1 ? Outcome::Rejected : Outcome::Accepted;
 }
 
 Outcome tellWithSlope(Attempt& t, Draws& draws) {
@@ -229,7 +215,7 @@ Outcome tellWithSlope(Attempt& t, Draws& draws) {
         return Outcome::Accepted;
     }
     const double Qlo = Int(draws.Rnd() + 0.5);
-    const float Qhi = Int(t.cappedQCross());
+    const float Qhi = Int(t.qCross());
     // Kept (afsaet-empty-interval): where the line meets the axis below 1, "1<Q<0" can be told.
     tellInQuantities(t, Qlo == Qhi ? 0 : Qlo, Qhi);
     return t.Qlo == t.Qhi ? Outcome::Rejected : Outcome::Accepted;
@@ -278,12 +264,8 @@ Attempt drawAttempt(Draws& draws) {
     if (t.Q1 == 0) {
         t.Q1 = 1;
     }
-    if (t.P1 < t.P2) {
-        std::swap(t.P1, t.P2);
-    }
-    if (t.Q1 > t.Q2) {
-        std::swap(t.Q1, t.Q2);
-    }
+    std::tie(t.P2, t.P1) = std::minmax({t.P1, t.P2});
+    std::tie(t.Q1, t.Q2) = std::minmax({t.Q1, t.Q2});
     return t;
 }
 
@@ -291,7 +273,8 @@ bool isAcceptable(Attempt& t, Draws& draws) {
     if (hasZeroDenominator(t) || kWays.at(static_cast<std::size_t>(t.kind))(t, draws) == Outcome::Rejected) {
         return false;
     }
-    return t.a < 0 && t.b >= kSmallestB && t.b <= kEnd;
+    // Every way makes a line that falls.
+    return t.b >= kSmallestB && t.b <= kEnd;
 }
 
 AfsaetState rounded(const Attempt& t) {

@@ -33,7 +33,8 @@ Drawn drawCoefficients(Draws& draws) {
 /// Above 0 where aQ² + bQ + c crosses the axis.
 double discriminantOf(float a, float b, float c) { return power(b, 2) - 4 * a * c; }
 
-/// Kept (gtm-times-a): the quarter of b² is multiplied by a, where the height of a vertex wants a division.
+/// For a line, its height. Kept (gtm-times-a): the quarter of b² is multiplied by a, where the height of a
+/// vertex wants a division.
 double lowestOf(float a, float b, float c) { return -power(b, 2) / 4 * a + c; }
 
 /// Draws which function is given and makes the other two of it. False if they are rejected.
@@ -43,7 +44,7 @@ bool completeExercise(GtmState& s, const Drawn& drawn, Draws& draws) {
     if (s.given == GtmFunction::Marginal) {
         const float avcA = a / 3;
         const float avcB = b / 2;
-        if (avcA != 0 && lowestOf(avcA, avcB, c) < 0) {
+        if (lowestOf(avcA, avcB, c) < 0) {
             return false;
         }
         s.mc = {a, b, c};
@@ -196,7 +197,7 @@ void firstExercise(GtmState& s, Draws& draws) {
         if (drawn.a == 0) {
             drawn.c = Int(draws.Rnd() * 6 + 2);
         }
-        const bool isAccepted = drawn.a == 0 || lowestOf(drawn.a, drawn.b, drawn.c) >= 0;
+        const bool isAccepted = lowestOf(drawn.a, drawn.b, drawn.c) >= 0;
         if (isAccepted && completeExercise(s, drawn, draws)) {
             return;
         }
