@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <numeric>
 
 #include "numeric/arithmetic.h"
 #include "numeric/text.h"
@@ -50,78 +51,13 @@ void solve(BrokState& s, Operation operation) {
     }
 }
 
-/// The prime factors of a number, rising, from slot 1 on. Slot 0 is not used; all others are 1.
-class FactorList {
-public:
-    explicit FactorList(double number) {
-        slots_.fill(1);
-        // Every number divides 0, which is the result before the first exercise.
-        if (number == 0) {
-            return;
-        }
-        while (isDivisible(number, 2)) {
-            number = note(number, 2);
-        }
-        for (double factor = 3; factor <= std::abs(number);) {
-            if (isDivisible(number, factor)) {
-                number = note(number, factor);
-            } else {
-                factor += 2;
-            }
-        }
-    }
-
-    [[nodiscard]] double& at(std::size_t slot) { return slots_.at(slot); }
-
-    [[nodiscard]] double product() const {
-        double product = 1;
-        for (std::size_t slot = 1; slot <= kMultiplied; ++slot) {
-            product *= slots_.at(slot);
-        }
-        return product;
-    }
-
-    static constexpr std::size_t kMultiplied = 7;
-
-private:
-    double note(double number, double factor) {
-        slots_.at(++used_) = factor;
-        return number / factor;
-    }
-
-    static constexpr std::size_t kSlots = 13;
-    std::array<double, kSlots> slots_{};
-    std::size_t used_ = 0;
-};
-
-/// Sets to 1 the factors that both lists have. Since the factors rise, one walk is enough. The ones after
-/// them are alike too, so that the walk comes to its end.
-void cancel(FactorList& top, FactorList& bottom) {
-    std::size_t i = 1;
-    std::size_t j = 1;
-    while (i != FactorList::kMultiplied && j != FactorList::kMultiplied) {
-        if (top.at(i) > bottom.at(j)) {
-            ++j;
-        }
-        if (top.at(i) < bottom.at(j)) {
-            ++i;
-        }
-        if (top.at(i) == bottom.at(j)) {
-            top.at(i) = 1;
-            bottom.at(j) = 1;
-            ++i;
-            ++j;
-        }
-    }
-}
-
 LastStep lastStep(const BrokState& s) {
     const ReducedFraction r = reduced(s);
     const std::string numerator = (r.isNegative ? "-" : "") + NumberText(r.numerator);
     if (r.isWhole() || r.isOne()) {
         return {LastStep::Kind::Whole, numerator, ""};
     }
-    if (std::abs(s.resultNumerator) == r.numerator && s.resultDenominator > 0) {
+    if (std::abs(s.resultNumerator) == r.numerator && !std::signbit(s.resultDenominator)) {
         return {LastStep::Kind::Irreducible, "", ""};
     }
     return {LastStep::Kind::Reduced, numerator, NumberText(r.denominator)};
@@ -148,10 +84,14 @@ Judgement judge(const BrokState& state, const std::vector<double>& typed) {
 }
 
 ReducedFraction reduced(const BrokState& state) {
-    FactorList top(state.resultNumerator);
-    FactorList bottom(state.resultDenominator);
-    cancel(top, bottom);
-    return {top.product(), bottom.product(), state.resultNumerator / state.resultDenominator < 0};
+    const double numerator = state.resultNumerator;
+    const double denominator = state.resultDenominator;
+    if (numerator == 0) {
+        return {1, 1, false};
+    }
+    const double common = std::gcd(static_cast<int>(numerator), static_cast<int>(denominator));
+    return {std::abs(numerator) / common, std::abs(denominator) / common,
+            std::signbit(numerator) != std::signbit(denominator)};
 }
 
 ReductionText reductionText(const BrokState& state, double typedNumerator) {

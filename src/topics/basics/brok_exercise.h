@@ -46,8 +46,7 @@ struct ReducedFraction {
     [[nodiscard]] double signedNumerator() const { return isNegative ? -numerator : numerator; }
 };
 
-/// Returns the result with its common prime factors cancelled. Precondition: neither of its parts has more
-/// than seven prime factors. Those that can be drawn have not: they are 200 or less in size.
+/// Returns the result with its common factors cancelled; before the first exercise, 1/1.
 [[nodiscard]] ReducedFraction reduced(const BrokState& state);
 
 struct FractionText {

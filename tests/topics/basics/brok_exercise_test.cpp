@@ -139,6 +139,7 @@ TEST(BrokReduction, HoldsSevenFactors) {
 TEST(BrokReduction, TakesAStateWithoutAnExercise) {
     EXPECT_FALSE(reduced(BrokState{}).isNegative);
     EXPECT_EQ(reduced(BrokState{}).numerator, 1);
+    EXPECT_EQ(reduced(BrokState{}).denominator, 1);
     EXPECT_EQ(operatorSign(BrokState{}.operation), "");
 }
 
