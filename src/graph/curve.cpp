@@ -8,14 +8,12 @@ void plotCurve(GraphBox& graph, const Curve& curve, const CurveRange& range) {
     const Figure figure(graph, Meaning::Line);
     // The running sum of the steps is where the pieces lie.
     double x = range.start;
-    while (true) {
-        const double y = curve(x);
+    double y{};
+    do {
+        y = curve(x);
         graph.Line(x, y, x + range.step, curve(x + range.step));
         x += range.step;
-        if (std::abs(y) > range.largest || x == range.exactEnd) {
-            return;
-        }
-    }
+    } while (std::abs(y) <= range.largest);
 }
 
 }  // namespace tavrune

@@ -9,13 +9,10 @@ namespace tavrune {
 /// The height of a curve at x.
 using Curve = std::function<double(double)>;
 
-/// Where a curve begins, how wide its pieces are, and the size of y at which it ends. The
-/// running sum of steps would have to meet `exactEnd` to the last digit, and misses it: the size ends every
-/// curve.
+/// Where a curve begins, how wide its pieces are, and the size of y at which it ends.
 struct CurveRange {
     double start;
     double step;
-    double exactEnd;
     double largest;
 };
 

@@ -266,14 +266,12 @@ TEST_F(Told, KeepsLinesOfTwoColoursApart) {
 }
 
 TEST_F(Told, TellsACurveInOneSentenceWithItsTurns) {
-    plotCurve(box, [](double x) { return x * x - 4 * x; },
-              {.start = -1, .step = 0.5, .exactEnd = 100, .largest = 9});
+    plotCurve(box, [](double x) { return x * x - 4 * x; }, {.start = -1, .step = 0.5, .largest = 9});
     EXPECT_EQ(told(), "Kurve af 15 streger fra (-1; 5) til (5.73; 10), lavest ved (2; -4), sort.");
 }
 
 TEST_F(Told, TellsHowACurveLeavesTheGraphAndComesBack) {
-    plotCurve(box, [](double x) { return x * x * x - 12 * x; },
-              {.start = -4, .step = 0.25, .exactEnd = 100, .largest = 25});
+    plotCurve(box, [](double x) { return x * x * x - 12 * x; }, {.start = -4, .step = 0.25, .largest = 25});
     EXPECT_EQ(told(),
               "Kurve af 34 streger fra (-3.82; -10) til (-2.92; 10), fra (-0.9; 10) til (0.9; -10) "
               "og fra (2.92; -10) til (3.82; 10), sort.");

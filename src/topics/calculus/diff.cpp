@@ -66,8 +66,8 @@ void Diff::showTask() {
 }
 
 void Diff::drawCurve() {
-    const CurveRange parabola{.start = -10, .step = kStep, .exactEnd = 10, .largest = 2000};
-    const CurveRange cubic{.start = -7, .step = kStep, .exactEnd = 7, .largest = 5000};
+    const CurveRange parabola{.start = -10, .step = kStep, .largest = 2000};
+    const CurveRange cubic{.start = -7, .step = kStep, .largest = 5000};
     plotCurve(
         *ui_->graph, [this](double q) { return curveAt(state_, q); }, hasParabola(state_) ? parabola : cubic);
 }

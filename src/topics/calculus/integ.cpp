@@ -107,7 +107,7 @@ void Integ::drawCurve(double largest) {
         return;
     }
     plotCurve(graph, [this](double q) { return valueAt(state_, q); },
-              {.start = -10, .step = 0.05, .exactEnd = 10, .largest = largest});
+              {.start = -10, .step = 0.05, .largest = largest});
 }
 
 void Integ::hatchArea() {

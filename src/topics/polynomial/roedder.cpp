@@ -16,11 +16,6 @@ constexpr int kEnd = 15;
 /// Half the height of the line at a wrong root.
 constexpr double kHalfTick = 0.5;
 
-// Where a curve is said to end; the running sum of its steps meets neither. The second one is for a parabola
-// with a maximum that is drawn with the given answer.
-constexpr double kExactEnd = 10;
-constexpr double kExactEndByGivenMaximum = 7;
-
 /// A part of the worked solution, and the count that it belongs to. Its controls are called after it.
 struct WorkedPart {
     const char* name;
@@ -112,9 +107,9 @@ void Roedder::newExercise() {
     clearWorkedSolution();
 }
 
-void Roedder::drawCurve(double exactEnd) {
+void Roedder::drawCurve() {
     plotCurve(*ui_->graph, [this](double q) { return valueAt(state_.coefficients, q); },
-              {.start = -10, .step = 0.05, .exactEnd = exactEnd, .largest = 2000});
+              {.start = -10, .step = 0.05, .largest = 2000});
 }
 
 void Roedder::drawTick(double root) {
@@ -161,7 +156,7 @@ void Roedder::judge() {
     // The focus stays after a wrong try.
     if (showJudgement(tavrune::judge(state_, answer), boxes, nullptr)) {
         colourRightOption();
-        drawCurve(kExactEnd);
+        drawCurve();
         return;
     }
     if (answer.chosen == RootCount::Two) {
@@ -191,7 +186,7 @@ void Roedder::giveAnswer() {
     } else if (isDouble) {
         ui_->rootTwo->setContent(answer.rootOne);
     }
-    drawCurve(state_.coefficients.a < 0 ? kExactEndByGivenMaximum : kExactEnd);
+    drawCurve();
     showGiven();
 }
 

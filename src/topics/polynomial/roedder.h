@@ -30,8 +30,7 @@ protected:
     void closeHelp() override;
 
 private:
-    /// `exactEnd` as in a `CurveRange`.
-    void drawCurve(double exactEnd);
+    void drawCurve();
     void drawTick(double root);
 
     /// Boxes, their labels, verdict and "&Giv svaret".

@@ -78,7 +78,7 @@ void Rogt::newExercise() {
 
 void Rogt::drawCurve() {
     plotCurve(*ui_->graph, [this](double q) { return valueAt(state_.coefficients, q); },
-              {.start = -7, .step = 0.05, .exactEnd = 7, .largest = 1000});
+              {.start = -7, .step = 0.05, .largest = 1000});
 }
 
 void Rogt::hideRootFields() {

@@ -78,7 +78,7 @@ void Topp::fillHelp() {
 
 void Topp::drawCurve() {
     plotCurve(*ui_->graph, [this](double q) { return valueAt(state_.polynomial, q); },
-              {.start = -7, .step = 0.05, .exactEnd = 7, .largest = 1000});
+              {.start = -7, .step = 0.05, .largest = 1000});
 }
 
 void Topp::drawTypedVertex(double q, double p) {
