@@ -1,12 +1,14 @@
 #include "numeric/rounding.h"
 
+#include <cmath>
+
 #include "numeric/arithmetic.h"
 
 namespace tavrune {
 namespace {
 
 double roundSigned(double x, double factor, double addendBelowZero) {
-    const double addend = x >= 0 ? 0.5 : addendBelowZero;
+    const double addend = std::signbit(x) ? addendBelowZero : 0.5;
     return Int(x * factor + addend) / factor;
 }
 

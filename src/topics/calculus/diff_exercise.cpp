@@ -152,12 +152,12 @@ std::string polynomialText(const DiffState& s, const std::string& start, SignSty
 }
 
 std::string taskPolynomial(const DiffState& s) {
-    return polynomialText(s, s.coefficientA < 0 ? "P= " : "P=  ", blanksOf(s.patternCase).bOfTask);
+    return polynomialText(s, std::signbit(s.coefficientA) ? "P= " : "P=  ", blanksOf(s.patternCase).bOfTask);
 }
 
 std::string workedPolynomial(const DiffState& s) {
     const std::string blank = isQuadratic(s.patternCase) ? "" : " ";
-    return polynomialText(s, (s.coefficientA < 0 ? "P=" : "P= ") + blank, SignStyle::Led);
+    return polynomialText(s, (std::signbit(s.coefficientA) ? "P=" : "P= ") + blank, SignStyle::Led);
 }
 
 std::string derivative(const DiffState& s) {

@@ -34,9 +34,9 @@ constexpr int kShapeCount = kShapes.size();
 
 // Where single shapes leave the rules of the texts below.
 
-/// Kept (integ-blanks-in-help): the help shows bQ+c with blanks round its sign, and no other shape; nor bQ+c
+/// Kept (integ-blanks-in-help): the help shows bQ+c with blanks round its sign, and no other sum; nor bQ+c
 /// without any minus.
-bool hasBlanks(const IntegState& s) { return s.a == 0 && s.b != 0 && s.c != 0 && (s.b < 0 || s.c < 0); }
+bool hasBlanks(const IntegState& s) { return s.a == 0 && (std::signbit(s.b) || std::signbit(s.c)); }
 
 /// Kept (integ-early-bracket): in aQ² and aQ²+bQ without any minus the closing bracket stands before the
 /// raised 2 or 3 of the last term, not behind it.
@@ -71,7 +71,7 @@ bool isBracketed(const IntegState& s) { return s.a != 0 || (s.b != 0 && s.c != 0
 
 /// Behind the first integral sign a negative coefficient stands with its own minus behind a blank.
 std::string tailTerm(float coefficient, const char* plus) {
-    return (coefficient < 0 ? " " : plus) + NumberText(coefficient);
+    return (std::signbit(coefficient) ? " " : plus) + NumberText(coefficient);
 }
 
 constexpr const char* kPlusBehindSquare = "+";
@@ -136,7 +136,7 @@ IntegRow bracketedTerms(const IntegState& s, const std::string& lead, const std:
 /// "(3·w)" and "-(3·v)", or "((-3)·w)" and "- ((-3)·v)".
 std::string constantAt(const IntegState& s, const char* leadIfPositive, const char* leadIfNegative,
                        const std::string& at) {
-    return (s.c < 0 ? leadIfNegative : leadIfPositive) + bracketed(s.c) + "·" + at + ")";
+    return (std::signbit(s.c) ? leadIfNegative : leadIfPositive) + bracketed(s.c) + "·" + at + ")";
 }
 
 IntegRow upperAt(const IntegState& s, const std::string& at) {

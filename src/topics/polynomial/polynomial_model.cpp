@@ -1,5 +1,6 @@
 #include "topics/polynomial/polynomial_model.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
@@ -84,6 +85,11 @@ Polynomial withSigns(const Pattern& pattern, const Polynomial& drawn) {
 std::string polynomialText(const Pattern& pattern, const Polynomial& drawn) {
     return NumberText(withSign(pattern.a, drawn.a)) + "Q²" + laterTerm(pattern.b, drawn.b, "Q") +
            laterTerm(pattern.c, drawn.c, "");
+}
+
+int negativesOf(const Polynomial& p) {
+    return static_cast<int>(
+        std::ranges::count_if(std::array{p.a, p.b, p.c}, [](float coefficient) { return coefficient < 0; }));
 }
 
 double valueAt(const Polynomial& p, double q) { return p.a * power(q, 2) + p.b * q + p.c; }

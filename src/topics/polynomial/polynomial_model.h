@@ -31,6 +31,9 @@ struct Polynomial {
 /// so that "+-" never stands there, and with coefficients of 1: "-1Q²+3Q-2".
 [[nodiscard]] std::string polynomialText(const Pattern& pattern, const Polynomial& drawn);
 
+/// Returns how many of the coefficients are below 0.
+[[nodiscard]] int negativesOf(const Polynomial& p);
+
 /// Returns P at Q. The square is a double, and so is all that it is added to.
 [[nodiscard]] double valueAt(const Polynomial& p, double q);
 

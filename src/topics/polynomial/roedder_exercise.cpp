@@ -23,10 +23,6 @@ constexpr std::array kSpacing{
     Spacing{" ² - 4 · ", " · ", " = "},
 };
 
-std::size_t negativesOf(const Polynomial& p) {
-    return std::size_t{p.a < 0} + std::size_t{p.b < 0} + std::size_t{p.c < 0};
-}
-
 }  // namespace
 
 void newExercise(RoedderState& state, Draws& draws) {
@@ -42,7 +38,7 @@ Judgement judge(const RoedderState& state, const RootAnswer& answer) {
 
 std::string discriminantText(const RoedderState& state) {
     const auto& [a, b, c] = state.coefficients;
-    const Spacing& spacing = kSpacing.at(negativesOf(state.coefficients));
+    const Spacing& spacing = kSpacing.at(static_cast<std::size_t>(negativesOf(state.coefficients)));
     return "d = " + bracketed(b) + spacing.beforeA + bracketed(a) + spacing.beforeC + bracketed(c) +
            spacing.beforeD + NumberText(state.discriminant);
 }

@@ -51,9 +51,8 @@ void drawPolynomial(ToppState& s, Draws& draws) {
 
 std::string discriminantText(const ToppState& s) {
     const auto& [a, b, c] = s.polynomial;
-    const bool isAnyNegative = a < 0 || b < 0 || c < 0;
     // Kept (topp-square-apart): only without any brackets the square stands apart from its base.
-    const char* const square = isAnyNegative ? "²" : " ²";
+    const char* const square = negativesOf(s.polynomial) > 0 ? "²" : " ²";
     return "d = " + bracketed(b) + square + " - 4 · " + bracketed(a) + " · " + bracketed(c) + " = " +
            NumberText(s.discriminant);
 }
