@@ -14,13 +14,8 @@ namespace {
 // ones is not 0. One digit more holds that.
 constexpr std::size_t kDigitsKept = 800;
 
-// Numbers with larger powers of ten are larger than every double, and those with smaller ones are 0 as
-// doubles.
-constexpr long long kTooLarge = 400;
-constexpr long long kTooSmall = -400;
-
 // No text has so many zeros that they could make up for such an exponent, and sums with it do not overflow.
-constexpr long long kExponentLimit = 4'000'000'000'000'000'000 / 10;
+constexpr long long kExponentLimit = 1LL << 58U;
 
 constexpr bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n'; }
 constexpr bool isDigit(char c) { return '0' <= c && c <= '9'; }
@@ -101,13 +96,10 @@ long long readExponent(Reader& reader) {
 }
 
 double valueOf(const Significand& number, long long exponent) {
-    const long long power = number.power + exponent;
-    if (number.digits.empty() || power < kTooSmall) {
+    if (number.digits.empty()) {
         return 0;
     }
-    if (power > kTooLarge) {
-        return kLargestTyped;
-    }
+    const long long power = number.power + exponent;
     const std::string text = "." + number.digits + "e" + std::to_string(power);
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
