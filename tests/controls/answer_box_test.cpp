@@ -106,8 +106,8 @@ TEST_F(AnswerBoxKeys, LeaveToThePageWhatTheBoxDoesNotTake) {
         QCoreApplication::sendEvent(&box, &event);
         return event.isAccepted();
     };
-    const auto key = [](Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
-        return QKeyEvent(QEvent::KeyPress, key, modifiers, text);
+    const auto key = [](Qt::Key code, Qt::KeyboardModifiers modifiers, const QString& text) {
+        return QKeyEvent(QEvent::KeyPress, code, modifiers, text);
     };
     EXPECT_TRUE(isTaken(key(Qt::Key_Comma, Qt::NoModifier, ",")));
     EXPECT_FALSE(isTaken(key(Qt::Key_O, Qt::AltModifier, "o")));

@@ -244,8 +244,8 @@ protected:
     }
 
     /// So far from the left edge, round a height in heights of the sign below its middle.
-    void put(Label& limit, double left, double height, double lower = 0) const {
-        test::begin(limit, room.left() + left, 100 + height * room.height() + lower);
+    void put(Label& limit, double left, double height, double further = 0) const {
+        test::begin(limit, room.left() + left, 100 + height * room.height() + further);
     }
 
     [[nodiscard]] bool hasLimits() const { return sheet.words() == Words{"integralet fra 2 til 5 af"}; }

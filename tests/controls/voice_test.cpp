@@ -269,7 +269,7 @@ TEST(NobodysVoice, IsNotHeard) { EXPECT_FALSE(Voice::instance().isHeard()); }
 
 TEST(AnAnnouncement, IsANotificationOnAStatusBarThatNobodySeesAndNeverTheSameTwiceInARow) {
     QWidget window;
-    Announcements::of(window);
+    static_cast<void>(Announcements::of(window));
     window.show();
     Announcements& announcements = Announcements::of(window);
     test::settle();
@@ -285,7 +285,7 @@ TEST(AnAnnouncement, IsANotificationOnAStatusBarThatNobodySeesAndNeverTheSameTwi
     EXPECT_NE(announcements.next("FORKERT."), first);
     EXPECT_EQ(told->text(QAccessible::Name), "FORKERT.") << "who has not asked yet still hears the old words";
     for (int later = 0; later < 6; ++later) {
-        announcements.next("RIGTIGT.");
+        static_cast<void>(announcements.next("RIGTIGT."));
     }
     EXPECT_EQ(told->text(QAccessible::Name), "FORKERT.") << "of eight all can still be asked for";
     EXPECT_EQ(announcements.next("RIGTIGT."), first);
