@@ -86,7 +86,8 @@ private:
             if (const auto* const widget = qobject_cast<const QWidget*>(child)) {
                 const QRect place = widget->geometry();
                 const auto* const label = qobject_cast<const Label*>(widget);
-                print = qHashMulti(print, widget->isVisible(), place.x(), place.y(), place.width(),
+                // The control itself too: one that looks the same may have come in place of another.
+                print = qHashMulti(print, widget, widget->isVisible(), place.x(), place.y(), place.width(),
                                    place.height(), widget->accessibleName(), widget->font().underline(),
                                    label == nullptr ? QString() : label->text());
             }

@@ -1,5 +1,7 @@
 #include "controls/accessible_controls.h"
 
+#include <memory>
+
 #include <QAccessible>
 #include <QSignalSpy>
 
@@ -222,6 +224,21 @@ TEST_F(AccessibleControls, ALabelWithoutAPageIsItsCaption) {
     EXPECT_EQ(name(label), "d = 16");
     label.setAccessibleName("diskriminanten");
     EXPECT_EQ(name(label), "diskriminanten");
+}
+
+TEST_F(AccessibleControls, ALabelThatHasComeInPlaceOfAnotherIsReadThoughItLooksTheSame) {
+    const auto add = [this] {
+        auto* const label = new Label(&window);
+        label->setCaption("d = 16");
+        label->show();
+        return label;
+    };
+    const std::unique_ptr<Label> first(add());
+    window.show();
+    EXPECT_EQ(passagesOf(window).at(0).lead, first.get());
+    const Label* const second = add();
+    first->setParent(nullptr);
+    EXPECT_EQ(passagesOf(window).at(0).lead, second);
 }
 
 TEST_F(AccessibleControls, OfTwoVerdictsAtOnePlaceTheOneInFrontIsTold) {
