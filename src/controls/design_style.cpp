@@ -3,7 +3,6 @@
 #include <functional>
 #include <utility>
 
-#include <QAccessible>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -12,6 +11,7 @@
 #include <QStyleOption>
 
 #include "controls/control.h"
+#include "controls/voice.h"
 
 namespace tavrune {
 namespace {
@@ -144,7 +144,7 @@ int DesignStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
         case SH_MenuBar_AltKeyNavigation:
             // A screen reader's own way of listening to keys tears Alt and its letter apart, so that the menu
             // opens instead. F10 opens it as well.
-            return QAccessible::isActive() ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+            return Voice::instance().isHeard() ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
         case SH_MessageBox_TextInteractionFlags:
             return Qt::NoTextInteraction;
         default:

@@ -1,83 +1,9 @@
 #include "shell/form1.h"
 
+#include "shell/running_text.h"
 #include "shell/ui_form1.h"
 
 namespace tavrune {
-namespace {
-
-/// Fills a label with text line by line, leaves gaps for the bold words, and places each bold word in its
-/// gap.
-class RunningText {
-public:
-    explicit RunningText(Label* text) : text_(text), metrics_(designFont()) {}
-
-    void add(const QString& words);
-    void addBold(Label* word);
-    void endParagraph();
-    void finish() { text_->setText(lines_.join('\n') + '\n' + line_); }
-    /// All of it without gaps, the bold words in their places.
-    [[nodiscard]] QString words() const { return words_; }
-
-private:
-    Label* text_;
-    QFontMetrics metrics_;
-    QStringList lines_;
-    QString line_;
-    QString words_;
-
-    [[nodiscard]] bool fits(const QString& line) const {
-        return metrics_.horizontalAdvance(line) <= text_->place().width();
-    }
-    /// The distance between two lines of a label.
-    [[nodiscard]] double linePitch() const {
-        const auto height = [this](const QString& text) { return metrics_.size({}, text).height(); };
-        return (height("x\nx\nx\nx\nx\nx\nx\nx\nx\nx\nx") - height("x")) / 10.0;
-    }
-    void breakLine() {
-        lines_ << line_;
-        line_.clear();
-    }
-};
-
-void RunningText::add(const QString& words) {
-    words_ += (words.startsWith(',') || words.startsWith('.') || words_.isEmpty() ? "" : " ") + words;
-    const QStringList all = words.split(' ', Qt::SkipEmptyParts);
-    for (const QString& word : all) {
-        const QString separator = line_.isEmpty() || word.startsWith(',') || word.startsWith('.') ? "" : " ";
-        if (!fits(line_ + separator + word)) {
-            breakLine();
-            line_ = word;
-        } else {
-            line_ += separator + word;
-        }
-    }
-}
-
-void RunningText::addBold(Label* word) {
-    words_ += " " + word->text();
-    const QString blank = " ";
-    const double width = word->textWidth();
-    QString gap = line_.isEmpty() ? "" : blank;
-    const double room = text_->place().width();
-    if (metrics_.horizontalAdvance(line_ + gap) + width > room) {
-        breakLine();
-        gap.clear();
-    }
-    const double left = metrics_.horizontalAdvance(line_ + gap);
-    word->setLeft(text_->place().left() + left);
-    word->setTop(text_->place().top() + static_cast<double>(lines_.size()) * linePitch());
-    line_ += gap;
-    while (metrics_.horizontalAdvance(line_) < left + width) {
-        line_ += blank;
-    }
-}
-
-void RunningText::endParagraph() {
-    words_ += words_.endsWith('.') ? "" : ".";
-    breakLine();
-}
-
-}  // namespace
 
 Form1::Form1() : Page(PageName::Form1) {
     Ui::Form1 ui;

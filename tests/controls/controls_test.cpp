@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcutEvent>
+#include <QSignalSpy>
 #include <QStyleFactory>
 #include <QTest>
 
@@ -22,6 +23,7 @@
 #include "controls/panel.h"
 #include "controls/row.h"
 #include "controls/table_head.h"
+#include "controls/voice.h"
 #include "support/painting.h"
 #include "support/student.h"
 
@@ -980,6 +982,13 @@ TEST(DesignStyle, LeavesAnIconThatOutlivesItEmpty) {
     const QIcon icon = style->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, nullptr, nullptr);
     style.reset();
     EXPECT_TRUE(icon.pixmap(16).isNull());
+}
+
+TEST(DesignStyle, OpensTheMenuByAltAloneUnlessSomebodyListens) {
+    const DesignStyle style;
+    EXPECT_NE(style.styleHint(QStyle::SH_MenuBar_AltKeyNavigation, nullptr, nullptr, nullptr), 0);
+    const QSignalSpy listener(&Voice::instance(), &Voice::said);
+    EXPECT_EQ(style.styleHint(QStyle::SH_MenuBar_AltKeyNavigation, nullptr, nullptr, nullptr), 0);
 }
 
 TEST(DesignStyle, LeavesMessagesWithPlainWords) {

@@ -12,6 +12,7 @@
 #include "app/window.h"
 #include "controls/answer_box.h"
 #include "controls/button.h"
+#include "controls/line_control.h"
 #include "controls/panel.h"
 #include "graph/graph_box.h"
 #include "support/form_driver.h"
@@ -39,6 +40,10 @@ TEST(Page, IsBlackOnWhiteWhateverColoursAreInUse) {
     const QPalette& colours = form.box("numerator").palette();
     EXPECT_EQ(colours.color(QPalette::Base), kWhite);
     EXPECT_EQ(colours.color(QPalette::Text), kBlack);
+    EXPECT_FALSE(form.box("numerator").testAttribute(Qt::WA_SetPalette)) << "which takes time for each";
+    for (const LineControl* line : form.page().findChildren<LineControl*>()) {
+        EXPECT_EQ(line->colour(), kBlack);
+    }
     QApplication::setPalette(light);
 }
 
