@@ -98,7 +98,6 @@ void AnswerBox::inputMethodEvent(QInputMethodEvent* event) {
     filtered.setCommitString(withPoints(event->commitString()), event->replacementStart(),
                              event->replacementLength());
     QLineEdit::inputMethodEvent(&filtered);
-    event->setAccepted(filtered.isAccepted());
 }
 
 std::vector<double> valuesOf(const std::vector<AnswerBox*>& boxes) {

@@ -93,12 +93,6 @@ void Control::setWidth(double width) {
     setPlace(sized);
 }
 
-void Control::setHeight(double height) {
-    QRectF sized = place();
-    sized.setHeight(height);
-    setPlace(sized);
-}
-
 QFont Control::unzoomedFont() const { return font_.value_or(designFont()); }
 
 void Control::setTextSize(double units) {

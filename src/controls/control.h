@@ -53,7 +53,6 @@ public:
     void setLeft(double left);
     void setTop(double top);
     void setWidth(double width);
-    void setHeight(double height);
 
     /// Returns whether the control itself is not hidden. The panel around it may be.
     [[nodiscard]] bool isShown() const { return !self_->isHidden(); }

@@ -18,7 +18,6 @@ FrmAbout::FrmAbout() {
     Ui::FrmAbout ui;
     ui.setupUi(this);
     setObjectName(fromUtf8(textOf(PageName::FrmAbout)));
-    setFont(designFont());
     designSize_ = size();
     setFixedSize(designSize_);
     setAttribute(Qt::WA_DeleteOnClose);

@@ -35,7 +35,6 @@ Opstart::Opstart(QSize screen) : Page(PageName::Opstart) {
     QPalette dark = design()->palette();
     dark.setColor(QPalette::Window, kBackColour);
     design()->setPalette(dark);
-    design()->setAutoFillBackground(true);
 
     const ScreenStretch stretch = stretchFor(screen);
     QRectF labels;

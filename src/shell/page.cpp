@@ -85,7 +85,6 @@ void Page::setExtent(const Extent& extent) {
 void Page::setZoom(Zoom zoom) {
     zoom_ = zoom;
     if (!zoom.isFitted()) {
-        view_->setScrolls(true);
         resizeMenusTo(zoom.factor());
         resizeTo(zoom.factor());
     } else if (isVisible()) {
@@ -103,7 +102,6 @@ void Page::fit() {
     resizeMenusTo(std::clamp(page, 1.0, kLargestFit));
     const double wanted = std::min(window.width() / extent_.whole.width(),
                                    (window.height() - barHeight()) / extent_.whole.height());
-    view_->setScrolls(wanted < extent_.leastFit);
     resizeTo(std::clamp(wanted, extent_.leastFit, kLargestFit));
 }
 
@@ -176,8 +174,6 @@ void Page::tell(const QString& message) {
     // Polished now, since a button that is polished after the box is shown has the box laid out and painted
     // twice.
     QCoreApplication::sendPostedEvents(box->button(QMessageBox::Ok), QEvent::PolishRequest);
-    // The about box cannot be used either.
-    box->setWindowModality(Qt::ApplicationModal);
     box->show();
 }
 

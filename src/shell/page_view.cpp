@@ -33,12 +33,6 @@ void PageView::setNeeded(QSize needed) {
     showFocus();
 }
 
-void PageView::setScrolls(bool scrolls) {
-    const auto policy = scrolls ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
-    setHorizontalScrollBarPolicy(policy);
-    setVerticalScrollBarPolicy(policy);
-}
-
 void PageView::showFocus() {
     QWidget* const focused = widget()->focusWidget();
     if (focused == nullptr) {

@@ -16,9 +16,6 @@ public:
     /// How much room the page needs; at once.
     void setNeeded(QSize needed);
 
-    /// Whether there may be scroll bars. A page that fits has none, also not while the window is resized.
-    void setScrolls(bool scrolls);
-
     /// Scrolls to the control with the focus, if there is one on the page.
     void showFocus();
 

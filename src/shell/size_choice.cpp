@@ -59,7 +59,6 @@ void SizeChoice::addTo(QMenu& menu) const {
                                    void (SizeChoice::*action)() const) {
         QAction* const entry = menu.addAction(caption);
         entry->setShortcut(QKeySequence(key));
-        entry->setShortcutContext(Qt::WidgetShortcut);
         entry->setShortcutVisibleInContextMenu(true);
         entry->setEnabled(changes);
         connect(entry, &QAction::triggered, this, action);

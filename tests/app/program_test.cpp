@@ -329,6 +329,21 @@ TEST(Application, ShowsNumbersWithTheMarkOfTheLocale) {
     EXPECT_EQ(NumberText(2.5), "2.5");
 }
 
+TEST(Application, BeginsWithTheMarkOfTheLocaleThatItIsStartedIn) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const QByteArray before = qgetenv("LC_ALL");
+    qputenv("LC_ALL", "da_DK.UTF-8");
+    EXPECT_EXIT(std::_Exit(test::halfAtStart() == "0,5" ? EXIT_SUCCESS : EXIT_FAILURE),
+                testing::ExitedWithCode(EXIT_SUCCESS), "");
+    before.isNull() ? qunsetenv("LC_ALL") : qputenv("LC_ALL", before);
+}
+
+TEST(Application, PassesAllThatReadersAreToldThroughTheVoice) {
+    const QAccessible::UpdateHandler handler = QAccessible::installUpdateHandler(nullptr);
+    EXPECT_NE(handler, nullptr);
+    QAccessible::installUpdateHandler(handler);
+}
+
 // On a Danish machine the toolkit switches the C library to commas: the ordinary run plays it so, too.
 TEST(ProcessLocale, LeavesTheReadingAndWritingOfNumbersAlone) {
     const bool isDanish = qEnvironmentVariable("LC_ALL").startsWith("da_DK");

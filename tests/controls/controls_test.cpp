@@ -16,6 +16,7 @@
 #include "controls/button.h"
 #include "controls/design_style.h"
 #include "controls/fraction.h"
+#include "controls/frame.h"
 #include "controls/label.h"
 #include "controls/line_control.h"
 #include "controls/option_button.h"
@@ -795,6 +796,11 @@ TEST_F(FractionOfThree, IsAsWideAsItsWiderText) {
     EXPECT_EQ(fraction.right(), top.place().right());
 }
 
+TEST_F(FractionOfThree, IsReadAtItsNumerator) {
+    EXPECT_FALSE(top.isDecorative());
+    EXPECT_TRUE(bottom.isDecorative());
+}
+
 TEST_F(FractionOfThree, MovesWithItsBar) {
     fraction.setTexts("-7", "12");
     fraction.setLeft(32);
@@ -982,6 +988,33 @@ TEST(DesignStyle, LeavesAnIconThatOutlivesItEmpty) {
     const QIcon icon = style->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, nullptr, nullptr);
     style.reset();
     EXPECT_TRUE(icon.pixmap(16).isNull());
+}
+
+TEST(Button, ShowsItsFocusAlsoIfThatWasNotMovedByAKey) {
+    class Shown : public Button {
+    public:
+        using Button::initStyleOption;
+    } button;
+    QStyleOptionButton option;
+    button.initStyleOption(&option);
+    EXPECT_TRUE(option.state.testFlag(QStyle::State_KeyboardFocusChange));
+}
+
+template <class Kind>
+bool hasDesignFontOnAnyPage() {
+    QWidget page;
+    QFont large = page.font();
+    large.setPixelSize(30);
+    page.setFont(large);
+    return Kind(&page).font() == designFont();
+}
+
+TEST(Control, HasTheDesignFontOnAnyPage) {
+    EXPECT_TRUE(hasDesignFontOnAnyPage<Label>());
+    EXPECT_TRUE(hasDesignFontOnAnyPage<Button>());
+    EXPECT_TRUE(hasDesignFontOnAnyPage<OptionButton>());
+    EXPECT_TRUE(hasDesignFontOnAnyPage<AnswerBox>());
+    EXPECT_TRUE(hasDesignFontOnAnyPage<Frame>());
 }
 
 TEST(DesignStyle, OpensTheMenuByAltAloneUnlessSomebodyListens) {

@@ -57,6 +57,15 @@ TEST(PartsOfARow, HaveNoPauseAtASign) {
     EXPECT_EQ(wordsOfRow("a:", "b", 20), Words{"a: b"});
 }
 
+TEST(PartsInGaps, HaveTheirOwnExponents) {
+    Sheet sheet;
+    const Label& sum = sheet.addAlong("P =          + 3", 10, 50);
+    const double gap = inkOf(sum).left() + QFontMetricsF(sum.font()).horizontalAdvance("P =  ");
+    const Label& term = sheet.addAlong("4Q", gap, 50);
+    sheet.addAlong("2", inkOf(term).right(), 50 - 3, 8);
+    EXPECT_EQ(sheet.words(), Words{"P lig med 4 Q i anden plus 3"});
+}
+
 TEST(PartsInGaps, BeginWithinTheTextThatTheyAreWrittenInto) {
     const auto isIn = [](double width, double left) {
         Sheet sheet;

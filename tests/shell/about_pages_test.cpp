@@ -65,6 +65,14 @@ TEST_F(AboutPages, FirstRunsItsTextAroundTheNamesOfTheButtons) {
         "er muligt at få det rigtige svar ved at klikke på Det er også muligt at få hjælp til løsning af "
         "opgaven ved klik på . Hjælpefunktionen indeholder i de fleste tilfælde både en teoretisk "
         "fremgangsmåde og løsning af det aktuelle eksempel.");
+    EXPECT_EQ(
+        form.label("exerciseText").accessibleName().toStdString(),
+        "Programmet bliver ved med at stille nye opgaver inden for emnet, så længe det ønskes. En ny opgave "
+        "får man stillet ved at klikke på \"Ny opgave\". Når svaret på opgaven er indtastet, altid med 2 "
+        "decimalers nøjagtighed, klikkes på \"OK\", hvorefter programmet fortæller, om svaret er rigtigt "
+        "eller forkert. Det er muligt at få det rigtige svar ved at klikke på \"Giv svaret\". Det er også "
+        "muligt at få hjælp til løsning af opgaven ved klik på \"Hjælp\". Hjælpefunktionen indeholder i de "
+        "fleste tilfælde både en teoretisk fremgangsmåde og løsning af det aktuelle eksempel.");
 }
 
 TEST_F(AboutPages, SecondListsTheTwelveTopics) {
@@ -208,6 +216,17 @@ TEST(AboutBox, HasOneSizeAndGoesAsItIsClosed) {
     about->close();
     test::settle();
     EXPECT_TRUE(about.isNull());
+}
+
+TEST(AboutBox, GrowsWithAllThatStandsOnIt) {
+    FrmAbout about;
+    about.setFactor(1.25);
+    EXPECT_EQ(about.factor(), 1.25);
+    const QList<Label*> labels = about.findChildren<Label*>();
+    EXPECT_FALSE(labels.isEmpty());
+    for (const Label* label : labels) {
+        EXPECT_EQ(label->zoom(), 1.25);
+    }
 }
 
 TEST(AboutBox, SaysItselfAsOftenAsItBecomesTheActiveWindow) {

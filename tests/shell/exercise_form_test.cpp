@@ -442,6 +442,7 @@ TEST_F(LifeCycle, AMessageHasOneButtonAndStandsOverThePageAlone) {
     ASSERT_NE(box, nullptr);
     EXPECT_EQ(box->text(), "Hej <b>");
     EXPECT_EQ(box->textFormat(), Qt::PlainText);
+    EXPECT_EQ(box->windowModality(), Qt::ApplicationModal) << "the about box can't be used either";
     ASSERT_EQ(box->buttons().size(), 1);
     EXPECT_EQ(box->buttons().at(0)->text(), "OK");
     QTest::keyClick(box->buttons().at(0), Qt::Key_Return);
@@ -533,6 +534,10 @@ TEST_F(Announcement, NamesTheFieldsThatTurnRedAfterTheVerdictFromTheTop) {
         const Label& verdict = kind == VerdictKind::One ? s.right : s.wrong;
         EXPECT_EQ(verdict.accessibleName(), "FORKERT: hældning; skæring");
         EXPECT_EQ(verdict.caption(), "FORKERT");
+        s.second.move(20, 20);
+        EXPECT_EQ(heard(s), QStringList{"FORKERT: skæring; hældning."}) << "which stands higher";
+        s.second.move(20, 50);
+        EXPECT_EQ(heard(s), QStringList{"FORKERT: skæring; hældning."}) << "which stands further left";
     }
 }
 

@@ -4,11 +4,14 @@
 #include <set>
 #include <string>
 
+#include <QCoreApplication>
 #include <QMenuBar>
+#include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
 #include "app/pages.h"
+#include "controls/voice.h"
 
 namespace tavrune {
 namespace {
@@ -92,6 +95,26 @@ TEST(TopicTree, HasOneEntryForEachFormAndOneForTheUseOfTheProgram) {
     EXPECT_EQ(targets.size(), working);
     for (const PageName exercise : kExercisePages) {
         EXPECT_EQ(targets.count(exercise), 1U);
+    }
+}
+
+TEST(TopicTree, HasNamesForItsEntriesAndItself) {
+    const MenuOf start(Name::Opstart);
+    EXPECT_EQ(start.menu.menu()->objectName(), "Indhold");
+    for (const PageName exercise : kExercisePages) {
+        EXPECT_EQ(start.menu.actionFor(exercise)->objectName().toStdString(), textOf(exercise));
+    }
+}
+
+TEST(TopicTree, SaysOfAnEntryThatItOpensAnotherMenu) {
+    const MenuOf start(Name::Opstart);
+    QSignalSpy said(&Voice::instance(), &Voice::said);
+    for (QAction* entry : start.menu.menu()->actions()) {
+        said.clear();
+        entry->hover();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(said.size(), entry->menu() == nullptr ? 0 : 1) << entry->text().toStdString();
+        EXPECT_TRUE(said.isEmpty() || said[0][0] == "undermenu");
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "numeric/text.h"
 
 namespace tavrune::test {
@@ -15,5 +17,11 @@ public:
 private:
     std::string before_;
 };
+
+/// How a half was written as the program began, before the tests have set a mark of their own.
+inline std::string& halfAtStart() {
+    static std::string text;
+    return text;
+}
 
 }  // namespace tavrune::test
