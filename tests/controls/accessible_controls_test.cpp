@@ -226,7 +226,7 @@ TEST_F(AccessibleControls, ALabelWithoutAPageIsItsCaption) {
     EXPECT_EQ(name(label), "diskriminanten");
 }
 
-TEST_F(AccessibleControls, ALabelThatHasComeInPlaceOfAnotherIsReadThoughItLooksTheSame) {
+TEST_F(AccessibleControls, ALabelThatReplacesOneThatLooksTheSameIsRead) {
     const auto add = [this] {
         auto* const label = new Label(&window);
         label->setCaption("d = 16");

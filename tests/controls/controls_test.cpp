@@ -67,7 +67,7 @@ TEST(Control, KeepsItsPlaceInUnitsAtEveryZoom) {
     EXPECT_EQ(label.font().pixelSize(), 11);
 }
 
-TEST(Control, WithoutAPlaceOfItsDesignIsZoomedFromWhereItStands) {
+TEST(Control, WithoutAPlaceByItsDesignIsZoomedFromWhereItStands) {
     QWidget page;
     Label label(&page);
     label.setGeometry(10, 20, 30, 40);
