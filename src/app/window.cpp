@@ -19,6 +19,8 @@ void Window::hold(Page* page) {
             focused->clearFocus();
         }
     }
+    // As it is put into the window, a page loses the focus that it has asked for.
+    QWidget* const wanted = page->focusWidget();
     page->layout()->setMenuBar(nullptr);
     // Both delete what stood there before.
     setMenuBar(page->menuBar());
@@ -31,7 +33,7 @@ void Window::hold(Page* page) {
     layout()->activate();
     setWindowTitle(page->windowTitle());
     page->show();
-    page->takeFocus();
+    page->takeFocus(wanted);
 }
 
 bool Window::event(QEvent* event) {

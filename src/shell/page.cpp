@@ -136,9 +136,9 @@ void Page::resizeEvent(QResizeEvent* /*event*/) {
     }
 }
 
-void Page::takeFocus() {
-    if (QWidget* const wanted = focusWidget()) {
-        wanted->setFocus(Qt::ActiveWindowFocusReason);
+void Page::takeFocus(QWidget* wanted) {
+    if (wanted != nullptr) {
+        wanted->setFocus(Qt::TabFocusReason);
     } else {
         focusNextPrevChild(true);
     }

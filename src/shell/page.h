@@ -41,8 +41,9 @@ public:
     /// Says what the page tells, in full, and what its accessible description adds.
     virtual void sayOnOpening();
 
-    /// Gives the focus to the control that had it last on this page, otherwise to the first one.
-    void takeFocus();
+    /// Gives the focus to a control on this page, as somebody who comes to it by keys; to the first one if
+    /// null.
+    void takeFocus(QWidget* wanted);
 
 signals:
     /// The user has chosen a size.

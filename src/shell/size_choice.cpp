@@ -86,7 +86,6 @@ bool SizeChoice::eventFilter(QObject* watched, QEvent* event) {
             break;
         case QEvent::ContextMenu:
             openMenu(*static_cast<QContextMenuEvent*>(event));
-            event->accept();
             return true;
         default:
             break;

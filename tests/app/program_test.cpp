@@ -22,6 +22,7 @@
 #include "controls/voice.h"
 #include "numeric/text.h"
 #include "support/decimal_mark.h"
+#include "support/event_count.h"
 #include "support/form_driver.h"
 
 namespace tavrune {
@@ -159,31 +160,22 @@ TEST_F(ProgramRun, LeavesAPageWithoutMovingTheFocusOnIt) {
 }
 
 TEST_F(ProgramRun, BringsTheAboutBoxToTheFront) {
-    class Raises : public QObject {
-    public:
-        bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-            count += event->type() == QEvent::ZOrderChange ? 1 : 0;
-            return false;
-        }
-        int count = 0;
-    } raises;
     program.page()->menuBar()->findChild<QMenu*>("Om")->actions().constFirst()->trigger();
     settle();
     ASSERT_NE(program.about(), nullptr);
     program.window()->activateWindow();
     settle();
-    program.about()->installEventFilter(&raises);
+    const test::EventCount raises(*program.about(), QEvent::ZOrderChange);
     program.openAbout();
     settle();
     EXPECT_EQ(QApplication::activeWindow(), program.about());
-    EXPECT_EQ(raises.count, 1);
+    EXPECT_EQ(raises.count(), 1);
 }
 
 TEST_F(ProgramRun, PutsTheFocusOnThePageThatHasCome) {
     choose(PageName::Brok);
     EXPECT_EQ(QApplication::focusWidget(), program.page()->findChild<AnswerBox*>("numerator"));
     choose(PageName::Form1);
-    // Nothing there asks for it.
     EXPECT_EQ(QApplication::focusWidget(), program.page()->findChild<Button*>("nextPage"));
     choose(PageName::Laddi1);
     ASSERT_NE(QApplication::focusWidget(), nullptr);

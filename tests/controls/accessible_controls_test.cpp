@@ -1,6 +1,7 @@
 #include "controls/accessible_controls.h"
 
 #include <memory>
+#include <string>
 
 #include <QAccessible>
 #include <QSignalSpy>
@@ -239,6 +240,17 @@ TEST_F(AccessibleControls, ALabelThatReplacesOneThatLooksTheSameIsRead) {
     const Label* const second = add();
     first->setParent(nullptr);
     EXPECT_EQ(passagesOf(window).at(0).lead, second);
+}
+
+TEST_F(AccessibleControls, WhatIsNewIsReadWhilePagesAreStill) {
+    Label label(&window);
+    label.setCaption("d = 16");
+    window.show();
+    for (const int root : {4, 5}) {
+        label.setCaption("x = " + std::to_string(root));
+        const StillPages still;
+        EXPECT_EQ(passagesOf(window).at(0).words.toStdString(), "x lig med " + std::to_string(root));
+    }
 }
 
 TEST_F(AccessibleControls, OfTwoVerdictsAtOnePlaceTheOneInFrontIsTold) {

@@ -101,21 +101,22 @@ void hangLabels(Gallery& gallery) {
     head.standOver({&haloed, &serif, &right});
 }
 
+LineControl& hangLine(Gallery& gallery, const std::string& title, const QLineF& ends, double thickness) {
+    auto& line = gallery.hang<LineControl>(title, 10, 10);
+    line.setThickness(thickness);
+    line.setEnds(ends);
+    return line;
+}
+
 void hangLines(Gallery& gallery) {
-    const auto hang = [&](const std::string& title, const QLineF& ends, double thickness) {
-        auto& line = gallery.hang<LineControl>(title, 10, 10);
-        line.setThickness(thickness);
-        line.setEnds(ends);
-        line.setColour(kBlue);
-    };
-    hang("level line", {10.4, 20.3, 50.4, 20.3}, 1);
-    hang("upright line", {10.4, 20.3, 10.4, 50.7}, 1);
-    hang("thick level line", {10.4, 20.3, 50.4, 20.3}, 3);
-    hang("thick upright line", {10.4, 20.3, 10.4, 50.7}, 2);
-    hang("falling line", {10.4, 20.3, 50.4, 60.7}, 1);
-    hang("rising line", {10.4, 60.7, 50.4, 20.3}, 1);
-    hang("thick rising line", {50.4, 20.3, 10.4, 60.7}, 2);
-    hang("hardly falling line", {10.4, 20.3, 50.4, 22.1}, 1);
+    hangLine(gallery, "level line", {10.4, 20.3, 50.4, 20.3}, 1).setColour(kBlue);
+    hangLine(gallery, "upright line", {10.4, 20.3, 10.4, 50.7}, 1).setColour(kBlue);
+    hangLine(gallery, "thick level line", {10.4, 20.3, 50.4, 20.3}, 3).setColour(kBlue);
+    hangLine(gallery, "thick upright line", {10.4, 20.3, 10.4, 50.7}, 2).setColour(kBlue);
+    hangLine(gallery, "falling line", {10.4, 20.3, 50.4, 60.7}, 1).setColour(kBlue);
+    hangLine(gallery, "rising line", {10.4, 60.7, 50.4, 20.3}, 1).setColour(kBlue);
+    hangLine(gallery, "thick rising line", {50.4, 20.3, 10.4, 60.7}, 2).setColour(kBlue);
+    hangLine(gallery, "hardly falling line", {10.4, 20.3, 50.4, 22.1}, 1).setColour(kBlue);
 }
 
 void hangFields(Gallery& gallery) {
@@ -246,17 +247,12 @@ void hangBorderCases(Gallery& gallery) {
     behind.Line(60, 45, 70, 50, kRed);
     behind.DrawStyle(LineStyle::Dotted);
     behind.Line(70, 50, 75, 10, kRed);
-    const auto hang = [&](const std::string& title, const QLineF& ends, double thickness) {
-        auto& line = gallery.hang<LineControl>(title, 10, 10);
-        line.setThickness(thickness);
-        line.setEnds(ends);
-    };
-    hang("line that falls by less than a pixel", {10, 20, 50, 21.2}, 1);
-    hang("line that is upright but for less than a pixel", {10, 20, 11.2, 60}, 1);
-    hang("line that falls by half its thickness", {10, 20, 50, 22}, 1.5);
-    hang("line that is upright but for half its thickness", {10, 20, 12, 60}, 1.5);
-    hang("line that falls by two pixels", {10, 20, 50, 22}, 1);
-    hang("line that is upright but for two pixels", {10, 20, 12, 60}, 1);
+    hangLine(gallery, "line that falls by less than a pixel", {10, 20, 50, 21.2}, 1);
+    hangLine(gallery, "line that is upright but for less than a pixel", {10, 20, 11.2, 60}, 1);
+    hangLine(gallery, "line that falls by half its thickness", {10, 20, 50, 22}, 1.5);
+    hangLine(gallery, "line that is upright but for half its thickness", {10, 20, 12, 60}, 1.5);
+    hangLine(gallery, "line that falls by two pixels", {10, 20, 50, 22}, 1);
+    hangLine(gallery, "line that is upright but for two pixels", {10, 20, 12, 60}, 1);
     gallery.hang<Label>("label with a text too long for it", 30, 30).setCaption("123 456 789 = P");
     Label& spaced = gallery.hang<Label>("running text with blanks, in the middle", 70, 60);
     spaced.setWordWrap(true);

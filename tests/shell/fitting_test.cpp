@@ -13,6 +13,7 @@
 #include "app/program.h"
 #include "conformance/facts.h"
 #include "shell/opstart.h"
+#include "support/event_count.h"
 #include "support/form_driver.h"
 #include "support/looks.h"
 
@@ -159,18 +160,10 @@ TEST_F(FittedPage, KeepsWhatIsTypedAndWhereTheFocusIs) {
 }
 
 TEST_F(FittedPage, IsPaintedOnceForEachSizeOfTheWindow) {
-    class Paints : public QObject {
-    public:
-        bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-            count += event->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-        int count = 0;
-    } paints;
     resize({1300, 1000});
-    form.button("help").installEventFilter(&paints);
+    const test::EventCount paints(form.button("help"), QEvent::Paint);
     resize({1500, 1100});
-    EXPECT_EQ(paints.count, 1);
+    EXPECT_EQ(paints.count(), 1);
 }
 
 TEST(FittedStartPage, FillsTheWindowInItsOwnProportions) {

@@ -15,6 +15,7 @@
 #include "controls/line_control.h"
 #include "controls/panel.h"
 #include "graph/graph_box.h"
+#include "support/event_count.h"
 #include "support/form_driver.h"
 
 namespace tavrune {
@@ -63,6 +64,17 @@ TEST(Page, GivesTheFocusToItsFirstControlAsItComes) {
     EXPECT_EQ(window->focusWidget(), first);
 }
 
+TEST(Page, GivesTheFocusToTheControlThatItHasAskedForAsItComes) {
+    auto* const page = new BarePage;
+    new Button(page->design());
+    auto* const second = new Button(page->design());
+    second->move(0, 50);
+    second->setFocus();
+    const std::unique_ptr<Window> window(new Window);
+    window->hold(page);
+    EXPECT_EQ(window->focusWidget(), second);
+}
+
 TEST(Page, LeavesTabAloneWhereNothingCanHaveTheFocus) {
     BarePage page;
     page.show();
@@ -83,22 +95,14 @@ TEST(Page, KeepsTheFocusWhereAllIsCovered) {
 }
 
 TEST(Page, LaysItsMessagesOutOnce) {
-    class Paints : public QObject {
-    public:
-        bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-            count += event->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-        int count = 0;
-    } paints;
     BarePage page;
     page.show();
     page.tell("Hej");
     auto* const box = page.findChild<QMessageBox*>();
     ASSERT_NE(box, nullptr);
-    box->installEventFilter(&paints);
+    const test::EventCount paints(*box, QEvent::Paint);
     settle();
-    EXPECT_EQ(paints.count, 1);
+    EXPECT_EQ(paints.count(), 1);
 }
 
 class PageOnDemand : public testing::Test {

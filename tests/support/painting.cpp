@@ -8,6 +8,7 @@
 
 #include "numeric/text.h"
 #include "support/digest.h"
+#include "support/event_count.h"
 #include "support/student.h"
 
 namespace tavrune::test {
@@ -148,19 +149,11 @@ std::vector<PaintedText> paintedTexts(QWidget& widget) {
 }
 
 bool isPaintedAfter(QWidget& shown, const std::function<void()>& happen) {
-    class Paints : public QObject {
-    public:
-        bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-            any = any || event->type() == QEvent::Paint;
-            return false;
-        }
-        bool any = false;
-    } paints;
     settle();
-    shown.installEventFilter(&paints);
+    const EventCount paints(shown, QEvent::Paint);
     happen();
     settle();
-    return paints.any;
+    return paints.count() > 0;
 }
 
 std::vector<std::string> painting(QWidget& widget) {

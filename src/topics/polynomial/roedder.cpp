@@ -169,7 +169,6 @@ void Roedder::judge() {
 
 void Roedder::giveAnswer() {
     whiten({ui_->rootOne, ui_->rootTwo});
-    options_.resetColours();
     colourRightOption();
 
     const RootCount count = rootCountOf(state_.discriminant);

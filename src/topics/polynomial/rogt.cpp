@@ -155,7 +155,6 @@ void Rogt::focusOnWrongBox() {
 void Rogt::giveAnswer() {
     showGiven();
     drawCurve();
-    options_.resetColours();
     whiten({ui_->rootOne, ui_->rootTwo, ui_->vertexQuantity, ui_->vertexPrice});
     const RogtAnswer answer = answerOf(state_);
     hideRootFields();

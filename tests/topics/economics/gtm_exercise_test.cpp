@@ -705,6 +705,10 @@ TEST(GtmCurves, EndTheTryOfTvcBeforeFourHundredUpOrDown) {
     EXPECT_LT(-50 * (falling.back().q + 0.1), -400);
     // A first point beyond 400 has nothing to go on to.
     EXPECT_EQ(curveOfTry(GtmFunction::Total, {0, 0, -600}).size(), 1U);
+    // Just 400 is not beyond.
+    const GtmCurve touching = curveOfTry(GtmFunction::Total, {0, 0, 400 / (-3 + 0.1)});
+    ASSERT_GT(touching.size(), 2U);
+    EXPECT_EQ(touching[1].y, 400);
 }
 
 TEST(GtmCurves, SeekTheFirstPointFarOut) {
