@@ -15,13 +15,17 @@ fail() {
     exit 1
 }
 
+# Fails where the disk of a folder has less room: need_megabytes FOLDER MEGABYTES.
+need_megabytes() {
+    local free
+    free=$(df --output=avail -B 1M "$1" | tail -n 1 | tr -d ' ')
+    [ "$free" -ge "$2" ] || fail "Only $free MB of the disk of $(cd "$1" && pwd) are free; $2 MB are needed."
+}
+
 # What everything that is built and installed for it takes, with room to spare.
 need_room() {
-    local place free
-    for place in . /usr; do
-        free=$(df --output=avail -B 1M "$place" | tail -n 1 | tr -d ' ')
-        [ "$free" -ge 2048 ] || fail "Only $free MB of the disk of $(cd "$place" && pwd) are free; 2048 MB are needed."
-    done
+    local place
+    for place in . /usr; do need_megabytes "$place" 2048; done
 }
 
 # The oldest compilers with C++20 and conversions of floating-point numbers: GCC 11, clang 14.
@@ -79,6 +83,10 @@ need_listen() {
     need orca at-spi2-core dbus speech-dispatcher speech-dispatcher-audio-plugins libao4 xvfb openbox xdotool x11-utils \
         python3-pyatspi python3-speechd locales
 }
+need_windows() {
+    need g++-mingw-w64-x86-64-posix mingw-w64-tools dpkg-dev debian-archive-keyring icoutils imagemagick nsis qt6-translations-l10n
+}
+need_wine() { need wine64 fonts-wine locales; }
 
 # Runs a command that has something to say only if it fails.
 quietly() {

@@ -1,0 +1,12 @@
+# For Windows, 64 bit, by Debian's MinGW with the threads of the C++ library. Nothing of this machine's own is found.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(target x86_64-w64-mingw32)
+set(CMAKE_C_COMPILER ${target}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${target}-g++-posix)
+set(CMAKE_RC_COMPILER ${target}-windres)
+set(CMAKE_FIND_ROOT_PATH /usr/${target})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
