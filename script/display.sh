@@ -107,6 +107,17 @@ play() {
     done
 }
 
+# Every page, each by a program of its own.
+play_all() {
+    local page
+    for page in $(pages_to_play); do
+        start
+        [ "$(told_of "$page" place)" = - ] || choose "$page"
+        play "$page"
+        stop
+    done
+}
+
 press_steps() { for _ in $(seq "$1"); do keys Return; done; }
 
 # Chooses a page in the menu, or "luk", the way out. The second argument is the page that stands open, where its own
