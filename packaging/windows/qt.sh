@@ -19,6 +19,8 @@ caches=${XDG_CACHE_HOME:-$HOME/.cache}/tavrune
 qt_key=$({ printf '%s\n' "$qt_version" "${qt_options[@]}" && cat packaging/windows/toolchain.cmake; } | sha256sum | cut -c 1-12)
 qt=$caches/qt-${qt_version%%[+-]*}-windows-$qt_key
 qt_making=$qt.unfinished
+# No message in it tells where it was built.
+qt_options+=("-DCMAKE_C_FLAGS=-ffile-prefix-map=$qt_making/=" "-DCMAKE_CXX_FLAGS=-ffile-prefix-map=$qt_making/=")
 
 # Debian's source of that very version.
 fetch_qt() {

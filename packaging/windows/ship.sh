@@ -37,7 +37,7 @@ stage() {
     cp /usr/share/qt6/translations/qtbase_da.qm "$staged/translations/"
     stage_licences
     find "$staged" -type f -exec chmod 644 {} +
-    packaging/windows/check "$staged"
+    packaging/windows/check "$staged" >&3
 }
 
 # The licences of all that is shipped, as those who wrote it tell them.
