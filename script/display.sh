@@ -13,8 +13,11 @@ start_display() {
     export LC_ALL=${TAVRUNE_TOUR_LOCALE:-da_DK.UTF-8} 2>/dev/null
     export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$(mktemp -d)}
 
-    local number=90
-    while [ -e "/tmp/.X11-unix/X$number" ]; do number=$((number + 1)); done
+    # One that is free; displays of another root have their sockets in common with this one, but not their files.
+    local number=$((90 + BASHPID % 400))
+    while [ -e "/tmp/.X11-unix/X$number" ] || grep -q "@/tmp/.X11-unix/X$number\$" /proc/net/unix; do
+        number=$((number + 1))
+    done
     export DISPLAY=:$number
     Xvfb "$DISPLAY" -noreset -screen 0 "${1:-800x600}x24" >/dev/null 2>&1 &
     local xvfb=$!

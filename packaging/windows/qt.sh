@@ -55,7 +55,8 @@ third_parties() {
 install_qt() {
     rm -rf "$qt_making/installed"
     DESTDIR=$qt_making/installed cmake --install "$qt_making/tree" --strip
-    mkdir "$qt_making/installed/qt/licences"
+    mkdir "$qt_making/installed/qt/licences" "$qt_making/installed/qt/translations"
+    cp /usr/share/qt6/translations/qtbase_da.qm "$qt_making/installed/qt/translations/"
     cp "$qt_making"/source/LICENSES/*GPL-3.0-only.txt "$qt_making/source/debian/copyright" "$qt_making/installed/qt/licences/"
     (third_parties) >"$qt_making/installed/qt/licences/third-parties"
     mv "$qt_making/installed/qt" "$qt"

@@ -34,7 +34,7 @@ stage() {
         cp "$(x86_64-w64-mingw32-g++-posix -print-file-name=$runtime.dll)" "$staged/"
     done
     x86_64-w64-mingw32-strip "$staged"/*.{exe,dll} "$staged"/platforms/*.dll
-    cp /usr/share/qt6/translations/qtbase_da.qm "$staged/translations/"
+    cp "$qt/translations/qtbase_da.qm" "$staged/translations/"
     stage_licences
     find "$staged" -type f -exec chmod 644 {} +
     packaging/windows/check "$staged" >&3

@@ -321,6 +321,13 @@ TEST(Application, ShowsNumbersWithTheMarkOfTheLocale) {
     EXPECT_EQ(NumberText(2.5), "2.5");
 }
 
+#ifdef Q_OS_WIN
+// Windows knows the user's own locale, whatever the environment tells: script/windows plays a Danish one,
+// too.
+TEST(Application, BeginsWithTheMarkOfTheLocaleThatItIsStartedIn) {
+    EXPECT_EQ(test::halfAtStart(), QLocale::system().name() == "da_DK" ? "0,5" : "0.5");
+}
+#else
 TEST(Application, BeginsWithTheMarkOfTheLocaleThatItIsStartedIn) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const QByteArray before = qgetenv("LC_ALL");
@@ -329,6 +336,7 @@ TEST(Application, BeginsWithTheMarkOfTheLocaleThatItIsStartedIn) {
                 testing::ExitedWithCode(EXIT_SUCCESS), "");
     before.isNull() ? qunsetenv("LC_ALL") : qputenv("LC_ALL", before);
 }
+#endif
 
 TEST(Application, PassesAllThatReadersAreToldThroughTheVoice) {
     const QAccessible::UpdateHandler handler = QAccessible::installUpdateHandler(nullptr);
@@ -336,10 +344,15 @@ TEST(Application, PassesAllThatReadersAreToldThroughTheVoice) {
     QAccessible::installUpdateHandler(handler);
 }
 
-// On a Danish machine the toolkit switches the C library to commas: the ordinary run plays it so, too.
+// On a Danish machine the toolkit switches the C library to commas, but on Windows: the ordinary run plays it
+// so, too.
 TEST(ProcessLocale, LeavesTheReadingAndWritingOfNumbersAlone) {
-    const bool isDanish = qEnvironmentVariable("LC_ALL").startsWith("da_DK");
-    EXPECT_STREQ(std::localeconv()->decimal_point, isDanish ? "," : ".");
+#ifdef Q_OS_WIN
+    const bool isSwitched = false;
+#else
+    const bool isSwitched = qEnvironmentVariable("LC_ALL").startsWith("da_DK");
+#endif
+    EXPECT_STREQ(std::localeconv()->decimal_point, isSwitched ? "," : ".");
     EXPECT_EQ(NumberText(-2.25), "-2.25");
     EXPECT_EQ(Val("1.5"), 1.5);
     EXPECT_EQ(Val("1,5"), 1);
