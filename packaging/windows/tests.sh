@@ -1,8 +1,6 @@
 # The tests, built for Windows and run under Wine; sourced by script/windows, not run.
 
 libraries=$made/libraries
-# Without a screen, Qt for Windows takes what lies there: the font that this machine's own tests have.
-fonts=$made/fonts
 
 # What tests are written with, of the versions that are installed for this machine's own tests.
 make_googletest() {
@@ -43,10 +41,12 @@ run_test_program() {
     shards=$(nproc)
     rm -f "$made/$name".*.txt
     for ((share = 0; share < shards; share++)); do
-        # Wine keeps variables of Qt's own from a program: they are set there.
-        GTEST_TOTAL_SHARDS=$shards GTEST_SHARD_INDEX=$share "${wine[@]}" cmd /c \
-            "set QT_QPA_FONTDIR=$(windows_path "$fonts")&& $(windows_path "$made/tree/tests/$name.exe") --gtest_brief=1 $*" \
-            >"$made/$name.$share.txt" 2>&1 &
+        # Wine keeps variables of Qt's own from a program: they are set there. What is written comes beside it.
+        (
+            cd "$made"
+            export GTEST_TOTAL_SHARDS=$shards GTEST_SHARD_INDEX=$share
+            "${wine[@]}" cmd /c "set QT_QPA_FONTDIR=$(windows_path fonts)&& $(windows_path "tree/tests/$name.exe") --gtest_brief=1 $*"
+        ) >"$made/$name.$share.txt" 2>&1 &
         shares+=($!)
     done
     for share in "${shares[@]}"; do wait "$share" || failed=1; done
@@ -59,8 +59,9 @@ run_test_program() {
 run_tests() {
     local gcc
     gcc=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")
-    mkdir -p "$fonts"
-    cp $(dpkg -L fonts-liberation | grep '\.ttf$') "$fonts/"
+    # Without a screen, Qt for Windows takes what lies there: the font that this machine's own tests have.
+    mkdir -p "$made/fonts"
+    cp $(dpkg -L fonts-liberation | grep '\.ttf$') "$made/fonts/"
     # Where the libraries are.
     export WINEPATH
     WINEPATH="$(windows_path "$qt/bin");$(windows_path "$gcc");$(windows_path /usr/x86_64-w64-mingw32/lib)"
@@ -68,4 +69,6 @@ run_tests() {
     step "Tests of the forms" run_test_program tavrune_gui_tests
     LC_ALL=da_DK.UTF-8 step "Tests of what is typed and heard, on a Danish Windows" run_test_program tavrune_gui_tests \
         "--gtest_filter=Application.Begins*:ProcessLocale.*:*TypedAnswers*:*BlindStudentOn*"
+    # What is shipped has to do without.
+    unset WINEPATH
 }

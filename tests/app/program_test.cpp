@@ -1,5 +1,6 @@
 #include "app/program.h"
 
+#include <array>
 #include <clocale>
 #include <cstdlib>
 
@@ -24,6 +25,10 @@
 #include "support/decimal_mark.h"
 #include "support/event_count.h"
 #include "support/form_driver.h"
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
 
 namespace tavrune {
 namespace {
@@ -322,10 +327,11 @@ TEST(Application, ShowsNumbersWithTheMarkOfTheLocale) {
 }
 
 #ifdef Q_OS_WIN
-// Windows knows the user's own locale, whatever the environment tells: script/windows plays a Danish one,
-// too.
+// Windows knows the user's own mark, whatever the environment tells.
 TEST(Application, BeginsWithTheMarkOfTheLocaleThatItIsStartedIn) {
-    EXPECT_EQ(test::halfAtStart(), QLocale::system().name() == "da_DK" ? "0,5" : "0.5");
+    std::array<wchar_t, 4> mark{};
+    ASSERT_GT(GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_SDECIMAL, mark.data(), mark.size()), 0);
+    EXPECT_EQ(test::halfAtStart(), "0" + QString::fromWCharArray(mark.data()).toStdString() + "5");
 }
 #else
 TEST(Application, BeginsWithTheMarkOfTheLocaleThatItIsStartedIn) {
