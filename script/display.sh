@@ -31,7 +31,7 @@ start_display() {
 }
 
 keys() { xdotool key --delay 30 "$@"; sleep 0.1; }
-typed() { xdotool type --delay 10 "$1"; }
+typed() { xdotool type --delay 10 -- "$1"; }
 
 start() {
     "${under[@]}" "$program" "${arguments[@]}" 2>"$errors" &

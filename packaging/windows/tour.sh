@@ -94,25 +94,33 @@ install_over() {
     say "   not replaced while it runs, replaced afterwards"
 }
 
-# How much of the display is green, the colour of a right answer.
-green() { import -window root -fill black +opaque '#008200' -fill white -opaque '#008200' -format '%[fx:int(mean*w*h)]' info:; }
+# How many pixels of the display are of the green of a right answer.
+green() {
+    import -window root png:- | convert - -fill black +opaque '#008200' -fill white -opaque '#008200' \
+        -format '%[fx:int(mean*w*h)]' info:
+}
 
-# From the start menu: the slope of a curve is a whole number, and is tried until the page says that it is right.
+# From the start menu: whole numbers are tried for a slope until the page says that one is right.
 solve() {
     "${wine[@]}" start /unix "$link" >>"$errors" 2>&1
     window '^Tavrune - '
     picture start-menu
     choose diff
-    local number sign
-    for number in $(seq 0 250); do
-        for sign in '' -; do
+    local number
+    for _ in $(seq 20); do
+        for number in $(seq 0 30) $(seq -30 -1); do
             keys ctrl+a
-            typed "$sign$number"
+            typed "$number"
             keys Return Return
-            [ "$(green)" -eq 0 ] || { picture solved && choose luk diff && window no '^Tavrune' && return; }
+            [ "$(green)" -gt 0 ] || continue
+            picture solved
+            choose luk diff
+            window no '^Tavrune'
+            return
         done
+        keys alt+n
     done
-    fail "No whole number was right."
+    fail "No number was right."
 }
 
 # On a dark desktop, and with a theme of high contrast, a page is the same to the pixel.
@@ -121,6 +129,7 @@ start_in_other_colours() {
     start && choose form1 && picture colours-light && stop
     registry 'HKCU\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize' AppsUseLightTheme REG_DWORD 0 >/dev/null
     start && choose form1 && picture colours-dark && stop
+    "${wine[@]}" reg export 'HKCU\Control Panel\Colors' "$(windows_path "$pictures/colours.reg")" /y >/dev/null
     registry 'HKCU\Control Panel\Accessibility\HighContrast' Flags REG_SZ 127 >/dev/null
     for colour in Window ButtonFace Menu MenuBar ButtonHilight ButtonShadow; do
         registry 'HKCU\Control Panel\Colors' "$colour" REG_SZ '0 0 0' >/dev/null
@@ -133,7 +142,8 @@ start_in_other_colours() {
         cmp <(convert "$pictures/colours-light.png" rgb:-) <(convert "$pictures/colours-$theme.png" rgb:-) ||
             fail "The page has other colours where the desktop is $theme."
     done
-    "${wine[@]}" reg delete 'HKCU\Control Panel\Colors' /f >/dev/null
+    "${wine[@]}" reg import "$(windows_path "$pictures/colours.reg")" >/dev/null
+    registry 'HKCU\Control Panel\Accessibility\HighContrast' Flags REG_SZ 126 >/dev/null
     "${wine[@]}" reg delete 'HKCU\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize' /f >/dev/null
 }
 
