@@ -147,20 +147,26 @@ start_in_other_colours() {
     "${wine[@]}" reg delete 'HKCU\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize' /f >/dev/null
 }
 
+# Whether the dark ground of the start page is on the display.
+is_painted() { import -window root -crop 1x1+20+300 txt:- | grep -qi '#404040'; }
+
 # From the start to the painted start page, in ms, and the most memory up to then, in KB: the median of several.
 measure() {
     local began at tries painted=() memory=()
     for _ in $(seq 11); do
+        ! is_painted || fail "A page is still on the display."
         began=$(date +%s%3N)
         "${wine[@]}" "$program" 2>>"$errors" &
         tavrune=$!
-        for ((tries = 0; tries < 500; tries++)); do
-            [ "$(import -window root -crop 1x1+400+300 -format '%[hex:p{0,0}]' info:)" != 404040 ] || break
+        for ((tries = 0; ; tries++)); do
+            ! is_painted || break
+            [ "$tries" -lt 1000 ] || fail "The start page has not been painted."
         done
         at=$(date +%s%3N)
         painted+=($((at - began)))
         memory+=("$(sed -n 's/^VmHWM:[^0-9]*\([0-9]*\) kB/\1/p' "/proc/$tavrune/status")")
         stop
+        sleep 0.5
     done
     say "   start to the painted page: $(median "${painted[@]}") ms; most memory up to then: $(median "${memory[@]}") KB"
 }
