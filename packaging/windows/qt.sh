@@ -69,7 +69,7 @@ make_qt() {
     need_megabytes "$caches" $((3072 - $(du -sm "$qt_making" | cut -f 1)))
     [ -d "$qt_making/source" ] || step "Qt's source, $qt_version" fetch_qt
     [ -e "$qt_making/configured" ] || step "Qt is configured" configure_qt
-    step "Qt is built, once: half an hour on two processors" cmake --build "$qt_making/tree"
+    step "Qt is built, once: a quarter of an hour on two processors" cmake --build "$qt_making/tree"
     step "Qt is put into $qt" install_qt
     rm -rf "$qt_making"
 }
