@@ -101,8 +101,11 @@ public:
         std::ostringstream text;
         text << std::setprecision(2);
         for (const auto& [what, count] : counts_) {
-            text << (text.tellp() > 0 ? "; " : "") << grouped(count) << " " << what << " ("
-                 << 100.0 * count / total << " %)";
+            text << (text.tellp() > 0 ? "; " : "") << grouped(count) << " " << what << " (";
+            // Smaller ones would have an exponent.
+            constexpr double kSmallest = 0.0001;
+            const double percent = 100.0 * count / total;
+            text << (percent < kSmallest ? "less than " : "") << std::max(percent, kSmallest) << " %)";
         }
         return counts_.empty() ? "none" : text.str();
     }
